@@ -1,0 +1,33 @@
+# What every target of ours has in common.
+include_guard()
+
+function(zentaro_options target)
+  target_compile_features(${target} PUBLIC cxx_std_20)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wconversion -Wshadow -Werror)
+  target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}")
+endfunction()
+
+# zentaro_rules(folder SOURCES ... LEVELS lower folders ...)
+# One folder's rules as a library of its own: plain C++ that sees only the levels below it.
+function(zentaro_rules folder)
+  cmake_parse_arguments(arg "" "" "SOURCES;LEVELS" ${ARGN})
+  set(target zentaro_${folder})
+  set(stamp "${CMAKE_CURRENT_BINARY_DIR}/${folder}.includes")
+  set(files ${arg_SOURCES})
+  list(TRANSFORM files PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
+  add_custom_command(
+    OUTPUT "${stamp}"
+    COMMAND "${CMAKE_COMMAND}" "-DFILES=${files}" "-DFOLDERS=${folder};${arg_LEVELS}" "-DSTAMP=${stamp}"
+            -P "${PROJECT_SOURCE_DIR}/cmake/CheckIncludes.cmake"
+    DEPENDS ${files} "${PROJECT_SOURCE_DIR}/cmake/CheckIncludes.cmake"
+    COMMENT "Checking the includes of ${folder}/"
+    VERBATIM)
+  add_library(${target} STATIC ${arg_SOURCES} "${stamp}")
+  set_target_properties(${target} PROPERTIES LINKER_LANGUAGE CXX)
+  zentaro_options(${target})
+  foreach(level IN LISTS arg_LEVELS)
+    if(NOT level STREQUAL "platform")
+      target_link_libraries(${target} PUBLIC zentaro_${level})
+    endif()
+  endforeach()
+endfunction()

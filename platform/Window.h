@@ -1,0 +1,16 @@
+#pragma once
+
+#include <cstdint>
+
+namespace zentaro::platform {
+
+/// A window's number in the window system; 0 for none.
+using NativeWindow = std::uintptr_t;
+
+/// Keeps the (shown) window above all others, or no longer. Its place, size and focus stay.
+void SetTopmost(NativeWindow window, bool topmost);
+
+/// Draws the user's attention to the window once; it is not brought to the front.
+void FlashWindowOnce(NativeWindow window);
+
+} // namespace zentaro::platform
