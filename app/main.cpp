@@ -3,6 +3,7 @@
 #include "base/Paths.h"
 #include "platform/Folders.h"
 #include "platform/Process.h"
+#include "platform/QuitRequest.h"
 #include "playback/VideoFrame.h"
 #include "playback/VlcEngine.h"
 #include "shell/Caption.h"
@@ -69,5 +70,8 @@ int main(int argc, char** argv)
     window.Serve(player);
     if (!player.Load(commandLine))
         endProcess();
+    platform::OnQuitRequest([&] { window.close(); });
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
+        [&] { IgnoreFailure(player.WriteConfigurations()); });
     return QApplication::exec();
 }

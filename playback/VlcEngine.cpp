@@ -185,6 +185,10 @@ public:
             return;
         for (const auto& option : options)
             libvlc_media_add_option(media, option.c_str());
+        // No card decodes either, and asking for one makes the card's library complain on the terminal. The player would
+        // forget this one; the item keeps it.
+        if (m_engines.m_plainOutput)
+            libvlc_media_add_option(media, ":avcodec-hw=none");
         m_player = libvlc_media_player_new_from_media(media);
         libvlc_media_release(media);
         if (m_player != nullptr)
