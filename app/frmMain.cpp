@@ -26,6 +26,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr double kTwipsPerPixel = 15;
+constexpr int kDragDistance = 2; // px
 
 QRect ToQt(const Rect& rect)
 {
@@ -153,16 +154,20 @@ void frmMain::SetTopmost(bool topmost)
 
 void frmMain::SetFullScreen(bool fullScreen)
 {
-    if (fullScreen == isFullScreen())
+    if (fullScreen == m_fullScreen)
         return;
     if (fullScreen) {
         KeepNormalGeometry();
+        m_fullScreen = true;
+        m_wasMaximized = isMaximized();
         showFullScreen();
         // Without a window manager nobody else gives the window its size.
-        setGeometry(screen()->geometry());
+        windowHandle()->setGeometry(screen()->geometry());
     } else {
-        showNormal();
-        setGeometry(m_normal);
+        m_fullScreen = false;
+        m_wasMaximized ? showMaximized() : showNormal();
+        if (!m_wasMaximized)
+            setGeometry(m_normal);
         m_player->Host().FullScreenLeft();
     }
     PlaceChildren();
@@ -214,7 +219,7 @@ void frmMain::OnMovieTimer()
 
 void frmMain::PlaceChildren()
 {
-    if (isFullScreen()) {
+    if (m_fullScreen) {
         m_video->setGeometry(rect());
         m_video->raise();
         return;
@@ -226,7 +231,7 @@ void frmMain::PlaceChildren()
 
 void frmMain::KeepNormalGeometry()
 {
-    if (!isMaximized() && !isFullScreen() && !isMinimized())
+    if (!isMaximized() && !m_fullScreen && !isMinimized())
         m_normal = geometry();
 }
 
@@ -234,7 +239,7 @@ void frmMain::resizeEvent(QResizeEvent*)
 {
     PlaceChildren();
     KeepNormalGeometry();
-    if (m_player != nullptr && !isFullScreen())
+    if (m_player != nullptr && !m_fullScreen)
         m_player->WindowResized(width(), height());
 }
 
@@ -312,16 +317,21 @@ void frmMain::Press(TitleButton button)
 
 void frmMain::UseCursorFor(const QPoint& at)
 {
-    const bool resizable = !isMaximized() && !isFullScreen() && TitleButtonAt(at) == TitleButton::None;
+    const bool resizable = !isMaximized() && !m_fullScreen && TitleButtonAt(at) == TitleButton::None;
     setCursor(resizable ? CursorFor(Layout().EdgesAt(at.x(), at.y())) : Qt::ArrowCursor);
 }
 
-bool frmMain::StartSystemResize(const QPoint& at)
+void frmMain::StartDrag()
 {
-    if (isMaximized() || isFullScreen())
-        return false;
-    const auto edges = Layout().EdgesAt(at.x(), at.y());
-    return edges.Any() && windowHandle()->startSystemResize(ToQt(edges));
+    const auto from = *std::exchange(m_dragFrom, std::nullopt);
+    if (m_fullScreen)
+        return;
+    const auto layout = Layout();
+    const auto edges = layout.EdgesAt(from.x(), from.y());
+    if (edges.Any() && !isMaximized())
+        windowHandle()->startSystemResize(ToQt(edges));
+    else if (layout.TitleBar().Contains(from.x(), from.y()))
+        windowHandle()->startSystemMove();
 }
 
 void frmMain::mousePressEvent(QMouseEvent* event)
@@ -330,16 +340,17 @@ void frmMain::mousePressEvent(QMouseEvent* event)
         return;
     const auto at = event->position().toPoint();
     m_pressed = TitleButtonAt(at);
+    // A drag begins with the first movement: a mere click would leave the window hanging at the pointer where the
+    // window manager sees the release too late.
+    if (m_pressed == TitleButton::None)
+        m_dragFrom = at;
     update();
-    if (m_pressed != TitleButton::None || StartSystemResize(at))
-        return;
-    if (Layout().TitleBar().Contains(at.x(), at.y()) && !isFullScreen())
-        windowHandle()->startSystemMove();
 }
 
 void frmMain::mouseReleaseEvent(QMouseEvent* event)
 {
     const auto pressed = std::exchange(m_pressed, TitleButton::None);
+    m_dragFrom.reset();
     update();
     // A press that leaves the button before its release does nothing.
     if (pressed != TitleButton::None && pressed == TitleButtonAt(event->position().toPoint()))
@@ -349,6 +360,11 @@ void frmMain::mouseReleaseEvent(QMouseEvent* event)
 void frmMain::mouseMoveEvent(QMouseEvent* event)
 {
     const auto at = event->position().toPoint();
+    if (m_dragFrom && event->buttons().testFlag(Qt::LeftButton)) {
+        if ((at - *m_dragFrom).manhattanLength() > kDragDistance)
+            StartDrag();
+        return;
+    }
     UseCursorFor(at);
     const auto hovered = TitleButtonAt(at);
     if (std::exchange(m_hovered, hovered) != hovered)
@@ -372,7 +388,7 @@ void frmMain::leaveEvent(QEvent*)
 bool frmMain::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::MouseButtonDblClick) {
-        m_player->Host().SetFullScreen(!isFullScreen());
+        m_player->Host().SetFullScreen(!m_fullScreen);
         return true;
     }
     if (event->type() == QEvent::Enter)
@@ -382,7 +398,7 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event)
 
 void frmMain::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape && isFullScreen())
+    if (event->key() == Qt::Key_Escape && m_fullScreen)
         m_player->Host().SetFullScreen(false);
     else
         QWidget::keyPressEvent(event);

@@ -6,7 +6,7 @@
 #include <QTimer>
 #include <QWidget>
 
-#include <functional>
+#include <optional>
 
 class QLabel;
 
@@ -29,7 +29,7 @@ public:
     void Serve(Player& player);
 
     ScreenExtent Extent() const override;
-    bool IsMaximized() const override { return isMaximized(); }
+    bool IsMaximized() const override { return m_fullScreen ? m_wasMaximized : isMaximized(); }
     double WindowLeft() const override;
     double WindowTop() const override;
     void ShowWindow() override;
@@ -66,7 +66,8 @@ private:
     TitleButton TitleButtonAt(const QPoint& at) const;
     void Press(TitleButton button);
     void UseCursorFor(const QPoint& at);
-    bool StartSystemResize(const QPoint& at);
+    /// Hands a drag to the system: a resize at an edge, a move of the title bar.
+    void StartDrag();
 
     Player* m_player = nullptr;
     VideoFrame* m_video;
@@ -76,6 +77,9 @@ private:
     QRect m_normal; // geometry while neither maximised nor full screen, in logical pixels
     TitleButton m_hovered = TitleButton::None;
     TitleButton m_pressed = TitleButton::None;
+    std::optional<QPoint> m_dragFrom; // where the left button went down on something that can be dragged
+    bool m_fullScreen = false;
+    bool m_wasMaximized = false; // before full screen
     bool m_topmost = false;
     bool m_placed = false;
 };
