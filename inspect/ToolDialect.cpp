@@ -52,6 +52,14 @@ std::string DurationLine(std::string_view line)
     return std::string(line);
 }
 
+/// Passes on a line that is no stream's: it must not be read as one, so that lines and hints stay in step.
+void AppendLine(std::string& text, std::string_view line)
+{
+    for (const auto mark : { "Stream #", "Audio: ", "Video: " })
+        line = line.substr(0, line.find(mark));
+    text.append(line).append("\n");
+}
+
 /// The angle in "displaymatrix: rotation of -90.00 degrees", brought to a quarter turn or not.
 bool TurnsByAQuarter(std::string_view line)
 {
@@ -135,13 +143,13 @@ ClassicReport ToClassicReport(std::string_view log, std::string_view commandText
         report.classicTool = report.classicTool || line->starts_with("FFmpeg version");
     if (!line)
         return report;
-    report.text = InputLine(*line, rest, inputName) + "\n";
+    AppendLine(report.text, InputLine(*line, rest, inputName));
 
     for (line = NextLine(rest); line && !line->starts_with(kDurationMark);)
         line = NextLine(rest);
     if (!line)
         return report;
-    report.text += DurationLine(*line) + "\n";
+    AppendLine(report.text, DurationLine(*line));
 
     StreamLineReader streams(report);
     while ((line = NextLine(rest)))

@@ -57,6 +57,12 @@ TEST(ToolDialect, a_name_with_line_breaks_cannot_imitate_the_tool)
     EXPECT_EQ(ToClassicMpegReport("mpgtx -i x\n/b\n  Interlaced\n", "mpgtx -i x", "/b\n  Interlaced"), "");
 }
 
+TEST(ToolDialect, the_lines_around_the_streams_cannot_be_read_as_streams)
+{
+    EXPECT_EQ(ToClassicReport("x\nInput #0, Audio: a:\n  Duration: 00:00:02.00, Video: v\n", "", "").text,
+        "Input #0, \n  Duration: 00:00:02.00, \n");
+}
+
 TEST(ToolDialect, a_language_is_passed_on_only_when_it_is_one)
 {
     EXPECT_EQ(
