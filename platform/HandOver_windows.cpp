@@ -58,11 +58,8 @@ private:
     static HWND CreateBox()
     {
         // Below the message root: such windows are found by their handle alone and need no screen.
-        const HWND box =
-            CreateWindowExA(0, "EDIT", "", 0, 0, 0, 100, 20, HWND_MESSAGE, nullptr, GetModuleHandleA(nullptr), nullptr);
-        if (box)
-            SendMessageA(box, EM_SETLIMITTEXT, kHandOverTextLimit, 0);
-        return box;
+        return CreateWindowExA(
+            0, "EDIT", "", 0, 0, 0, 100, 20, HWND_MESSAGE, nullptr, GetModuleHandleA(nullptr), nullptr);
     }
 
     static LRESULT CALLBACK OnMessage(HWND box, UINT message, WPARAM first, LPARAM second)

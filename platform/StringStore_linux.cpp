@@ -87,6 +87,10 @@ private:
         const auto folder = OpenFolder();
         LockWithin(folder.Number(), std::chrono::seconds(2));
         const auto path = PathOf(root);
+        // Asked first: QSettings would keep a change that it could not write, and show it to later reads.
+        if (faccessat(folder.Number(), ".", W_OK, AT_EACCESS) != 0
+            || !QSettings(path, QSettings::IniFormat).isWritable())
+            return Unwritable(path, QSettings::AccessError);
         const auto before = QFileInfo(path).lastModified();
         auto status = TryChange(path, edit);
         // A damaged file has been written anew from what was readable; a second time tells whether that worked.
@@ -95,7 +99,12 @@ private:
         AdvanceTime(path, before);
         if (status == QSettings::NoError)
             return {};
-        return Error{ status, "The store cannot be written: " + path.toStdString() };
+        return Unwritable(path, status);
+    }
+
+    static Error Unwritable(const QString& path, QSettings::Status status)
+    {
+        return { status, "The store cannot be written: " + path.toStdString() };
     }
 
     template <class Edit> static QSettings::Status TryChange(const QString& path, const Edit& edit)

@@ -128,6 +128,13 @@ TEST_F(StoreOfFiles, says_so_when_it_cannot_write)
     EXPECT_FALSE(Write("name", "other"));
     EXPECT_FALSE(store->Delete(Root::CurrentUser, "Software\\Test", "name"));
     EXPECT_EQ(Read("name"), "text");
+    std::filesystem::permissions(path, std::filesystem::perms::owner_write, std::filesystem::perm_options::add);
+    const auto parent = std::filesystem::path(path).parent_path();
+    std::filesystem::permissions(parent, std::filesystem::perms::owner_write, std::filesystem::perm_options::remove);
+    EXPECT_FALSE(Write("name", "other"));
+    EXPECT_EQ(Read("name"), "text");
+    std::filesystem::permissions(parent, std::filesystem::perms::owner_all);
+    EXPECT_TRUE(Write("name", "other"));
 }
 
 TEST_F(StoreOfFiles, a_file_that_a_person_has_edited_is_understood)

@@ -77,7 +77,7 @@ TEST(Folders, the_programs_folder_holds_this_program)
     EXPECT_TRUE(PathExists(ExecutableFolder() + PathSeparator() + "zentaro-test-platform")
         || PathExists(ExecutableFolder() + PathSeparator() + "zentaro-test-platform.exe"));
     EXPECT_EQ(SettingsFolder(), ExecutableFolder());
-    EXPECT_TRUE(PathExists(PicturesFolder()));
+    EXPECT_TRUE(IsAbsolutePath(PicturesFolder()));
     EXPECT_TRUE(IsAbsolutePath(DesktopFolder()));
 }
 

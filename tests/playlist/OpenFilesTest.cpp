@@ -1,0 +1,39 @@
+#include "playlist/OpenFiles.h"
+
+#include <gtest/gtest.h>
+
+namespace zentaro {
+namespace {
+
+using namespace std::string_view_literals;
+using Files = std::vector<OpenedFile>;
+
+TEST(OpenFilesTest, TheFilterOffersAllFormatsAndThenEachAlone)
+{
+    const auto filter = OpenDialogFilter();
+    EXPECT_TRUE(filter.starts_with("All Supported Formats|*.wav;*.flv;*.mka;"));
+    EXPECT_NE(filter.find(";*.wmv;*.asf|WAV|*.wav|FLV|*.flv|"), std::string::npos);
+    EXPECT_TRUE(filter.ends_with("|ASF|*.asf"));
+}
+
+TEST(OpenFilesTest, OnePathIsOnePairWithTheTextBehindTheFirstSeparatorAsKey)
+{
+    EXPECT_EQ(*ParseOpenFileResult("C:\\Video\\a.avi", '\\'), (Files{ { "Video\\a.avi", "C:\\Video\\a.avi" } }));
+    EXPECT_EQ(*ParseOpenFileResult("a.avi", '/'), (Files{ { "a.avi", "a.avi" } }));
+}
+
+TEST(OpenFilesTest, AFolderIsFollowedByItsNames)
+{
+    const Files expected{ { "b.avi", "/v/b.avi" }, { "a\\.avi", "/v/a\\.avi" } };
+    EXPECT_EQ(*ParseOpenFileResult("/v\0b.avi\0a\\.avi"sv, '/'), expected);
+    EXPECT_EQ(*ParseOpenFileResult("/v/\0b.avi\0a\\.avi"sv, '/'), expected);
+    EXPECT_EQ(*ParseOpenFileResult("/v\0"sv, '/'), (Files{ { "", "/v/" } }));
+}
+
+TEST(OpenFilesTest, ANameThatComesTwiceStopsTheWholeChoice)
+{
+    EXPECT_FALSE(ParseOpenFileResult("/v\0a.avi\0b.avi\0a.avi"sv, '/'));
+}
+
+} // namespace
+} // namespace zentaro
