@@ -51,8 +51,12 @@ public:
 
     Result<void> Write(Root root, const std::string& key, const std::string& name, const std::string& text) override
     {
-        return Change(root,
-            [&](QSettings& file) { file.setValue(QString::fromStdString(StoreFileName(key, name)), ToVariant(text)); });
+        const auto place = QString::fromStdString(StoreFileName(key, name));
+        const auto value = ToVariant(text);
+        // A write waits for the disk, and every start writes again what its associations consist of.
+        if (QSettings(PathOf(root), QSettings::IniFormat).value(place) == value)
+            return {};
+        return Change(root, [&](QSettings& file) { file.setValue(place, value); });
     }
 
     Result<void> Delete(Root root, const std::string& key, const std::string& name) override

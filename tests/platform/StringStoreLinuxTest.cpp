@@ -103,7 +103,7 @@ TEST_F(StoreOfFiles, survives_a_damaged_file_and_mends_it_with_the_next_write)
     for (std::size_t i = 0; i < noise.size(); ++i)
         noise[i] = static_cast<char>(i * i * 31 + i / 7);
     std::vector<std::string> damaged = { "", noise, "[Software\n", "=", "\xFF\xFE[" };
-    for (std::size_t size = 0; size < whole.size(); size += 3)
+    for (std::size_t size = 0; size < whole.size(); size += 11)
         damaged.push_back(whole.substr(0, size));
     for (const auto& text : damaged) {
         ASSERT_TRUE(ReplaceTextFile(path, text));
