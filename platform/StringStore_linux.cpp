@@ -52,11 +52,11 @@ public:
     Result<void> Write(Root root, const std::string& key, const std::string& name, const std::string& text) override
     {
         const auto place = QString::fromStdString(StoreFileName(key, name));
-        const auto value = ToVariant(text);
         // A write waits for the disk, and every start writes again what its associations consist of.
-        if (QSettings(PathOf(root), QSettings::IniFormat).value(place) == value)
+        const auto stored = QSettings(PathOf(root), QSettings::IniFormat).value(place);
+        if (stored.isValid() && FromVariant(stored) == text)
             return {};
-        return Change(root, [&](QSettings& file) { file.setValue(place, value); });
+        return Change(root, [&](QSettings& file) { file.setValue(place, ToVariant(text)); });
     }
 
     Result<void> Delete(Root root, const std::string& key, const std::string& name) override

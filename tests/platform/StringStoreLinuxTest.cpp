@@ -36,6 +36,9 @@ TEST_F(StoreOfFiles, gives_back_every_text_byte_by_byte)
     number = 0;
     for (const auto& text : texts)
         EXPECT_EQ(Read(std::to_string(number++)), text);
+    // These two look alike as text.
+    ASSERT_TRUE(Write("0", "\xFF") && Write("0", "\xEF\xBF\xBD"));
+    EXPECT_EQ(Read("0"), "\xEF\xBF\xBD");
 }
 
 TEST_F(StoreOfFiles, keeps_keys_names_and_roots_apart)
