@@ -12,7 +12,7 @@ namespace {
 constexpr int kHeight = 36;
 constexpr int kMargin = 8;
 constexpr int kTrackHeight = 2;
-constexpr int kFontHeight = 15;
+constexpr int kFontHeight = 14;
 
 } // namespace
 
@@ -26,7 +26,7 @@ QuietButton::QuietButton(const QString& text, QWidget* parent)
 
 QSize QuietButton::sizeHint() const
 {
-    return { fontMetrics().horizontalAdvance(text()) + 24, fontMetrics().height() + 8 };
+    return { fontMetrics().horizontalAdvance(text()) + 20, fontMetrics().height() + 8 };
 }
 
 void QuietButton::paintEvent(QPaintEvent*)
@@ -86,7 +86,7 @@ void AddProgressLine::paintEvent(QPaintEvent*)
     const double done = m_progress.total > 0 ? (m_progress.current - 1.0) / m_progress.total : 0;
     painter.fillRect(0, 0, RoundHalfEven(width() * done), kTrackHeight, QColor(kWarmLight));
     painter.setPen(text);
-    const QRect place(kMargin, kTrackHeight, m_cancel->x() - 2 * kMargin, height() - kTrackHeight);
+    const QRect place(kMargin, kTrackHeight, m_cancel->x() - kMargin - kMargin / 2, height() - kTrackHeight);
     const auto label = QString::fromStdString(ProgressText(m_progress));
     painter.drawText(
         place, Qt::AlignVCenter | Qt::AlignLeft, fontMetrics().elidedText(label, Qt::ElideRight, place.width()));
