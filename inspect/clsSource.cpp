@@ -180,10 +180,10 @@ void clsSource::MakeThumbnails()
         const bool lying = m_hints[i].lying && !m_classicTool;
         const auto picture = maker.RenderThumbnail(
             { m_fileName, ThumbnailSizeOf(info.Width, info.Height, lying), ThumbnailTime(m_duration), stream });
-        if (!picture)
+        if (picture.IsEmpty())
             m_outcome.messages.push_back(
                 { "Cannot render thumbnail for " + m_fileName + ". The video codec may be unsupported." });
-        GivePicture(info, picture ? picture : m_context.defaultVideoPicture);
+        GivePicture(info, picture.IsEmpty() ? m_context.defaultVideoPicture : picture);
     }
 }
 
@@ -197,7 +197,7 @@ void clsSource::MakeCoverPicture()
     const auto picture = ThumbnailMaker(m_context, m_classicTool)
                              .RenderThumbnail({ m_fileName, ThumbnailSizeOf(m_cover->width, m_cover->height, false),
                                  std::nullopt, std::nullopt });
-    if (picture)
+    if (!picture.IsEmpty())
         m_outcome.lastPicture = picture;
 }
 

@@ -94,8 +94,8 @@ TEST(clsSource, a_film_is_inspected_and_leaves_no_files)
     EXPECT_EQ(source.Streams()[0].SourceAR, 1280.0F / 720.0F);
     EXPECT_EQ(source.Streams()[0].DisplayAR, 1.0F);
     EXPECT_EQ(source.StreamImage(0), world.thumbnail);
-    EXPECT_FALSE(source.StreamImage(1));
-    EXPECT_FALSE(source.StreamImage(2));
+    EXPECT_TRUE(source.StreamImage(1).IsEmpty());
+    EXPECT_TRUE(source.StreamImage(2).IsEmpty());
     EXPECT_EQ(source.Outcome().lastPicture, world.thumbnail);
     EXPECT_TRUE(
         source.Outcome().report.starts_with("Stream information of /a.mkv\r\nDuration  : 10\r\nStarttime : 1.5"));
@@ -121,7 +121,7 @@ TEST(clsSource, failures_leave_their_reason)
     EXPECT_TRUE(source.GetVideoInformation("/a.mkv"));
     EXPECT_EQ(source.StreamCount(), 0);
     EXPECT_EQ(source.Outcome().error, "");
-    EXPECT_FALSE(source.Outcome().lastPicture);
+    EXPECT_TRUE(source.Outcome().lastPicture.IsEmpty());
 }
 
 TEST(clsSource, a_picture_that_cannot_be_made_is_tried_again_without_seeking)
@@ -183,7 +183,7 @@ TEST(clsSource, sound_alone_shows_its_cover_or_the_default_picture)
 
     world.report = kTenSeconds + kSound + kSound;
     ASSERT_TRUE(source.GetVideoInformation("/a.mp3"));
-    EXPECT_FALSE(source.StreamImage(0));
+    EXPECT_TRUE(source.StreamImage(0).IsEmpty());
     EXPECT_EQ(source.Outcome().lastPicture, world.defaultAudio);
 }
 
@@ -230,7 +230,7 @@ TEST(clsSource, a_dictionary_gives_back_all_but_the_start_time_and_the_pictures)
     EXPECT_EQ(copy.StartTime(), 0.0F);
     EXPECT_EQ(copy.StreamCount(), 2);
     EXPECT_TRUE(copy.IsAVI());
-    EXPECT_FALSE(copy.StreamImage(0));
+    EXPECT_TRUE(copy.StreamImage(0).IsEmpty());
     data.Set("StartTime", 0.0F);
     EXPECT_EQ(copy.Serialize(), data);
 
@@ -273,5 +273,5 @@ TEST(clsSource, what_is_taken_over_keeps_the_report_of_the_last_success)
     state.TakeOver(bad);
     EXPECT_EQ(state.StreamInfoText, "report");
     EXPECT_EQ(state.LastSourceError, "reason");
-    EXPECT_FALSE(state.LastStreamPicture);
+    EXPECT_TRUE(state.LastStreamPicture.IsEmpty());
 }
