@@ -16,7 +16,7 @@ namespace zentaro::platform {
 /// Linux: two sockets of this user in the runtime folder, served by Qt's event loop; texts are handled one after the
 /// other, in the order in which they were completely received, and the sender waits for its own.
 ///
-/// The handler may destroy the object; a sender that then still waits is told that its text was not delivered.
+/// The handler may destroy the object.
 class HandOverEnds {
 public:
     virtual ~HandOverEnds() = default;
