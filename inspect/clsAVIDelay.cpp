@@ -218,8 +218,6 @@ bool clsAVIDelay::ReadStreamHeader(clsRIFFParser& parser)
     stream.header = DecodeStreamHeader(bytes);
     if (stream.header.rate == 0)
         stream.header.rate = 1;
-    // Counts only for a stream whose format never comes: the one that does brings its own number, 0 or not.
-    stream.format.averageBytesPerSecond = 1;
     return true;
 }
 
@@ -232,7 +230,11 @@ bool clsAVIDelay::ReadFormat(clsRIFFParser& parser)
     std::array<std::uint8_t, AviAudioFormat::kBytes> bytes;
     if (!parser.Read(bytes))
         return false;
-    m_streams.back().format = DecodeAudioFormat(bytes);
+    auto& format = m_streams.back().format;
+    format = DecodeAudioFormat(bytes);
+    // Writers leave it open for a variable bit rate; it is divided by.
+    if (format.averageBytesPerSecond == 0)
+        format.averageBytesPerSecond = 1;
     return true;
 }
 

@@ -10,9 +10,9 @@
 #include <poll.h>
 #include <spawn.h>
 #include <string_view>
-#include <sys/pidfd.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <system_error>
 #include <thread>
@@ -200,13 +200,19 @@ void Reap(pid_t pid)
     while (::waitpid(pid, nullptr, 0) < 0 && errno == EINTR) { }
 }
 
+/// A descriptor that can be read once the process has ended, or -1. (glibc 2.36 declares pidfd_open for C only.)
+int OpenEndSignal(pid_t pid)
+{
+    return static_cast<int>(::syscall(SYS_pidfd_open, pid, 0));
+}
+
 /// The leader of a process group. It is reaped only at the end, so that its number, which is the group's number too,
 /// cannot be given to anybody else while the group may still be signalled.
 class GroupLeader {
 public:
     explicit GroupLeader(pid_t pid)
         : m_pid(pid)
-        , m_endSignal(::pidfd_open(pid, 0))
+        , m_endSignal(OpenEndSignal(pid))
     {
     }
     GroupLeader(const GroupLeader&) = delete;

@@ -14,48 +14,54 @@
 namespace zentaro::platform {
 namespace {
 
-    std::string HomeFolder()
-    {
-        if (const char* home = std::getenv("HOME"); home && home[0] == '/')
-            return home;
-        const passwd* user = getpwuid(getuid());
-        return user ? user->pw_dir : "/";
-    }
+std::string HomeFolder()
+{
+    if (const char* home = std::getenv("HOME"); home && home[0] == '/')
+        return home;
+    const passwd* user = getpwuid(getuid());
+    return user ? user->pw_dir : "/";
+}
 
-    bool IsFolder(const std::string& path)
-    {
-        std::error_code ignored;
-        return std::filesystem::is_directory(path, ignored);
-    }
+bool IsFolder(const std::string& path)
+{
+    std::error_code ignored;
+    return std::filesystem::is_directory(path, ignored);
+}
 
-    std::string UserFolder(QStandardPaths::StandardLocation location)
-    {
-        const auto folder = QStandardPaths::writableLocation(location).toStdString();
-        return IsFolder(folder) ? folder : HomeFolder();
-    }
+std::string UserFolder(QStandardPaths::StandardLocation location)
+{
+    const auto folder = QStandardPaths::writableLocation(location).toStdString();
+    return IsFolder(folder) ? folder : HomeFolder();
+}
 
-    std::string AbsoluteWhenThere(const std::string& path)
-    {
-        if (path.empty() || IsAbsolutePath(path) || !PathExists(path))
-            return path;
-        std::error_code error;
-        const auto current = std::filesystem::current_path(error).string();
-        if (error)
-            return path;
-        return current == "/" ? current + path : current + "/" + path;
-    }
+std::string AbsoluteWhenThere(const std::string& path)
+{
+    if (path.empty() || IsAbsolutePath(path) || !PathExists(path))
+        return path;
+    std::error_code error;
+    const auto current = std::filesystem::current_path(error).string();
+    if (error)
+        return path;
+    return current == "/" ? current + path : current + "/" + path;
+}
 
-    std::string MakeFolderIn(const std::string& parent)
-    {
-        auto name = parent + "/zentaro-XXXXXX";
-        return mkdtemp(name.data()) ? name : "";
-    }
+std::string MakeFolderIn(const std::string& parent)
+{
+    auto name = parent + "/zentaro-XXXXXX";
+    return mkdtemp(name.data()) ? name : "";
+}
 
 } // namespace
 
-char PathSeparator() { return '/'; }
+char PathSeparator()
+{
+    return '/';
+}
 
-bool IsAbsolutePath(const std::string& path) { return !path.empty() && path.front() == '/'; }
+bool IsAbsolutePath(const std::string& path)
+{
+    return !path.empty() && path.front() == '/';
+}
 
 std::string ExecutableFolder()
 {
@@ -77,9 +83,15 @@ std::string SettingsFolder()
     return folder;
 }
 
-std::string DesktopFolder() { return UserFolder(QStandardPaths::DesktopLocation); }
+std::string DesktopFolder()
+{
+    return UserFolder(QStandardPaths::DesktopLocation);
+}
 
-std::string PicturesFolder() { return UserFolder(QStandardPaths::PicturesLocation); }
+std::string PicturesFolder()
+{
+    return UserFolder(QStandardPaths::PicturesLocation);
+}
 
 std::string MakeWorkingFolder()
 {

@@ -10,16 +10,19 @@
 namespace zentaro::platform {
 namespace {
 
-    std::string ShellFolder(const std::string& name, const std::string& fallback)
-    {
-        const auto folder = StringStore::Open()->Read(StringStore::Root::CurrentUser,
-            "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders", name, fallback);
-        return folder.substr(0, folder.find('\0'));
-    }
+std::string ShellFolder(const std::string& name, const std::string& fallback)
+{
+    const auto folder = StringStore::Open()->Read(StringStore::Root::CurrentUser,
+        "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders", name, fallback);
+    return folder.substr(0, folder.find('\0'));
+}
 
 } // namespace
 
-char PathSeparator() { return '\\'; }
+char PathSeparator()
+{
+    return '\\';
+}
 
 bool IsAbsolutePath(const std::string& path)
 {
@@ -38,9 +41,15 @@ std::string ExecutableFolder()
     return separator == std::string::npos ? path : path.substr(0, separator);
 }
 
-std::string SettingsFolder() { return ExecutableFolder(); }
+std::string SettingsFolder()
+{
+    return ExecutableFolder();
+}
 
-std::string DesktopFolder() { return ShellFolder("Desktop", "C:\\"); }
+std::string DesktopFolder()
+{
+    return ShellFolder("Desktop", "C:\\");
+}
 
 std::string PicturesFolder()
 {

@@ -8,7 +8,7 @@ namespace zentaro::platform {
 
 bool IsOwnUserAt(int socket)
 {
-    ucred peer {};
+    ucred peer{};
     socklen_t size = sizeof peer;
     return getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0 && AcceptsHandOverPeer(peer.uid, geteuid());
 }
@@ -102,7 +102,8 @@ void HandOverReceiver::ReadFrom(HandOverSender& sender)
     }
     m_waiting.push_back({ &sender, std::move(*text) });
     // Not from here: the handler may run an event loop, and this is inside a notifier's signal.
-    QMetaObject::invokeMethod(this, [this] { HandleAll(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { HandleAll(); }, Qt::QueuedConnection);
 }
 
 void HandOverReceiver::Drop(HandOverSender& sender)

@@ -5,16 +5,16 @@
 namespace zentaro::platform {
 namespace {
 
-    constexpr std::string_view kMagic = "ZNT1";
-    constexpr std::size_t kHeaderSize = kMagic.size() + 4;
+constexpr std::string_view kMagic = "ZNT1";
+constexpr std::size_t kHeaderSize = kMagic.size() + 4;
 
-    std::size_t LengthInHeader(std::string_view header)
-    {
-        std::size_t length = 0;
-        for (std::size_t at = kHeaderSize; at-- > kMagic.size();)
-            length = length << 8 | static_cast<unsigned char>(header[at]);
-        return length;
-    }
+std::size_t LengthInHeader(std::string_view header)
+{
+    std::size_t length = 0;
+    for (std::size_t at = kHeaderSize; at-- > kMagic.size();)
+        length = length << 8 | static_cast<unsigned char>(header[at]);
+    return length;
+}
 
 } // namespace
 
@@ -28,9 +28,15 @@ std::optional<std::uint64_t> ParseHandOverHandle(std::string_view handle)
     return number;
 }
 
-bool AcceptsHandOverPeer(std::uint32_t peerUser, std::uint32_t ownUser) { return peerUser == ownUser; }
+bool AcceptsHandOverPeer(std::uint32_t peerUser, std::uint32_t ownUser)
+{
+    return peerUser == ownUser;
+}
 
-std::string_view HandOverText(std::string_view text) { return text.substr(0, text.find('\0')); }
+std::string_view HandOverText(std::string_view text)
+{
+    return text.substr(0, text.find('\0'));
+}
 
 std::string EncodeHandOverFrame(std::string_view text)
 {

@@ -9,122 +9,104 @@
 namespace zentaro::platform {
 namespace {
 
-    constexpr char kClassName[] = "ZentaroHandOver";
+HWND WindowOf(const std::string& handle)
+{
+    const auto number = ParseHandOverHandle(handle);
+    return number ? reinterpret_cast<HWND>(static_cast<std::uintptr_t>(*number)) : nullptr;
+}
 
-    HWND WindowOf(const std::string& handle)
+std::string HandleOf(HWND window)
+{
+    return std::to_string(reinterpret_cast<std::uintptr_t>(window));
+}
+
+/// Two text boxes that are never shown. The first one's window procedure is preceded by ours, so that a text is
+/// handled while its sender still waits.
+class TextBoxes : public HandOverEnds {
+public:
+    ~TextBoxes() override
     {
-        const auto number = ParseHandOverHandle(handle);
-        return number ? reinterpret_cast<HWND>(static_cast<std::uintptr_t>(*number)) : nullptr;
+        for (const HWND box : { m_command, m_probe }) {
+            if (box)
+                DestroyWindow(box);
+        }
     }
 
-    std::string HandleOf(HWND window) { return std::to_string(reinterpret_cast<std::uintptr_t>(window)); }
-
-    std::string TextOf(HWND box)
+    Result<void> Create()
     {
-        std::string text(static_cast<std::size_t>(GetWindowTextLengthA(box)) + 1, '\0');
-        // The length above is a bound; this one is exact.
-        const int size = GetWindowTextA(box, text.data(), static_cast<int>(text.size()));
-        text.resize(static_cast<std::size_t>(size));
-        return text;
+        m_command = CreateBox();
+        m_probe = CreateBox();
+        if (!m_command || !m_probe)
+            return SystemError("Cannot make a text box", GetLastError());
+        SetWindowLongPtrA(m_command, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+        m_boxProcedure = reinterpret_cast<WNDPROC>(
+            SetWindowLongPtrA(m_command, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(OnMessage)));
+        return {};
     }
 
-    /// A parent that is never shown, and in it the two text boxes: a change of the first is reported to the parent
-    /// while the sender still waits.
-    class TextBoxes : public HandOverEnds {
-    public:
-        ~TextBoxes() override
-        {
-            if (m_parent)
-                DestroyWindow(m_parent); // with its boxes
+    std::string CommandHandle() const override { return HandleOf(m_command); }
+    std::string ProbeHandle() const override { return HandleOf(m_probe); }
+
+    void Deliver(std::function<void(std::string)> onCommand) override
+    {
+        m_handler = std::move(onCommand);
+        for (auto& text : std::exchange(m_early, {}))
+            m_handler(std::move(text));
+    }
+
+private:
+    static HWND CreateBox()
+    {
+        // Below the message root: such windows are found by their handle alone and need no screen.
+        return CreateWindowExA(
+            0, "EDIT", "", 0, 0, 0, 100, 20, HWND_MESSAGE, nullptr, GetModuleHandleA(nullptr), nullptr);
+    }
+
+    static LRESULT CALLBACK OnMessage(HWND box, UINT message, WPARAM first, LPARAM second)
+    {
+        auto* self = reinterpret_cast<TextBoxes*>(GetWindowLongPtrA(box, GWLP_USERDATA));
+        if (message != WM_SETTEXT)
+            return CallWindowProcA(self->m_boxProcedure, box, message, first, second);
+        // The handler takes the text in place of the box, which so is empty again at once; measuring a long line would
+        // take the box seconds.
+        const char* text = reinterpret_cast<const char*>(second);
+        if (text && *text != '\0')
+            self->OnText(text);
+        return TRUE;
+    }
+
+    void OnText(std::string text)
+    {
+        if (!m_handler) {
+            m_early.push_back(std::move(text));
+            return;
         }
+        const auto handler = m_handler; // the call may end the player, and this object with it
+        handler(std::move(text));
+    }
 
-        Result<void> Create()
-        {
-            const HINSTANCE instance = GetModuleHandleA(nullptr);
-            WNDCLASSA definition {};
-            definition.lpfnWndProc = OnMessage;
-            definition.hInstance = instance;
-            definition.lpszClassName = kClassName;
-            RegisterClassA(&definition); // fails when it is there already, which is as good
-            m_parent = CreateWindowExA(
-                0, kClassName, "", WS_POPUP, 0, 0, 0, 0, HWND_MESSAGE, nullptr, instance, nullptr);
-            if (!m_parent)
-                return SystemError("Cannot make a window", GetLastError());
-            SetWindowLongPtrA(m_parent, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-            m_command = CreateBox(instance);
-            m_probe = CreateBox(instance);
-            if (!m_command || !m_probe)
-                return SystemError("Cannot make a text box", GetLastError());
-            return {};
-        }
+    HWND m_command = nullptr;
+    HWND m_probe = nullptr;
+    WNDPROC m_boxProcedure = nullptr;
+    std::function<void(std::string)> m_handler;
+    std::deque<std::string> m_early;
+};
 
-        std::string CommandHandle() const override { return HandleOf(m_command); }
-        std::string ProbeHandle() const override { return HandleOf(m_probe); }
+class MutexLock : public HandOverLock {
+public:
+    explicit MutexLock(HANDLE mutex)
+        : m_mutex(mutex)
+    {
+    }
+    ~MutexLock() override
+    {
+        ReleaseMutex(m_mutex);
+        CloseHandle(m_mutex);
+    }
 
-        void Deliver(std::function<void(std::string)> onCommand) override
-        {
-            m_handler = std::move(onCommand);
-            for (auto& text : std::exchange(m_early, {}))
-                m_handler(std::move(text));
-        }
-
-    private:
-        HWND CreateBox(HINSTANCE instance) const
-        {
-            const HWND box
-                = CreateWindowExA(0, "EDIT", "", WS_CHILD, 0, 0, 100, 20, m_parent, nullptr, instance, nullptr);
-            SendMessageA(box, EM_SETLIMITTEXT, kHandOverTextLimit, 0);
-            return box;
-        }
-
-        static LRESULT CALLBACK OnMessage(HWND window, UINT message, WPARAM first, LPARAM second)
-        {
-            auto* self = reinterpret_cast<TextBoxes*>(GetWindowLongPtrA(window, GWLP_USERDATA));
-            if (message == WM_COMMAND && HIWORD(first) == EN_CHANGE && self
-                && reinterpret_cast<HWND>(second) == self->m_command) {
-                self->OnChange();
-                return 0;
-            }
-            return DefWindowProcA(window, message, first, second);
-        }
-
-        void OnChange()
-        {
-            auto text = TextOf(m_command);
-            if (text.empty())
-                return; // our own clearing
-            if (!m_handler) {
-                m_early.push_back(std::move(text));
-                return;
-            }
-            const HWND box = m_command; // the handler may end the player, and this object with it
-            const auto handler = m_handler;
-            handler(std::move(text));
-            SetWindowTextA(box, "");
-        }
-
-        HWND m_parent = nullptr;
-        HWND m_command = nullptr;
-        HWND m_probe = nullptr;
-        std::function<void(std::string)> m_handler;
-        std::deque<std::string> m_early;
-    };
-
-    class MutexLock : public HandOverLock {
-    public:
-        explicit MutexLock(HANDLE mutex)
-            : m_mutex(mutex)
-        {
-        }
-        ~MutexLock() override
-        {
-            ReleaseMutex(m_mutex);
-            CloseHandle(m_mutex);
-        }
-
-    private:
-        HANDLE m_mutex;
-    };
+private:
+    HANDLE m_mutex;
+};
 
 } // namespace
 

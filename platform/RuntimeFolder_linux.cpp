@@ -10,33 +10,33 @@
 namespace zentaro::platform {
 namespace {
 
-    constexpr int kFolderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+constexpr int kFolderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
 
-    /// The session's own folder; not one that merely came along in the variables of another user.
-    FileDescriptor OpenSessionFolder()
-    {
-        const char* path = std::getenv("XDG_RUNTIME_DIR");
-        if (!path || path[0] != '/')
-            return FileDescriptor();
-        FileDescriptor folder(open(path, kFolderFlags));
-        struct stat facts { };
-        if (!folder || fstat(folder.Number(), &facts) != 0 || facts.st_uid != geteuid())
-            return FileDescriptor();
-        return folder;
-    }
+/// The session's own folder; not one that merely came along in the variables of another user.
+FileDescriptor OpenSessionFolder()
+{
+    const char* path = std::getenv("XDG_RUNTIME_DIR");
+    if (!path || path[0] != '/')
+        return FileDescriptor();
+    FileDescriptor folder(open(path, kFolderFlags));
+    struct stat facts { };
+    if (!folder || fstat(folder.Number(), &facts) != 0 || facts.st_uid != geteuid())
+        return FileDescriptor();
+    return folder;
+}
 
-    Result<FileDescriptor> OpenPrivateFolder(int parent, const std::string& name)
-    {
-        if (mkdirat(parent, name.c_str(), 0700) != 0 && errno != EEXIST)
-            return SystemError("Cannot make the folder " + name);
-        FileDescriptor folder(openat(parent, name.c_str(), kFolderFlags | O_NOFOLLOW));
-        struct stat facts { };
-        if (!folder || fstat(folder.Number(), &facts) != 0)
-            return SystemError("Cannot open the folder " + name);
-        if (!IsPrivateFolder(facts.st_uid, facts.st_mode, geteuid()))
-            return Error { EPERM, "The folder " + name + " is open to other users" };
-        return folder;
-    }
+Result<FileDescriptor> OpenPrivateFolder(int parent, const std::string& name)
+{
+    if (mkdirat(parent, name.c_str(), 0700) != 0 && errno != EEXIST)
+        return SystemError("Cannot make the folder " + name);
+    FileDescriptor folder(openat(parent, name.c_str(), kFolderFlags | O_NOFOLLOW));
+    struct stat facts { };
+    if (!folder || fstat(folder.Number(), &facts) != 0)
+        return SystemError("Cannot open the folder " + name);
+    if (!IsPrivateFolder(facts.st_uid, facts.st_mode, geteuid()))
+        return Error{ EPERM, "The folder " + name + " is open to other users" };
+    return folder;
+}
 
 } // namespace
 

@@ -6,24 +6,24 @@
 namespace zentaro::platform {
 namespace {
 
-    std::string EscapedPart(std::string_view part)
-    {
-        constexpr std::string_view kHex = "0123456789ABCDEF";
-        if (part.empty())
-            return "_";
-        std::string text;
-        for (const char c : part) {
-            const auto byte = static_cast<unsigned char>(c);
-            if (byte < 0x20 || byte > 0x7E || c == '/' || c == '\\' || c == '_') {
-                text += '_';
-                text += kHex[byte >> 4];
-                text += kHex[byte & 15];
-            } else {
-                text += c;
-            }
+std::string EscapedPart(std::string_view part)
+{
+    constexpr std::string_view kHex = "0123456789ABCDEF";
+    if (part.empty())
+        return "_";
+    std::string text;
+    for (const char c : part) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte < 0x20 || byte > 0x7E || c == '/' || c == '\\' || c == '_') {
+            text += '_';
+            text += kHex[byte >> 4];
+            text += kHex[byte & 15];
+        } else {
+            text += c;
         }
-        return text;
     }
+    return text;
+}
 
 } // namespace
 

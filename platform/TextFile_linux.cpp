@@ -11,64 +11,67 @@
 namespace zentaro::platform {
 namespace {
 
-    bool HasNul(const std::string& path) { return path.find('\0') != std::string::npos; }
+bool HasNul(const std::string& path)
+{
+    return path.find('\0') != std::string::npos;
+}
 
-    std::string FolderPart(const std::string& path)
-    {
-        const auto slash = path.rfind('/');
-        return slash == std::string::npos ? "" : path.substr(0, slash + 1);
+std::string FolderPart(const std::string& path)
+{
+    const auto slash = path.rfind('/');
+    return slash == std::string::npos ? "" : path.substr(0, slash + 1);
+}
+
+/// What a link names in the end, whether it exists or not.
+std::string FollowLinks(std::string path)
+{
+    constexpr int kMostLinks = 40; // as the system
+    for (int i = 0; i < kMostLinks; ++i) {
+        char target[PATH_MAX];
+        const auto size = readlink(path.c_str(), target, sizeof target);
+        if (size <= 0)
+            break;
+        const std::string next(target, static_cast<std::size_t>(size));
+        path = next.front() == '/' ? next : FolderPart(path) + next;
     }
+    return path;
+}
 
-    /// What a link names in the end, whether it exists or not.
-    std::string FollowLinks(std::string path)
-    {
-        constexpr int kMostLinks = 40; // as the system
-        for (int i = 0; i < kMostLinks; ++i) {
-            char target[PATH_MAX];
-            const auto size = readlink(path.c_str(), target, sizeof target);
-            if (size <= 0)
-                break;
-            const std::string next(target, static_cast<std::size_t>(size));
-            path = next.front() == '/' ? next : FolderPart(path) + next;
-        }
-        return path;
-    }
-
-    Result<void> WriteAll(int file, const std::string& text)
-    {
-        for (std::size_t done = 0; done < text.size();) {
-            const auto size = write(file, text.data() + done, text.size() - done);
-            if (size < 0 && errno != EINTR)
-                return SystemError("Cannot write");
-            done += static_cast<std::size_t>(std::max<ssize_t>(size, 0));
-        }
-        if (fsync(file) != 0)
+Result<void> WriteAll(int file, const std::string& text)
+{
+    for (std::size_t done = 0; done < text.size();) {
+        const auto size = write(file, text.data() + done, text.size() - done);
+        if (size < 0 && errno != EINTR)
             return SystemError("Cannot write");
-        return {};
+        done += static_cast<std::size_t>(std::max<ssize_t>(size, 0));
     }
+    if (fsync(file) != 0)
+        return SystemError("Cannot write");
+    return {};
+}
 
-    /// A new file, as open to others as the user's mask allows.
-    FileDescriptor CreateBeside(const std::string& folder, std::string& path)
-    {
-        std::random_device random;
-        FileDescriptor file;
-        for (int i = 0; i < 100 && !file; ++i) {
-            path = folder + ".zentaro-" + std::to_string(random());
-            file = FileDescriptor(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-            if (!file && errno != EEXIST)
-                break;
-        }
-        return file;
+/// A new file, as open to others as the user's mask allows.
+FileDescriptor CreateBeside(const std::string& folder, std::string& path)
+{
+    std::random_device random;
+    FileDescriptor file;
+    for (int i = 0; i < 100 && !file; ++i) {
+        path = folder + ".zentaro-" + std::to_string(random());
+        file = FileDescriptor(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+        if (!file && errno != EEXIST)
+            break;
     }
+    return file;
+}
 
-    Result<void> FillAndRename(int file, const std::string& from, const std::string& to, const std::string& text)
-    {
-        if (auto written = WriteAll(file, text); !written)
-            return written;
-        if (rename(from.c_str(), to.c_str()) != 0)
-            return SystemError("Cannot replace " + to);
-        return {};
-    }
+Result<void> FillAndRename(int file, const std::string& from, const std::string& to, const std::string& text)
+{
+    if (auto written = WriteAll(file, text); !written)
+        return written;
+    if (rename(from.c_str(), to.c_str()) != 0)
+        return SystemError("Cannot replace " + to);
+    return {};
+}
 
 } // namespace
 
@@ -110,12 +113,12 @@ bool MayWriteFile(const std::string& path)
 Result<void> ReplaceTextFile(const std::string& path, const std::string& text)
 {
     if (path.empty() || HasNul(path))
-        return Error { EINVAL, "No name of a file" };
+        return Error{ EINVAL, "No name of a file" };
     const auto target = FollowLinks(path);
     struct stat old { };
     const bool existed = lstat(target.c_str(), &old) == 0;
     if (existed && !S_ISREG(old.st_mode))
-        return Error { EINVAL, target + " is no regular file" };
+        return Error{ EINVAL, target + " is no regular file" };
 
     const auto folder = FolderPart(target);
     std::string temporary;

@@ -10,6 +10,9 @@ void SetTopmost(NativeWindow window, bool topmost)
         reinterpret_cast<HWND>(window), topmost ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0, SWP_NOSIZE | SWP_NOMOVE);
 }
 
-void FlashWindowOnce(NativeWindow window) { FlashWindow(reinterpret_cast<HWND>(window), TRUE); }
+void FlashWindowOnce(NativeWindow window)
+{
+    FlashWindow(reinterpret_cast<HWND>(window), TRUE);
+}
 
 } // namespace zentaro::platform

@@ -1,0 +1,18 @@
+#include "playlist/Notice.h"
+
+namespace zentaro {
+
+Notice GatherNotices(const std::vector<Notice>& notices)
+{
+    Notice all = notices.front();
+    for (std::size_t i = 1; i < notices.size(); ++i) {
+        all.text += "\r\n\r\n" + notices[i].text;
+        if (notices[i].title != all.title)
+            all.title = Notice().title;
+        if (notices[i].icon == NoticeIcon::Exclamation)
+            all.icon = NoticeIcon::Exclamation;
+    }
+    return all;
+}
+
+} // namespace zentaro
