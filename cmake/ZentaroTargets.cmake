@@ -11,6 +11,17 @@ function(zentaro_options target)
   target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}")
 endfunction()
 
+# zentaro_windows_manifest(target): the code page, long paths and scaling that an executable of ours counts on under
+# Windows; nothing elsewhere.
+function(zentaro_windows_manifest target)
+  if(WIN32)
+    target_sources(${target} PRIVATE "${PROJECT_SOURCE_DIR}/platform/zentaro.rc")
+    set_source_files_properties("${PROJECT_SOURCE_DIR}/platform/zentaro.rc" TARGET_DIRECTORY ${target}
+      PROPERTIES OBJECT_DEPENDS "${PROJECT_SOURCE_DIR}/platform/zentaro.manifest")
+    target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/platform")
+  endif()
+endfunction()
+
 # zentaro_rules(folder SOURCES ... LEVELS lower folders ...)
 # One folder's rules as a library of its own: plain C++ that sees only the levels below it.
 function(zentaro_rules folder)

@@ -1,0 +1,218 @@
+#include "app/Player.h"
+
+#include "base/Numbers.h"
+#include "base/Paths.h"
+#include "platform/Folders.h"
+#include "platform/TextFile.h"
+#include "shell/Caption.h"
+
+#include <utility>
+
+namespace zentaro {
+
+namespace {
+
+constexpr const char* kRunningMark = "QuorvaneZentaro";
+constexpr std::size_t kConfigLimit = 1 << 20; // bytes; 46 lines are far shorter
+constexpr int kPumpsAfterPlay = 6;            // gives the engine time to open its video window
+
+} // namespace
+
+Player::Player(PlayerWorld world)
+    : m_world(std::move(world))
+    , m_host(m_world.engines)
+    , m_playlist(m_world.random)
+{
+    m_host.onFullScreen = [this](bool fullScreen) { m_world.screen.SetFullScreen(fullScreen); };
+}
+
+Player::~Player() = default;
+
+bool Player::Load(const std::string& commandLine)
+{
+    m_starting = true;
+    m_replaceOnOpen = true;
+    platform::MarkPlayerRunning(kRunningMark);
+    LoadConfigurations();
+    m_world.screen.ShowIdle();
+    m_startup = ReadCommandLine(commandLine, &platform::PathExists);
+    m_replaceOnOpen = m_startup.ReplaceOnOpen;
+    if (!BecomePlayer())
+        return false;
+    m_world.screen.ShowWindow();
+    OpenStartupFile();
+    m_starting = false;
+    return true;
+}
+
+bool Player::BecomePlayer()
+{
+    const auto key = platform::SettingsKey(kApplicationTitle, "Setting");
+    const auto read = [&](const char* name, const char* fallback) {
+        return m_world.store.Read(platform::StringStore::Root::CurrentUser, key, name, fallback);
+    };
+    // A caller whose player ends between the test and the call asks once more and then finds it gone.
+    for (;;) {
+        auto lock = m_world.handOver.lock();
+        const PublishedHandles handles{ read("txtHwnd", "-1"), read("txtHwnd1", "") };
+        const auto role =
+            DecideRole(m_startup, handles, m_settings.UseNewPlayer != 0, m_world.handOver.isAlive, m_world.separator);
+        if (role.kind == StartRole::Kind::Player) {
+            Publish();
+            return true;
+        }
+        lock.reset();
+        const bool taken = role.text.empty() || m_world.handOver.send(role.handle, role.text);
+        if (taken || role.kind == StartRole::Kind::Messenger)
+            return false;
+    }
+}
+
+void Player::Publish()
+{
+    auto ends = m_world.handOver.listen();
+    if (!ends)
+        return; // a player that cannot be reached plays all the same
+    m_ends = std::move(*ends);
+    const auto key = platform::SettingsKey(kApplicationTitle, "Setting");
+    const auto write = [&](const char* name, const std::string& handle) {
+        IgnoreFailure(m_world.store.Write(platform::StringStore::Root::CurrentUser, key, name, handle));
+    };
+    write("txtHwnd", m_ends->CommandHandle());
+    write("txtHwnd1", m_ends->ProbeHandle());
+    m_ends->Deliver([this](const std::string& text) { ReceiveText(text); });
+}
+
+void Player::OpenStartupFile()
+{
+    if (IsSupportedFile(m_startup.StartupArgument, m_world.separator))
+        OpenFromOutside(m_startup.StartupArgument);
+}
+
+void Player::ReceiveText(const std::string& text)
+{
+    if (text.empty())
+        return;
+    m_world.screen.FlashCaption();
+    // What counts is how this player itself was started; the text is opened as it stands.
+    if (!m_startup.ReplaceOnOpen)
+        m_replaceOnOpen = false;
+    OpenFromOutside(text);
+}
+
+void Player::OpenFromOutside(const std::string& path)
+{
+    LoadThumb(FileNamePart(path, m_world.separator), path, m_settings.LaunchFullScreen != 0, m_replaceOnOpen);
+}
+
+void Player::Unload()
+{
+    IgnoreFailure(WriteConfigurations());
+    m_host.RemoveVLCPlayer();
+    m_world.endProcess();
+}
+
+std::string Player::ConfigPath() const
+{
+    return m_world.settingsFolder + "Config.cfg";
+}
+
+void Player::LoadConfigurations()
+{
+    const auto text = platform::ReadTextFile(ConfigPath(), kConfigLimit);
+    auto loaded = text ? ParseConfigurations(*text) : std::nullopt;
+    const auto desktop = platform::DesktopFolder();
+    if (!loaded) {
+        loaded = DefaultSettings(desktop, m_world.screen.Extent());
+        // A damaged file is replaced, a missing one made; one that must not be written stays as it is.
+        if (!platform::PathExists(ConfigPath()) || platform::MayWriteFile(ConfigPath()))
+            IgnoreFailure(platform::ReplaceTextFile(ConfigPath(), FormatConfigurations(*loaded)));
+    } else if (loaded->DefaultFolder.find_first_not_of(' ') == std::string::npos) {
+        loaded->DefaultFolder = desktop;
+    }
+    UseSettings(*loaded);
+}
+
+void Player::UseSettings(const PlayerSettings& settings)
+{
+    m_settings = settings;
+    SaveVLCOptions();
+    SetLoadedOptions();
+}
+
+Result<void> Player::WriteConfigurations()
+{
+    if (!m_starting && !m_world.screen.IsMaximized()) {
+        m_settings.WindowLeft = RoundHalfEven(m_world.screen.WindowLeft());
+        m_settings.WindowTop = RoundHalfEven(m_world.screen.WindowTop());
+    }
+    if (!platform::MayWriteFile(ConfigPath()))
+        return Error{ 0, "Config.cfg cannot be replaced" };
+    return platform::ReplaceTextFile(ConfigPath(), FormatConfigurations(m_settings));
+}
+
+void Player::SaveVLCOptions()
+{
+    m_options = OptionsFromSettings(m_settings);
+}
+
+void Player::SetLoadedOptions()
+{
+    // Sizes that the window takes on are recorded, so the settings are read before the first of them is.
+    const auto settings = m_settings;
+    if (settings.RememberLastSize != 0)
+        m_world.screen.SetWindowSize(settings.WindowWidth, settings.WindowHeight);
+    if (settings.RememberLastPos != 0)
+        m_world.screen.SetWindowPosition(settings.WindowLeft, settings.WindowTop);
+    m_world.screen.SetTopmost(settings.AlwaysOnTop != 0);
+    if (m_mediaControlsEnabled)
+        ShowCaption();
+}
+
+void Player::WindowResized(int width, int height)
+{
+    if (m_starting || m_world.screen.IsMaximized())
+        return;
+    m_settings.WindowWidth = width;
+    m_settings.WindowHeight = height;
+}
+
+void Player::LoadThumb(const std::string& title, const std::string& path, bool playFlag, bool playNow)
+{
+    m_playlist.Append({ title, path, {}, {} });
+    if (playNow) {
+        const auto last = m_playlist.Count() - 1;
+        m_playlist.List().SetSelectedItem(last);
+        PlayItem(static_cast<std::int16_t>(last), playFlag);
+    }
+    m_playlist.BuildOrder(m_settings.PlayMode);
+}
+
+void Player::PlayItem(std::int16_t index, bool fullScreen)
+{
+    if (index < 0 || index >= m_playlist.Count())
+        return;
+    m_host.RemoveVLCPlayer();
+    m_host.AddVLCPLayer();
+    m_currentItemPath = m_playlist.PathAt(index);
+    m_options = WithSnapshotFolder(m_options, m_settings.SnapshotPath, m_currentItemPath, m_world.separator);
+    if (auto* const engine = m_host.VLCPlayer()) {
+        engine->Add({ m_currentItemPath, false }, m_options);
+        engine->Play();
+    }
+    ShowCaption();
+    m_mediaControlsEnabled = true;
+    m_rate = 1.0; // the value alone: a fresh engine runs at it
+    m_world.screen.PumpMessages(kPumpsAfterPlay);
+    if (fullScreen)
+        m_host.ToggleFullScreen();
+}
+
+void Player::ShowCaption()
+{
+    const auto* const entry = m_playlist.SelectedEntry();
+    m_world.screen.ShowCaption(CaptionText({ m_settings.TitleBarMode, m_playlist.List().SelectedText(),
+        entry != nullptr ? entry->FullPath : std::string() }));
+}
+
+} // namespace zentaro

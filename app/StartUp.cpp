@@ -1,0 +1,45 @@
+#include "app/StartUp.h"
+
+#include "base/Paths.h"
+
+#include <algorithm>
+
+namespace zentaro {
+
+namespace {
+
+constexpr std::string_view kAddSuffix = "*Add";
+
+std::string WithoutAdd(const std::string& text)
+{
+    if (!text.ends_with(kAddSuffix))
+        return text;
+    // The blank in front goes with it.
+    return text.substr(0, text.size() - std::min(text.size(), kAddSuffix.size() + 1));
+}
+
+} // namespace
+
+StartupRequest ReadCommandLine(
+    const std::string& commandLine, const std::function<bool(const std::string&)>& fileExists)
+{
+    auto text = commandLine;
+    if (text.find('"') != std::string::npos && !fileExists(WithoutAdd(text)))
+        std::erase(text, '"');
+    return { WithoutAdd(text), text, !text.ends_with(kAddSuffix) };
+}
+
+StartRole DecideRole(const StartupRequest& request, const PublishedHandles& handles, bool useNewPlayer,
+    const std::function<bool(const std::string&)>& isAlive, char separator)
+{
+    using Kind = StartRole::Kind;
+    if (handles.command == "-1" || useNewPlayer || !isAlive(handles.probe))
+        return {};
+    if (request.handOverText.empty())
+        return { Kind::Caller, handles.probe, "Hello" };
+    if (IsSupportedFile(request.StartupArgument, separator))
+        return { Kind::Messenger, handles.command, request.handOverText };
+    return { Kind::Messenger, {}, {} };
+}
+
+} // namespace zentaro

@@ -1,0 +1,77 @@
+#include "app/Player.h"
+#include "app/frmMain.h"
+#include "base/Paths.h"
+#include "platform/Folders.h"
+#include "platform/Process.h"
+#include "platform/QuitRequest.h"
+#include "playback/VideoFrame.h"
+#include "playback/VlcEngine.h"
+#include "shell/Caption.h"
+#include "shell/QtText.h"
+#include "shell/Style.h"
+
+#include <QApplication>
+
+#include <chrono>
+#include <random>
+
+namespace {
+
+using namespace zentaro;
+
+HandOverService RealHandOver()
+{
+    return { &platform::HandOverEnds::Listen, &platform::IsHandOverAlive, &platform::SendHandOverText,
+        [] { return platform::HandOverLock::Take(std::chrono::seconds(2)); } };
+}
+
+RandomSource RealRandom()
+{
+    return [engine = std::mt19937_64(std::random_device{}())]() mutable {
+        return std::uniform_real_distribution<double>(0.0, 1.0)(engine);
+    };
+}
+
+/// The engine draws into X windows only, so a Wayland session with an X server beside it is used through that server.
+void PreferX11()
+{
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "xcb");
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const auto commandLine = platform::CommandLineText({ argv + 1, argv + argc });
+    PreferX11();
+    // Qt takes words of its own from the command line; all of ours belong to the file.
+    int ownArgument = 1;
+    QApplication application(ownArgument, argv);
+    QApplication::setApplicationName(kApplicationTitle);
+    QApplication::setDesktopFileName("zentaro");
+    QApplication::setQuitOnLastWindowClosed(false);
+    style::Apply(application);
+
+    const auto separator = platform::PathSeparator();
+    const auto programFolder = WithTrailingSeparator(platform::ExecutableFolder(), separator);
+    const auto settingsFolder = WithTrailingSeparator(platform::SettingsFolder(), separator);
+    const auto workingFolder = platform::MakeWorkingFolder();
+    const auto store = platform::StringStore::Open();
+
+    frmMain window(ToQString(programFolder));
+    VlcEngines engines(window.Video(), WithTrailingSeparator(workingFolder, separator) + "engine.log");
+    const auto endProcess = [&] {
+        platform::RemoveFolder(workingFolder);
+        platform::EndProcess();
+    };
+    Player player({ window, engines, *store, RealHandOver(), RealRandom(), endProcess, programFolder, settingsFolder,
+        separator });
+    window.Serve(player);
+    if (!player.Load(commandLine))
+        endProcess();
+    platform::OnQuitRequest([&] { window.close(); });
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
+        [&] { IgnoreFailure(player.WriteConfigurations()); });
+    return QApplication::exec();
+}

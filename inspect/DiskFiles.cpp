@@ -1,0 +1,61 @@
+#include "inspect/DiskFiles.h"
+
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <utility>
+
+namespace zentaro {
+
+namespace {
+
+/// UTF-8 on every system, whatever the system's own narrow texts are.
+std::filesystem::path PathOf(const std::string& text)
+{
+    return std::u8string(text.begin(), text.end());
+}
+
+} // namespace
+
+DiskFiles::DiskFiles(std::function<std::string(std::int64_t seconds)> dateText)
+    : m_dateText(std::move(dateText))
+{
+}
+
+std::optional<std::string> DiskFiles::Read(const std::string& path, std::size_t limit)
+{
+    std::ifstream file(PathOf(path), std::ios::binary | std::ios::ate);
+    if (!file)
+        return std::nullopt;
+    const auto size = std::min(static_cast<std::size_t>(std::max<std::streamoff>(0, file.tellg())), limit);
+    std::string text(size, '\0');
+    file.seekg(0);
+    file.read(text.data(), static_cast<std::streamsize>(size));
+    text.resize(static_cast<std::size_t>(file.gcount()));
+    return text;
+}
+
+std::optional<FileFacts> DiskFiles::Facts(const std::string& path)
+{
+    std::error_code problem;
+    const auto name = PathOf(path);
+    const auto size = std::filesystem::file_size(name, problem);
+    if (problem)
+        return std::nullopt;
+    FileFacts facts{ static_cast<std::int64_t>(size), "" };
+    const auto changed = std::filesystem::last_write_time(name, problem);
+    if (!problem) {
+        const auto time = std::chrono::file_clock::to_sys(changed).time_since_epoch();
+        facts.lastModified = m_dateText(std::chrono::duration_cast<std::chrono::seconds>(time).count());
+    }
+    return facts;
+}
+
+void DiskFiles::Remove(const std::string& path)
+{
+    std::error_code ignored;
+    std::filesystem::remove(PathOf(path), ignored);
+}
+
+} // namespace zentaro

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "base/Picture.h"
+
+#include <cstdint>
+#include <string>
+
+namespace zentaro {
+
+/// Decodes a picture file of any format that Qt reads; no picture when it cannot be read. `path` may hold any bytes.
+Picture DecodePictureFile(const std::string& path);
+
+/// A time, in seconds since 1970, as date and time of day in the short form of the user's locale.
+std::string LocalDateText(std::int64_t seconds);
+
+} // namespace zentaro

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "base/Result.h"
+
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace zentaro::platform {
+
+/// Priority classes and creation flags are numbers of the Windows process functions. Other systems translate the
+/// classes into nice values; a class that this user may not have leaves the priority as it is.
+inline constexpr std::uint32_t kHighPriority = 128;
+inline constexpr std::uint32_t kAboveNormalPriority = 32768;
+inline constexpr std::uint32_t kNormalPriority = 32;
+inline constexpr std::uint32_t kBelowNormalPriority = 16384;
+inline constexpr std::uint32_t kIdlePriority = 64;
+
+/// A program without a window of its own. Its arguments arrive exactly as they stand in the list.
+struct ChildCommand {
+    std::string program; // a path, or a bare name that the system looks for in its search path
+    std::vector<std::string> arguments;
+    std::string workDir;       // empty: the current directory
+    bool useShellName = false; // the system's command shell is the program, and `program` only its argument 0
+    std::uint32_t creationFlags = kNormalPriority;
+};
+
+/// What could not be done when a captured child was to be started; the value is the error's number.
+enum class StartStep { Pipe = 2001, PipeState = 2002, Process = 2003 };
+
+/// The error for a step that failed with the system's `code`.
+Error StartError(StartStep step, std::int64_t code);
+
+/// A process of ours that can be waited for and ended. It is waited for (on Linux: reaped) at the latest when the
+/// object goes; one that still runs then is terminated.
+class StartedProcess {
+public:
+    virtual ~StartedProcess() = default;
+    /// Waits at most `wait` for the process's end. Where output can be waited for too (Linux), output that can be read
+    /// ends the wait early.
+    virtual bool HasEnded(std::chrono::milliseconds wait) = 0;
+    /// Linux: the process and all that it started and that stayed in its group, within 20 ms whatever they do with
+    /// signals. Windows: the process, with exit code 0.
+    virtual void Terminate() = 0;
+};
+
+/// A hidden child whose standard output and error arrive as one stream of bytes; its standard input is empty, and it
+/// inherits nothing else.
+class ChildProcess : public StartedProcess {
+public:
+    /// To be called before each read. Where output cannot be waited for (Windows) it takes 40 ms; elsewhere it takes
+    /// time only once the child has ended: at most 40 ms for output of those who still hold the stream.
+    virtual void Pause() = 0;
+    /// The number of bytes read, without waiting for any; 0 when there are none now, nothing once every writer has
+    /// closed the stream.
+    virtual std::optional<std::size_t> Read(std::span<char> buffer) = 0;
+    /// A class of this header; a refusal is ignored.
+    virtual void ApplyPriorityClass(std::uint32_t priorityClass) = 0;
+
+    /// Fails with a StartError().
+    static Result<std::unique_ptr<ChildProcess>> Start(const ChildCommand& command);
+};
+
+/// What the system's shell is asked to start.
+struct ShellCommand {
+    std::string file;
+    std::vector<std::string> arguments;
+    std::string folder;           // working directory; empty: the current directory
+    std::int32_t showCommand = 0; // window state by the numbers of Windows: 0 is hidden; without effect elsewhere
+    bool detached = false;        // nobody will wait for it: it lives on when the returned object goes
+};
+
+/// Starts a program (on Windows also a document's program) with no standard streams; null when that fails.
+std::unique_ptr<StartedProcess> ShellStart(const ShellCommand& command);
+
+/// The path of the tool of that bare name (on Windows with or without ".exe"): in `firstFolder` when it lies there and
+/// may be executed, else in the search path; nothing when it is in neither.
+std::optional<std::string> FindTool(const std::string& name, const std::string& firstFolder);
+
+} // namespace zentaro::platform

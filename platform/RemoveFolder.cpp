@@ -1,0 +1,18 @@
+#include "platform/Folders.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace zentaro::platform {
+
+void RemoveFolder(const std::string& folder)
+{
+    if (folder.empty())
+        return;
+    // As UTF-8, so that the name does not pass through a code page on Windows.
+    const std::filesystem::path path(std::u8string(folder.begin(), folder.end()));
+    std::error_code ignored;
+    std::filesystem::remove_all(path, ignored);
+}
+
+} // namespace zentaro::platform

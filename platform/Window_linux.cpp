@@ -1,0 +1,70 @@
+#include "platform/Window.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <memory>
+#include <xcb/xcb.h>
+
+namespace zentaro::platform {
+namespace {
+
+struct Release {
+    void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
+    void operator()(void* reply) const { std::free(reply); }
+};
+using Connection = std::unique_ptr<xcb_connection_t, Release>;
+template <class T> using Reply = std::unique_ptr<T, Release>;
+
+// Values of the window manager protocol's _NET_WM_STATE message.
+constexpr std::uint32_t kRemoveState = 0;
+constexpr std::uint32_t kAddState = 1;
+constexpr std::uint32_t kFromApplication = 1;
+
+xcb_atom_t AtomOf(xcb_connection_t* connection, const char* name)
+{
+    const auto cookie = xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(std::strlen(name)), name);
+    const Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection, cookie, nullptr));
+    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
+
+/// Asks the window manager; where there is none, or no display, nobody is asked.
+void RequestState(NativeWindow window, std::uint32_t action, const char* state)
+{
+    if (window == 0)
+        return;
+    const Connection connection(xcb_connect(nullptr, nullptr));
+    if (xcb_connection_has_error(connection.get()) != 0)
+        return;
+    const auto id = static_cast<xcb_window_t>(window);
+    const Reply<xcb_get_geometry_reply_t> geometry(
+        xcb_get_geometry_reply(connection.get(), xcb_get_geometry(connection.get(), id), nullptr));
+    if (!geometry)
+        return;
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = id;
+    message.type = AtomOf(connection.get(), "_NET_WM_STATE");
+    message.data.data32[0] = action;
+    message.data.data32[1] = AtomOf(connection.get(), state);
+    message.data.data32[3] = kFromApplication;
+    const auto cookie = xcb_send_event_checked(connection.get(), 0, geometry->root,
+        XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+        reinterpret_cast<const char*>(&message));
+    // Waiting for the check keeps the connection open until the message has gone out.
+    const Reply<xcb_generic_error_t> error(xcb_request_check(connection.get(), cookie));
+}
+
+} // namespace
+
+void SetTopmost(NativeWindow window, bool topmost)
+{
+    RequestState(window, topmost ? kAddState : kRemoveState, "_NET_WM_STATE_ABOVE");
+}
+
+void FlashWindowOnce(NativeWindow window)
+{
+    RequestState(window, kAddState, "_NET_WM_STATE_DEMANDS_ATTENTION");
+}
+
+} // namespace zentaro::platform

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace zentaro {
+
+/// The nine option texts that go to the engine with every item, by their fixed index.
+using EngineOptions = std::array<std::string, 9>;
+
+/// What an engine is to play: a file's plain path, or a location such as "dvd:///media/disc".
+struct MediaLocation {
+    std::string text;
+    bool isLocation = false;
+};
+
+/// The media engine of one item. Reads answer at once with the engine's present view; a call that the engine cannot
+/// follow changes nothing.
+class Engine {
+public:
+    /// State values that the program compares with; below kPlaying the item is still being opened or buffered.
+    static constexpr int kPlaying = 3;
+    static constexpr int kPaused = 4;
+    static constexpr int kStopped = 5;
+    static constexpr int kEnded = 6;
+    static constexpr int kFailed = 7;
+
+    virtual ~Engine() = default;
+
+    // audio
+    virtual void SetVolume(int percent) = 0; ///< 0 to 100
+    virtual void SetMute(bool muted) = 0;
+
+    // input
+    virtual double Length() = 0;                   ///< ms; 0 or below while unknown
+    virtual double Time() = 0;                     ///< ms
+    virtual double Position() = 0;                 ///< 0.0 to 1.0
+    virtual void SetPosition(double position) = 0; ///< 0.0 to 1.0
+    virtual int State() = 0;
+    virtual double Rate() = 0; ///< 1.0 is normal speed
+    virtual void SetRate(double rate) = 0;
+    virtual bool HasVideoOutput() = 0;
+
+    // playlist
+    virtual void Add(const MediaLocation& location, const EngineOptions& options) = 0;
+    virtual void Play() = 0;
+    virtual void TogglePause() = 0;
+    virtual void Stop() = 0;
+    virtual int ItemCount() = 0;
+};
+
+/// Makes the engine of the next item, together with the surface that it draws on.
+class EngineFactory {
+public:
+    virtual ~EngineFactory() = default;
+    /// Null when the engine library cannot be started.
+    virtual std::unique_ptr<Engine> Create() = 0;
+};
+
+} // namespace zentaro

@@ -1,0 +1,54 @@
+#include "playback/EngineHost.h"
+
+#include <algorithm>
+
+namespace zentaro {
+
+EngineHost::EngineHost(EngineFactory& factory)
+    : m_factory(factory)
+{
+}
+
+void EngineHost::AddVLCPLayer()
+{
+    m_engine = m_factory.Create();
+    m_fullScreen = false;
+    if (!m_engine)
+        return;
+    m_engine->SetVolume(m_volume);
+    m_engine->SetMute(m_muted);
+}
+
+void EngineHost::RemoveVLCPlayer()
+{
+    m_engine.reset();
+}
+
+void EngineHost::SetVolume(int percent)
+{
+    m_volume = std::clamp(percent, 0, 100);
+    if (m_engine)
+        m_engine->SetVolume(m_volume);
+}
+
+void EngineHost::ToggleMute()
+{
+    // The engine's own reading lags behind or lies; the flag here is the truth.
+    m_muted = !m_muted;
+    if (m_engine)
+        m_engine->SetMute(m_muted);
+}
+
+void EngineHost::SetFullScreen(bool fullScreen)
+{
+    m_fullScreen = fullScreen;
+    if (onFullScreen)
+        onFullScreen(fullScreen);
+}
+
+void EngineHost::ToggleFullScreen()
+{
+    SetFullScreen(!m_fullScreen);
+}
+
+} // namespace zentaro

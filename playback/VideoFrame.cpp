@@ -1,0 +1,167 @@
+#include "playback/VideoFrame.h"
+
+#include <QGuiApplication>
+#include <QImageReader>
+#include <QPainter>
+#include <QPointer>
+
+#include <utility>
+
+namespace zentaro {
+
+namespace {
+
+// Larger pictures than any screen shows are no video, and their memory could not be had.
+constexpr unsigned kMaxPictureEdge = 16384;
+
+void MakeBlack(QWidget& widget)
+{
+    auto palette = widget.palette();
+    palette.setColor(QPalette::Window, Qt::black);
+    widget.setPalette(palette);
+    widget.setAutoFillBackground(true);
+}
+
+} // namespace
+
+PictureSink::PictureSink(QWidget& surface)
+    : m_surface(&surface)
+{
+}
+
+bool PictureSink::Resize(unsigned width, unsigned height)
+{
+    if (width == 0 || height == 0 || width > kMaxPictureEdge || height > kMaxPictureEdge)
+        return false;
+    const std::lock_guard lock(m_mutex);
+    m_back = QImage(static_cast<int>(width), static_cast<int>(height), QImage::Format_RGB32);
+    return !m_back.isNull();
+}
+
+void PictureSink::Show()
+{
+    const std::lock_guard lock(m_mutex);
+    const auto size = m_back.size();
+    std::swap(m_front, m_back);
+    if (m_back.size() != size)
+        m_back = QImage(size, QImage::Format_RGB32);
+    if (m_surface != nullptr)
+        QMetaObject::invokeMethod(m_surface, qOverload<>(&QWidget::update), Qt::QueuedConnection);
+}
+
+QImage PictureSink::Current() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_front;
+}
+
+void PictureSink::Close()
+{
+    const std::lock_guard lock(m_mutex);
+    m_surface = nullptr;
+}
+
+VideoSurface::VideoSurface(QWidget* parent)
+    : QWidget(parent)
+{
+    setObjectName("VLCPlayer");
+    // Qt paints the bars beside the picture; the engine's plain output leaves them alone.
+    MakeBlack(*this);
+    setMouseTracking(true);
+    if (TakesWindowNumber()) {
+        setAttribute(Qt::WA_DontCreateNativeAncestors);
+        setAttribute(Qt::WA_NativeWindow);
+    } else {
+        m_sink = std::make_shared<PictureSink>(*this);
+    }
+}
+
+VideoSurface::~VideoSurface()
+{
+    if (m_sink)
+        m_sink->Close();
+}
+
+bool VideoSurface::TakesWindowNumber()
+{
+    const auto name = QGuiApplication::platformName();
+    return name == "xcb" || name == "windows";
+}
+
+void VideoSurface::paintEvent(QPaintEvent*)
+{
+    const auto picture = m_sink ? m_sink->Current() : QImage();
+    if (picture.isNull())
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    QRect target(QPoint(), picture.size().scaled(size(), Qt::KeepAspectRatio));
+    target.moveCenter(rect().center());
+    painter.drawImage(target, picture);
+}
+
+VLCAudioLogo::VLCAudioLogo(QString picturePath, QWidget* parent)
+    : QWidget(parent)
+    , m_picturePath(std::move(picturePath))
+{
+    setObjectName("VLCAudioLogo");
+    MakeBlack(*this);
+    hide();
+}
+
+void VLCAudioLogo::resizeEvent(QResizeEvent*)
+{
+    QImageReader reader(m_picturePath);
+    const auto ratio = devicePixelRatio();
+    const auto inner = (QSizeF(size()) * ratio).toSize();
+    if (inner.isEmpty())
+        return;
+    reader.setScaledSize(inner);
+    const auto picture = reader.read();
+    // A file that cannot be read leaves the picture of before.
+    if (picture.isNull())
+        return;
+    m_picture = QPixmap::fromImage(picture);
+    m_picture.setDevicePixelRatio(ratio);
+}
+
+void VLCAudioLogo::paintEvent(QPaintEvent*)
+{
+    QPainter(this).drawPixmap(rect(), m_picture);
+}
+
+VideoFrame::VideoFrame(const QString& logoPath, QWidget* parent)
+    : QWidget(parent)
+    , m_logo(new VLCAudioLogo(logoPath, this))
+{
+    setObjectName("fraVideo");
+    MakeBlack(*this);
+    setMouseTracking(true);
+}
+
+VideoSurface* VideoFrame::AddSurface()
+{
+    m_surface = new VideoSurface(this);
+    m_surface->setGeometry(rect());
+    m_surface->show();
+    if (m_logo->isVisible())
+        m_logo->raise();
+    return m_surface;
+}
+
+void VideoFrame::ShowAudioLogo(bool shown)
+{
+    if (shown == m_logo->isVisible())
+        return;
+    m_logo->setVisible(shown);
+    m_logo->raise();
+}
+
+void VideoFrame::resizeEvent(QResizeEvent*)
+{
+    if (m_surface)
+        m_surface->setGeometry(rect());
+    m_logo->setGeometry(rect());
+}
+
+} // namespace zentaro

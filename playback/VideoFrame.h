@@ -1,0 +1,92 @@
+#pragma once
+
+#include <QImage>
+#include <QPixmap>
+#include <QPointer>
+#include <QWidget>
+
+#include <memory>
+#include <mutex>
+
+namespace zentaro {
+
+/// Takes finished pictures from the engine's thread and shows them on the UI thread. For displays on which the engine
+/// cannot draw into a window of ours.
+class PictureSink {
+public:
+    explicit PictureSink(QWidget& surface);
+
+    /// Engine thread: the size of the pictures to come, in pixels; false when it cannot be served.
+    bool Resize(unsigned width, unsigned height);
+    int BytesPerLine() const { return static_cast<int>(m_back.bytesPerLine()); }
+    /// Engine thread: where the next picture is to be written.
+    uchar* NextPicture() { return m_back.bits(); }
+    /// Engine thread: the picture is complete.
+    void Show();
+    /// UI thread.
+    QImage Current() const;
+    /// UI thread: the surface goes; nothing more is shown.
+    void Close();
+
+private:
+    mutable std::mutex m_mutex;
+    QWidget* m_surface;
+    QImage m_front;
+    QImage m_back;
+};
+
+/// The engine's control: the black area that one engine draws its video on.
+class VideoSurface : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit VideoSurface(QWidget* parent);
+    ~VideoSurface() override;
+
+    /// True when the engine can be handed this window's number.
+    static bool TakesWindowNumber();
+    const std::shared_ptr<PictureSink>& Sink() const { return m_sink; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    std::shared_ptr<PictureSink> m_sink;
+};
+
+/// The picture that stands for sound without video: "Audio.JPG", stretched over the whole area.
+class VLCAudioLogo : public QWidget {
+    Q_OBJECT
+
+public:
+    VLCAudioLogo(QString picturePath, QWidget* parent);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString m_picturePath;
+    QPixmap m_picture;
+};
+
+/// The frame that holds the engine's surface and, over it, the audio logo.
+class VideoFrame : public QWidget {
+    Q_OBJECT
+
+public:
+    VideoFrame(const QString& logoPath, QWidget* parent);
+
+    /// A fresh surface over the whole frame. The caller removes it.
+    VideoSurface* AddSurface();
+    void ShowAudioLogo(bool shown);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QPointer<VideoSurface> m_surface;
+    VLCAudioLogo* m_logo;
+};
+
+} // namespace zentaro

@@ -1,0 +1,312 @@
+#include "playback/VlcEngine.h"
+
+#include "platform/Graphics.h"
+#include "platform/SoundLibrary.h"
+#include "playback/VideoFrame.h"
+
+#include <QGuiApplication>
+#include <QPointer>
+#include <vlc/vlc.h>
+
+#include <algorithm>
+#include <cstdarg>
+#include <cstring>
+#include <vector>
+
+namespace zentaro {
+
+namespace {
+
+constexpr long kLogLimit = 1'000'000; // bytes
+constexpr auto kSoundPause = std::chrono::seconds(30);
+
+void OnLogMessage(void* log, int level, const libvlc_log_t*, const char* format, va_list arguments)
+{
+    if (level < LIBVLC_WARNING)
+        return;
+    char text[1024];
+    std::vsnprintf(text, sizeof text, format, arguments);
+    static_cast<VlcLog*>(log)->Write(level, text);
+}
+
+std::shared_ptr<libvlc_instance_t> StartLibrary(const std::vector<std::string>& arguments)
+{
+    std::vector<const char*> texts;
+    for (const auto& argument : arguments)
+        texts.push_back(argument.c_str());
+    auto* const instance = libvlc_new(static_cast<int>(texts.size()), texts.data());
+    if (instance == nullptr)
+        return {};
+    return { instance, &libvlc_release };
+}
+
+// --quiet silences the decoders, which write past the log. No scripts: they would only look for covers on the network.
+std::vector<std::string> CommonArguments(bool plainOutput)
+{
+    std::vector<std::string> arguments = { "--quiet", "--no-video-title-show", "--no-osd", "--no-snapshot-preview",
+        "--no-lua", "--no-interact" };
+    // The embedded player chooses its output by itself; taking OpenGL away leaves the plain one.
+    if (plainOutput)
+        arguments.insert(arguments.end(), { "--gl=none", "--gles2=none" });
+    return arguments;
+}
+
+// memory output: the library writes into pictures of ours
+unsigned OnFormat(void** opaque, char* chroma, unsigned* width, unsigned* height, unsigned* pitches, unsigned* lines)
+{
+    auto& sink = *static_cast<PictureSink*>(*opaque);
+    std::memcpy(chroma, "RV32", 4);
+    if (!sink.Resize(*width, *height))
+        return 0;
+    *pitches = static_cast<unsigned>(sink.BytesPerLine());
+    *lines = *height;
+    return 1;
+}
+
+void* OnLock(void* opaque, void** planes)
+{
+    *planes = static_cast<PictureSink*>(opaque)->NextPicture();
+    return nullptr;
+}
+
+void OnDisplay(void* opaque, void*)
+{
+    static_cast<PictureSink*>(opaque)->Show();
+}
+
+} // namespace
+
+VlcLog::VlcLog(const std::string& path)
+    : m_file(path.empty() ? nullptr : std::fopen(path.c_str(), "w"))
+    , m_room(kLogLimit)
+{
+}
+
+VlcLog::~VlcLog()
+{
+    if (m_file != nullptr)
+        std::fclose(m_file);
+}
+
+void VlcLog::Attach(libvlc_instance_t* instance)
+{
+    libvlc_log_set(instance, &OnLogMessage, this);
+}
+
+void VlcLog::Write(int level, const char* text)
+{
+    if (std::strstr(text, "failed to create audio output") != nullptr)
+        m_soundFailed = true;
+    const std::lock_guard lock(m_mutex);
+    if (m_file == nullptr || m_room <= 0)
+        return;
+    m_room -= std::fprintf(m_file, "%s: %s\n", level == LIBVLC_ERROR ? "error" : "warning", text);
+    std::fflush(m_file);
+}
+
+/// One libVLC player with its own instance and surface. Library threads only set the flags; everything else runs on the
+/// UI thread.
+class VlcEngine final : public Engine {
+public:
+    VlcEngine(VlcEngines& engines, VideoSurface* surface)
+        : m_engines(engines)
+        , m_surface(surface)
+    {
+    }
+
+    ~VlcEngine() override
+    {
+        if (m_player != nullptr) {
+            auto* const events = libvlc_media_player_event_manager(m_player);
+            libvlc_event_detach(events, libvlc_MediaPlayerEncounteredError, &OnFailed, this);
+            libvlc_media_player_stop(m_player);
+            libvlc_media_player_release(m_player);
+        }
+        delete m_surface.data();
+    }
+
+    void SetVolume(int percent) override
+    {
+        m_volume = percent;
+        if (m_player != nullptr)
+            libvlc_audio_set_volume(m_player, percent);
+    }
+
+    void SetMute(bool muted) override
+    {
+        m_muted = muted;
+        if (m_player != nullptr)
+            libvlc_audio_set_mute(m_player, muted);
+    }
+
+    double Length() override { return static_cast<double>(m_player ? libvlc_media_player_get_length(m_player) : -1); }
+    double Time() override { return static_cast<double>(m_player ? libvlc_media_player_get_time(m_player) : -1); }
+
+    double Position() override
+    {
+        // The library's own reading can run past the end.
+        return m_player ? std::clamp(static_cast<double>(libvlc_media_player_get_position(m_player)), 0.0, 1.0) : 0;
+    }
+
+    void SetPosition(double position) override
+    {
+        if (m_player != nullptr)
+            libvlc_media_player_set_position(m_player, static_cast<float>(position));
+    }
+
+    int State() override
+    {
+        if (m_player == nullptr)
+            return 0;
+        // By its state alone the library shows a failed item as an ended one.
+        return m_failed ? kFailed : static_cast<int>(libvlc_media_player_get_state(m_player));
+    }
+
+    double Rate() override { return m_player ? static_cast<double>(libvlc_media_player_get_rate(m_player)) : 1.0; }
+
+    void SetRate(double rate) override
+    {
+        if (m_player != nullptr)
+            libvlc_media_player_set_rate(m_player, static_cast<float>(rate));
+    }
+
+    bool HasVideoOutput() override { return m_player != nullptr && libvlc_media_player_has_vout(m_player) > 0; }
+
+    void Add(const MediaLocation& location, const EngineOptions& options) override
+    {
+        if (m_player != nullptr)
+            return;
+        m_instance = m_engines.NewInstance(options);
+        if (!m_instance)
+            return;
+        auto* const media = location.isLocation ? libvlc_media_new_location(m_instance.get(), location.text.c_str())
+                                                : libvlc_media_new_path(m_instance.get(), location.text.c_str());
+        if (media == nullptr)
+            return;
+        for (const auto& option : options)
+            libvlc_media_add_option(media, option.c_str());
+        // No card decodes either, and asking for one makes the card's library complain on the terminal. The player would
+        // forget this one; the item keeps it.
+        if (m_engines.m_plainOutput)
+            libvlc_media_add_option(media, ":avcodec-hw=none");
+        m_player = libvlc_media_player_new_from_media(media);
+        libvlc_media_release(media);
+        if (m_player != nullptr)
+            Prepare();
+    }
+
+    void Play() override
+    {
+        if (m_player == nullptr)
+            return;
+        // An ended player takes no order but stop.
+        if (libvlc_media_player_get_state(m_player) == libvlc_Ended)
+            libvlc_media_player_stop(m_player);
+        m_failed = false;
+        libvlc_media_player_play(m_player);
+    }
+
+    void TogglePause() override
+    {
+        if (m_player != nullptr)
+            libvlc_media_player_pause(m_player);
+    }
+
+    void Stop() override
+    {
+        if (m_player == nullptr)
+            return;
+        libvlc_media_player_stop(m_player);
+        // The OpenGL output leaves its last picture standing.
+        if (m_surface)
+            m_surface->update();
+    }
+
+    int ItemCount() override { return m_player != nullptr ? 1 : 0; }
+
+private:
+    static void OnFailed(const libvlc_event_t*, void* engine) { static_cast<VlcEngine*>(engine)->m_failed = true; }
+
+    /// Everything that a player must know before it plays.
+    void Prepare()
+    {
+        // The window handles keys and pointer; the library must not compete.
+        libvlc_video_set_mouse_input(m_player, 0);
+        libvlc_video_set_key_input(m_player, 0);
+        AttachSurface();
+        if (!m_engines.MayTrySound())
+            libvlc_audio_output_set(m_player, "adummy");
+        libvlc_audio_set_volume(m_player, m_volume);
+        libvlc_audio_set_mute(m_player, m_muted);
+        libvlc_event_attach(
+            libvlc_media_player_event_manager(m_player), libvlc_MediaPlayerEncounteredError, &OnFailed, this);
+    }
+
+    void AttachSurface()
+    {
+        if (const auto sink = m_surface->Sink()) {
+            m_sink = sink;
+            libvlc_video_set_callbacks(m_player, &OnLock, nullptr, &OnDisplay, m_sink.get());
+            libvlc_video_set_format_callbacks(m_player, &OnFormat, nullptr);
+        } else if (QGuiApplication::platformName() == "windows") {
+            libvlc_media_player_set_hwnd(m_player, reinterpret_cast<void*>(m_surface->winId()));
+        } else {
+            libvlc_media_player_set_xwindow(m_player, static_cast<std::uint32_t>(m_surface->winId()));
+        }
+    }
+
+    VlcEngines& m_engines;
+    QPointer<VideoSurface> m_surface;
+    std::shared_ptr<PictureSink> m_sink;
+    VlcEngines::Instance m_instance;
+    libvlc_media_player_t* m_player = nullptr;
+    std::atomic<bool> m_failed = false;
+    int m_volume = 100;
+    bool m_muted = false;
+};
+
+VlcEngines::VlcEngines(VideoFrame& frame, const std::string& logPath)
+    : m_frame(frame)
+    , m_log(logPath)
+    , m_plainOutput(!platform::HasGraphicsCard())
+{
+    // Finding the plug-ins takes longest at a start; the window comes up meanwhile.
+    m_base = std::async(std::launch::async, [plain = m_plainOutput] {
+        platform::SilenceSoundLibrary();
+        return StartLibrary(CommonArguments(plain));
+    }).share();
+}
+
+VlcEngines::~VlcEngines()
+{
+    m_base.wait();
+}
+
+std::unique_ptr<Engine> VlcEngines::Create()
+{
+    if (!m_base.get())
+        return nullptr;
+    return std::make_unique<VlcEngine>(*this, m_frame.AddSurface());
+}
+
+VlcEngines::Instance VlcEngines::NewInstance(const EngineOptions& options)
+{
+    // libVLC 3 reads this one from the instance only; as an option of the item it has no effect.
+    auto arguments = CommonArguments(m_plainOutput);
+    arguments.push_back("--" + options[6]);
+    auto instance = StartLibrary(arguments);
+    if (!instance)
+        instance = m_base.get();
+    m_log.Attach(instance.get());
+    return instance;
+}
+
+bool VlcEngines::MayTrySound()
+{
+    const auto now = std::chrono::steady_clock::now();
+    if (m_log.TakeSoundFailure())
+        m_silentUntil = now + kSoundPause;
+    return now >= m_silentUntil;
+}
+
+} // namespace zentaro

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "base/Geometry.h"
+
+#include <span>
+
+namespace zentaro {
+
+/// Where the parts of the main window lie, in pixels of its client area, for one client size. Painting, hit testing and
+/// the child widgets all ask here. Below the smallest size some rectangles have negative sizes and hold nothing.
+class WindowLayout {
+public:
+    static constexpr int kMinimumWidth = 360;
+    static constexpr int kMinimumHeight = 320;
+    static constexpr int kFirstWidth = 388;
+    static constexpr int kFirstHeight = 515;
+    static constexpr int kPanelHeight = 147; // the bottom control panel
+    static constexpr int kResizeBorder = 8;
+
+    WindowLayout(int width, int height)
+        : m_width(width)
+        , m_height(height)
+    {
+    }
+
+    Rect TitleBar() const { return { 0, 0, m_width, 31 }; }
+    Rect Icon() const { return { 3, 3, 24, 24 }; }
+    Rect Caption() const { return { 32, 3, m_width - 110, 24 }; }
+    Rect CloseButton() const { return { m_width - 30, 1, 23, 24 }; }
+    Rect MaximizeButton() const { return { m_width - 53, 1, 23, 24 }; }
+    Rect MinimizeButton() const { return { m_width - 76, 1, 22, 24 }; }
+    Rect MenuStrip() const { return { 15, 31, m_width - 15, 26 }; }
+    /// The splitter's place: the video and the playlist share it.
+    Rect Content() const { return { 15, 57, m_width - 31, m_height - 204 }; }
+    Rect Panel() const { return { 0, m_height - kPanelHeight, m_width, kPanelHeight }; }
+    Rect TimeLabel() const { return { 41, PanelTop() + 12, (m_width - 82) / 2, 22 }; }
+    Rect RateLabel() const
+    {
+        return { 41 + (m_width - 82) / 2, PanelTop() + 12, m_width - 82 - (m_width - 82) / 2, 22 };
+    }
+    Rect SeekTrack() const { return { 41, PanelTop() + 44, m_width - 85, 8 }; }
+
+    /// Which edges of the frameless window a pointer takes hold of.
+    struct Edges {
+        bool left = false;
+        bool top = false;
+        bool right = false;
+        bool bottom = false;
+        bool Any() const { return left || top || right || bottom; }
+        bool operator==(const Edges&) const = default;
+    };
+    Edges EdgesAt(int x, int y) const;
+
+private:
+    int PanelTop() const { return m_height - kPanelHeight; }
+
+    int m_width;
+    int m_height;
+};
+
+/// The window's rectangle, moved onto a screen when too little of it shows to take hold of it: onto the screen that it
+/// shares most with, else onto the first. Its size stays, unless it is larger than that screen.
+Rect MoveOntoScreen(Rect window, std::span<const Rect> screens);
+
+} // namespace zentaro

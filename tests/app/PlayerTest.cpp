@@ -1,0 +1,288 @@
+#include "app/Player.h"
+#include "platform/TextFile.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
+
+using namespace zentaro;
+namespace fs = std::filesystem;
+
+namespace {
+
+class FakeScreen : public PlayerScreen {
+public:
+    ScreenExtent Extent() const override { return { 1280 * 15, 800 * 15 }; }
+    bool IsMaximized() const override { return maximized; }
+    double WindowLeft() const override { return left; }
+    double WindowTop() const override { return 45; }
+    void ShowWindow() override { log << "show "; }
+    void SetWindowSize(int width, int height) override { log << "size " << width << "x" << height << " "; }
+    void SetWindowPosition(int x, int y) override { log << "at " << x << "," << y << " "; }
+    void SetTopmost(bool topmost) override { isTopmost = topmost; }
+    void SetFullScreen(bool fullScreen) override { isFullScreen = fullScreen; }
+    void ShowCaption(const std::string& text) override { caption = text; }
+    void FlashCaption() override { log << "flash "; }
+    void ShowIdle() override { }
+    void ShowMessage(const UserMessage& message) override { log << message.text; }
+    void PumpMessages(int times) override { log << "pump " << times << " "; }
+
+    std::ostringstream log;
+    std::string caption;
+    double left = 30;
+    bool maximized = false;
+    bool isTopmost = false;
+    bool isFullScreen = false;
+};
+
+struct EngineTrace {
+    int alive = 0;
+    int mostAlive = 0;
+    std::vector<std::string> played;
+    EngineOptions options;
+    int volume = -1;
+    bool muted = false;
+    double rateSet = 0;
+};
+
+class FakeEngine : public Engine {
+public:
+    explicit FakeEngine(EngineTrace& trace)
+        : m_trace(trace)
+    {
+        m_trace.mostAlive = std::max(m_trace.mostAlive, ++m_trace.alive);
+    }
+    ~FakeEngine() override { --m_trace.alive; }
+    void SetVolume(int percent) override { m_trace.volume = percent; }
+    void SetMute(bool muted) override { m_trace.muted = muted; }
+    double Length() override { return 0; }
+    double Time() override { return 0; }
+    double Position() override { return 0; }
+    void SetPosition(double) override { }
+    int State() override { return kPlaying; }
+    double Rate() override { return 1; }
+    void SetRate(double rate) override { m_trace.rateSet = rate; }
+    bool HasVideoOutput() override { return true; }
+    void Add(const MediaLocation& location, const EngineOptions& options) override
+    {
+        m_trace.played.push_back(location.text);
+        m_trace.options = options;
+    }
+    void Play() override { }
+    void TogglePause() override { }
+    void Stop() override { }
+    int ItemCount() override { return 1; }
+
+private:
+    EngineTrace& m_trace;
+};
+
+class FakeEngines : public EngineFactory {
+public:
+    std::unique_ptr<Engine> Create() override { return std::make_unique<FakeEngine>(trace); }
+    EngineTrace trace;
+};
+
+class FakeStore : public platform::StringStore {
+public:
+    std::string Read(Root, const std::string& key, const std::string& name, const std::string& fallback) override
+    {
+        const auto at = values.find(key + ":" + name);
+        return at == values.end() ? fallback : at->second;
+    }
+    Result<void> Write(Root, const std::string& key, const std::string& name, const std::string& text) override
+    {
+        values[key + ":" + name] = text;
+        return {};
+    }
+    Result<void> Delete(Root, const std::string&, const std::string&) override { return {}; }
+    std::map<std::string, std::string> values;
+};
+
+class FakeEnds : public platform::HandOverEnds {
+public:
+    std::string CommandHandle() const override { return "4711"; }
+    std::string ProbeHandle() const override { return "4712"; }
+    void Deliver(std::function<void(std::string)>) override { }
+};
+
+/// A player in a folder of its own, in a world of fakes.
+class PlayerTest : public testing::Test {
+protected:
+    PlayerTest()
+    {
+        folder = fs::temp_directory_path()
+            / ("zentaro-player-" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
+        fs::remove_all(folder);
+        fs::create_directories(folder);
+    }
+    ~PlayerTest() override { fs::remove_all(folder); }
+
+    std::string ConfigPath() const { return (folder / "Config.cfg").string(); }
+    std::optional<std::string> ConfigText() const { return platform::ReadTextFile(ConfigPath(), 100'000); }
+    void WriteConfig(const std::string& text) const { std::ofstream(ConfigPath(), std::ios::binary) << text; }
+
+    Player& Start(const std::string& commandLine = {})
+    {
+        HandOverService handOver{
+            [] { return Result<std::unique_ptr<platform::HandOverEnds>>(std::make_unique<FakeEnds>()); },
+            [this](const std::string& handle) { return handle == "4712" && otherPlayerLives; },
+            [this](const std::string& handle, const std::string& text) {
+                sent.push_back(handle + ":" + text);
+                otherPlayerLives = sendSucceeds;
+                return sendSucceeds;
+            },
+            [] { return std::unique_ptr<platform::HandOverLock>(); },
+        };
+        player = std::make_unique<Player>(PlayerWorld{ screen, engines, store, handOver, [] { return 0.0; },
+            [this] { ended = true; }, folder.string() + "/", folder.string() + "/", '/' });
+        isPlayer = player->Load(commandLine);
+        return *player;
+    }
+
+    fs::path folder;
+    FakeScreen screen;
+    FakeEngines engines;
+    FakeStore store;
+    std::unique_ptr<Player> player;
+    std::vector<std::string> sent;
+    bool otherPlayerLives = false;
+    bool sendSucceeds = true;
+    bool isPlayer = false;
+    bool ended = false;
+};
+
+constexpr const char* kCommandKey = "Software\\Quorvane Zentaro\\Setting:txtHwnd";
+constexpr const char* kProbeKey = "Software\\Quorvane Zentaro\\Setting:txtHwnd1";
+
+} // namespace
+
+TEST_F(PlayerTest, the_first_start_publishes_its_handles_and_makes_the_settings_file)
+{
+    Start();
+    EXPECT_TRUE(isPlayer);
+    EXPECT_EQ(store.values[kCommandKey], "4711");
+    EXPECT_EQ(store.values[kProbeKey], "4712");
+    EXPECT_EQ(ConfigText(), FormatConfigurations(player->Settings()));
+    EXPECT_TRUE(engines.trace.played.empty());
+}
+
+TEST_F(PlayerTest, a_messenger_shows_and_publishes_nothing)
+{
+    store.values = { { kCommandKey, "1" }, { kProbeKey, "4712" } };
+    otherPlayerLives = true;
+    Start("/clips/a.avi *Add");
+    EXPECT_FALSE(isPlayer);
+    EXPECT_EQ(sent, std::vector<std::string>{ "1:/clips/a.avi *Add" });
+    EXPECT_EQ(store.values[kCommandKey], "1");
+    EXPECT_EQ(screen.log.str().find("show"), std::string::npos);
+    EXPECT_EQ(engines.trace.mostAlive, 0);
+}
+
+TEST_F(PlayerTest, a_call_that_nobody_answers_makes_a_player)
+{
+    store.values = { { kCommandKey, "1" }, { kProbeKey, "4712" } };
+    otherPlayerLives = true;
+    sendSucceeds = false;
+    Start();
+    EXPECT_TRUE(isPlayer);
+    EXPECT_EQ(sent, std::vector<std::string>{ "4712:Hello" });
+    EXPECT_EQ(store.values[kCommandKey], "4711");
+}
+
+TEST_F(PlayerTest, the_files_of_starts_play_in_fresh_engines_one_at_a_time)
+{
+    auto settings = DefaultSettings("/", {});
+    settings.LaunchFullScreen = -1;
+    WriteConfig(FormatConfigurations(settings));
+    Start("/clips/a b.avi");
+    EXPECT_EQ(screen.caption, "Zentaro - (/clips/a b.avi)");
+    EXPECT_TRUE(screen.isFullScreen);
+    EXPECT_EQ(engines.trace.options[2], "snapshot-path=C:\\\\a b.avi Images");
+    player->Host().SetVolume(40);
+    player->Host().ToggleMute();
+    player->ReceiveText("");
+    player->ReceiveText("/clips/no media.txt");
+    EXPECT_EQ(engines.trace.played, (std::vector<std::string>{ "/clips/a b.avi", "/clips/no media.txt" }));
+    EXPECT_EQ(engines.trace.mostAlive, 1);
+    EXPECT_EQ(engines.trace.volume, 40);
+    EXPECT_TRUE(engines.trace.muted);
+    EXPECT_EQ(engines.trace.rateSet, 0); // a fresh engine runs at 1.0 by itself
+    EXPECT_TRUE(screen.isFullScreen);    // it survives the change of the item
+    EXPECT_NE(screen.log.str().find("flash pump 6"), std::string::npos);
+    player->PlayItem(static_cast<std::int16_t>(player->Entries().Count()), false);
+    player->PlayItem(-1, false);
+    EXPECT_EQ(engines.trace.played.size(), 2u);
+}
+
+TEST_F(PlayerTest, a_start_that_adds_plays_nothing_and_later_files_are_added_too)
+{
+    Start("/clips/a.avi *Add");
+    EXPECT_EQ(player->Entries().Count(), 1);
+    EXPECT_EQ(player->Entries().PathAt(0), "/clips/a.avi");
+    player->ReceiveText("/clips/b.avi");
+    EXPECT_EQ(player->Entries().Count(), 2);
+    EXPECT_TRUE(engines.trace.played.empty());
+}
+
+TEST_F(PlayerTest, a_damaged_file_is_replaced_and_one_without_a_default_folder_is_not)
+{
+    WriteConfig("English\r\n/home\r\n 1 \r\n");
+    Start();
+    EXPECT_EQ(ConfigText(), FormatConfigurations(player->Settings()));
+
+    auto settings = DefaultSettings("  ", {});
+    WriteConfig(FormatConfigurations(settings));
+    Start();
+    EXPECT_NE(player->Settings().DefaultFolder, "  ");
+    EXPECT_FALSE(player->Settings().DefaultFolder.empty());
+    EXPECT_EQ(ConfigText(), FormatConfigurations(settings));
+}
+
+TEST_F(PlayerTest, the_window_comes_back_as_it_was_remembered)
+{
+    auto settings = DefaultSettings("/", {});
+    settings.RememberLastPos = settings.RememberLastSize = settings.AlwaysOnTop = 1;
+    settings.WindowLeft = -1200;
+    settings.WindowWidth = 800;
+    WriteConfig(FormatConfigurations(settings));
+    Start();
+    EXPECT_TRUE(screen.log.str().starts_with("size 800x515 at -1200,")) << screen.log.str();
+    EXPECT_TRUE(screen.isTopmost);
+}
+
+TEST_F(PlayerTest, the_end_saves_where_the_window_is_unless_it_is_maximised)
+{
+    Start();
+    screen.left = -1200.5;
+    player->WindowResized(640, 480);
+    player->Unload();
+    EXPECT_TRUE(ended);
+    auto saved = *ParseConfigurations(*ConfigText());
+    EXPECT_EQ(saved.WindowLeft, -1200);
+    EXPECT_EQ(saved.WindowWidth, 640);
+
+    screen.maximized = true;
+    screen.left = 0;
+    player->WindowResized(1280, 800);
+    player->Unload();
+    saved = *ParseConfigurations(*ConfigText());
+    EXPECT_EQ(saved.WindowLeft, -1200);
+    EXPECT_EQ(saved.WindowWidth, 640);
+}
+
+TEST_F(PlayerTest, a_file_that_is_gone_or_read_only_at_the_end_stays_so)
+{
+    Start();
+    const auto before = ConfigText();
+    screen.left = 999;
+    fs::permissions(ConfigPath(), fs::perms::owner_read);
+    EXPECT_FALSE(player->WriteConfigurations());
+    EXPECT_EQ(ConfigText(), before);
+    fs::remove(ConfigPath());
+    EXPECT_FALSE(player->WriteConfigurations());
+    EXPECT_FALSE(fs::exists(ConfigPath()));
+}

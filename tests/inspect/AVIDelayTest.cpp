@@ -1,0 +1,211 @@
+#include "inspect/clsAVIDelay.h"
+#include "tests/inspect/AviBuilder.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <sstream>
+
+using namespace zentaro;
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kFailed = -1000;
+
+const std::string kMp3Frame = "\xFF\xFB\x90\x64";
+const std::string kAc3Frame = "\x0B\x77\x12\x34";
+
+/// The delays of a file's streams in one text; "failed" when it was refused.
+std::string Delays(const std::string& bytes)
+{
+    std::istringstream file(bytes);
+    clsAVIDelay avi;
+    if (!avi.OpenStream(file))
+        return "failed";
+    std::string text;
+    for (std::int32_t i = 0; i < avi.StreamCount(); ++i)
+        text += (i ? " " : "") + std::to_string(avi.StreamDelay(i));
+    return text;
+}
+
+int DelayOf(const AudioStream& stream, const std::string& movie)
+{
+    const auto text = Delays(AviBuilder().AddAudioStream(stream).Add(movie + Chunk("JUNK", Zeros(8))).File());
+    return text == "failed" ? kFailed : std::stoi(text);
+}
+
+/// A file of its own that goes with the test.
+class TemporaryFile {
+public:
+    explicit TemporaryFile(const std::string& name)
+        : m_path((fs::temp_directory_path() / (std::to_string(std::random_device()()) + name)).string())
+    {
+    }
+    ~TemporaryFile() { fs::remove(m_path); }
+    const std::string& Path() const { return m_path; }
+
+private:
+    std::string m_path;
+};
+
+} // namespace
+
+TEST(AVIDelay, a_cut_first_frame_delays_the_stream)
+{
+    const auto file = AviBuilder()
+                          .AddVideoStream()
+                          .AddAudioStream({})
+                          .Add(List("movi", Chunk("00dc", Zeros(99)) + Chunk("01wb", Zeros(417) + kMp3Frame)))
+                          .Add(Chunk("idx1", Zeros(16)))
+                          .File();
+    EXPECT_EQ(Delays(file), "-1 26"); // 417 bytes last 26.06 ms
+
+    std::istringstream stream(file);
+    clsAVIDelay avi;
+    EXPECT_TRUE(avi.OpenStream(stream));
+    EXPECT_FALSE(avi.StreamIsAudio(0));
+    EXPECT_TRUE(avi.StreamIsAudio(1));
+    EXPECT_FALSE(avi.StreamIsAudio(2));
+    EXPECT_EQ(avi.StreamDelay(-1), -1);
+}
+
+TEST(AVIDelay, each_format_has_its_own_frame_start)
+{
+    EXPECT_EQ(DelayOf({ .formatTag = 80 }, Chunk("00wb", Zeros(16) + kMp3Frame)), 1);
+    EXPECT_EQ(DelayOf({ .formatTag = 0x2000 }, Chunk("00wb", kMp3Frame + Zeros(12) + kAc3Frame)), 1);
+    EXPECT_EQ(DelayOf({}, Chunk("00wb", kAc3Frame + Zeros(12) + kMp3Frame)), 1);
+    EXPECT_EQ(DelayOf({}, Chunk("00wb", Zeros(16) + "\xFF\xFA\x90\x64")), -1) << "a frame with a CRC";
+    EXPECT_EQ(DelayOf({}, Chunk("00wb", "\xFF\xFF\xFB")), 0);
+    EXPECT_EQ(DelayOf({ .formatTag = 1 }, Chunk("00wb", kMp3Frame)), -1);
+}
+
+TEST(AVIDelay, a_search_goes_on_through_the_chunks_but_not_across_their_borders)
+{
+    // The padding byte of an odd chunk counts as data.
+    EXPECT_EQ(
+        DelayOf({}, Chunk("00wb", Zeros(15)) + Chunk("00wb", Zeros(32) + kMp3Frame) + Chunk("00wb", kMp3Frame)), 3);
+    EXPECT_EQ(DelayOf({}, Chunk("00wb", Zeros(15) + "\xFF") + Chunk("00wb", "\xFB\x90")), -1);
+    // Longer than the reader's window, with a frame that starts at its last byte.
+    for (std::size_t size = 32'600; size < 32'800; ++size) {
+        const auto delay = DelayOf({ .averageBytesPerSecond = 1000 }, Chunk("00wb", Zeros(size) + kMp3Frame));
+        ASSERT_EQ(delay, static_cast<int>(size));
+    }
+}
+
+TEST(AVIDelay, halves_of_a_millisecond_go_to_the_even_neighbour)
+{
+    EXPECT_EQ(DelayOf({}, Chunk("00wb", Zeros(8) + kMp3Frame)), 0);  // 0.5
+    EXPECT_EQ(DelayOf({}, Chunk("00wb", Zeros(24) + kMp3Frame)), 2); // 1.5
+    EXPECT_EQ(DelayOf({}, Chunk("00wb", Zeros(40) + kMp3Frame)), 2); // 2.5
+}
+
+TEST(AVIDelay, the_start_time_is_rate_over_scale_and_a_missing_number_is_1)
+{
+    EXPECT_EQ(DelayOf({ .scale = 4, .rate = 1, .start = 2 }, Chunk("00wb", Zeros(16) + kMp3Frame)), 501);
+    EXPECT_EQ(DelayOf({ .formatTag = 1, .scale = 4, .start = 2 }, Chunk("00wb", Zeros(4))), 499);
+    EXPECT_EQ(DelayOf({ .start = 2 }, Chunk("00wb", "")), 1999);
+    EXPECT_EQ(DelayOf({ .averageBytesPerSecond = 0 }, Chunk("00wb", Zeros(2) + kMp3Frame)), 2000);
+    EXPECT_EQ(DelayOf({ .rate = 0, .start = 3 }, Chunk("00wb", kMp3Frame)), 3000);
+}
+
+TEST(AVIDelay, a_stream_is_given_up_after_a_million_and_a_half_bytes)
+{
+    const auto block = Chunk("00wb", Zeros(500'000));
+    EXPECT_EQ(DelayOf({}, block + block + block), -1);
+    EXPECT_EQ(DelayOf({}, block + block + block + Chunk("00wb", kMp3Frame)), -2);
+    // What is found in the chunk that passes the limit is given up with it.
+    EXPECT_EQ(DelayOf({}, Chunk("00wb", kMp3Frame + Zeros(1'500'000))), -2);
+    EXPECT_EQ(DelayOf({}, Chunk("00wb", Zeros(800'000) + kMp3Frame)), -2);
+}
+
+TEST(AVIDelay, chunks_that_begin_behind_the_first_two_and_a_half_million_bytes_are_not_looked_at)
+{
+    const auto found = [](std::size_t fill) {
+        AviBuilder avi;
+        avi.AddAudioStream({});
+        const auto head = avi.File().size();
+        avi.Add(Chunk("JUNK", Zeros(fill - head - 8))).Add(Chunk("ISFT", "")).Add(Chunk("00wb", kMp3Frame));
+        return Delays(avi.Add(Chunk("JUNK", "tail")).File());
+    };
+    EXPECT_EQ(found(2'499'992), "0"); // the empty chunk's header ends exactly at the limit
+    EXPECT_EQ(found(2'499'994), "-1");
+}
+
+TEST(AVIDelay, other_files_and_cut_headers_are_refused)
+{
+    const auto avi = AviBuilder().AddAudioStream({});
+    EXPECT_EQ(Delays(avi.File("WAVE")), "failed");
+    EXPECT_EQ(Delays(""), "failed");
+    EXPECT_EQ(Delays("RIFF"), "failed");
+    EXPECT_EQ(Delays("RIFX" + avi.File().substr(4)), "failed");
+    EXPECT_EQ(Delays(avi.File().substr(0, 12)), "");
+    EXPECT_EQ(Delays(avi.File().substr(0, avi.File().size() - 24)), "-1") << "cut between chunks";
+    EXPECT_EQ(Delays(avi.File().substr(0, avi.File().size() - 4)), "failed") << "cut within a format";
+    EXPECT_EQ(Delays(AviBuilder().AddAudioStream({}).Add(Chunk("00wb", Zeros(64), 66)).File()), "failed");
+    EXPECT_EQ(Delays(AviBuilder().AddAudioStream({}).Add(Chunk("00dc", Zeros(64), 9999)).File()), "-1");
+}
+
+TEST(AVIDelay, what_has_no_meaning_is_refused)
+{
+    const auto data = [](const std::string& id) { return Chunk(id, kMp3Frame); };
+    EXPECT_EQ(DelayOf({}, data("0awb")), kFailed);
+    EXPECT_EQ(DelayOf({}, data(" 0wb")), kFailed);
+    EXPECT_EQ(DelayOf({}, data("01wb")), kFailed) << "no such stream";
+    EXPECT_EQ(DelayOf({ .scale = 0 }, data("00wb")), kFailed);
+    EXPECT_EQ(DelayOf({ .rate = 2'000'000'000, .start = 2 }, data("00wb")), kFailed) << "beyond 32 bits";
+    EXPECT_EQ(Delays(AviBuilder().Add(Chunk("strf", Zeros(16)) + Zeros(8)).File()), "failed")
+        << "a format of no stream";
+    EXPECT_EQ(DelayOf({ .scale = 0 }, ""), -1) << "a scale that nobody divides by";
+}
+
+TEST(AVIDelay, sizes_that_lead_nowhere_new_end_the_walk)
+{
+    const auto audio = Chunk("00wb", Zeros(32) + kMp3Frame);
+    for (const std::int64_t size : std::initializer_list<std::int64_t>{ -8, -9, -100, 2'147'483'647, 1'999'999'999 })
+        EXPECT_EQ(DelayOf({}, Chunk("JUNK", "", size) + audio), -1) << size;
+    // Before the file's first byte there is no place to go to: the next chunk follows the header.
+    EXPECT_EQ(DelayOf({}, Chunk("JUNK", "", -1'000'000) + audio), 2);
+    // A small step back leads into the chunk's own header: to its size's last two bytes, and on from there.
+    EXPECT_EQ(DelayOf({}, Chunk("JUNK", Zeros(2), -2) + audio), -1);
+    // Lists are entered whatever their size says; only an index is skipped.
+    EXPECT_EQ(DelayOf({}, "LIST" + Bytes(-2'147'483'648LL, 4) + "movi" + audio), 2);
+    EXPECT_EQ(DelayOf({}, "LIST" + Bytes(-100, 4) + "idx1" + audio), -1);
+    EXPECT_EQ(DelayOf({}, List("idx1", audio) + Chunk("00wb", kMp3Frame)), 0);
+}
+
+TEST(AVIDelay, endless_nesting_and_the_smallest_steps_are_quick)
+{
+    const auto start = std::chrono::steady_clock::now();
+    std::string nested;
+    while (nested.size() < 3'000'000)
+        nested += "LIST" + Bytes(-1, 4) + "LIST";
+    EXPECT_EQ(DelayOf({}, nested), -1);
+    // Chunks of size -7, each beginning one byte behind the one before.
+    EXPECT_EQ(Delays(AviBuilder().Add(std::string(2'600'000, '\xFF')).File()), "");
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+}
+
+TEST(AVIDelay, a_file_of_more_than_4_GB_is_read_at_its_beginning)
+{
+    const TemporaryFile file("zentaro-avi-large.avi");
+    const auto head = AviBuilder().AddAudioStream({}).Add(Chunk("00wb", Zeros(32) + kMp3Frame)).File();
+    std::ofstream(file.Path(), std::ios::binary) << head << "00dc" << Bytes(0x7FFFFFF0, 4);
+    fs::resize_file(file.Path(), 5'000'000'000);
+    clsAVIDelay avi;
+    EXPECT_TRUE(avi.OpenFile(file.Path()));
+    EXPECT_EQ(avi.StreamDelay(0), 2);
+    EXPECT_EQ(avi.FileName(), file.Path());
+
+    // An audio chunk of nearly 2 GB is not searched to its end.
+    std::ofstream(file.Path(), std::ios::binary)
+        << AviBuilder().AddAudioStream({}).File() << "00wb" << Bytes(0x7F000000, 4);
+    fs::resize_file(file.Path(), 5'000'000'000);
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_TRUE(avi.OpenFile(file.Path()));
+    EXPECT_EQ(avi.StreamDelay(0), -2);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(500));
+}

@@ -1,0 +1,376 @@
+#include "inspect/ModPipes.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+using namespace zentaro;
+using namespace std::chrono_literals;
+namespace fs = std::filesystem;
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// True once the condition holds, at the latest after the time that a test may lose on a busy machine.
+bool Eventually(const std::function<bool()>& condition)
+{
+    const auto end = Clock::now() + 5s;
+    while (!condition()) {
+        if (Clock::now() > end)
+            return false;
+        std::this_thread::sleep_for(2ms);
+    }
+    return true;
+}
+
+/// A process that has ended and been taken notice of by its parent, or waits for that.
+bool IsGone(pid_t pid)
+{
+    std::ifstream file("/proc/" + std::to_string(pid) + "/stat");
+    std::string stat((std::istreambuf_iterator<char>(file)), {});
+    const auto name = stat.rfind(')');
+    return name == std::string::npos || stat[name + 2] == 'Z' || stat[name + 2] == 'X';
+}
+
+std::size_t OpenDescriptors()
+{
+    return static_cast<std::size_t>(std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator()));
+}
+
+bool HasChildren()
+{
+    siginfo_t info{};
+    return ::waitid(P_ALL, 0, &info, WEXITED | WNOHANG | WNOWAIT) == 0;
+}
+
+class Runner : public testing::Test {
+protected:
+    Runner()
+    {
+        auto name = (fs::temp_directory_path() / "zentaro-runner-XXXXXX").string();
+        m_folder = ::mkdtemp(name.data());
+        context.programFolder = m_folder;
+    }
+    ~Runner() override { fs::remove_all(m_folder); }
+
+    std::string Path(const std::string& name) const { return m_folder + '/' + name; }
+    std::string Content(const std::string& name) const
+    {
+        std::ifstream file(Path(name), std::ios::binary);
+        return { std::istreambuf_iterator<char>(file), {} };
+    }
+    std::string WriteScript(const std::string& name, const std::string& text, bool executable = true) const
+    {
+        std::ofstream(Path(name)) << text;
+        fs::permissions(Path(name), executable ? fs::perms::owner_all : fs::perms::owner_read);
+        return Path(name);
+    }
+    /// Runs shell text as a tool; the log's content after the first line.
+    std::string Printed(const std::string& shellText, const std::vector<std::string>& arguments = {},
+        const std::string& workDir = "", std::int32_t priority = 2)
+    {
+        ToolCommand command{ "/bin/sh", { "-c", shellText, "tool" }, "sh" };
+        command.arguments.insert(command.arguments.end(), arguments.begin(), arguments.end());
+        const auto result = ExecuteAndCapture(command, Path("log"), 0, false, priority, workDir, context);
+        EXPECT_TRUE(result) << result.error().text;
+        const auto log = Content("log");
+        EXPECT_EQ(log.substr(0, 3), "sh\n");
+        return log.substr(std::min<std::size_t>(3, log.size()));
+    }
+    /// A pump that cancels once a file of that name has been written completely.
+    void CancelWhenThere(const std::string& name)
+    {
+        context.pumpMessages = [this, name] {
+            if (!context.CancelExecute && fs::exists(Path(name))) {
+                m_cancelled = Clock::now();
+                context.CancelExecute = -1;
+            }
+        };
+    }
+    auto SinceCancel() const { return Clock::now() - m_cancelled; }
+
+    ToolContext context;
+    std::string m_folder;
+    Clock::time_point m_cancelled;
+};
+
+} // namespace
+
+TEST_F(Runner, the_log_holds_the_text_and_then_the_bytes_of_both_streams)
+{
+    EXPECT_EQ(Printed("printf 'a\\r\\n\\000'; printf b >&2; printf 'c\\n'"), std::string("a\r\n\0bc\n", 7));
+    EXPECT_EQ(Printed(":"), "");
+}
+
+TEST_F(Runner, a_child_sees_its_arguments_unchanged_and_nothing_else_of_this_process)
+{
+    const std::vector<std::string> arguments{ "a \"b\" 'c'", "$HOME `id` *", "", "-n\n", "\xFF\xFE.avi" };
+    std::string expected;
+    for (const auto& argument : arguments)
+        expected += '[' + argument + ']';
+    EXPECT_EQ(Printed("printf '[%s]' \"$@\"", arguments), expected);
+
+    const int inheritable = ::dup(STDERR_FILENO); // without the close-on-exec flag
+    EXPECT_EQ(Printed("cd /proc/self/fd; echo *; read line || echo empty"), "0 1 2 3\nempty\n"); // 3 is echo's own
+    ::close(inheritable);
+
+    const auto earlier = std::signal(SIGPIPE, SIG_IGN);
+    EXPECT_EQ(Printed("kill -PIPE $$; echo 'still there'"), "");
+    std::signal(SIGPIPE, earlier);
+}
+
+TEST_F(Runner, the_child_works_in_the_given_or_in_the_current_folder)
+{
+    EXPECT_EQ(Printed("pwd -P", {}, m_folder), fs::canonical(m_folder).string() + '\n');
+    EXPECT_EQ(Printed("pwd -P"), fs::current_path().string() + '\n');
+    // A relative program stays relative to this process's folder.
+    const auto tool = WriteScript("tool", "#!/bin/sh\necho here\n");
+    const auto result =
+        ExecuteAndCapture({ fs::relative(tool).string(), {}, "t" }, Path("log"), 0, false, 2, "/", context);
+    EXPECT_TRUE(result);
+    EXPECT_EQ(Content("log"), "t\nhere\n");
+}
+
+TEST_F(Runner, a_hundred_megabytes_are_copied_quickly_and_not_held)
+{
+    rusage before{};
+    rusage after{};
+    ::getrusage(RUSAGE_SELF, &before);
+    const auto start = Clock::now();
+    const auto result =
+        ExecuteAndCapture({ "head", { "-c", "100000000", "/dev/zero" }, "" }, Path("log"), 0, false, 2, "", context);
+    EXPECT_TRUE(result);
+    EXPECT_LT(Clock::now() - start, 5s);
+    EXPECT_EQ(fs::file_size(Path("log")), 100'000'001u);
+    ::getrusage(RUSAGE_SELF, &after);
+    EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 20'000) << "KiB";
+}
+
+TEST_F(Runner, a_run_costs_no_waiting_beyond_the_tool_itself)
+{
+    const auto start = Clock::now();
+    for (int i = 0; i < 20; ++i)
+        Printed("echo x");
+    EXPECT_LT(Clock::now() - start, 20 * 30ms);
+}
+
+TEST_F(Runner, messages_are_pumped_while_a_tool_is_silent_or_has_closed_its_output)
+{
+    for (const char* tool : { "sleep 0.3; echo end", "echo end; exec >/dev/null 2>&1; sleep 0.3" }) {
+        int pumps = 0;
+        context.pumpMessages = [&] { ++pumps; };
+        EXPECT_EQ(Printed(tool), "end\n");
+        EXPECT_GE(pumps, 6);
+        EXPECT_LT(pumps, 50) << "the wait is a busy loop";
+    }
+}
+
+TEST_F(Runner, output_of_processes_that_the_tool_left_behind_is_waited_for)
+{
+    EXPECT_EQ(Printed("(sleep 0.2; echo late) & echo early"), "early\nlate\n");
+}
+
+TEST_F(Runner, a_tool_that_crashes_leaves_what_it_printed)
+{
+    EXPECT_EQ(Printed("echo before; kill -SEGV $$; echo after"), "before\n");
+}
+
+TEST_F(Runner, a_tool_that_cannot_be_started_is_error_2003_with_the_systems_code)
+{
+    WriteScript("log", "earlier");
+    const auto start = [&](const std::string& program, const std::string& workDir = "") {
+        return ExecuteAndCapture({ program, {}, "t" }, Path("log"), 0, false, 2, workDir, context).error();
+    };
+    const auto text = [](int code) { return "Could not create piped process. LastError " + std::to_string(code); };
+    EXPECT_EQ(start(Path("missing")), (Error{ 2003, text(ENOENT) }));
+    EXPECT_EQ(start("zentaro-no-such-tool"), (Error{ 2003, text(ENOENT) }));
+    EXPECT_EQ(start("/bin/sh", Path("missing")), (Error{ 2003, text(ENOENT) }));
+    EXPECT_EQ(start(m_folder), (Error{ 2003, text(EACCES) }));
+    EXPECT_EQ(start(WriteScript("plain", "#!/bin/sh\n", false)), (Error{ 2003, text(EACCES) }));
+    EXPECT_EQ(start(WriteScript("nonsense", "nonsense")), (Error{ 2003, text(ENOEXEC) }));
+    EXPECT_EQ(Content("log"), "earlier");
+}
+
+TEST_F(Runner, without_free_descriptors_there_is_no_pipe_and_that_is_error_2001)
+{
+    rlimit limit{};
+    ::getrlimit(RLIMIT_NOFILE, &limit);
+    rlimit none = limit;
+    none.rlim_cur = 3;
+    ::setrlimit(RLIMIT_NOFILE, &none);
+    const auto result = ExecuteAndCapture({ "true", {}, "t" }, Path("log"), 0, false, 2, "", context);
+    ::setrlimit(RLIMIT_NOFILE, &limit);
+    ASSERT_FALSE(result);
+    EXPECT_EQ(result.error(), (Error{ 2001, "Could not create pipe LastError " + std::to_string(EMFILE) }));
+}
+
+TEST_F(Runner, a_log_that_cannot_be_written_is_the_systems_error_and_ends_the_tool)
+{
+    const ToolCommand command{ "/bin/sh", { "-c", "echo $$ >\"$0\"; exec sleep 100", Path("pid") }, "t" };
+    const auto missing = ExecuteAndCapture(command, Path("no/log"), 0, false, 2, "", context);
+    ASSERT_FALSE(missing);
+    EXPECT_EQ(missing.error().number, ENOENT);
+    const auto full = ExecuteAndCapture({ "echo", { "x" }, "t" }, "/dev/full", 0, false, 2, "", context);
+    ASSERT_FALSE(full);
+    EXPECT_EQ(full.error().number, ENOSPC);
+    EXPECT_FALSE(HasChildren());
+}
+
+TEST_F(Runner, a_cancel_ends_a_stubborn_tool_and_its_children_within_100_ms)
+{
+    CancelWhenThere("ready");
+    const auto pids = Printed(
+        "trap '' TERM INT HUP; (trap '' TERM; echo $$; sh -c 'echo $PPID $$; touch ready; sleep 100'); sleep 100", {},
+        m_folder);
+    EXPECT_LT(SinceCancel(), 100ms);
+    std::istringstream list(pids);
+    int count = 0;
+    for (pid_t pid = 0; list >> pid; ++count)
+        EXPECT_TRUE(Eventually([&] { return IsGone(pid); })) << pid;
+    EXPECT_EQ(count, 3);
+    EXPECT_FALSE(HasChildren());
+}
+
+TEST_F(Runner, a_cancel_from_another_thread_ends_a_tool_that_prints_without_end)
+{
+    std::thread canceller([&] {
+        Eventually([&] { return fs::exists(Path("log")) && fs::file_size(Path("log")) > 100'000; });
+        m_cancelled = Clock::now();
+        context.CancelExecute = 1;
+    });
+    const auto printed = Printed("exec yes");
+    EXPECT_LT(SinceCancel(), 100ms);
+    canceller.join();
+    EXPECT_GT(printed.size(), 100'000u);
+}
+
+TEST_F(Runner, a_cancel_does_not_wait_for_a_process_that_left_the_group)
+{
+    CancelWhenThere("ready");
+    const auto pid = Printed("setsid sh -c 'echo $$; touch ready; exec sleep 100' & wait", {}, m_folder);
+    EXPECT_LT(SinceCancel(), 100ms);
+    ::kill(std::stoi(pid), SIGKILL);
+}
+
+TEST_F(Runner, a_cancel_reaches_what_a_tool_left_behind_in_its_group)
+{
+    CancelWhenThere("ready");
+    const auto pid = Printed("sh -c 'echo $$; sleep 0.1; touch ready; exec sleep 100' &", {}, m_folder);
+    EXPECT_LT(SinceCancel(), 100ms);
+    EXPECT_TRUE(Eventually([&] { return IsGone(std::stoi(pid)); }));
+}
+
+TEST_F(Runner, priorities_are_nice_values_at_the_start_and_later)
+{
+    const auto base = ::getpriority(PRIO_PROCESS, 0);
+    EXPECT_EQ(Printed("nice"), std::to_string(base) + '\n');
+    EXPECT_EQ(Printed("sleep 0.05; nice", {}, "", 3), std::to_string(std::max(base, 10)) + '\n');
+    EXPECT_EQ(Printed("sleep 0.05; nice", {}, "", 4), "19\n");
+    context.pumpMessages = [&, first = true]() mutable {
+        if (std::exchange(first, false))
+            context.PendingPriorityClass = platform::kIdlePriority;
+    };
+    EXPECT_EQ(Printed("sleep 0.1; nice"), "19\n");
+}
+
+TEST_F(Runner, the_shell_name_makes_the_shell_the_program)
+{
+    const ToolCommand command{ "tool", { "-c", "echo $0 $1", "a", "b" }, "t" };
+    EXPECT_TRUE(ExecuteAndCapture(command, Path("log"), 0, true, 2, "", context));
+    EXPECT_EQ(Content("log"), "t\na b\n");
+}
+
+TEST_F(Runner, runs_leave_no_descriptor_and_no_zombie_behind)
+{
+    const auto before = OpenDescriptors();
+    for (int i = 0; i < 5; ++i) {
+        Printed("echo x");
+        EXPECT_FALSE(ExecuteAndCapture({ Path("missing"), {}, "" }, Path("log"), 0, false, 2, "", context));
+        ToolCommand waited{ "true", {}, "" };
+        EXPECT_TRUE(ShellExecuteAndWait(waited, 0, true, false, context));
+        ToolCommand left{ "true", {}, "" };
+        EXPECT_TRUE(ShellExecuteAndWait(left, 0, false, false, context));
+    }
+    EXPECT_EQ(OpenDescriptors(), before);
+    EXPECT_TRUE(Eventually([] { return !HasChildren(); }));
+}
+
+TEST_F(Runner, a_process_that_has_its_children_reaped_by_the_system_can_run_tools_too)
+{
+    const auto earlier = std::signal(SIGCHLD, SIG_IGN);
+    EXPECT_EQ(Printed("echo x; sleep 0.05; echo y"), "x\ny\n");
+    std::signal(SIGCHLD, earlier);
+}
+
+TEST_F(Runner, two_runs_at_the_same_time_do_not_hold_each_others_stream)
+{
+    ToolContext other;
+    std::thread longRun([&] {
+        other.pumpMessages = [&] { other.CancelExecute = context.CancelShellWait.load(); };
+        EXPECT_TRUE(ExecuteAndCapture({ "sleep", { "100" }, "" }, Path("other"), 0, false, 2, "", other));
+    });
+    const auto start = Clock::now();
+    for (int i = 0; i < 20; ++i)
+        EXPECT_EQ(Printed("echo x"), "x\n");
+    EXPECT_LT(Clock::now() - start, 5s);
+    context.CancelShellWait = 1; // here only a flag between the threads
+    longRun.join();
+}
+
+TEST_F(Runner, a_shell_run_completes_a_bare_name_and_works_in_the_programs_folder)
+{
+    WriteScript("my tool", "#!/bin/sh\npwd -P > seen; printf '%s' \"$1\" >> seen\n");
+    ToolCommand command{ "my tool", { "a 'b'" }, "" };
+    EXPECT_TRUE(ShellExecuteAndWait(command, 0, true, true, context));
+    EXPECT_EQ(command.program, Path("my tool"));
+    EXPECT_EQ(Content("seen"), fs::canonical(m_folder).string() + "\na 'b'");
+
+    ToolCommand searched{ "true", {}, "" };
+    EXPECT_TRUE(ShellExecuteAndWait(searched, 0, true, true, context));
+    EXPECT_EQ(fs::path(searched.program).filename(), "true");
+    EXPECT_TRUE(fs::path(searched.program).is_absolute());
+
+    ToolCommand missing{ "ffmpeg.exe", {}, "" };
+    EXPECT_FALSE(ShellExecuteAndWait(missing, 0, true, true, context));
+    EXPECT_EQ(missing.program, Path("ffmpeg.exe"));
+    for (const char* file : { "c:tool.exe", "sub/tool.exe", "sub\\tool.exe" }) {
+        ToolCommand hasPath{ file, {}, "" };
+        EXPECT_FALSE(ShellExecuteAndWait(hasPath, 0, true, true, context));
+        EXPECT_EQ(hasPath.program, file);
+    }
+}
+
+TEST_F(Runner, a_waiting_shell_run_pumps_and_can_be_cancelled)
+{
+    int pumps = 0;
+    context.pumpMessages = [&] { context.CancelShellWait = ++pumps == 5; };
+    ToolCommand command{ "/bin/sh", { "-c", "trap '' TERM; sleep 100" }, "" };
+    const auto start = Clock::now();
+    EXPECT_TRUE(ShellExecuteAndWait(command, 0, true, true, context));
+    EXPECT_EQ(pumps, 5);
+    EXPECT_LT(Clock::now() - start, 1s);
+    EXPECT_FALSE(HasChildren());
+}
+
+TEST_F(Runner, a_tool_is_taken_from_the_program_folder_before_the_search_path)
+{
+    EXPECT_TRUE(fs::path(FindTool("head", m_folder)).is_absolute());
+    WriteScript("head", "", false);
+    EXPECT_NE(FindTool("head", m_folder), Path("head")) << "may not be executed";
+    fs::remove(Path("head"));
+    WriteScript("head", "");
+    EXPECT_EQ(FindTool("head", m_folder), Path("head"));
+    EXPECT_EQ(FindTool("head", m_folder + '/'), Path("head"));
+    EXPECT_EQ(FindTool("zentaro-no-such-tool", m_folder), "zentaro-no-such-tool");
+    EXPECT_EQ(FindTool("./head", m_folder), "./head");
+}

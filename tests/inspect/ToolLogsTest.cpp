@@ -1,0 +1,178 @@
+#include "inspect/MpegReport.h"
+#include "inspect/ReportParser.h"
+#include "inspect/TextValues.h"
+#include "inspect/ToolDialect.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <sstream>
+
+using namespace zentaro;
+
+// Every log that was captured from a build of ffmpeg or mpgtx, against what the libraries say about the same file.
+
+namespace {
+
+using Row = std::map<std::string, std::string>;
+
+// Beside the test program, wherever that is run from.
+std::filesystem::path g_logs;
+
+std::string ReadWhole(const std::filesystem::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return { std::istreambuf_iterator<char>(file), {} };
+}
+
+std::vector<std::string> SplitAtTabs(std::string_view line)
+{
+    std::vector<std::string> cells;
+    std::istringstream text{ std::string(line) };
+    for (std::string cell; std::getline(text, cell, '\t');)
+        cells.push_back(cell);
+    return cells;
+}
+
+std::vector<Row> ReadTable(const std::string& name)
+{
+    const auto text = ReadWhole(g_logs / name);
+    std::string_view rest = text;
+    const auto header = SplitAtTabs(NextLine(rest).value_or(""));
+    std::vector<Row> rows;
+    while (const auto line = NextLine(rest)) {
+        const auto cells = SplitAtTabs(*line);
+        auto& row = rows.emplace_back();
+        for (std::size_t i = 0; i < header.size() && i < cells.size(); ++i)
+            row[header[i]] = cells[i];
+    }
+    return rows;
+}
+
+/// Collects what differs in one log.
+class Comparison {
+public:
+    void Number(const std::string& what, double is, const std::string& expected, double tolerance)
+    {
+        if (expected != "*" && std::abs(is - (expected == "-" ? 0 : std::stod(expected))) > tolerance)
+            m_differences << "  " << what << " is " << is << ", not " << expected << "\n";
+    }
+
+    void Text(const std::string& what, const std::string& is, const std::string& expected)
+    {
+        if (expected != "*" && is != expected)
+            m_differences << "  " << what << " is " << is << ", not " << expected << "\n";
+    }
+
+    std::string Differences() const { return m_differences.str(); }
+
+private:
+    std::ostringstream m_differences;
+};
+
+void CompareStream(Comparison& comparison, const StreamInfo& info, const StreamHint& hint, Row row, bool oldTool)
+{
+    const bool video = row["row"] == "video";
+    comparison.Number("type", info.Type, video ? "2" : "1", 0);
+    comparison.Number("index", info.Index, row["index"].substr(0, 1), 0);
+    comparison.Number("whole number", hint.number, row["index"], 0);
+    comparison.Text("codec", info.Compression, row["codec"]);
+    comparison.Number("bit rate", info.BitRate, row["kbps"], 0);
+    if (video) {
+        comparison.Number("width", info.Width, row["width"], 0);
+        comparison.Number("height", info.Height, row["height"], 0);
+        comparison.Number("rate", static_cast<double>(info.FPS), row["fps"], 0.0051);
+        if (!oldTool) // which prints it for few files, and for some that the library has none for
+            comparison.Number("aspect", static_cast<double>(hint.displayAspect), row["dar"], 0.001);
+    } else {
+        comparison.Number("channels", info.Channels, row["channels"] == "5" ? "6" : row["channels"], 0);
+        comparison.Number("sample rate", info.SampleRate, row["rate"], 0);
+    }
+}
+
+std::string Differences(const std::string& log, const std::vector<Row>& rows)
+{
+    const CodecNames plain;
+    const auto classic = ToClassicReport(ReadWhole(g_logs / log), "", "");
+    auto report = ParseReport(classic.text, "file", plain, plain);
+    Comparison comparison;
+    std::vector<Row> kept;
+    for (auto row : rows) {
+        if (row["row"] == "file") {
+            comparison.Text("verdict", report.error.empty() ? "ok" : report.error, row["verdict"]);
+            if (row["verdict"] != "ok")
+                return comparison.Differences();
+            comparison.Number("duration", static_cast<double>(report.duration), row["rule_duration"], 0.01);
+            comparison.Number("start", static_cast<double>(report.startTime), row["start"], 0.0011);
+        } else if (row["kept"] == "yes") {
+            kept.push_back(row);
+        }
+    }
+    PruneVideoStreams(report.streams);
+    comparison.Number("number of streams", static_cast<double>(report.streams.size()), std::to_string(kept.size()), 0);
+    for (std::size_t i = 0; i < std::min(kept.size(), report.streams.size()); ++i)
+        CompareStream(
+            comparison, report.streams[i].info, classic.streams[report.streams[i].line], kept[i], classic.classicTool);
+    return comparison.Differences();
+}
+
+/// Square pixels can be written as a code of their own or as the display's shape that follows from them.
+float ShapeOf(const std::string& size)
+{
+    return static_cast<float>(std::stod(size) / std::stod(size.substr(size.find('x') + 1)));
+}
+
+std::string MpegDifferences(const std::string& log, Row row)
+{
+    const bool film = row["fps"] != "-";
+    const auto facts =
+        ParseMpegReport(ToClassicMpegReport(ReadWhole(g_logs / log), "", "/media/clips/" + row["media"]));
+    Comparison comparison;
+    comparison.Number("rate", static_cast<double>(facts.frameRate), row["fps"], 0.0051);
+    if (row["kbps"] != "vbr")
+        comparison.Number("bit rate", facts.bitRate, row["kbps"], 5);
+    if (film && !(row["aspect_code"] == "1/1" && ShapeOf(row["size"]) == facts.aspect)) {
+        const auto slash = row["aspect_code"].find('/');
+        const double aspect = std::stod(row["aspect_code"]) / std::stod(row["aspect_code"].substr(slash + 1));
+        comparison.Number("aspect", static_cast<double>(facts.aspect), std::to_string(aspect), 0.001);
+    }
+    comparison.Text("interlaced", facts.interlaced ? "yes" : "no", film ? row["interlaced"] : "no");
+    return comparison.Differences();
+}
+
+} // namespace
+
+TEST(ToolLogs, every_report_of_every_build_is_read_as_the_libraries_see_the_file)
+{
+    std::map<std::string, std::vector<Row>> byLog;
+    for (auto& row : ReadTable("expected.tsv"))
+        byLog[row["log"]].push_back(row);
+    ASSERT_GT(byLog.size(), 1000U);
+    std::ostringstream failures;
+    for (const auto& [log, rows] : byLog)
+        if (const auto differences = Differences(log, rows); !differences.empty())
+            failures << log << "\n" << differences;
+    EXPECT_TRUE(failures.str().empty()) << failures.str();
+}
+
+TEST(ToolLogs, every_report_of_mpgtx_gives_the_film_of_the_file)
+{
+    const auto rows = ReadTable("expected-mpgtx.tsv");
+    ASSERT_GT(rows.size(), 10U);
+    std::ostringstream failures;
+    for (auto row : rows)
+        if (const auto differences = MpegDifferences(row["log"], row); !differences.empty())
+            failures << row["log"] << "\n" << differences;
+    EXPECT_TRUE(failures.str().empty()) << failures.str();
+}
+
+int main(int argc, char** argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    g_logs = std::filesystem::absolute(argv[0]).parent_path() / "tool-logs";
+    return RUN_ALL_TESTS();
+}

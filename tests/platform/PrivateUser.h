@@ -1,0 +1,49 @@
+#pragma once
+
+#include "tests/platform/WorkingFolder.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace zentaro::platform {
+
+/// Home, data and runtime folders of a test's own, so that it never meets the ones of whoever runs it.
+class PrivateUser : public testing::Test {
+protected:
+    PrivateUser()
+    {
+        for (const auto* name : { "HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR" }) {
+            const auto path = folder / name;
+            std::filesystem::create_directory(path);
+            std::filesystem::permissions(path, std::filesystem::perms::owner_all);
+            setenv(name, path.c_str(), 1);
+        }
+    }
+
+    std::string InRuntimeFolder(const std::string& name) const { return folder / "XDG_RUNTIME_DIR/zentaro/" + name; }
+
+    WorkingFolder folder;
+};
+
+/// Runs the function in a process of its own.
+template <class Function> pid_t StartProcess(Function function)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        function();
+        _exit(0);
+    }
+    return child;
+}
+
+inline int WaitForProcess(pid_t child)
+{
+    int status = 0;
+    waitpid(child, &status, 0);
+    return status;
+}
+
+} // namespace zentaro::platform

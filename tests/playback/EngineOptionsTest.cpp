@@ -1,0 +1,28 @@
+#include "playback/EngineOptions.h"
+
+#include <gtest/gtest.h>
+
+using namespace zentaro;
+
+TEST(EngineOptions, follow_the_settings_and_are_always_PNG)
+{
+    PlayerSettings settings;
+    settings.SnapshotPrefix = "Shot ";
+    EXPECT_EQ(OptionsFromSettings(settings),
+        (EngineOptions{ "overlay", "snapshot-prefix=Shot ", "snapshot-path=C:\\", "snapshot-format=PNG",
+            "snapshot-preview", "snapshot-sequential", "disable-screensaver", "snapshot-Width=640",
+            "snapshot-Height=480" }));
+    settings.SnapshotPreview = 0;
+    settings.DisableScreenSaver = 0;
+    settings.SnapshotPng = -1;
+    const auto options = OptionsFromSettings(settings);
+    EXPECT_EQ(options[3], "snapshot-format=PNG");
+    EXPECT_EQ(options[4], "no-snapshot-preview");
+    EXPECT_EQ(options[6], "no-disable-screensaver");
+}
+
+TEST(EngineOptions, each_file_has_a_snapshot_folder_of_its_own)
+{
+    EXPECT_EQ(WithSnapshotFolder({}, "D:\\Shots", "C:\\Music\\song one.mp3", '\\')[2],
+        "snapshot-path=D:\\Shots\\song one.mp3 Images");
+}

@@ -1,0 +1,98 @@
+#include "platform/Folders.h"
+#include "platform/StringStore.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+namespace zentaro::platform {
+namespace {
+
+using Root = StringStore::Root;
+
+class Registry : public testing::Test {
+protected:
+    ~Registry() override { RegDeleteTreeA(HKEY_CURRENT_USER, top.c_str()); }
+
+    /// What another program would find.
+    std::string Raw(const char* name, DWORD wantedType = REG_SZ) const
+    {
+        char text[100] = {};
+        DWORD size = sizeof text;
+        DWORD type = 0;
+        const auto status = RegGetValueA(HKEY_CURRENT_USER, key.c_str(), name, RRF_RT_ANY, &type, text, &size);
+        return status == ERROR_SUCCESS && type == wantedType ? std::string(text, size) : "missing";
+    }
+
+    std::string title = "Zentaro Test " + std::to_string(GetCurrentProcessId());
+    std::string top = "Software\\" + title;
+    std::string key = SettingsKey(title, "Setting");
+    std::unique_ptr<StringStore> store = StringStore::Open();
+};
+
+TEST_F(Registry, values_lie_under_their_names_as_plain_strings)
+{
+    ASSERT_TRUE(store->Write(Root::CurrentUser, key, "txtHwnd", "65566"));
+    ASSERT_TRUE(store->Write(Root::CurrentUser, key, "", "own value"));
+    EXPECT_EQ(key, "Software\\" + title + "\\Setting");
+    EXPECT_EQ(Raw("txtHwnd"), std::string("65566\0", 6));
+    EXPECT_EQ(Raw(nullptr), std::string("own value\0", 10));
+}
+
+TEST_F(Registry, gives_back_texts_of_any_language_and_length)
+{
+    const std::string texts[] = { "", "C:\\Clips\\Ä 日本 😀.avi", std::string(255, 'x'), std::string(256, 'y'),
+        std::string(20'000, 'z') };
+    for (const auto& text : texts) {
+        ASSERT_TRUE(store->Write(Root::CurrentUser, key, "Ä", text));
+        EXPECT_EQ(store->Read(Root::CurrentUser, key, "Ä", "fallback"), text);
+    }
+}
+
+TEST_F(Registry, what_is_missing_or_no_text_gives_the_fallback)
+{
+    EXPECT_EQ(store->Read(Root::CurrentUser, key, "txtHwnd", "-1"), "-1");
+    EXPECT_TRUE(store->Delete(Root::CurrentUser, key, "txtHwnd"));
+    ASSERT_TRUE(store->Write(Root::CurrentUser, key, "txtHwnd", "1"));
+    EXPECT_TRUE(store->Delete(Root::CurrentUser, key, "txtHwnd"));
+    EXPECT_TRUE(store->Delete(Root::CurrentUser, key, "txtHwnd"));
+    EXPECT_EQ(store->Read(Root::CurrentUser, key, "txtHwnd", "-1"), "-1");
+    const DWORD number = 7;
+    RegSetKeyValueA(HKEY_CURRENT_USER, key.c_str(), "number", REG_DWORD, &number, sizeof number);
+    RegSetKeyValueA(HKEY_CURRENT_USER, key.c_str(), "unended", REG_SZ, "abc", 3);
+    EXPECT_EQ(store->Read(Root::CurrentUser, key, "number", "-1"), "-1");
+    EXPECT_EQ(store->Read(Root::CurrentUser, key, "unended", "-1"), "abc");
+}
+
+TEST_F(Registry, the_root_of_classes_is_another_place)
+{
+    ASSERT_TRUE(store->Write(Root::ClassesRoot, ".zentarotest", "OldAss", "before"));
+    EXPECT_EQ(store->Read(Root::ClassesRoot, ".zentarotest", "OldAss", ""), "before");
+    EXPECT_EQ(store->Read(Root::CurrentUser, ".zentarotest", "OldAss", ""), "");
+    RegDeleteTreeA(HKEY_CLASSES_ROOT, ".zentarotest");
+}
+
+TEST(FoldersOnWindows, the_desktop_is_the_one_that_the_shell_names)
+{
+    char path[MAX_PATH] = {};
+    DWORD size = sizeof path;
+    const auto status =
+        RegGetValueA(HKEY_CURRENT_USER, "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders",
+            "Desktop", RRF_RT_REG_SZ, nullptr, path, &size);
+    EXPECT_EQ(DesktopFolder(), status == ERROR_SUCCESS ? path : "C:\\");
+}
+
+TEST(FoldersOnWindows, an_absolute_path_has_a_drive_or_a_server)
+{
+    for (const auto* path : { "C:\\a.avi", "c:/a.avi", "\\\\server\\share", "\\\\?\\C:\\a" })
+        EXPECT_TRUE(IsAbsolutePath(path)) << path;
+    for (const auto* path : { "", "a.avi", "C:a.avi", "\\a.avi", "C:", "\\\\" })
+        EXPECT_FALSE(IsAbsolutePath(path)) << path;
+}
+
+TEST(Manifest, makes_utf8_the_code_page)
+{
+    EXPECT_EQ(GetACP(), UINT{ CP_UTF8 });
+}
+
+} // namespace
+} // namespace zentaro::platform
