@@ -4,7 +4,10 @@
 #include "base/Paths.h"
 #include "platform/Folders.h"
 #include "platform/TextFile.h"
+#include "playlist/DroppedFiles.h"
+#include "playlist/OpenFiles.h"
 #include "shell/Caption.h"
+#include "shell/WindowLayout.h"
 
 #include <utility>
 
@@ -22,6 +25,7 @@ Player::Player(PlayerWorld world)
     : m_world(std::move(world))
     , m_host(m_world.engines)
     , m_playlist(m_world.random)
+    , m_adding(m_playlist, m_addingHost, m_world.inspections)
 {
     m_host.onFullScreen = [this](bool fullScreen) { m_world.screen.SetFullScreen(fullScreen); };
 }
@@ -35,10 +39,12 @@ bool Player::Load(const std::string& commandLine)
     platform::MarkPlayerRunning(kRunningMark);
     LoadConfigurations();
     m_world.screen.ShowIdle();
+    m_playlist.BuildOrder(m_settings.PlayMode);
     m_startup = ReadCommandLine(commandLine, &platform::PathExists);
     m_replaceOnOpen = m_startup.ReplaceOnOpen;
     if (!BecomePlayer())
         return false;
+    m_world.screen.SetPlaylistPosition(StoredDock());
     m_world.screen.ShowWindow();
     OpenStartupFile();
     m_starting = false;
@@ -107,6 +113,9 @@ void Player::OpenFromOutside(const std::string& path)
 
 void Player::Unload()
 {
+    if (std::exchange(m_ended, true))
+        return;
+    m_adding.Close();
     IgnoreFailure(WriteConfigurations());
     m_host.RemoveVLCPlayer();
     m_world.endProcess();
@@ -167,6 +176,19 @@ void Player::SetLoadedOptions()
     m_world.screen.SetTopmost(settings.AlwaysOnTop != 0);
     if (m_mediaControlsEnabled)
         ShowCaption();
+    if (m_world.screen.IsPlaylistVisible())
+        m_world.screen.SetPlaylistPosition(StoredDock());
+}
+
+PlaylistDock Player::StoredDock() const
+{
+    const auto position = m_settings.PlaylistPosition;
+    return position >= 0 && position <= 4 ? static_cast<PlaylistDock>(position) : PlaylistDock::Left;
+}
+
+void Player::cmdPlayListClick()
+{
+    m_world.screen.SetPlaylistPosition(m_world.screen.IsPlaylistVisible() ? PlaylistDock::Hidden : StoredDock());
 }
 
 void Player::WindowResized(int width, int height)
@@ -179,13 +201,210 @@ void Player::WindowResized(int width, int height)
 
 void Player::LoadThumb(const std::string& title, const std::string& path, bool playFlag, bool playNow)
 {
-    m_playlist.Append({ title, path, {}, {} });
-    if (playNow) {
-        const auto last = m_playlist.Count() - 1;
-        m_playlist.List().SetSelectedItem(last);
-        PlayItem(static_cast<std::int16_t>(last), playFlag);
+    const auto ticket = m_adding.Add({ { title, path, playFlag, playNow } });
+    // A file that is just being taken in waits for us below on the stack.
+    if (!m_adding.IsTaking())
+        m_world.screen.PumpUntil([&] { return !m_adding.IsPending(ticket); });
+}
+
+void Player::AddFiles(std::vector<AddRequest> requests)
+{
+    m_adding.Add(std::move(requests));
+}
+
+void Player::InspectionCompleted(int ticket, Inspection inspection)
+{
+    m_adding.Completed(ticket, std::move(inspection));
+}
+
+void Player::OpenFiles(bool addOnly)
+{
+    bool playNext = !addOnly;
+    for (const auto& answer : m_world.screen.AskForFiles(std::string(kOpenDialogTitle), OpenDialogFilter())) {
+        const auto files = ParseOpenFileResult(answer, m_world.separator);
+        if (!files)
+            continue;
+        std::vector<AddRequest> requests;
+        for (const auto& file : *files) {
+            const auto title = FileNamePart(file.key, m_world.separator);
+            requests.push_back({ title, file.path, false, std::exchange(playNext, false) });
+        }
+        AddFiles(std::move(requests));
     }
-    m_playlist.BuildOrder(m_settings.PlayMode);
+}
+
+void Player::DropOnList(const std::vector<std::string>& paths)
+{
+    AddPaths(paths, false);
+}
+
+void Player::DropOnVideo(const std::vector<std::string>& paths)
+{
+    AddPaths(paths, true);
+}
+
+void Player::AddPaths(const std::vector<std::string>& paths, bool playFirst)
+{
+    // A folder can hold a whole disk; the window stays alive while it is read.
+    const auto goOn = [&] {
+        m_world.screen.PumpMessages(1);
+        return !m_ended;
+    };
+    const auto files = DroppedMediaFiles(paths, m_world.separator, goOn);
+    if (!m_ended)
+        AddFiles(AddRequests(files, m_world.separator, playFirst));
+}
+
+void Player::ListClicked()
+{
+    m_playlist.OnClick(m_settings.PlayMode);
+}
+
+void Player::ListDoubleClicked()
+{
+    const auto index = m_playlist.DoubleClickedIndex();
+    if (!index)
+        return;
+    PlayItem(static_cast<std::int16_t>(*index), false);
+    m_world.screen.SetPlaylistPosition(PlaylistDock::Hidden);
+    m_playlist.MovePositionToSelected();
+}
+
+void Player::RemoveSelected()
+{
+    m_playlist.RemoveSelected();
+    m_world.screen.StateChanged();
+}
+
+void Player::RemoveAll()
+{
+    m_playlist.RemoveAll();
+    m_world.screen.StateChanged();
+}
+
+void Player::SetPlayMode(std::int32_t mode)
+{
+    m_settings.PlayMode = mode;
+    m_playlist.BuildOrder(mode);
+    m_world.screen.StateChanged();
+}
+
+void Player::SetRepeatMode(std::int32_t mode)
+{
+    m_settings.RepeatMode = mode;
+    m_world.screen.StateChanged();
+}
+
+void Player::CMDPlayClick()
+{
+    if (m_playlist.Count() == 0) {
+        OpenFiles(false);
+        return;
+    }
+    if (m_playlist.List().SelectedItem() < 0)
+        m_playlist.List().SetSelectedItem(0);
+    m_playlist.MovePositionToSelected();
+    PlayItem(static_cast<std::int16_t>(m_playlist.List().SelectedItem()), false);
+}
+
+void Player::CMDPauseClick()
+{
+    if (auto* const engine = m_host.VLCPlayer())
+        engine->TogglePause();
+}
+
+void Player::cmdStopClick()
+{
+    if (auto* const engine = m_host.VLCPlayer(); engine != nullptr && engine->ItemCount() > 0)
+        engine->Stop();
+    m_world.screen.ShowIdle();
+    EnableMediaControls(false);
+}
+
+void Player::cmdMuteClick()
+{
+    m_host.ToggleMute();
+    m_world.screen.StateChanged();
+}
+
+void Player::cmdFulScreenClick()
+{
+    m_host.SetFullScreen(true);
+}
+
+void Player::cmdNextClick()
+{
+    if (m_mediaControlsEnabled)
+        StepTo(m_playlist.StepNext());
+}
+
+void Player::cmdPreviousClick()
+{
+    if (m_mediaControlsEnabled)
+        StepTo(m_playlist.StepPrevious());
+}
+
+void Player::StepTo(std::optional<int> index)
+{
+    if (index)
+        PlayItem(static_cast<std::int16_t>(*index), false);
+}
+
+void Player::EnableMediaControls(bool enabled)
+{
+    m_mediaControlsEnabled = enabled;
+    if (!enabled)
+        m_playlist.List().SetPlayingItem(FancyListState::kNone);
+    m_world.screen.StateChanged();
+}
+
+void Player::OnPositionTick()
+{
+    EngineReading reading;
+    if (auto* const engine = m_host.VLCPlayer(); engine != nullptr && engine->ItemCount() > 0) {
+        reading.isLoaded = m_mediaControlsEnabled;
+        reading.state = engine->State();
+        reading.position = engine->Position();
+        reading.time = engine->Time();
+        reading.length = engine->Length();
+        reading.hasVideoOutput = reading.state >= Engine::kPlaying && engine->HasVideoOutput();
+    }
+    const auto tick = ReadPosition(reading, m_mediaControlsEnabled);
+    m_world.screen.ShowPosition(tick);
+    if (tick.hasEnded) {
+        EnableMediaControls(false);
+        ItemEnded(tick.hasFailed);
+    }
+}
+
+bool Player::IsRoundOfFailures() const
+{
+    return m_failuresInRow >= (m_settings.RepeatMode == kRepeatSingle ? 1 : m_playlist.Count());
+}
+
+void Player::ItemEnded(bool failed)
+{
+    m_failuresInRow = failed ? m_failuresInRow + 1 : 0;
+    if (failed && IsRoundOfFailures()) {
+        m_failuresInRow = 0;
+        cmdStopClick();
+        m_world.screen.ShowNote("Nothing in the playlist can be played");
+        return;
+    }
+    const auto next = m_playlist.OnEndOfItem(m_settings.PlayMode, m_settings.RepeatMode);
+    switch (next.action) {
+    case EndOfItem::Action::RestartSame:
+        cmdStopClick();
+        CMDPlayClick();
+        break;
+    case EndOfItem::Action::StopAndAfterPlay:
+        cmdStopClick();
+        break;
+    case EndOfItem::Action::Play:
+        // An index that a removal has left behind plays nothing.
+        PlayItem(static_cast<std::int16_t>(next.index), false);
+        break;
+    }
 }
 
 void Player::PlayItem(std::int16_t index, bool fullScreen)
@@ -201,7 +420,8 @@ void Player::PlayItem(std::int16_t index, bool fullScreen)
         engine->Play();
     }
     ShowCaption();
-    m_mediaControlsEnabled = true;
+    m_playlist.List().SetPlayingItem(index);
+    EnableMediaControls(true);
     m_rate = 1.0; // the value alone: a fresh engine runs at it
     m_world.screen.PumpMessages(kPumpsAfterPlay);
     if (fullScreen)

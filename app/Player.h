@@ -3,10 +3,13 @@
 #include "app/PlayerScreen.h"
 #include "app/StartUp.h"
 #include "base/PlayerSettings.h"
+#include "inspect/Inspection.h"
 #include "platform/HandOver.h"
 #include "platform/StringStore.h"
 #include "playback/EngineHost.h"
 #include "playback/EngineOptions.h"
+#include "playback/PositionTick.h"
+#include "playlist/AddQueue.h"
 #include "playlist/Playlist.h"
 
 #include <cstdint>
@@ -28,6 +31,7 @@ struct HandOverService {
 struct PlayerWorld {
     PlayerScreen& screen;
     EngineFactory& engines;
+    InspectionRunner& inspections; ///< results come back through Player::InspectionCompleted
     platform::StringStore& store;
     HandOverService handOver;
     RandomSource random; ///< uniform in [0, 1)
@@ -55,10 +59,43 @@ public:
     void SaveVLCOptions();
     void SetLoadedOptions();
 
-    /// Adds one file and, when `playNow`, plays it. `playFlag` asks for full screen.
+    /// Adds one file and, when `playNow`, plays it; returns when that is done, unless another file is just being taken
+    /// into the list: then it follows that one. `playFlag` asks for full screen.
     void LoadThumb(const std::string& title, const std::string& path, bool playFlag, bool playNow);
+    /// Adds files while the window stays usable.
+    void AddFiles(std::vector<AddRequest> requests);
+    void CancelAdding() { m_adding.Cancel(); }
+    void InspectionCompleted(int ticket, Inspection inspection);
+    /// Asks for files and adds them; the first one plays unless `addOnly`.
+    void OpenFiles(bool addOnly);
+    /// Files or folders were dropped: those that are no media are left out.
+    void DropOnList(const std::vector<std::string>& paths);
+    /// As above, and the first one plays.
+    void DropOnVideo(const std::vector<std::string>& paths);
+    void ListClicked();
+    void ListDoubleClicked();
+    void RemoveSelected();
+    void RemoveAll();
+
     /// Plays a playlist entry in a fresh engine; an index outside the list does nothing.
     void PlayItem(std::int16_t index, bool fullScreen);
+    void CMDPlayClick();
+    void CMDPauseClick();
+    void cmdStopClick();
+    void cmdMuteClick();
+    void cmdFulScreenClick();
+    /// Shows or hides the list.
+    void cmdPlayListClick();
+    void cmdNextClick();
+    void cmdPreviousClick();
+    void PBNormal() { SetPlayMode(kPlayNormal); }
+    void PBCont() { SetPlayMode(kPlayContinuous); }
+    void PBShuffle() { SetPlayMode(kPlayShuffle); }
+    /// kNoRepeat, kRepeatSingle or kRepeatAll. The order stays.
+    void SetRepeatMode(std::int32_t mode);
+    /// The position timer's tick, every 500 ms.
+    void OnPositionTick();
+
     /// A text has come from a later start.
     void ReceiveText(const std::string& text);
     /// The window has a new size in logical pixels, by the user's hand or by the settings.
@@ -67,18 +104,54 @@ public:
     const PlayerSettings& Settings() const { return m_settings; }
     Playlist& Entries() { return m_playlist; }
     EngineHost& Host() { return m_host; }
+    const InspectionState& Inspected() const { return m_inspected; }
     bool MediaControlsEnabled() const { return m_mediaControlsEnabled; }
     double PlaybackRate() const { return m_rate; }
     const std::string& CurrentItemPath() const { return m_currentItemPath; }
     const EngineOptions& ItemOptions() const { return m_options; }
 
 private:
+    /// What adding does to the player.
+    class Adding : public AddQueueHost {
+    public:
+        explicit Adding(Player& player)
+            : m_player(player)
+        {
+        }
+        void ShowNotice(const Notice& notice) override { m_player.m_world.screen.ShowNotice(notice); }
+        void PlayItem(int index, bool playFlag) override
+        {
+            m_player.PlayItem(static_cast<std::int16_t>(index), playFlag);
+        }
+        std::int32_t PlayMode() const override { return m_player.m_settings.PlayMode; }
+        void EntryAdded() override { m_player.m_world.screen.StateChanged(); }
+        void InspectionTaken(const Inspection& inspection) override
+        {
+            m_player.m_inspected.TakeOver(
+                { inspection.ok, inspection.errorText, inspection.mediaInfo, inspection.thumbnail, {} });
+        }
+        void AddProgressChanged(const AddProgress& progress) override
+        {
+            m_player.m_world.screen.ShowAddProgress(progress);
+        }
+
+    private:
+        Player& m_player;
+    };
+
     bool BecomePlayer();
     void Publish();
     void OpenStartupFile();
     void OpenFromOutside(const std::string& path);
     void UseSettings(const PlayerSettings& settings);
+    void AddPaths(const std::vector<std::string>& paths, bool playFirst);
+    void SetPlayMode(std::int32_t mode);
+    void StepTo(std::optional<int> index);
+    void ItemEnded(bool failed);
+    bool IsRoundOfFailures() const;
+    void EnableMediaControls(bool enabled);
     void ShowCaption();
+    PlaylistDock StoredDock() const;
     std::string ConfigPath() const;
 
     PlayerWorld m_world;
@@ -86,6 +159,9 @@ private:
     EngineOptions m_options;
     EngineHost m_host;
     Playlist m_playlist;
+    Adding m_addingHost{ *this };
+    AddQueue m_adding;
+    InspectionState m_inspected;
     StartupRequest m_startup;
     std::unique_ptr<platform::HandOverEnds> m_ends;
     std::string m_currentItemPath;
@@ -93,6 +169,8 @@ private:
     bool m_starting = false;
     bool m_replaceOnOpen = true;
     bool m_mediaControlsEnabled = false;
+    bool m_ended = false;
+    int m_failuresInRow = 0; // items that ended without having played
 };
 
 } // namespace zentaro

@@ -1,19 +1,15 @@
 #pragma once
 
 #include "app/ConfigFile.h"
+#include "playback/PositionTick.h"
+#include "playlist/AddQueue.h"
+#include "shell/WindowLayout.h"
 
+#include <functional>
 #include <string>
+#include <vector>
 
 namespace zentaro {
-
-/// A box that the user has to read.
-struct UserMessage {
-    enum class Icon { Information, Exclamation };
-    Icon icon = Icon::Exclamation;
-    std::string title = "Zentaro";
-    std::string text;
-    bool operator==(const UserMessage&) const = default;
-};
 
 /// What the player asks of its window. A test stands in for it.
 class PlayerScreen {
@@ -27,6 +23,7 @@ public:
     virtual double WindowTop() const = 0;  ///< twips
 
     virtual void ShowWindow() = 0;
+    virtual void CloseWindow() = 0;
     virtual void SetWindowSize(int width, int height) = 0; ///< logical pixels
     virtual void SetWindowPosition(int left, int top) = 0; ///< twips
     virtual void SetTopmost(bool topmost) = 0;
@@ -34,11 +31,27 @@ public:
     /// The whole text; the window shortens it to its width.
     virtual void ShowCaption(const std::string& text) = 0;
     virtual void FlashCaption() = 0;
+
+    virtual void SetPlaylistPosition(PlaylistDock position) = 0;
+    virtual bool IsPlaylistVisible() const = 0;
+    virtual void ShowAddProgress(const AddProgress& progress) = 0;
+    virtual void ShowPosition(const PositionTick& tick) = 0;
     /// Back to what is shown while nothing is loaded: time, bar, audio logo.
     virtual void ShowIdle() = 0;
-    virtual void ShowMessage(const UserMessage& message) = 0;
+    /// The check marks, enabled commands and buttons are to be worked out anew.
+    virtual void StateChanged() = 0;
+
+    /// Shows a box and returns when it is closed.
+    virtual void ShowNotice(const Notice& notice) = 0;
+    /// Shows a short line in the window that goes by itself.
+    virtual void ShowNote(const std::string& text) = 0;
+    /// Asks for files, more than one at will. One text per folder, as ParseOpenFileResult reads it; none on cancel.
+    virtual std::vector<std::string> AskForFiles(const std::string& title, const std::string& filter) = 0;
+
     /// Lets waiting window messages be handled that many times.
     virtual void PumpMessages(int times) = 0;
+    /// Handles window messages until `done`.
+    virtual void PumpUntil(const std::function<bool()>& done) = 0;
 };
 
 } // namespace zentaro

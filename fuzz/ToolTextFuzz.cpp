@@ -48,9 +48,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ReadReport(classic.text, name, classic.streams.size());
     ReadReport(log, name, size + 1);
 
-    // What has become classic stays as it is.
-    const auto again = ToClassicReport("x\n" + classic.text, "", "");
-    Require(again.streams.size() == classic.streams.size());
+    // What has become classic is read once more with the same streams.
+    if (classic.text.starts_with("Input #0, "))
+        Require(ToClassicReport("x\n" + classic.text, "", "").streams.size() == classic.streams.size());
 
     ParseMpegReport(ToClassicMpegReport(log, "", name));
     ParseMpegReport(log);

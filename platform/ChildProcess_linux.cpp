@@ -175,7 +175,7 @@ int Spawn(const SpawnRequest& request, pid_t& pid)
     if (actions.Failure() != 0)
         return actions.Failure();
     const SpawnAttributes attributes;
-    return ::posix_spawnp(&pid, request.image, actions.Get(), attributes.Get(), arguments.data(), environ);
+    return ::posix_spawn(&pid, request.image, actions.Get(), attributes.Get(), arguments.data(), environ);
 }
 
 std::vector<std::string> WithProgram(const std::string& program, const std::vector<std::string>& arguments)
@@ -185,11 +185,13 @@ std::vector<std::string> WithProgram(const std::string& program, const std::vect
     return all;
 }
 
-/// The child changes its directory before it looks for the program: a relative path has to be made absolute here.
-std::string FromHere(const std::string& program)
+/// What is to be executed; empty, which is no file, for a bare name that is not found. The system's own search would
+/// report a folder of the search path that this user may not enter instead of the missing tool.
+std::string Image(const std::string& program)
 {
     if (program.find('/') == std::string::npos)
-        return program;
+        return FindTool(program, {}).value_or("");
+    // The child changes its directory first: a relative path means a place seen from here.
     std::error_code failure;
     const auto path = std::filesystem::absolute(program, failure);
     return failure ? program : path.string();
@@ -351,9 +353,9 @@ Result<std::unique_ptr<ChildProcess>> ChildProcess::Start(const ChildCommand& co
     Pipe pipe;
     if (const int failure = OpenPipe(pipe))
         return StartError(StartStep::Pipe, failure);
-    const auto program = FromHere(command.program);
-    const SpawnRequest request{ command.useShellName ? "/bin/sh" : program.c_str(),
-        WithProgram(command.program, command.arguments), command.workDir, pipe.writeEnd.Number() };
+    const auto image = command.useShellName ? "/bin/sh" : Image(command.program);
+    const SpawnRequest request{ image.c_str(), WithProgram(command.program, command.arguments), command.workDir,
+        pipe.writeEnd.Number() };
     pid_t pid = 0;
     if (const int failure = Spawn(request, pid))
         return StartError(StartStep::Process, failure);
@@ -365,9 +367,9 @@ Result<std::unique_ptr<ChildProcess>> ChildProcess::Start(const ChildCommand& co
 
 std::unique_ptr<StartedProcess> ShellStart(const ShellCommand& command)
 {
-    const auto program = FromHere(command.file);
+    const auto image = Image(command.file);
     pid_t pid = 0;
-    if (Spawn({ program.c_str(), WithProgram(command.file, command.arguments), command.folder, -1 }, pid) != 0)
+    if (Spawn({ image.c_str(), WithProgram(command.file, command.arguments), command.folder, -1 }, pid) != 0)
         return nullptr;
     if (command.detached)
         return std::make_unique<DetachedProcess>(pid);

@@ -11,7 +11,7 @@ char PathSeparator();
 /// True for a path that names a place of this system without a current folder.
 bool IsAbsolutePath(const std::string& path);
 
-/// The executable's folder, links resolved, without a trailing separator.
+/// The executable's folder, without a trailing separator; where the system tells, with links resolved.
 std::string ExecutableFolder();
 
 /// The folder that holds `Config.cfg`, without a trailing separator; created when missing. It is the executable's
@@ -31,9 +31,9 @@ std::string MakeWorkingFolder();
 /// Removes the folder and all that is in it; a failure is ignored.
 void RemoveFolder(const std::string& folder);
 
-/// The command line without the program's own name: on Windows as it was typed, elsewhere the arguments joined by one
-/// blank. An only argument that names an existing file by a relative path is made absolute, so that a running player
-/// of another folder understands it.
+/// The command line without the program's own name: on Windows as it was typed, elsewhere the given arguments (the
+/// name not among them) joined by one blank. There an argument that stands alone, or with "*Add" behind it, and names
+/// an existing file by a relative path is made absolute, so that a running player of another folder understands it.
 std::string CommandLineText(const std::vector<std::string>& arguments);
 
 } // namespace zentaro::platform

@@ -13,8 +13,10 @@ namespace zentaro::platform {
 /// answers that the player is alive. A handle is the decimal text of a number that is not 0.
 ///
 /// Windows: two hidden edit windows that receive WM_SETTEXT; a text that arrives while the handler runs nests in it.
-/// Linux: two sockets of this user in the runtime folder; texts are handled one after the other, in the order in which
-/// they were completely received, and the sender waits for its own.
+/// Linux: two sockets of this user in the runtime folder, served by Qt's event loop; texts are handled one after the
+/// other, in the order in which they were completely received, and the sender waits for its own.
+///
+/// The handler may destroy the object.
 class HandOverEnds {
 public:
     virtual ~HandOverEnds() = default;

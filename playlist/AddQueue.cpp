@@ -26,6 +26,7 @@ public:
             m_queue.m_host.PlayItem(index, playFlag);
     }
     std::int32_t PlayMode() const override { return m_queue.m_host.PlayMode(); }
+    void InspectionTaken(const Inspection& inspection) override { m_queue.m_host.InspectionTaken(inspection); }
     void EntryAdded() override
     {
         if (!m_queue.m_closed)
@@ -56,14 +57,16 @@ AddQueue::~AddQueue()
     Close();
 }
 
-void AddQueue::Add(std::vector<AddRequest> requests)
+int AddQueue::Add(std::vector<AddRequest> requests)
 {
+    const int last = m_firstTicket + static_cast<int>(m_jobs.size() + requests.size()) - 1;
     if (m_closed)
-        return;
+        return m_firstTicket - 1;
     m_total += static_cast<int>(requests.size());
     for (auto& request : requests)
         m_jobs.push_back({ std::move(request), JobState::Waiting, {} });
     Advance();
+    return last;
 }
 
 void AddQueue::Completed(int ticket, Inspection inspection)
@@ -158,6 +161,7 @@ void AddQueue::TakeFirst()
     Job job = std::move(m_jobs.front());
     m_jobs.pop_front();
     const int ticket = m_firstTicket++;
+    m_ticketInHand = ticket;
     if (job.state == JobState::Running) {
         --m_running;
         m_runner.Cancel(ticket);

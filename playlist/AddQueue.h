@@ -51,7 +51,12 @@ public:
     AddQueue(const AddQueue&) = delete;
     AddQueue& operator=(const AddQueue&) = delete;
 
-    void Add(std::vector<AddRequest> requests);
+    /// The ticket of the last request.
+    int Add(std::vector<AddRequest> requests);
+    /// False once the request with this ticket was taken into the list, refused or dropped.
+    bool IsPending(int ticket) const { return ticket >= m_firstTicket || (m_advancing && ticket == m_ticketInHand); }
+    /// True while a file is being taken into the list.
+    bool IsTaking() const { return m_advancing; }
     /// The result for a ticket of the runner; results nobody waits for any more are dropped.
     void Completed(int ticket, Inspection inspection);
     /// Leaves out the files that are not added yet, and shows the boxes that are gathered so far.
@@ -86,6 +91,7 @@ private:
     AddQueueLimits m_limits;
     std::deque<Job> m_jobs;
     int m_firstTicket = 0; // of the first job; the others follow in order
+    int m_ticketInHand = -1;
     int m_running = 0;
     int m_total = 0;
     int m_taken = 0;

@@ -134,6 +134,18 @@ void FancyListState::SetScrollValue(int value)
     Repaint();
 }
 
+void FancyListState::ScrollToRow(int row)
+{
+    if (row < 0 || row >= Count())
+        return;
+    const auto rect = RowRect(row);
+    if (rect.bottom > m_surfaceHeight)
+        SetScrollValue(m_scrollValue + rect.bottom - m_surfaceHeight);
+    // A row higher than the surface shows its top.
+    if (const int top = RowTop(row); top < 0)
+        SetScrollValue(m_scrollValue + top);
+}
+
 bool FancyListState::ScrollBarVisible() const
 {
     return RowsEnd() <= Count();

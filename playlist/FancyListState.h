@@ -98,6 +98,8 @@ public:
     int ScrollMax() const { return m_scrollMax; }
     /// The scroll bar was moved: repaints whatever `Refresh` says. Values outside the range take its nearest end.
     void SetScrollValue(int value);
+    /// Scrolls as little as it takes to show the whole row, and not at all when it is shown or names no row.
+    void ScrollToRow(int row);
     bool ScrollBarVisible() const;
     /// The bar at the right edge for a bar `width` pixels wide.
     ListRect ScrollBar(int width) const;

@@ -56,6 +56,7 @@ AddOutcome TryAppend(
         return AddOutcome::Duplicate;
     }
     const auto inspection = inspect();
+    host.InspectionTaken(inspection);
     for (const auto& notice : inspection.notices)
         host.ShowNotice(notice);
     if (!inspection.ok) {

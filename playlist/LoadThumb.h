@@ -50,6 +50,8 @@ public:
     virtual void ShowNotice(const Notice& notice) = 0;
     virtual void PlayItem(int index, bool playFlag) = 0;
     virtual std::int32_t PlayMode() const = 0;
+    /// This inspection counts from now on, whenever it ran.
+    virtual void InspectionTaken(const Inspection& inspection) = 0;
     /// A new entry stands in the list and the order: menus can be brought in line.
     virtual void EntryAdded() = 0;
 };

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstddef>
+#include <unordered_map>
 #include <unordered_set>
 
 namespace zentaro {
@@ -57,6 +59,38 @@ Result<std::vector<OpenedFile>> ParseOpenFileResult(std::string_view result, cha
             return files;
         rest.remove_prefix(end + 1);
     }
+}
+
+std::vector<std::string> OpenFileResults(const std::vector<std::string>& paths, char separator)
+{
+    std::vector<std::string> results;
+    std::vector<std::size_t> filesIn;
+    std::unordered_map<std::string, std::size_t> placeOfFolder;
+    for (const auto& path : paths) {
+        const auto name = FileNamePart(path, separator);
+        const auto folder = path.substr(0, path.size() - name.size());
+        const auto [place, isNew] = placeOfFolder.try_emplace(folder, results.size());
+        if (isNew) {
+            results.push_back(path);
+            filesIn.push_back(1);
+            continue;
+        }
+        auto& result = results[place->second];
+        // The second file of a folder turns a lone path into the folder and its names.
+        if (++filesIn[place->second] == 2)
+            result.insert(folder.size(), 1, '\0');
+        result.append(1, '\0').append(name);
+    }
+    return results;
+}
+
+std::vector<AddRequest> AddRequests(const std::vector<OpenedFile>& files, char separator, bool playFirst)
+{
+    std::vector<AddRequest> requests;
+    requests.reserve(files.size());
+    for (const auto& file : files)
+        requests.push_back({ FileNamePart(file.key, separator), file.path, false, playFirst && requests.empty() });
+    return requests;
 }
 
 } // namespace zentaro

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "playlist/LoadThumb.h"
 
 #include <string>
 #include <string_view>
@@ -23,5 +24,12 @@ struct OpenedFile {
 /// The dialog's answer is one path, or a folder followed by names, separated by NUL. A name that comes twice is an
 /// error, and none of the files counts.
 Result<std::vector<OpenedFile>> ParseOpenFileResult(std::string_view result, char separator);
+
+/// The answers that stand for the paths of a dialog which knows no such form: one for each folder, in order of its
+/// first file.
+std::vector<std::string> OpenFileResults(const std::vector<std::string>& paths, char separator);
+
+/// What adding the chosen files asks for; only the first one plays, and only with `playFirst`.
+std::vector<AddRequest> AddRequests(const std::vector<OpenedFile>& files, char separator, bool playFirst);
 
 } // namespace zentaro

@@ -1,5 +1,7 @@
 #include "shell/WindowLayout.h"
 
+#include "base/Numbers.h"
+
 namespace zentaro {
 
 namespace {
@@ -9,6 +11,51 @@ constexpr int kGripWidth = 64;
 constexpr int kGripHeight = 16;
 
 } // namespace
+
+Rect WindowLayout::ButtonRect(Button button) const
+{
+    const int top = PanelTop();
+    // Halves go to the even neighbour.
+    const int play = RoundHalfEven((m_width - 69) / 2.0);
+    switch (button) {
+    case Button::Play:
+        return { play, top + 60, 69, 83 };
+    case Button::Pause:
+        return { play + 69, top + 90, 35, 44 };
+    case Button::Stop:
+        return { play - 36, top + 90, 36, 47 };
+    case Button::FastForward:
+        return { m_width - 95, top + 64, 29, 37 };
+    case Button::Rewind:
+        return { 71, top + 65, 30, 37 };
+    case Button::Next:
+        return { m_width - 66, top + 63, 28, 34 };
+    case Button::Previous:
+        return { 42, top + 63, 29, 37 };
+    case Button::FullScreen:
+        return { m_width - 38, top + 32, 30, 39 };
+    case Button::Snapshot:
+        return { 6, top + 32, 29, 39 };
+    case Button::PlayList:
+        return { 8, m_height - 33, 25, 31 };
+    case Button::Dvd:
+        return { 45, m_height - 34, 25, 32 };
+    case Button::Open:
+        return { 85, m_height - 33, 26, 30 };
+    case Button::SoundOn:
+    case Button::SoundOff:
+        return { m_width - 104, m_height - 32, 23, 31 };
+    case Button::Minimize:
+        return { m_width - 76, 1, 22, 24 };
+    case Button::Maximize:
+        return { m_width - 53, 1, 23, 24 };
+    case Button::Close:
+        return { m_width - 30, 1, 23, 24 };
+    case Button::PushButton:
+        break;
+    }
+    return {};
+}
 
 WindowLayout::Edges WindowLayout::EdgesAt(int x, int y) const
 {

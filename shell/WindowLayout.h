@@ -6,6 +6,31 @@
 
 namespace zentaro {
 
+/// The skin's buttons by their fixed index.
+enum class Button {
+    Play,
+    Pause,
+    Stop,
+    FastForward,
+    Rewind,
+    Next,
+    Previous,
+    FullScreen,
+    Snapshot,
+    PlayList,
+    Dvd,
+    Open,
+    SoundOn,
+    SoundOff,
+    Minimize,
+    Maximize,
+    Close,
+    PushButton,
+};
+
+/// Values of `PlayerSettings::PlaylistPosition`; hidden is never stored.
+enum class PlaylistDock { Left, Right, Top, Bottom, Whole, Hidden };
+
 /// Where the parts of the main window lie, in pixels of its client area, for one client size. Painting, hit testing and
 /// the child widgets all ask here. Below the smallest size some rectangles have negative sizes and hold nothing.
 class WindowLayout {
@@ -24,11 +49,11 @@ public:
     }
 
     Rect TitleBar() const { return { 0, 0, m_width, 31 }; }
+    /// Where a button is drawn and takes the pointer. The two sound buttons share one place; the push-button face of
+    /// the dialogs has none here.
+    Rect ButtonRect(Button button) const;
     Rect Icon() const { return { 3, 3, 24, 24 }; }
     Rect Caption() const { return { 32, 3, m_width - 110, 24 }; }
-    Rect CloseButton() const { return { m_width - 30, 1, 23, 24 }; }
-    Rect MaximizeButton() const { return { m_width - 53, 1, 23, 24 }; }
-    Rect MinimizeButton() const { return { m_width - 76, 1, 22, 24 }; }
     Rect MenuStrip() const { return { 15, 31, m_width - 15, 26 }; }
     /// The splitter's place: the video and the playlist share it.
     Rect Content() const { return { 15, 57, m_width - 31, m_height - 204 }; }

@@ -181,6 +181,22 @@ TEST(FitThumbTest, DegeneratePicturesAndBoxesAreHarmless)
     EXPECT_EQ(list.VisibleRows().last, 0);
 }
 
+TEST_F(FancyListStateTest, ARowIsBroughtIntoViewByTheShortestWay)
+{
+    Add(20);
+    const auto valueAfter = [&](int row) {
+        list.ScrollToRow(row);
+        return list.ScrollValue();
+    };
+    EXPECT_EQ(valueAfter(5), 0);
+    EXPECT_EQ(valueAfter(6), 7 * 80 - 500);
+    EXPECT_EQ(valueAfter(1), 60);
+    EXPECT_EQ(valueAfter(0), 0);
+    EXPECT_EQ(valueAfter(20), 0);
+    list.SetSurfaceSize(300, 40);
+    EXPECT_EQ(valueAfter(3), 240);
+}
+
 TEST_F(FancyListStateTest, TheThumbOfTheScrollBarWalksItsWholeWay)
 {
     Add(500);

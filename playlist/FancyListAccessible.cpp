@@ -1,0 +1,188 @@
+#include "playlist/FancyListAccessible.h"
+
+#include "playlist/FancyList.h"
+
+#include <QPointer>
+
+#include <utility>
+
+namespace zentaro {
+
+namespace {
+
+/// One row. It names what stands at its place when it is asked, so rows may move up under it.
+class FancyListRow : public QAccessibleInterface, public QAccessibleActionInterface {
+public:
+    FancyListRow(FancyList& list, int row)
+        : m_list(&list)
+        , m_row(row)
+    {
+    }
+    int Number() const { return m_row; }
+
+    bool isValid() const override { return m_list && m_row < m_list->State().Count(); }
+    QObject* object() const override { return nullptr; }
+    QWindow* window() const override { return m_list ? m_list->window()->windowHandle() : nullptr; }
+    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(m_list); }
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+    QAccessible::Role role() const override { return QAccessible::ListItem; }
+    void setText(QAccessible::Text, const QString&) override { }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        if (!isValid())
+            return {};
+        const auto& state = m_list->State();
+        const auto& item = state.Item(m_row);
+        if (kind == QAccessible::Name) {
+            const auto title = QString::fromStdString(item.Text);
+            return state.PlayingItem() == m_row ? FancyList::tr("%1, playing").arg(title) : title;
+        }
+        return kind == QAccessible::Description ? QString::fromStdString(item.Detail) : QString();
+    }
+
+    QRect rect() const override
+    {
+        if (!isValid())
+            return {};
+        const auto row = m_list->State().RowRect(m_row);
+        return { m_list->mapToGlobal(QPoint(row.left, row.top)), QSize(row.Width(), row.Height()) };
+    }
+
+    QAccessible::State state() const override
+    {
+        QAccessible::State state;
+        if (!isValid()) {
+            state.invalid = true;
+            return state;
+        }
+        const auto visible = m_list->State().VisibleRows();
+        state.selectable = true;
+        state.selected = m_list->State().SelectedItem() == m_row;
+        state.focusable = true;
+        state.focused = state.selected && m_list->hasFocus();
+        state.offscreen = m_row < visible.first || m_row > visible.last;
+        return state;
+    }
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
+    }
+    QStringList actionNames() const override { return { pressAction() }; }
+    QStringList keyBindingsForAction(const QString&) const override { return {}; }
+    /// What a double click on the row does.
+    void doAction(const QString& name) override
+    {
+        if (name != pressAction() || !isValid())
+            return;
+        m_list->State().SetSelectedItem(m_row);
+        emit m_list->DblClick();
+    }
+
+private:
+    QPointer<FancyList> m_list;
+    int m_row;
+};
+
+QAccessibleInterface* Create(const QString&, QObject* object)
+{
+    auto* list = qobject_cast<FancyList*>(object);
+    return list ? new FancyListAccessible(*list) : nullptr;
+}
+
+} // namespace
+
+void FancyListAccessible::Install()
+{
+    static const bool installed = (QAccessible::installFactory(Create), true);
+    Q_UNUSED(installed);
+}
+
+void FancyListAccessible::TellRowsChanged(FancyList& list)
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleEvent changed(&list, QAccessible::ObjectReorder);
+    QAccessible::updateAccessibility(&changed);
+}
+
+void FancyListAccessible::TellSelectionChanged(FancyList& list)
+{
+    const int row = list.State().SelectedItem();
+    if (!QAccessible::isActive() || row < 0 || row >= list.State().Count())
+        return;
+    QAccessibleEvent selected(&list, QAccessible::Selection);
+    selected.setChild(row);
+    QAccessible::updateAccessibility(&selected);
+    QAccessibleEvent focused(&list, QAccessible::Focus);
+    focused.setChild(row);
+    if (list.hasFocus())
+        QAccessible::updateAccessibility(&focused);
+}
+
+FancyListAccessible::FancyListAccessible(FancyList& list)
+    : QAccessibleWidget(&list, QAccessible::List)
+{
+}
+
+FancyListAccessible::~FancyListAccessible()
+{
+    for (const auto& [row, id] : m_rows)
+        QAccessible::deleteAccessibleInterface(id);
+}
+
+int FancyListAccessible::childCount() const
+{
+    return List().State().Count() + QAccessibleWidget::childCount();
+}
+
+QAccessibleInterface* FancyListAccessible::child(int index) const
+{
+    const int rows = List().State().Count();
+    return index >= 0 && index < rows ? Row(index) : QAccessibleWidget::child(index - rows);
+}
+
+QAccessibleInterface* FancyListAccessible::childAt(int x, int y) const
+{
+    auto& list = List();
+    const auto at = list.mapFromGlobal(QPoint(x, y));
+    const bool onSurface =
+        at.x() >= 0 && at.x() < list.State().SurfaceWidth() && at.y() >= 0 && at.y() < list.State().SurfaceHeight();
+    const int row = onSurface ? list.State().RowAt(at.y()) : FancyListState::kNone;
+    return row != FancyListState::kNone ? Row(row) : QAccessibleWidget::childAt(x, y);
+}
+
+int FancyListAccessible::indexOfChild(const QAccessibleInterface* child) const
+{
+    if (const auto* row = dynamic_cast<const FancyListRow*>(child))
+        return row->Number();
+    const int widget = QAccessibleWidget::indexOfChild(child);
+    return widget < 0 ? widget : widget + List().State().Count();
+}
+
+QAccessibleInterface* FancyListAccessible::focusChild() const
+{
+    const int selected = List().State().SelectedItem();
+    if (List().hasFocus() && selected >= 0 && selected < List().State().Count())
+        return Row(selected);
+    return QAccessibleWidget::focusChild();
+}
+
+FancyList& FancyListAccessible::List() const
+{
+    return *static_cast<FancyList*>(widget());
+}
+
+QAccessibleInterface* FancyListAccessible::Row(int row) const
+{
+    auto [known, added] = m_rows.try_emplace(row, 0);
+    if (added)
+        known->second = QAccessible::registerAccessibleInterface(new FancyListRow(List(), row));
+    return QAccessible::accessibleInterface(known->second);
+}
+
+} // namespace zentaro

@@ -1,0 +1,189 @@
+#include "playlist/FancyListPainter.h"
+
+#include "base/Numbers.h"
+
+#include <QFontMetrics>
+#include <QPainter>
+#include <QStringTokenizer>
+
+#include <algorithm>
+
+namespace zentaro {
+
+namespace {
+
+constexpr int kDetailGap = 4;
+
+QRect ToQRect(const ListRect& rect)
+{
+    return { rect.left, rect.top, rect.Width(), rect.Height() };
+}
+
+QColor Mixed(const QColor& from, const QColor& to, double share)
+{
+    const auto part = [&](int a, int b) { return RoundHalfEven(a + (b - a) * share); };
+    return { part(from.red(), to.red()), part(from.green(), to.green()), part(from.blue(), to.blue()) };
+}
+
+QColor Faded(QColor color, double alpha)
+{
+    color.setAlphaF(static_cast<float>(alpha));
+    return color;
+}
+
+// Shaping thousands of characters that no screen can show would make a paint slow.
+QString Paintable(QStringView line, int width)
+{
+    auto length = std::min<qsizetype>(line.size(), std::max(256, width));
+    if (length < line.size() && line[length].isLowSurrogate())
+        --length;
+    auto text = line.first(length).toString();
+    for (auto& c : text) {
+        if (c.category() == QChar::Other_Control || c.category() == QChar::Separator_Line
+            || c.category() == QChar::Separator_Paragraph)
+            c = u' ';
+    }
+    return text;
+}
+
+QString WithPlainLineEnds(QString text)
+{
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    text.replace(u'\r', u'\n');
+    return text;
+}
+
+} // namespace
+
+QFont FancyListFont(int height)
+{
+    QFont font;
+    font.setFamilies({ "Inter", "Segoe UI", "Noto Sans", "DejaVu Sans", font.defaultFamily() });
+    font.setWeight(QFont::Normal);
+    font.setPixelSize(std::max(1, height));
+    while (font.pixelSize() > 1 && QFontMetrics(font).height() > height)
+        font.setPixelSize(font.pixelSize() - 1);
+    return font;
+}
+
+FancyListPainter::FancyListPainter(
+    QPainter& painter, const FancyListState& state, const FancyListLook& look, ThumbCache& thumbs)
+    : m_painter(painter)
+    , m_state(state)
+    , m_look(look)
+    , m_thumbs(thumbs)
+{
+}
+
+void FancyListPainter::Paint()
+{
+    m_painter.fillRect(0, 0, m_state.SurfaceWidth(), m_state.SurfaceHeight(), m_look.palette.color(QPalette::Window));
+    const auto rows = m_state.VisibleRows();
+    for (int row = rows.first; row <= rows.last; ++row)
+        PaintRow(row);
+    if (m_state.ScrollBarVisible())
+        PaintScrollBar();
+    if (m_look.focusFrame)
+        PaintFocusFrame();
+}
+
+void FancyListPainter::PaintRow(int row)
+{
+    const auto& item = m_state.Item(row);
+    const bool selected = row == m_state.SelectedItem();
+    const auto background = m_look.palette.color(selected ? QPalette::Highlight : QPalette::Window);
+    const auto text = m_look.palette.color(selected ? QPalette::HighlightedText : QPalette::ButtonText);
+    auto area = ToQRect(m_state.RowRect(row));
+    area.setHeight(area.height() - 1);
+    if (!selected)
+        m_painter.fillRect(0, area.bottom() + 1, area.width(), 1, m_look.palette.color(QPalette::Button));
+    m_painter.fillRect(area, background);
+    if (!item.Pic.IsEmpty() && m_state.Thumbnails())
+        RenderThumb(item.Pic, m_state.ImageRect(row));
+    PaintText(item, m_state.TextRect(row), text, Mixed(text, background, 0.38));
+    if (row == m_state.PlayingItem())
+        PaintPlayingMark(row);
+}
+
+void FancyListPainter::RenderThumb(const Picture& picture, const ListRect& box)
+{
+    if (!m_state.NoThumbBlack())
+        m_painter.fillRect(ToQRect(box), Qt::black);
+    const auto place = FancyListState::FitThumb(picture.Width(), picture.Height(), box);
+    const auto ratio = m_painter.device()->devicePixelRatioF();
+    auto image =
+        m_thumbs.Scaled(picture, { RoundHalfEven(place.Width() * ratio), RoundHalfEven(place.Height() * ratio) });
+    if (image.isNull())
+        return;
+    image.setDevicePixelRatio(ratio);
+    m_painter.drawImage(QPoint(place.left, place.top), image);
+}
+
+void FancyListPainter::PaintText(
+    const FancyListItem& item, const ListRect& rect, const QColor& color, const QColor& dimmed)
+{
+    if (rect.Width() <= 0 || rect.Height() <= 0)
+        return;
+    m_painter.save();
+    m_painter.setClipRect(ToQRect(rect), Qt::IntersectClip);
+    m_painter.setPen(color);
+    m_painter.setFont(m_look.font);
+    const QFontMetrics metrics(m_look.font);
+    int top = rect.top;
+    const auto title = WithPlainLineEnds(QString::fromStdString(item.Text));
+    for (const auto line : qTokenize(title, u'\n')) {
+        if (top >= rect.bottom)
+            break;
+        m_painter.drawText(QPoint(rect.left, top + metrics.ascent()), Paintable(line, rect.Width()));
+        top += metrics.height();
+    }
+    if (!item.Detail.empty() && top < rect.bottom) {
+        m_painter.setPen(dimmed);
+        m_painter.setFont(m_look.detailFont);
+        const auto baseline = top + kDetailGap + QFontMetrics(m_look.detailFont).ascent();
+        m_painter.drawText(QPoint(rect.left, baseline), Paintable(QString::fromStdString(item.Detail), rect.Width()));
+    }
+    m_painter.restore();
+}
+
+// A bar at the left edge, and a small play sign in the thumbnail's corner.
+void FancyListPainter::PaintPlayingMark(int row)
+{
+    const auto area = m_state.RowRect(row);
+    const int inset = std::max(0, m_state.Padding());
+    m_painter.save();
+    m_painter.setRenderHint(QPainter::Antialiasing);
+    m_painter.setPen(Qt::NoPen);
+    m_painter.setBrush(QColor(kWarmLight));
+    m_painter.drawRoundedRect(QRectF(-3, area.top + inset, 6, area.Height() - 2 * inset), 3, 3);
+    m_painter.restore();
+}
+
+void FancyListPainter::PaintScrollBar()
+{
+    const auto text = m_look.palette.color(QPalette::ButtonText);
+    const bool idle = m_look.scrollBar == ScrollBarLook::Normal;
+    const QColor thumb = m_look.scrollBar == ScrollBarLook::Press ? QColor(kWarmLight) : Faded(text, idle ? 0.24 : 0.5);
+    m_painter.save();
+    m_painter.setRenderHint(QPainter::Antialiasing);
+    m_painter.setPen(Qt::NoPen);
+    const auto paint = [&](const ListRect& rect, const QColor& color) {
+        const double inset = idle ? 2 : 1;
+        const auto bar = QRectF(ToQRect(rect)).adjusted(inset, 1, -inset, -1);
+        m_painter.setBrush(color);
+        m_painter.drawRoundedRect(bar, bar.width() / 2, bar.width() / 2);
+    };
+    if (!idle)
+        paint(m_state.ScrollBar(kScrollBarWidth), Faded(text, 0.07));
+    paint(m_state.ScrollThumb(kScrollBarWidth), thumb);
+    m_painter.restore();
+}
+
+void FancyListPainter::PaintFocusFrame()
+{
+    m_painter.setPen(QColor(kWarmLight));
+    m_painter.setBrush(Qt::NoBrush);
+    m_painter.drawRect(0, 0, m_state.SurfaceWidth() - 1, m_state.SurfaceHeight() - 1);
+}
+
+} // namespace zentaro

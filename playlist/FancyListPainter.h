@@ -1,0 +1,57 @@
+#pragma once
+
+#include "playlist/FancyListState.h"
+#include "playlist/ThumbCache.h"
+
+#include <QFont>
+#include <QPalette>
+
+class QPainter;
+
+namespace zentaro {
+
+/// The one warm light: progress, focus, the mark of the entry being played.
+inline constexpr QRgb kWarmLight = 0xFFFFB020;
+
+enum class ScrollBarLook { Normal, Over, Press };
+
+/// How a paint looks besides the state. Colours are the palette's Window, ButtonText, Button (separators), Highlight
+/// and HighlightedText.
+struct FancyListLook {
+    QPalette palette;
+    QFont font;
+    QFont detailFont;
+    ScrollBarLook scrollBar = ScrollBarLook::Normal;
+    bool focusFrame = false;
+};
+
+/// Width of the scroll bar in pixels.
+inline constexpr int kScrollBarWidth = 8;
+
+/// The list's two fonts: weight 400, of the given height in pixels from the highest to the lowest point of a line.
+QFont FancyListFont(int height);
+
+/// Draws the state's geometry as it is.
+class FancyListPainter {
+public:
+    FancyListPainter(QPainter& painter, const FancyListState& state, const FancyListLook& look, ThumbCache& thumbs);
+
+    /// The whole surface.
+    void Paint();
+    /// A picture fitted into a box; the box is filled black first unless `NoThumbBlack` is set.
+    void RenderThumb(const Picture& picture, const ListRect& box);
+
+private:
+    void PaintRow(int row);
+    void PaintText(const FancyListItem& item, const ListRect& rect, const QColor& color, const QColor& dimmed);
+    void PaintPlayingMark(int row);
+    void PaintScrollBar();
+    void PaintFocusFrame();
+
+    QPainter& m_painter;
+    const FancyListState& m_state;
+    const FancyListLook& m_look;
+    ThumbCache& m_thumbs;
+};
+
+} // namespace zentaro

@@ -1,0 +1,189 @@
+#include "inspect/ModPipes.h"
+#include "platform/PipeState_windows.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdio>
+#include <fcntl.h>
+#include <fstream>
+#include <io.h>
+#include <iterator>
+
+using namespace zentaro;
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string g_self; // this program, which is its own tool
+
+/// What this program does as a tool.
+int Child(const std::string& role, const std::vector<std::string>& arguments)
+{
+    ::_setmode(::_fileno(stdout), _O_BINARY);
+    if (role == "print") {
+        for (const auto& argument : arguments)
+            std::printf("[%s]", argument.c_str());
+        std::fflush(stdout);
+        std::fprintf(stderr, "end\n");
+    } else if (role == "priority") {
+        ::Sleep(std::stoul(arguments.at(0)));
+        std::printf("%lu", ::GetPriorityClass(::GetCurrentProcess()));
+    } else if (role == "folder") {
+        std::printf("%s", fs::current_path().string().c_str());
+    } else if (role == "fill") {
+        std::printf("%s", std::string(20'000, 'x').c_str());
+    } else if (role == "forever") {
+        std::printf("ready");
+        std::fflush(stdout);
+        ::Sleep(INFINITE);
+    } else if (role == "write") {
+        std::ofstream(arguments.at(0)) << fs::current_path().string() << '|' << arguments.at(1);
+    }
+    return 0;
+}
+
+BOOL WINAPI Refuse(HANDLE, LPDWORD, LPDWORD, LPDWORD)
+{
+    ::SetLastError(ERROR_INVALID_PARAMETER);
+    return FALSE;
+}
+
+BOOL WINAPI Accept(HANDLE, LPDWORD, LPDWORD, LPDWORD)
+{
+    ::SetLastError(7);
+    return TRUE;
+}
+
+class WindowsRunner : public testing::Test {
+protected:
+    WindowsRunner()
+    {
+        fs::create_directories(m_folder);
+        platform::SetPipeState = &Refuse;
+    }
+    ~WindowsRunner() override { fs::remove_all(m_folder); }
+
+    Result<void> Run(
+        const std::vector<std::string>& arguments, std::int32_t priority = 2, const std::string& workDir = "")
+    {
+        ToolCommand command{ g_self, { "--child" }, "text" };
+        command.arguments.insert(command.arguments.end(), arguments.begin(), arguments.end());
+        return ExecuteAndCapture(command, Log(), 0, false, priority, workDir, context);
+    }
+    std::string Printed(
+        const std::vector<std::string>& arguments, std::int32_t priority = 2, const std::string& workDir = "")
+    {
+        const auto result = Run(arguments, priority, workDir);
+        EXPECT_TRUE(result) << result.error().text;
+        const auto log = Content("log");
+        EXPECT_EQ(log.substr(0, 6), "text\r\n");
+        return log.substr(std::min<std::size_t>(6, log.size()));
+    }
+    std::string Log() const { return (m_folder / "log").string(); }
+    std::string Content(const std::string& name) const
+    {
+        std::ifstream file(m_folder / name, std::ios::binary);
+        return { std::istreambuf_iterator<char>(file), {} };
+    }
+
+    fs::path m_folder = fs::temp_directory_path() / ("zentaro runner " + std::to_string(::GetCurrentProcessId()));
+    ToolContext context;
+};
+
+} // namespace
+
+TEST_F(WindowsRunner, a_pipe_that_accepts_the_state_is_error_2002)
+{
+    platform::SetPipeState = &Accept;
+    const auto result = Run({ "print" });
+    ASSERT_FALSE(result);
+    EXPECT_EQ(result.error(), (Error{ 2002, "Could not set pipe state LastError 7" }));
+    EXPECT_FALSE(fs::exists(Log()));
+}
+
+TEST_F(WindowsRunner, arguments_arrive_unchanged_and_both_streams_are_captured)
+{
+    const std::vector<std::string> arguments{ "a b", "", "say \"hi\"", "C:\\My Files\\", "\\\\\"x", "tab\there", "*" };
+    auto run = std::vector<std::string>{ "print" };
+    std::string expected;
+    for (const auto& argument : arguments) {
+        run.push_back(argument);
+        expected += '[' + argument + ']';
+    }
+    EXPECT_EQ(Printed(run), expected + "end\r\n");
+    EXPECT_EQ(Printed({ "silent" }), "");
+    EXPECT_EQ(Printed({ "fill" }), std::string(20'000, 'x')) << "more than the pipe holds";
+}
+
+TEST_F(WindowsRunner, the_child_works_in_the_given_or_in_the_current_folder)
+{
+    EXPECT_EQ(Printed({ "folder" }, 2, m_folder.string()), m_folder.string());
+    EXPECT_EQ(Printed({ "folder" }), fs::current_path().string());
+}
+
+TEST_F(WindowsRunner, a_running_tool_takes_a_pending_priority_class)
+{
+    EXPECT_EQ(Printed({ "priority", "0" }), std::to_string(NORMAL_PRIORITY_CLASS));
+    context.pumpMessages = [&, first = true]() mutable {
+        if (std::exchange(first, false))
+            context.PendingPriorityClass = platform::kBelowNormalPriority;
+    };
+    EXPECT_EQ(Printed({ "priority", "300" }), std::to_string(BELOW_NORMAL_PRIORITY_CLASS));
+}
+
+TEST_F(WindowsRunner, a_missing_program_is_error_2003)
+{
+    const auto result = ExecuteAndCapture({ "C:\\no\\such.exe", {}, "t" }, Log(), 0, false, 2, "", context);
+    ASSERT_FALSE(result);
+    EXPECT_EQ(result.error().number, 2003);
+    EXPECT_EQ(result.error().text.substr(0, 41), "Could not create piped process. LastError");
+    EXPECT_FALSE(fs::exists(Log()));
+}
+
+TEST_F(WindowsRunner, a_silent_tool_can_be_cancelled_and_leaves_what_it_printed)
+{
+    int pumps = 0;
+    context.pumpMessages = [&] { context.CancelExecute = ++pumps > 8; };
+    EXPECT_EQ(Printed({ "forever" }), "ready");
+}
+
+TEST_F(WindowsRunner, a_shell_run_completes_a_bare_name_waits_and_can_be_cancelled)
+{
+    context.programFolder = fs::path(g_self).parent_path().string();
+    const auto seen = (m_folder / "seen").string();
+    ToolCommand command{ fs::path(g_self).filename().string(), { "--child", "write", seen, "a \"b\"\\" }, "" };
+    EXPECT_TRUE(ShellExecuteAndWait(command, 0, true, true, context));
+    EXPECT_EQ(fs::path(command.program), fs::path(g_self));
+    EXPECT_EQ(Content("seen"), context.programFolder + "|a \"b\"\\");
+
+    int pumps = 0;
+    context.pumpMessages = [&] { context.CancelShellWait = ++pumps == 5; };
+    ToolCommand forever{ g_self, { "--child", "forever" }, "" };
+    EXPECT_TRUE(ShellExecuteAndWait(forever, 0, true, true, context));
+    EXPECT_EQ(pumps, 5);
+
+    ToolCommand missing{ "zentaro-no-such-tool", {}, "" };
+    EXPECT_FALSE(ShellExecuteAndWait(missing, 0, true, true, context));
+    EXPECT_EQ(missing.program, context.programFolder + "\\zentaro-no-such-tool");
+}
+
+TEST_F(WindowsRunner, a_tool_is_taken_from_the_program_folder_before_the_search_path)
+{
+    const auto inPath = FindTool("cmd", m_folder.string());
+    EXPECT_TRUE(fs::path(inPath).is_absolute()) << inPath;
+    std::ofstream(m_folder / "cmd.exe") << "x";
+    EXPECT_EQ(FindTool("cmd", m_folder.string()), (m_folder / "cmd.exe").string());
+    EXPECT_EQ(FindTool("c:cmd.exe", m_folder.string()), "c:cmd.exe");
+}
+
+int main(int argc, char** argv)
+{
+    if (argc > 2 && std::string(argv[1]) == "--child")
+        return Child(argv[2], { argv + 3, argv + argc });
+    char self[MAX_PATH];
+    ::GetModuleFileNameA(nullptr, self, MAX_PATH);
+    g_self = self;
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
