@@ -417,6 +417,7 @@ void Player::PlayItem(std::int16_t index, bool fullScreen)
     }
     ShowCaption();
     m_playlist.List().SetPlayingItem(index);
+    m_playlist.List().ScrollToRow(index);
     EnableMediaControls(true);
     m_rate = 1.0; // the value alone: a fresh engine runs at it
     m_world.screen.PumpMessages(kPumpsAfterPlay);

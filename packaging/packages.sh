@@ -43,6 +43,7 @@ wine                    runs the Windows tests
 wine64                  its 64-bit half
 '
 packages_bench='
+libbenchmark-dev        Google Benchmark
 vlc                     what we compare with
 mpv                     what we compare with
 '
