@@ -118,6 +118,7 @@ void Player::Unload()
     m_adding.Close();
     IgnoreFailure(WriteConfigurations());
     m_host.RemoveVLCPlayer();
+    m_ends.reset();
     m_world.endProcess();
 }
 
@@ -224,12 +225,7 @@ void Player::OpenFiles(bool addOnly)
         const auto files = ParseOpenFileResult(answer, m_world.separator);
         if (!files)
             continue;
-        std::vector<AddRequest> requests;
-        for (const auto& file : *files) {
-            const auto title = FileNamePart(file.key, m_world.separator);
-            requests.push_back({ title, file.path, false, std::exchange(playNext, false) });
-        }
-        AddFiles(std::move(requests));
+        AddFiles(AddRequests(*files, m_world.separator, std::exchange(playNext, false)));
     }
 }
 
@@ -421,6 +417,7 @@ void Player::PlayItem(std::int16_t index, bool fullScreen)
     }
     ShowCaption();
     m_playlist.List().SetPlayingItem(index);
+    m_playlist.List().ScrollToRow(index);
     EnableMediaControls(true);
     m_rate = 1.0; // the value alone: a fresh engine runs at it
     m_world.screen.PumpMessages(kPumpsAfterPlay);

@@ -1,20 +1,26 @@
 #include "app/frmMain.h"
 
 #include "app/Player.h"
+#include "platform/Folders.h"
 #include "platform/Window.h"
 #include "playback/TimeText.h"
 #include "playback/VideoFrame.h"
+#include "playlist/FancyList.h"
+#include "playlist/OpenFiles.h"
 #include "shell/Caption.h"
+#include "shell/GlyphButton.h"
 #include "shell/QtText.h"
 #include "shell/Style.h"
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QFileDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPainter>
-#include <QPainterPath>
 #include <QScreen>
+#include <QSplitter>
 #include <QWindow>
 
 #include <chrono>
@@ -27,6 +33,9 @@ using namespace std::chrono_literals;
 
 constexpr double kTwipsPerPixel = 15;
 constexpr int kDragDistance = 2; // px
+constexpr auto kProgressDelay = 700ms;
+constexpr int kSplitterWidth = 6; // px
+constexpr int kPaneMinimum = 96;  // px
 
 QRect ToQt(const Rect& rect)
 {
@@ -54,21 +63,14 @@ Qt::CursorShape CursorFor(const WindowLayout::Edges& edges)
     return edges.Any() ? Qt::SizeVerCursor : Qt::ArrowCursor;
 }
 
-QPainterPath Cross(const QRectF& box)
-{
-    QPainterPath path(box.topLeft());
-    path.lineTo(box.bottomRight());
-    path.moveTo(box.topRight());
-    path.lineTo(box.bottomLeft());
-    return path;
-}
-
 } // namespace
 
 frmMain::frmMain(const QString& programFolder)
     : QWidget(nullptr, Qt::FramelessWindowHint | Qt::Window)
-    , m_video(new VideoFrame(programFolder + "Audio.JPG", this))
+    , m_content(new QSplitter(this))
+    , m_video(new VideoFrame(programFolder + "Audio.JPG", m_content))
     , m_time(new QLabel(this))
+    , m_note(new QLabel(this))
     , m_caption(kProgramName)
 {
     setObjectName("frmMain");
@@ -77,18 +79,76 @@ frmMain::frmMain(const QString& programFolder)
     setMinimumSize(WindowLayout::kMinimumWidth, WindowLayout::kMinimumHeight);
     resize(WindowLayout::kFirstWidth, WindowLayout::kFirstHeight);
     setMouseTracking(true);
+    setAcceptDrops(true);
+    m_content->setChildrenCollapsible(false);
+    m_content->setHandleWidth(kSplitterWidth);
     m_video->installEventFilter(this);
+    m_video->setAcceptDrops(true);
+    m_video->setMinimumSize(kPaneMinimum, kPaneMinimum);
+    for (auto* const label : { m_time, m_note })
+        label->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_time->setObjectName("lblTime");
-    m_time->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_time->setFont(style::TimeFont());
+    m_note->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_note->setTextFormat(Qt::PlainText);
+    m_noteEnd.setSingleShot(true);
+    connect(&m_noteEnd, &QTimer::timeout, m_note, &QLabel::clear);
+    m_progressDelay.setSingleShot(true);
+    connect(&m_progressDelay, &QTimer::timeout, this, [this] { m_list->ShowAddProgress(m_progress); });
     m_tmrMovie.setInterval(500ms);
-    connect(&m_tmrMovie, &QTimer::timeout, this, &frmMain::OnMovieTimer);
     ShowIdle();
 }
 
 void frmMain::Serve(Player& player)
 {
     m_player = &player;
+    connect(&m_tmrMovie, &QTimer::timeout, this, [this] { m_player->OnPositionTick(); });
+    MakeList();
+    MakeTitleButton(Button::Minimize, "Minimize", &frmMain::showMinimized);
+    MakeTitleButton(Button::Maximize, "Maximize", &frmMain::ToggleMaximized);
+    MakeTitleButton(Button::Close, "Close", &frmMain::CloseWindow);
+    MakeButton(Button::Play, "Play", "", &Player::CMDPlayClick);
+    MakeButton(Button::Pause, "Pause", "Ctrl+P", &Player::CMDPauseClick);
+    MakeButton(Button::Stop, "Stop", "Ctrl+S", &Player::cmdStopClick);
+    MakeButton(Button::Previous, "Previous", "Page Up", &Player::cmdPreviousClick);
+    MakeButton(Button::Next, "Next", "Page Down", &Player::cmdNextClick);
+    MakeButton(Button::FullScreen, "Full Screen", "Ctrl+F", &Player::cmdFulScreenClick);
+    MakeButton(Button::PlayList, "Playlist", "", &Player::cmdPlayListClick);
+    MakeButton(Button::SoundOn, "Mute", "", &Player::cmdMuteClick);
+    auto* const open = m_buttons[Button::Open] = new GlyphButton(Button::Open, "Open Media File", "Ctrl+O", this);
+    connect(open, &GlyphButton::clicked, this, [this] { m_player->OpenFiles(false); });
+    StateChanged();
+    PlaceChildren();
+}
+
+void frmMain::MakeButton(Button button, const QString& name, const QString& shortcut, void (Player::*command)())
+{
+    auto* const made = m_buttons[button] = new GlyphButton(button, name, shortcut, this);
+    connect(made, &GlyphButton::clicked, this, [this, command] { (m_player->*command)(); });
+}
+
+void frmMain::MakeTitleButton(Button button, const QString& name, void (frmMain::*command)())
+{
+    auto* const made = m_buttons[button] = new GlyphButton(button, name, {}, this);
+    connect(made, &GlyphButton::clicked, this, command);
+}
+
+void frmMain::MakeList()
+{
+    auto& state = m_player->Entries().List();
+    state.SetImageWidth(64);
+    state.SetImageHeight(64);
+    state.SetItemHeight(80);
+    m_list = new FancyList(state, m_content);
+    m_list->setObjectName("FancyList1");
+    m_list->setMinimumSize(kPaneMinimum, kPaneMinimum);
+    connect(m_list, &FancyList::Click, this, [this] { m_player->ListClicked(); });
+    connect(m_list, &FancyList::DblClick, this, [this] { m_player->ListDoubleClicked(); });
+    connect(m_list, &FancyList::CancelAdding, this, [this] { m_player->CancelAdding(); });
+    connect(m_list, &FancyList::OLEDragDrop, this, [this](const QMimeData* dropped) {
+        // The drop is answered first: what it starts can take long, and its source waits.
+        QTimer::singleShot(0, this, [this, paths = DroppedPaths(*dropped)] { m_player->DropOnList(paths); });
+    });
 }
 
 WindowLayout frmMain::Layout() const
@@ -185,18 +245,85 @@ void frmMain::FlashCaption()
     platform::FlashWindowOnce(winId());
 }
 
+bool frmMain::IsPlaylistVisible() const
+{
+    return m_dock != PlaylistDock::Hidden;
+}
+
+void frmMain::SetPlaylistPosition(PlaylistDock position)
+{
+    const bool isStacked = position == PlaylistDock::Top || position == PlaylistDock::Bottom;
+    m_dock = position;
+    m_list->setVisible(position != PlaylistDock::Hidden);
+    m_video->setVisible(position != PlaylistDock::Whole);
+    m_content->setOrientation(isStacked ? Qt::Vertical : Qt::Horizontal);
+    const bool isListFirst = position == PlaylistDock::Left || position == PlaylistDock::Top;
+    m_content->insertWidget(isListFirst ? 0 : 1, m_list);
+    m_content->setStretchFactor(m_content->indexOf(m_video), 1);
+    m_content->setStretchFactor(m_content->indexOf(m_list), 0);
+    if (position < PlaylistDock::Whole) {
+        const auto room = isStacked ? m_content->height() : m_content->width();
+        const auto listRoom = room * 2 / 5;
+        m_content->setSizes(isListFirst ? QList{ listRoom, room - listRoom } : QList{ room - listRoom, listRoom });
+    }
+}
+
+void frmMain::ShowAddProgress(const AddProgress& progress)
+{
+    // One file is opened in a moment; the line comes only when that moment grows long.
+    m_progress = progress;
+    if (progress.total == 1)
+        m_progressDelay.start(kProgressDelay);
+    else
+        m_list->ShowAddProgress(progress);
+}
+
+void frmMain::ShowPosition(const PositionTick& tick)
+{
+    m_time->setText(ToQString(tick.timeText));
+    if (tick.showAudioLogo)
+        m_video->ShowAudioLogo(*tick.showAudioLogo);
+}
+
 void frmMain::ShowIdle()
 {
     m_time->setText(ToQString(TimeLabelText(0, 0)));
     m_video->ShowAudioLogo(false);
 }
 
-void frmMain::ShowMessage(const UserMessage& message)
+void frmMain::StateChanged()
 {
-    const auto icon = message.icon == UserMessage::Icon::Information ? QMessageBox::Information : QMessageBox::Warning;
-    QMessageBox box(icon, ToQString(message.title), ToQString(message.text), QMessageBox::Ok, this);
+    const bool isLoaded = m_player->MediaControlsEnabled();
+    for (const auto button : { Button::Pause, Button::Stop, Button::Previous, Button::Next, Button::FullScreen })
+        m_buttons[button]->setEnabled(isLoaded);
+    m_buttons[Button::SoundOn]->ShowSign(m_player->Host().IsMuted() ? Button::SoundOff : Button::SoundOn);
+}
+
+void frmMain::ShowNotice(const Notice& notice)
+{
+    const auto icon = notice.icon == NoticeIcon::Information ? QMessageBox::Information : QMessageBox::Warning;
+    QMessageBox box(icon, ToQString(notice.title), ToQString(notice.text), QMessageBox::Ok, this);
     box.setTextFormat(Qt::PlainText);
     box.exec();
+}
+
+void frmMain::ShowNote(const std::string& text)
+{
+    m_note->setText(ToQString(text));
+    m_noteEnd.start(5s);
+}
+
+std::vector<std::string> frmMain::AskForFiles(const std::string& title, const std::string& filter)
+{
+    // "name|patterns" pairs; Qt wants "name (patterns)", with blanks between the patterns.
+    QStringList filters;
+    const auto parts = ToQString(filter).split('|');
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
+        filters << parts[i] + " (" + QString(parts[i + 1]).replace(';', ' ') + ")";
+    std::vector<std::string> paths;
+    for (const auto& name : QFileDialog::getOpenFileNames(this, ToQString(title), {}, filters.join(";;")))
+        paths.push_back(ToPath(name));
+    return OpenFileResults(paths, platform::PathSeparator());
 }
 
 void frmMain::PumpMessages(int times)
@@ -205,28 +332,29 @@ void frmMain::PumpMessages(int times)
         QCoreApplication::processEvents();
 }
 
-void frmMain::OnMovieTimer()
+void frmMain::PumpUntil(const std::function<bool()>& done)
 {
-    auto* const engine = m_player->Host().VLCPlayer();
-    if (engine == nullptr || !m_player->MediaControlsEnabled())
-        return;
-    const auto state = engine->State();
-    if (state < Engine::kPlaying)
-        return;
-    m_time->setText(ToQString(TimeLabelText(std::max(engine->Time(), 0.0), std::max(engine->Length(), 0.0))));
-    m_video->ShowAudioLogo(!engine->HasVideoOutput());
+    while (!done())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
 void frmMain::PlaceChildren()
 {
+    if (m_list != nullptr)
+        m_list->setVisible(!m_fullScreen && m_dock != PlaylistDock::Hidden);
     if (m_fullScreen) {
-        m_video->setGeometry(rect());
-        m_video->raise();
+        m_video->setVisible(true);
+        m_content->setGeometry(rect());
+        m_content->raise();
         return;
     }
+    m_video->setVisible(m_dock != PlaylistDock::Whole);
     const auto layout = Layout();
-    m_video->setGeometry(ToQt(layout.Content()));
+    m_content->setGeometry(ToQt(layout.Content()));
     m_time->setGeometry(ToQt(layout.TimeLabel()));
+    m_note->setGeometry(ToQt(layout.RateLabel()));
+    for (const auto& [button, widget] : m_buttons)
+        widget->setGeometry(ToQt(layout.ButtonRect(button)));
 }
 
 void frmMain::KeepNormalGeometry()
@@ -252,7 +380,6 @@ void frmMain::paintEvent(QPaintEvent*)
 {
     const auto layout = Layout();
     QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), style::kBase);
     painter.fillRect(ToQt(layout.TitleBar()), style::kRaised);
     painter.fillRect(ToQt(layout.Panel()), style::kRaised);
@@ -265,60 +392,17 @@ void frmMain::paintEvent(QPaintEvent*)
     const auto line = QString(m_caption).replace('\n', ' ');
     painter.drawText(caption, Qt::AlignVCenter | Qt::TextSingleLine,
         painter.fontMetrics().elidedText(line, Qt::ElideRight, caption.width()));
-
-    const auto paintButton = [&](TitleButton button, const Rect& at, auto&& glyph) {
-        const auto box = ToQt(at);
-        if (m_hovered == button)
-            painter.fillRect(box, button == TitleButton::Close ? style::kCloseHover : style::kHairline);
-        painter.setPen(QPen(m_pressed == button ? style::kLight : style::kText, 1.4, Qt::SolidLine, Qt::RoundCap));
-        QRectF face(0, 0, 9, 9);
-        face.moveCenter(QRectF(box).center());
-        painter.drawPath(glyph(face));
-    };
-    paintButton(TitleButton::Close, layout.CloseButton(), &Cross);
-    paintButton(TitleButton::Maximize, layout.MaximizeButton(), [](const QRectF& face) {
-        QPainterPath path;
-        path.addRoundedRect(face, 1.5, 1.5);
-        return path;
-    });
-    paintButton(TitleButton::Minimize, layout.MinimizeButton(), [](const QRectF& face) {
-        QPainterPath path(QPointF(face.left(), face.bottom()));
-        path.lineTo(face.bottomRight());
-        return path;
-    });
 }
 
-frmMain::TitleButton frmMain::TitleButtonAt(const QPoint& at) const
+void frmMain::ToggleMaximized()
 {
-    const auto layout = Layout();
-    if (layout.CloseButton().Contains(at.x(), at.y()))
-        return TitleButton::Close;
-    if (layout.MaximizeButton().Contains(at.x(), at.y()))
-        return TitleButton::Maximize;
-    return layout.MinimizeButton().Contains(at.x(), at.y()) ? TitleButton::Minimize : TitleButton::None;
-}
-
-void frmMain::Press(TitleButton button)
-{
-    switch (button) {
-    case TitleButton::Close:
-        close();
-        break;
-    case TitleButton::Maximize:
-        isMaximized() ? showNormal() : showMaximized();
-        break;
-    case TitleButton::Minimize:
-        showMinimized();
-        break;
-    case TitleButton::None:
-        break;
-    }
+    isMaximized() ? showNormal() : showMaximized();
 }
 
 void frmMain::UseCursorFor(const QPoint& at)
 {
-    const bool resizable = !isMaximized() && !m_fullScreen && TitleButtonAt(at) == TitleButton::None;
-    setCursor(resizable ? CursorFor(Layout().EdgesAt(at.x(), at.y())) : Qt::ArrowCursor);
+    const bool isResizable = !isMaximized() && !m_fullScreen;
+    setCursor(isResizable ? CursorFor(Layout().EdgesAt(at.x(), at.y())) : Qt::ArrowCursor);
 }
 
 void frmMain::StartDrag()
@@ -336,63 +420,71 @@ void frmMain::StartDrag()
 
 void frmMain::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton)
-        return;
-    const auto at = event->position().toPoint();
-    m_pressed = TitleButtonAt(at);
     // A drag begins with the first movement: a mere click would leave the window hanging at the pointer where the
     // window manager sees the release too late.
-    if (m_pressed == TitleButton::None)
-        m_dragFrom = at;
-    update();
+    if (event->button() == Qt::LeftButton)
+        m_dragFrom = event->position().toPoint();
 }
 
-void frmMain::mouseReleaseEvent(QMouseEvent* event)
+void frmMain::mouseReleaseEvent(QMouseEvent*)
 {
-    const auto pressed = std::exchange(m_pressed, TitleButton::None);
     m_dragFrom.reset();
-    update();
-    // A press that leaves the button before its release does nothing.
-    if (pressed != TitleButton::None && pressed == TitleButtonAt(event->position().toPoint()))
-        Press(pressed);
 }
 
 void frmMain::mouseMoveEvent(QMouseEvent* event)
 {
     const auto at = event->position().toPoint();
-    if (m_dragFrom && event->buttons().testFlag(Qt::LeftButton)) {
-        if ((at - *m_dragFrom).manhattanLength() > kDragDistance)
-            StartDrag();
-        return;
-    }
-    UseCursorFor(at);
-    const auto hovered = TitleButtonAt(at);
-    if (std::exchange(m_hovered, hovered) != hovered)
-        update();
+    const bool isDrag = m_dragFrom && event->buttons().testFlag(Qt::LeftButton);
+    if (!isDrag)
+        UseCursorFor(at);
+    else if ((at - *m_dragFrom).manhattanLength() > kDragDistance)
+        StartDrag();
 }
 
 void frmMain::mouseDoubleClickEvent(QMouseEvent* event)
 {
     const auto at = event->position().toPoint();
-    const bool onBar = Layout().TitleBar().Contains(at.x(), at.y()) && TitleButtonAt(at) == TitleButton::None;
-    if (event->button() == Qt::LeftButton && onBar)
-        Press(TitleButton::Maximize);
+    if (event->button() == Qt::LeftButton && Layout().TitleBar().Contains(at.x(), at.y()))
+        ToggleMaximized();
 }
 
-void frmMain::leaveEvent(QEvent*)
+void frmMain::dragEnterEvent(QDragEnterEvent* event)
 {
-    m_hovered = TitleButton::None;
-    update();
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void frmMain::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    QTimer::singleShot(0, this, [this, paths = DroppedPaths(*event->mimeData())] { m_player->DropOnVideo(paths); });
+}
+
+void frmMain::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::WindowStateChange)
+        PlaceChildren();
+    QWidget::changeEvent(event);
 }
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::MouseButtonDblClick) {
+    switch (event->type()) {
+    case QEvent::MouseButtonDblClick:
         m_player->Host().SetFullScreen(!m_fullScreen);
         return true;
-    }
-    if (event->type() == QEvent::Enter)
+    case QEvent::Enter:
         unsetCursor();
+        break;
+    case QEvent::DragEnter:
+        dragEnterEvent(static_cast<QDragEnterEvent*>(event));
+        return true;
+    case QEvent::Drop:
+        dropEvent(static_cast<QDropEvent*>(event));
+        return true;
+    default:
+        break;
+    }
     return QWidget::eventFilter(watched, event);
 }
 

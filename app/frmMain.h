@@ -6,12 +6,17 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <map>
 #include <optional>
 
 class QLabel;
+class QMimeData;
+class QSplitter;
 
 namespace zentaro {
 
+class FancyList;
+class GlyphButton;
 class Player;
 class VideoFrame;
 
@@ -33,18 +38,28 @@ public:
     double WindowLeft() const override;
     double WindowTop() const override;
     void ShowWindow() override;
+    void CloseWindow() override { close(); }
     void SetWindowSize(int width, int height) override;
     void SetWindowPosition(int left, int top) override;
     void SetTopmost(bool topmost) override;
     void SetFullScreen(bool fullScreen) override;
     void ShowCaption(const std::string& text) override;
     void FlashCaption() override;
+    void SetPlaylistPosition(PlaylistDock position) override;
+    bool IsPlaylistVisible() const override;
+    void ShowAddProgress(const AddProgress& progress) override;
+    void ShowPosition(const PositionTick& tick) override;
     void ShowIdle() override;
-    void ShowMessage(const UserMessage& message) override;
+    void StateChanged() override;
+    void ShowNotice(const Notice& notice) override;
+    void ShowNote(const std::string& text) override;
+    std::vector<std::string> AskForFiles(const std::string& title, const std::string& filter) override;
     void PumpMessages(int times) override;
+    void PumpUntil(const std::function<bool()>& done) override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
@@ -52,32 +67,38 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    enum class TitleButton { None, Minimize, Maximize, Close };
-
     WindowLayout Layout() const;
+    void MakeButton(Button button, const QString& name, const QString& shortcut, void (Player::*command)());
+    void MakeTitleButton(Button button, const QString& name, void (frmMain::*command)());
+    void MakeList();
+    void ToggleMaximized();
     void PlaceChildren();
     void KeepNormalGeometry();
-    void OnMovieTimer();
-    TitleButton TitleButtonAt(const QPoint& at) const;
-    void Press(TitleButton button);
     void UseCursorFor(const QPoint& at);
     /// Hands a drag to the system: a resize at an edge, a move of the title bar.
     void StartDrag();
 
     Player* m_player = nullptr;
+    QSplitter* m_content;
     VideoFrame* m_video;
+    FancyList* m_list = nullptr; // FancyList1
     QLabel* m_time;
+    QLabel* m_note;
     QTimer m_tmrMovie;
+    QTimer m_noteEnd;
+    QTimer m_progressDelay;
+    AddProgress m_progress;
+    std::map<Button, GlyphButton*> m_buttons;
     QString m_caption;
-    QRect m_normal; // geometry while neither maximised nor full screen, in logical pixels
-    TitleButton m_hovered = TitleButton::None;
-    TitleButton m_pressed = TitleButton::None;
+    QRect m_normal;                   // geometry while neither maximised nor full screen, in logical pixels
     std::optional<QPoint> m_dragFrom; // where the left button went down on something that can be dragged
+    PlaylistDock m_dock = PlaylistDock::Left;
     bool m_fullScreen = false;
     bool m_wasMaximized = false; // before full screen
     bool m_topmost = false;

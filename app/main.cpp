@@ -1,9 +1,14 @@
+#include "app/InspectionThreads.h"
 #include "app/Player.h"
 #include "app/frmMain.h"
 #include "base/Paths.h"
+#include "inspect/ConsoleToolRunner.h"
+#include "inspect/DiskFiles.h"
+#include "inspect/QtServices.h"
 #include "platform/Folders.h"
 #include "platform/Process.h"
 #include "platform/QuitRequest.h"
+#include "platform/TextFile.h"
 #include "playback/VideoFrame.h"
 #include "playback/VlcEngine.h"
 #include "shell/Caption.h"
@@ -32,6 +37,38 @@ RandomSource RealRandom()
     };
 }
 
+/// What every inspection shares. The codec names and the two pictures lie beside the program.
+struct InspectionBase {
+    explicit InspectionBase(const std::string& programFolder)
+        : audioNames(ReadNames(programFolder + "audiomaps.txt"))
+        , videoNames(ReadNames(programFolder + "videomaps.txt"))
+        , files(&LocalDateText)
+    {
+        context.files = &files;
+        context.readAviStreams = &ReadAviStreams;
+        context.decodePicture = &DecodePictureFile;
+        context.ffmpeg = FindTool("ffmpeg", programFolder);
+        context.mpgtx = FindTool("mpgtx", programFolder);
+        context.separator = platform::PathSeparator();
+        context.audioCodecNames = &audioNames;
+        context.videoCodecNames = &videoNames;
+        const auto images = programFolder + "images" + context.separator;
+        context.defaultVideoPicture = DecodePictureFile(images + "DefaultVideo.png");
+        context.defaultAudioPicture = DecodePictureFile(images + "DefaultAudio.png");
+    }
+
+    static CodecNames ReadNames(const std::string& path)
+    {
+        constexpr std::size_t limit = 1 << 20; // bytes
+        return CodecNames(platform::ReadTextFile(path, limit).value_or(""));
+    }
+
+    CodecNames audioNames;
+    CodecNames videoNames;
+    DiskFiles files;
+    InspectionContext context;
+};
+
 /// The engine draws into X windows only, so a Wayland session with an X server beside it is used through that server.
 void PreferX11()
 {
@@ -56,17 +93,25 @@ int main(int argc, char** argv)
     const auto separator = platform::PathSeparator();
     const auto programFolder = WithTrailingSeparator(platform::ExecutableFolder(), separator);
     const auto settingsFolder = WithTrailingSeparator(platform::SettingsFolder(), separator);
-    const auto workingFolder = platform::MakeWorkingFolder();
+    const auto workingFolder = WithTrailingSeparator(platform::MakeWorkingFolder(), separator);
     const auto store = platform::StringStore::Open();
 
     frmMain window(ToQString(programFolder));
-    VlcEngines engines(window.Video(), WithTrailingSeparator(workingFolder, separator) + "engine.log");
+    VlcEngines engines(window.Video(), workingFolder + "engine.log");
+    InspectionBase inspection(programFolder);
+    InspectionThreads inspections(inspection.context, workingFolder, [&](std::function<void()> work) {
+        QMetaObject::invokeMethod(&application, std::move(work), Qt::QueuedConnection);
+    });
     const auto endProcess = [&] {
+        inspections.CancelAll();
         platform::RemoveFolder(workingFolder);
         platform::EndProcess();
     };
-    Player player({ window, engines, *store, RealHandOver(), RealRandom(), endProcess, programFolder, settingsFolder,
-        separator });
+    Player player({ window, engines, inspections, *store, RealHandOver(), RealRandom(), endProcess, programFolder,
+        settingsFolder, separator });
+    inspections.onCompleted = [&](int ticket, Inspection result) {
+        player.InspectionCompleted(ticket, std::move(result));
+    };
     window.Serve(player);
     if (!player.Load(commandLine))
         endProcess();

@@ -64,9 +64,9 @@ Parts SplitParts(std::string_view text, bool mindBrackets = true)
 }
 
 constexpr std::string_view kAttachedPicture = "attached pic";
-constexpr std::array<std::string_view, 20> kDispositions = { "default", "dub", "original", "comment", "lyrics",
+constexpr std::array<std::string_view, 19> kDispositions = { "default", "dub", "original", "comment", "lyrics",
     "karaoke", "forced", "hearing impaired", "visual impaired", "clean effects", kAttachedPicture, "timed thumbnails",
-    "captions", "descriptions", "metadata", "dependent", "still image", "non-diegetic", "multilayer", "clean_effects" };
+    "captions", "descriptions", "metadata", "dependent", "still image", "non-diegetic", "multilayer" };
 
 /// Cuts the marks off the end of the facts; true when one of them says that this is an attached picture.
 bool CutDispositions(std::string_view& facts)
@@ -149,6 +149,9 @@ constexpr LayoutRow kLayouts[] = {
     { "hexadecagonal", 16 },
 };
 
+constexpr std::size_t kLongestLayout = 1000; // characters; names nest, and the reader with them
+constexpr int kMostChannels = 0xFFFF;        // no container can say more
+
 bool IsSampleFormat(std::string_view part)
 {
     auto name = part.substr(0, part.find(' '));
@@ -215,8 +218,8 @@ float DisplayAspectOf(std::string_view part)
         return 0;
     const auto ratio = part.substr(at + mark.size());
     const auto below = ratio.find(':');
-    const double height = below == std::string_view::npos ? 0 : ValueOfText(ratio.substr(below + 1));
-    return height > 0 ? static_cast<float>(ValueOfText(ratio) / height) : 0;
+    const float height = below == std::string_view::npos ? 0 : FloatOfText(ratio.substr(below + 1));
+    return height > 0 ? FloatOfText(ratio) / height : 0;
 }
 
 /// A rate with two decimals: "25" is 25.00, "1k" is 1000.00, "0.0000" is 0.00.
@@ -273,13 +276,15 @@ bool IsHarmlessTag(std::string_view text)
 int ChannelsOfLayout(std::string_view name)
 {
     name = Trimmed(name);
+    if (name.size() > kLongestLayout)
+        return 0;
     if (CutFront(name, "ambisonic ")) {
         const auto plus = name.find('+');
         const int order = std::min(IntegerOfText(name).value_or(0), 100) + 1;
         return order * order + (plus == std::string_view::npos ? 0 : ChannelsOfLayout(name.substr(plus + 1)));
     }
     if (Contains(name, " channel"))
-        return IntegerOfText(name).value_or(0);
+        return std::clamp(IntegerOfText(name).value_or(0), 0, kMostChannels);
     if (CutBack(name, "+downmix"))
         return ChannelsOfLayout(name) + 2;
     name = name.substr(0, name.find('('));

@@ -20,6 +20,7 @@ pkg-config              finds the libraries
 qt6-base-dev            the windows
 libvlc-dev              the engine
 libxcb1-dev             window states that Qt has no call for
+nlohmann-json3-dev      prints what zentaro-inspect knows as JSON
 librsvg2-bin            draws the SVG sources of all pictures
 '
 packages_screenless='
@@ -42,6 +43,7 @@ wine                    runs the Windows tests
 wine64                  its 64-bit half
 '
 packages_bench='
+libbenchmark-dev        Google Benchmark
 vlc                     what we compare with
 mpv                     what we compare with
 '

@@ -146,7 +146,7 @@ void FancyListPainter::PaintText(
     m_painter.restore();
 }
 
-// A bar at the left edge, and a small play sign in the thumbnail's corner.
+// A bar at the left edge, beside the thumbnail.
 void FancyListPainter::PaintPlayingMark(int row)
 {
     const auto area = m_state.RowRect(row);

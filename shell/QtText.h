@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFile>
 #include <QString>
 
 #include <string>
@@ -16,6 +17,12 @@ inline QString ToQString(const std::string& text)
 inline std::string ToText(const QString& text)
 {
     return text.toStdString();
+}
+
+/// A file's name as the system knows it, byte for byte.
+inline std::string ToPath(const QString& name)
+{
+    return QFile::encodeName(name).toStdString();
 }
 
 } // namespace zentaro

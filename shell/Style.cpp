@@ -29,8 +29,8 @@ QPalette MakePalette()
     palette.setColor(QPalette::ButtonText, kText);
     palette.setColor(QPalette::ToolTipBase, kRaised);
     palette.setColor(QPalette::ToolTipText, kText);
-    palette.setColor(QPalette::Highlight, kLight);
-    palette.setColor(QPalette::HighlightedText, kBase);
+    palette.setColor(QPalette::Highlight, kSelection);
+    palette.setColor(QPalette::HighlightedText, kText);
     palette.setColor(QPalette::Link, kLight);
     for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText })
         palette.setColor(QPalette::Disabled, role, kSecondText);

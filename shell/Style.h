@@ -15,6 +15,7 @@ inline constexpr QColor kHairline{ 255, 255, 255, 20 };
 inline constexpr QColor kText{ 0xE8, 0xEA, 0xED };
 inline constexpr QColor kSecondText{ 0x9A, 0xA0, 0xA6 };
 inline constexpr QColor kLight{ 0xFF, 0xB0, 0x20 };
+inline constexpr QColor kSelection{ 0x45, 0x3B, 0x27 };
 inline constexpr QColor kCloseHover{ 0xE5, 0x48, 0x4D };
 
 /// Palette and font of the whole program.

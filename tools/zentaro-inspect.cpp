@@ -16,6 +16,7 @@
 #include <filesystem>
 #include <iostream>
 #include <string>
+#include <system_error>
 #include <vector>
 
 using namespace zentaro;
@@ -148,7 +149,9 @@ int Run(const Options& options)
         if (g_interrupted)
             return 1;
         // The tools are given whole paths: a name alone could be taken for an option or a protocol.
-        allRead = Print(source, std::filesystem::absolute(file).string(), options.json) && allRead;
+        std::error_code problem;
+        const auto path = std::filesystem::absolute(file, problem);
+        allRead = Print(source, problem ? file : path.string(), options.json) && allRead;
     }
     return allRead ? 0 : 1;
 }

@@ -26,10 +26,30 @@ public:
     void SetFullScreen(bool fullScreen) override { isFullScreen = fullScreen; }
     void ShowCaption(const std::string& text) override { caption = text; }
     void FlashCaption() override { log << "flash "; }
+    void CloseWindow() override { }
     void ShowIdle() override { }
-    void ShowMessage(const UserMessage& message) override { log << message.text; }
+    void SetPlaylistPosition(PlaylistDock position) override { dock = position; }
+    bool IsPlaylistVisible() const override { return dock != PlaylistDock::Hidden; }
+    void ShowAddProgress(const AddProgress&) override { }
+    void ShowPosition(const PositionTick& tick) override { timeText = tick.timeText; }
+    void StateChanged() override { }
+    void ShowNotice(const Notice& notice) override { boxes.push_back(notice.title + ": " + notice.text); }
+    void ShowNote(const std::string& text) override { note = text; }
+    std::vector<std::string> AskForFiles(const std::string&, const std::string&) override { return chosen; }
     void PumpMessages(int times) override { log << "pump " << times << " "; }
+    void PumpUntil(const std::function<bool()>& done) override
+    {
+        while (!done() && pump())
+            ;
+        EXPECT_TRUE(done());
+    }
 
+    std::function<bool()> pump;
+    PlaylistDock dock = PlaylistDock::Hidden;
+    std::string timeText;
+    std::vector<std::string> boxes;
+    std::string note;
+    std::vector<std::string> chosen;
     std::ostringstream log;
     std::string caption;
     double left = 30;
@@ -46,6 +66,10 @@ struct EngineTrace {
     int volume = -1;
     bool muted = false;
     double rateSet = 0;
+    int stops = 0;
+    int state = Engine::kPlaying;
+    double time = 0;
+    double length = 0;
 };
 
 class FakeEngine : public Engine {
@@ -58,11 +82,11 @@ public:
     ~FakeEngine() override { --m_trace.alive; }
     void SetVolume(int percent) override { m_trace.volume = percent; }
     void SetMute(bool muted) override { m_trace.muted = muted; }
-    double Length() override { return 0; }
-    double Time() override { return 0; }
+    double Length() override { return m_trace.length; }
+    double Time() override { return m_trace.time; }
     double Position() override { return 0; }
     void SetPosition(double) override { }
-    int State() override { return kPlaying; }
+    int State() override { return m_trace.state; }
     double Rate() override { return 1; }
     void SetRate(double rate) override { m_trace.rateSet = rate; }
     bool HasVideoOutput() override { return true; }
@@ -73,7 +97,7 @@ public:
     }
     void Play() override { }
     void TogglePause() override { }
-    void Stop() override { }
+    void Stop() override { ++m_trace.stops; }
     int ItemCount() override { return 1; }
 
 private:
@@ -84,6 +108,30 @@ class FakeEngines : public EngineFactory {
 public:
     std::unique_ptr<Engine> Create() override { return std::make_unique<FakeEngine>(trace); }
     EngineTrace trace;
+};
+
+/// Answers one inspection for each pump; a path with "broken" in it fails.
+class FakeInspections : public InspectionRunner {
+public:
+    void Start(int ticket, const std::string& path) override { waiting.push_back({ ticket, path }); }
+    void Cancel(int ticket) override
+    {
+        std::erase_if(waiting, [&](const auto& job) { return job.first == ticket; });
+    }
+    bool AnswerOne(Player& player)
+    {
+        if (waiting.empty())
+            return false;
+        const auto [ticket, path] = waiting.front();
+        waiting.erase(waiting.begin());
+        Inspection inspection;
+        inspection.ok = path.find("broken") == std::string::npos;
+        inspection.errorText = inspection.ok ? "" : "No good.";
+        inspection.mediaInfo = "Stream information of " + path;
+        player.InspectionCompleted(ticket, inspection);
+        return true;
+    }
+    std::vector<std::pair<int, std::string>> waiting;
 };
 
 class FakeStore : public platform::StringStore {
@@ -137,15 +185,39 @@ protected:
             },
             [] { return std::unique_ptr<platform::HandOverLock>(); },
         };
-        player = std::make_unique<Player>(PlayerWorld{ screen, engines, store, handOver, [] { return 0.0; },
-            [this] { ended = true; }, folder.string() + "/", folder.string() + "/", '/' });
+        screen.pump = [this] { return inspections.AnswerOne(*player); };
+        player = std::make_unique<Player>(PlayerWorld{ screen, engines, inspections, store, handOver,
+            [] { return 0.0; }, [this] { ended = true; }, folder.string() + "/", folder.string() + "/", '/' });
         isPlayer = player->Load(commandLine);
         return *player;
     }
 
+    /// A player in the given modes with the entries /a.avi, /b.avi, ...
+    Player& StartWithEntries(int count, std::int32_t playMode, std::int32_t repeatMode)
+    {
+        auto settings = DefaultSettings("/", {});
+        settings.PlayMode = playMode;
+        settings.RepeatMode = repeatMode;
+        WriteConfig(FormatConfigurations(settings));
+        Start();
+        for (int i = 0; i < count; ++i)
+            player->LoadThumb("", std::string("/") + static_cast<char>('a' + i) + ".avi", false, i == 0);
+        return *player;
+    }
+    /// The engine reports that the item has been played to its end.
+    void EndItem()
+    {
+        engines.trace.state = Engine::kEnded;
+        engines.trace.time = engines.trace.length = 2000;
+        player->OnPositionTick();
+        engines.trace.state = Engine::kPlaying;
+    }
+    const std::string& LastPlayed() const { return engines.trace.played.back(); }
+
     fs::path folder;
     FakeScreen screen;
     FakeEngines engines;
+    FakeInspections inspections;
     FakeStore store;
     std::unique_ptr<Player> player;
     std::vector<std::string> sent;
@@ -285,4 +357,99 @@ TEST_F(PlayerTest, a_file_that_is_gone_or_read_only_at_the_end_stays_so)
     fs::remove(ConfigPath());
     EXPECT_FALSE(player->WriteConfigurations());
     EXPECT_FALSE(fs::exists(ConfigPath()));
+}
+
+TEST_F(PlayerTest, files_that_cannot_be_opened_or_are_there_already_are_told_in_boxes)
+{
+    auto& loaded = StartWithEntries(2, kPlayContinuous, kRepeatAll);
+    EXPECT_EQ(loaded.Inspected().StreamInfoText, "Stream information of /b.avi");
+    loaded.LoadThumb("broken.avi", "/broken.avi", false, true);
+    EXPECT_EQ(loaded.Inspected().LastSourceError, "No good.");
+    EXPECT_EQ(loaded.Entries().Count(), 2);
+    loaded.LoadThumb("a.avi", "/a.avi", false, true);
+    EXPECT_EQ(screen.boxes,
+        (std::vector<std::string>{ "Zentaro: Cannot open file </broken.avi>\r\nNo good.",
+            "Media Player: \"a.avi\" is already in your playlist" }));
+    // The last entry plays, not the one that was there.
+    EXPECT_EQ(LastPlayed(), "/b.avi");
+}
+
+TEST_F(PlayerTest, continuous_play_goes_round_and_normal_play_stops)
+{
+    auto& loaded = StartWithEntries(2, kPlayContinuous, kRepeatAll);
+    EndItem();
+    EXPECT_EQ(LastPlayed(), "/b.avi");
+    EndItem();
+    EXPECT_EQ(LastPlayed(), "/a.avi");
+    loaded.SetRepeatMode(kRepeatSingle);
+    EndItem();
+    EXPECT_EQ(LastPlayed(), "/a.avi");
+    EXPECT_EQ(engines.trace.played.size(), 4u);
+    loaded.PBNormal();
+    loaded.SetRepeatMode(kRepeatAll);
+    EndItem();
+    EXPECT_EQ(engines.trace.played.size(), 4u);
+    EXPECT_FALSE(loaded.MediaControlsEnabled());
+    loaded.OnPositionTick();
+    EXPECT_EQ(screen.timeText, "00:00:00 / 00:00:00");
+    loaded.cmdNextClick();
+    EXPECT_EQ(engines.trace.played.size(), 4u); // nothing is loaded
+}
+
+TEST_F(PlayerTest, an_order_that_names_a_removed_entry_plays_nothing)
+{
+    auto& loaded = StartWithEntries(3, kPlayContinuous, kRepeatAll);
+    loaded.RemoveSelected(); // the order is now "1", "2" for two entries
+    EndItem();
+    EXPECT_EQ(engines.trace.played.size(), 1u);
+    EXPECT_FALSE(loaded.MediaControlsEnabled());
+}
+
+TEST_F(PlayerTest, a_round_in_which_nothing_plays_stops_with_a_note)
+{
+    auto& loaded = StartWithEntries(3, kPlayContinuous, kRepeatAll);
+    engines.trace.state = Engine::kFailed;
+    for (int tick = 0; tick < 10; ++tick)
+        loaded.OnPositionTick();
+    EXPECT_EQ(engines.trace.played.size(), 3u);
+    EXPECT_FALSE(loaded.MediaControlsEnabled());
+    EXPECT_FALSE(screen.note.empty());
+    EXPECT_TRUE(screen.boxes.empty());
+}
+
+TEST_F(PlayerTest, a_double_click_plays_and_hides_the_list_and_the_button_brings_it_back)
+{
+    auto& loaded = StartWithEntries(2, kPlayContinuous, kRepeatAll);
+    loaded.Entries().List().SetSelectedItem(1);
+    loaded.ListDoubleClicked();
+    EXPECT_EQ(LastPlayed(), "/b.avi");
+    EXPECT_EQ(screen.dock, PlaylistDock::Hidden);
+    EXPECT_EQ(loaded.Settings().PlaylistPosition, 0);
+    loaded.cmdPlayListClick();
+    EXPECT_EQ(screen.dock, PlaylistDock::Left);
+}
+
+TEST_F(PlayerTest, chosen_files_are_added_and_only_the_first_plays)
+{
+    Start();
+    screen.chosen = { std::string("/clips\0c.avi\0d.avi", 18), "/more/e.avi" };
+    player->CMDPlayClick(); // an empty list asks for files
+    while (inspections.AnswerOne(*player))
+        ;
+    EXPECT_EQ(player->Entries().Count(), 3);
+    EXPECT_EQ(player->Entries().EntryAt(2)->Title, "e.avi");
+    EXPECT_EQ(engines.trace.played, std::vector<std::string>{ "/clips/c.avi" });
+}
+
+TEST_F(PlayerTest, closing_while_files_are_added_ends_the_waiting)
+{
+    StartWithEntries(1, kPlayContinuous, kRepeatAll);
+    screen.pump = [this] {
+        player->Unload();
+        return true;
+    };
+    player->LoadThumb("late.avi", "/late.avi", false, true);
+    EXPECT_TRUE(ended);
+    EXPECT_EQ(player->Entries().Count(), 1);
+    EXPECT_EQ(engines.trace.alive, 0);
 }

@@ -107,6 +107,11 @@ TEST(ToolDialect, layouts_are_counted)
     EXPECT_EQ(ChannelsOfLayout("hexadecagonal"), 16);
     EXPECT_EQ(ChannelsOfLayout("5:1"), 6);
     EXPECT_EQ(ChannelsOfLayout("something"), 0);
+    EXPECT_EQ(ChannelsOfLayout("ambisonic 999+2147483647 channels"), 101 * 101 + 0xFFFF);
+    std::string nested;
+    for (int i = 0; i < 1'000'000; ++i)
+        nested += "+downmix";
+    EXPECT_EQ(ChannelsOfLayout(nested), 0);
 }
 
 TEST(ToolDialect, a_film_keeps_what_the_rules_read_in_their_order)

@@ -173,6 +173,6 @@ TEST(ToolLogs, every_report_of_mpgtx_gives_the_film_of_the_file)
 int main(int argc, char** argv)
 {
     testing::InitGoogleTest(&argc, argv);
-    g_logs = std::filesystem::absolute(argv[0]).parent_path() / "tool-logs";
+    g_logs = std::filesystem::absolute(argv[0]).parent_path() / "data" / "tool-logs";
     return RUN_ALL_TESTS();
 }

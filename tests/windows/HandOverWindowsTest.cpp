@@ -16,7 +16,7 @@ class Peer {
 public:
     explicit Peer(const std::string& arguments)
     {
-        std::string command = "\"" + ExecutableFolder() + "\\zentaro-test-peer.exe\" " + arguments;
+        std::string command = "\"" + ExecutableFolder() + "\\zentaro-helper-peer.exe\" " + arguments;
         STARTUPINFOA start{};
         start.cb = sizeof start;
         EXPECT_TRUE(

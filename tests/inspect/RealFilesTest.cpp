@@ -1,0 +1,210 @@
+#include "inspect/ConsoleToolRunner.h"
+#include "inspect/DiskFiles.h"
+#include "inspect/QtServices.h"
+#include "inspect/clsSource.h"
+#include "platform/Folders.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+using namespace zentaro;
+namespace fs = std::filesystem;
+
+// Files made here and now with the real tools, inspected with the real tools.
+
+namespace {
+
+using Arguments = std::vector<std::string>;
+
+const Arguments kFilmSource = { "-f", "lavfi", "-i", "testsrc=size=64x48:rate=25:duration=0.6" };
+const Arguments kSoundSource = { "-f", "lavfi", "-i", "sine=sample_rate=44100:duration=0.6" };
+
+Arguments operator+(Arguments front, const Arguments& back)
+{
+    front.insert(front.end(), back.begin(), back.end());
+    return front;
+}
+
+class RealFiles : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        ASSERT_FALSE(m_folder.empty());
+        const auto program = fs::path(m_folder) / "program folder";
+        fs::create_directory(program);
+        for (const std::string tool : { "ffmpeg", "mpgtx" })
+            fs::create_symlink(FindTool(tool, ""), program / tool);
+        fs::create_directory(m_folder + "/work");
+
+        m_context.tools = &m_tools;
+        m_context.files = &m_files;
+        m_context.readAviStreams = ReadAviStreams;
+        m_context.decodePicture = DecodePictureFile;
+        m_context.ffmpeg = program / "ffmpeg";
+        m_context.mpgtx = program / "mpgtx";
+        m_context.workingFolder = m_folder + "/work/";
+        m_context.audioCodecNames = &m_names;
+        m_context.videoCodecNames = &m_names;
+        m_context.defaultVideoPicture = Picture(1, 1, { 1 });
+        m_context.defaultAudioPicture = Picture(1, 1, { 2 });
+    }
+
+    void TearDown() override { platform::RemoveFolder(m_folder); }
+
+    std::string Path(const std::string& name) const { return m_folder + "/" + name; }
+
+    /// Runs ffmpeg; the output's path is added to the arguments. False when there is no file afterwards.
+    bool Make(const std::string& name, const Arguments& arguments)
+    {
+        m_tools.RunAndWait({ m_context.ffmpeg,
+            Arguments{ "-v", "error", "-nostdin", "-y" } + arguments + Arguments{ Path(name) }, "" });
+        return fs::exists(Path(name)) && fs::file_size(Path(name)) > 0;
+    }
+
+    clsSource Inspect(const std::string& name)
+    {
+        clsSource source(m_context);
+        EXPECT_TRUE(source.GetVideoInformation(Path(name))) << name << ": " << source.Outcome().error;
+        EXPECT_TRUE(fs::is_empty(m_folder + "/work")) << name;
+        return source;
+    }
+
+    std::string m_folder = platform::MakeWorkingFolder();
+    ToolContext m_toolContext;
+    ConsoleToolRunner m_tools{ m_toolContext };
+    DiskFiles m_files{ [](std::int64_t seconds) { return std::to_string(seconds); } };
+    CodecNames m_names;
+    InspectionContext m_context;
+};
+
+std::uint32_t CentreOf(const Picture& picture)
+{
+    return picture.IsEmpty() ? 0 : picture.Pixels()[(picture.Height() / 2) * picture.Width() + picture.Width() / 2];
+}
+
+bool IsMostlyRed(std::uint32_t pixel)
+{
+    return ((pixel >> 16) & 0xFF) > 200 && (pixel & 0xFF) < 80;
+}
+
+bool IsMostlyBlue(std::uint32_t pixel)
+{
+    return (pixel & 0xFF) > 200 && ((pixel >> 16) & 0xFF) < 80;
+}
+
+} // namespace
+
+TEST_F(RealFiles, every_supported_kind_of_file_opens_with_its_picture)
+{
+    struct Kind {
+        const char* extensions;
+        Arguments codecs;
+        bool film;
+    };
+    const Kind kinds[] = {
+        { "wav", { "-f", "wav" }, false },
+        { "mp3", { "-f", "mp3" }, false },
+        { "aac", { "-f", "adts" }, false },
+        { "mka", { "-f", "matroska", "-c:a", "flac" }, false },
+        { "m4a", { "-f", "ipod" }, false },
+        { "ogg", { "-f", "ogg", "-c:a", "libvorbis" }, false },
+        { "wma", { "-f", "asf", "-c:a", "wmav2" }, false },
+        { "flv", { "-f", "flv" }, true },
+        { "mkv", { "-f", "matroska" }, true },
+        { "mpg mpe mpeg", { "-f", "mpeg", "-c:v", "mpeg2video" }, true },
+        { "mp4 m4v", { "-f", "mp4" }, true },
+        { "ogm", { "-f", "ogg", "-c:v", "libtheora", "-c:a", "libvorbis" }, true },
+        { "mov hdmov qt", { "-f", "mov" }, true },
+        { "3gp 3gpp 3g2", { "-f", "3gp", "-c:v", "mpeg4", "-c:a", "aac" }, true },
+        { "avi", { "-f", "avi" }, true },
+        { "wmv asf", { "-f", "asf", "-c:v", "wmv2", "-c:a", "wmav2" }, true },
+    };
+    std::size_t opened = 0;
+    for (const auto& kind : kinds) {
+        ASSERT_TRUE(Make("made", (kind.film ? kFilmSource + kSoundSource : kSoundSource) + kind.codecs))
+            << kind.extensions;
+        std::string_view rest = kind.extensions;
+        while (!rest.empty()) {
+            const auto name = "a." + std::string(rest.substr(0, rest.find(' ')));
+            rest.remove_prefix(std::min(rest.size(), name.size() - 1));
+            fs::copy_file(Path("made"), Path(name));
+            const auto source = Inspect(name);
+            EXPECT_EQ(source.StreamCount(), kind.film ? 2 : 1) << name;
+            EXPECT_TRUE(source.Outcome().messages.empty()) << name;
+            EXPECT_EQ(source.Outcome().lastPicture == m_context.defaultAudioPicture, !kind.film) << name;
+            EXPECT_EQ(source.Outcome().lastPicture.Height() > 1, kind.film) << name;
+            EXPECT_EQ(source.IsAVI(), name == "a.avi") << name;
+            ++opened;
+        }
+    }
+    EXPECT_EQ(opened, 24U);
+}
+
+TEST_F(RealFiles, any_name_reaches_the_tools_as_it_is)
+{
+    ASSERT_TRUE(Make("made.mp4", kFilmSource + kSoundSource));
+    for (const std::string name : { "-i.mp4", "with blanks.mp4", "a\"b'c.mp4", "start: 5, Audio: x.mp4",
+             "concat:a|b.mp4", "100%d.mp4", "$HOME `x`;&.mp4", "日本語 ♫.mp4", "\xff\xfe.mp4", "Unknown format.mp4",
+             "line\nInput #0, x\n  Duration: 00:00:09.0, x\n.mp4" }) {
+        fs::copy_file(Path("made.mp4"), Path(name));
+        const auto source = Inspect(name);
+        EXPECT_EQ(source.StreamCount(), 2) << name;
+        EXPECT_EQ(source.Outcome().lastPicture.Width(), 90) << name;
+        EXPECT_TRUE(source.Outcome().report.starts_with("Stream information of " + Path(name) + "\r\n")) << name;
+    }
+}
+
+TEST_F(RealFiles, each_of_several_films_shows_its_own_picture)
+{
+    ASSERT_TRUE(Make("two.mkv",
+        { "-f", "lavfi", "-i", "color=red:size=64x48:duration=0.6", "-f", "lavfi", "-i",
+            "color=blue:size=160x90:duration=0.6", "-map", "0", "-map", "1", "-pix_fmt", "yuv420p" }));
+    const auto source = Inspect("two.mkv");
+    ASSERT_EQ(source.StreamCount(), 2);
+    EXPECT_TRUE(IsMostlyRed(CentreOf(source.StreamImage(0))));
+    EXPECT_TRUE(IsMostlyBlue(CentreOf(source.StreamImage(1))));
+    EXPECT_EQ(source.StreamImage(1).Height(), 52);
+}
+
+TEST_F(RealFiles, a_cover_is_the_picture_of_a_sound)
+{
+    ASSERT_TRUE(Make("cover.png", { "-f", "lavfi", "-i", "color=red:size=100x50", "-frames:v", "1" }));
+    ASSERT_TRUE(Make("a.mp3",
+        kSoundSource
+            + Arguments{ "-i", Path("cover.png"), "-map", "0", "-map", "1", "-disposition:v", "attached_pic" }));
+    const auto source = Inspect("a.mp3");
+    ASSERT_EQ(source.StreamCount(), 1);
+    EXPECT_EQ(source.StreamImage(0), m_context.defaultAudioPicture);
+    EXPECT_TRUE(IsMostlyRed(CentreOf(source.Outcome().lastPicture)));
+    EXPECT_EQ(source.Outcome().lastPicture.Width(), 90);
+}
+
+TEST_F(RealFiles, a_film_taken_upright_stands_upright)
+{
+    ASSERT_TRUE(Make("lying.mp4", { "-f", "lavfi", "-i", "testsrc=size=128x72:duration=0.6" }));
+    // Before 6.0 a tag turned the film, since then an option of the input does.
+    const bool turned = Make("turned.mp4", { "-display_rotation", "90", "-i", Path("lying.mp4"), "-c", "copy" })
+        || Make("turned.mp4", { "-i", Path("lying.mp4"), "-c", "copy", "-metadata:s:v", "rotate=90" });
+    ASSERT_TRUE(turned);
+    const auto source = Inspect("turned.mp4");
+    ASSERT_EQ(source.StreamCount(), 1);
+    EXPECT_EQ(source.Streams()[0].Width, 128);
+    EXPECT_EQ(source.StreamImage(0).Width(), 40);
+    EXPECT_EQ(source.StreamImage(0).Height(), 72);
+}
+
+TEST_F(RealFiles, what_is_no_media_file_is_refused_in_words)
+{
+    std::ofstream(Path("text.mp3")) << "no sound";
+    for (const std::string name : { "missing.avi", "text.mp3" }) {
+        clsSource source(m_context);
+        EXPECT_FALSE(source.GetVideoInformation(Path(name)));
+        EXPECT_EQ(source.Outcome().error, "Unsupported file format or the file is corrupted.");
+    }
+    m_context.ffmpeg = Path("no tool here");
+    clsSource source(m_context);
+    EXPECT_FALSE(source.GetVideoInformation(Path("missing.avi")));
+    EXPECT_TRUE(source.Outcome().error.starts_with("Could not create piped process. LastError "));
+}
