@@ -15,12 +15,14 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileDialog>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPainter>
 #include <QScreen>
 #include <QSplitter>
+#include <QToolTip>
 #include <QWindow>
 
 #include <chrono>
@@ -32,7 +34,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr double kTwipsPerPixel = 15;
-constexpr int kDragDistance = 2; // px
+constexpr int kDragDistance = 2;    // px
+constexpr double kListShare = 0.45; // of the content, until the splitter is moved
 constexpr auto kProgressDelay = 700ms;
 constexpr int kSplitterWidth = 6; // px
 constexpr int kPaneMinimum = 96;  // px
@@ -253,19 +256,19 @@ bool frmMain::IsPlaylistVisible() const
 void frmMain::SetPlaylistPosition(PlaylistDock position)
 {
     const bool isStacked = position == PlaylistDock::Top || position == PlaylistDock::Bottom;
-    m_dock = position;
-    m_list->setVisible(position != PlaylistDock::Hidden);
-    m_video->setVisible(position != PlaylistDock::Whole);
-    m_content->setOrientation(isStacked ? Qt::Vertical : Qt::Horizontal);
     const bool isListFirst = position == PlaylistDock::Left || position == PlaylistDock::Top;
-    m_content->insertWidget(isListFirst ? 0 : 1, m_list);
-    m_content->setStretchFactor(m_content->indexOf(m_video), 1);
-    m_content->setStretchFactor(m_content->indexOf(m_list), 0);
-    if (position < PlaylistDock::Whole) {
+    m_dock = position;
+    // Hiding keeps the place, so that the splitter is where it was when the list comes back.
+    if (position < PlaylistDock::Whole && std::exchange(m_splitFor, position) != position) {
+        m_content->setOrientation(isStacked ? Qt::Vertical : Qt::Horizontal);
+        m_content->insertWidget(isListFirst ? 0 : 1, m_list);
+        m_content->setStretchFactor(m_content->indexOf(m_video), 1);
+        m_content->setStretchFactor(m_content->indexOf(m_list), 0);
         const auto room = isStacked ? m_content->height() : m_content->width();
-        const auto listRoom = room * 2 / 5;
+        const auto listRoom = static_cast<int>(room * kListShare);
         m_content->setSizes(isListFirst ? QList{ listRoom, room - listRoom } : QList{ room - listRoom, listRoom });
     }
+    PlaceChildren();
 }
 
 void frmMain::ShowAddProgress(const AddProgress& progress)
@@ -465,6 +468,17 @@ void frmMain::changeEvent(QEvent* event)
     if (event->type() == QEvent::WindowStateChange)
         PlaceChildren();
     QWidget::changeEvent(event);
+}
+
+bool frmMain::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto* const help = static_cast<QHelpEvent*>(event);
+        const bool isOnCaption = Layout().Caption().Contains(help->pos().x(), help->pos().y());
+        QToolTip::showText(help->globalPos(), isOnCaption ? m_caption.toHtmlEscaped() : QString(), this);
+        return true;
+    }
+    return QWidget::event(event);
 }
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event)

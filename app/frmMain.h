@@ -58,6 +58,7 @@ public:
     void PumpUntil(const std::function<bool()>& done) override;
 
 protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -99,6 +100,7 @@ private:
     QRect m_normal;                   // geometry while neither maximised nor full screen, in logical pixels
     std::optional<QPoint> m_dragFrom; // where the left button went down on something that can be dragged
     PlaylistDock m_dock = PlaylistDock::Left;
+    PlaylistDock m_splitFor = PlaylistDock::Hidden; // the docking that the splitter stands for
     bool m_fullScreen = false;
     bool m_wasMaximized = false; // before full screen
     bool m_topmost = false;
