@@ -145,8 +145,12 @@ std::optional<double> MillisecondsToFirstFrame(const Screen& screen, Clock::time
 int main(int argc, char** argv)
 {
     const Screen screen;
-    if (argc < 3 || !screen.IsOpen() || screen.ShowsVideo()) {
-        std::fputs("launch-watch SECONDS COMMAND..., on a display that shows no such video yet\n", stderr);
+    if (argc < 3 || !screen.IsOpen()) {
+        std::fputs("launch-watch SECONDS COMMAND..., on a display\n", stderr);
+        return 2;
+    }
+    if (screen.ShowsVideo()) {
+        std::fputs("the display shows the video before the launch\n", stderr);
         return 2;
     }
     const auto start = Clock::now();
