@@ -36,6 +36,7 @@ struct Host : AddQueueHost {
     }
     std::int32_t PlayMode() const override { return kPlayContinuous; }
     void EntryAdded() override { ++added; }
+    void InspectionTaken(const Inspection&) override { }
     void AddProgressChanged(const AddProgress& progress) override { progressTexts.push_back(ProgressText(progress)); }
 
     std::vector<Notice> boxes;
