@@ -37,6 +37,7 @@ bool Player::Load(const std::string& commandLine)
     m_starting = true;
     m_replaceOnOpen = true;
     platform::MarkPlayerRunning(kRunningMark);
+    m_world.power.EnableShutdownPrivilege();
     LoadConfigurations();
     m_world.screen.ShowIdle();
     m_playlist.BuildOrder(m_settings.PlayMode);
@@ -313,8 +314,120 @@ void Player::cmdStopClick()
 {
     if (auto* const engine = m_host.VLCPlayer(); engine != nullptr && engine->ItemCount() > 0)
         engine->Stop();
-    m_world.screen.ShowIdle();
+    ReleaseHeldButtons();
     EnableMediaControls(false);
+    m_seekBar.SetProgress(0);
+    m_world.screen.ShowIdle();
+    ShowRateLabel(false);
+}
+
+Engine* Player::LoadedEngine() const
+{
+    return m_mediaControlsEnabled ? m_host.VLCPlayer() : nullptr;
+}
+
+void Player::SetEngineRate(std::optional<double> rate)
+{
+    auto* const engine = m_host.VLCPlayer();
+    if (rate && engine != nullptr)
+        engine->SetRate(*rate);
+}
+
+void Player::cmdffMouseDown()
+{
+    if (m_mediaControlsEnabled)
+        SetEngineRate(m_held.PressFastForward());
+}
+
+void Player::cmdffMouseUp()
+{
+    SetEngineRate(m_held.ReleaseFastForward());
+}
+
+void Player::RewindPressed()
+{
+    m_held.PressRewind(m_mediaControlsEnabled);
+}
+
+void Player::RewindReleased()
+{
+    m_held.ReleaseRewind();
+}
+
+void Player::OnRewindTick()
+{
+    auto* const engine = LoadedEngine();
+    if (engine == nullptr)
+        return;
+    if (const auto position = m_held.RewindTick(engine->Position()))
+        engine->SetPosition(*position);
+}
+
+void Player::ReleaseHeldButtons()
+{
+    SetEngineRate(m_held.ReleaseAll());
+}
+
+void Player::Seek(double position)
+{
+    if (auto* const engine = LoadedEngine())
+        engine->SetPosition(position);
+}
+
+void Player::SeekBy(int milliseconds)
+{
+    auto* const engine = LoadedEngine();
+    if (engine == nullptr)
+        return;
+    if (const auto position = m_seekBar.StepBy(milliseconds, engine->Position(), engine->Length(), true))
+        engine->SetPosition(*position);
+}
+
+void Player::SetVolume(int percent)
+{
+    m_host.SetVolume(percent);
+    m_volumeSlider.SetVolume(percent);
+    m_world.screen.StateChanged();
+}
+
+void Player::IncreaseRate()
+{
+    ApplyRate(m_rate.IncreaseRate(m_mediaControlsEnabled));
+}
+
+void Player::DecreaseRate()
+{
+    ApplyRate(m_rate.DecreaseRate(m_mediaControlsEnabled));
+}
+
+void Player::ResetRate()
+{
+    ApplyRate(m_rate.ResetRate(m_mediaControlsEnabled));
+}
+
+void Player::ApplyRate(const RateChange& change)
+{
+    SetEngineRate(change.engineRate);
+    if (change.engineRate)
+        ShowRateLabel(false);
+    m_world.screen.StateChanged();
+}
+
+void Player::ShowRateLabel(bool isLoading)
+{
+    auto* const engine = LoadedEngine();
+    m_world.screen.ShowRate(isLoading ? "Loading..." : RateLabelText(engine != nullptr ? engine->Rate() : 1.0));
+}
+
+void Player::DoAfter(std::int16_t action)
+{
+    m_afterPlay.DoAfter(action);
+    m_world.screen.StateChanged();
+}
+
+void Player::DoAfterFinishPlay()
+{
+    m_afterPlay.DoAfterFinishPlay(m_world.power, [this] { m_world.screen.CloseWindow(); });
 }
 
 void Player::cmdMuteClick()
@@ -366,8 +479,12 @@ void Player::OnPositionTick()
         reading.hasVideoOutput = reading.state >= Engine::kPlaying && engine->HasVideoOutput();
     }
     const auto tick = ReadPosition(reading, m_mediaControlsEnabled);
-    m_world.screen.ShowPosition(tick);
+    if (tick.progress)
+        m_seekBar.SetProgress(*tick.progress);
+    m_world.screen.ShowPosition(tick, reading.length);
+    ShowRateLabel(tick.isLoading);
     if (tick.hasEnded) {
+        ReleaseHeldButtons();
         EnableMediaControls(false);
         ItemEnded(tick.hasFailed);
     }
@@ -395,6 +512,7 @@ void Player::ItemEnded(bool failed)
         break;
     case EndOfItem::Action::StopAndAfterPlay:
         cmdStopClick();
+        DoAfterFinishPlay();
         break;
     case EndOfItem::Action::Play:
         // An index that a removal has left behind plays nothing.
@@ -407,6 +525,7 @@ void Player::PlayItem(std::int16_t index, bool fullScreen)
 {
     if (index < 0 || index >= m_playlist.Count())
         return;
+    ReleaseHeldButtons();
     m_host.RemoveVLCPlayer();
     m_host.AddVLCPLayer();
     m_currentItemPath = m_playlist.PathAt(index);
@@ -419,7 +538,8 @@ void Player::PlayItem(std::int16_t index, bool fullScreen)
     m_playlist.List().SetPlayingItem(index);
     m_playlist.List().ScrollToRow(index);
     EnableMediaControls(true);
-    m_rate = 1.0; // the value alone: a fresh engine runs at it
+    m_rate.ItemStarted();
+    ShowRateLabel(true);
     m_world.screen.PumpMessages(kPumpsAfterPlay);
     if (fullScreen)
         m_host.ToggleFullScreen();

@@ -5,10 +5,16 @@
 #include "base/PlayerSettings.h"
 #include "inspect/Inspection.h"
 #include "platform/HandOver.h"
+#include "platform/Power.h"
 #include "platform/StringStore.h"
+#include "playback/AfterPlay.h"
 #include "playback/EngineHost.h"
 #include "playback/EngineOptions.h"
+#include "playback/HeldButtons.h"
+#include "playback/PlaybackRate.h"
 #include "playback/PositionTick.h"
+#include "playback/SeekBar.h"
+#include "playback/VolumeSlider.h"
 #include "playlist/AddQueue.h"
 #include "playlist/Playlist.h"
 
@@ -33,6 +39,7 @@ struct PlayerWorld {
     EngineFactory& engines;
     InspectionRunner& inspections; ///< results come back through Player::InspectionCompleted
     platform::StringStore& store;
+    platform::Power& power;
     HandOverService handOver;
     RandomSource random; ///< uniform in [0, 1)
     std::function<void()> endProcess;
@@ -82,6 +89,26 @@ public:
     void CMDPlayClick();
     void CMDPauseClick();
     void cmdStopClick();
+    void cmdffMouseDown();
+    void cmdffMouseUp();
+    void RewindPressed();
+    void RewindReleased();
+    /// While rewind is held, every 10 ms.
+    void OnRewindTick();
+    /// The window has lost the focus: what is held counts as released.
+    void ReleaseHeldButtons();
+    /// 0.0 to 1.0; nothing while nothing is loaded.
+    void Seek(double position);
+    /// ms, back when below 0.
+    void SeekBy(int milliseconds);
+    void SetVolume(int percent);
+    void IncreaseRate();
+    void DecreaseRate();
+    /// Nothing while nothing is loaded.
+    void ResetRate();
+    /// Chooses what happens when playback has run out, see AfterPlay.
+    void DoAfter(std::int16_t action);
+    void DoAfterFinishPlay();
     void cmdMuteClick();
     void cmdFulScreenClick();
     /// Shows or hides the list.
@@ -106,7 +133,11 @@ public:
     EngineHost& Host() { return m_host; }
     const InspectionState& Inspected() const { return m_inspected; }
     bool MediaControlsEnabled() const { return m_mediaControlsEnabled; }
-    double PlaybackRate() const { return m_rate; }
+    SeekBar& Seeking() { return m_seekBar; }
+    VolumeSlider& Loudness() { return m_volumeSlider; }
+    const PlaybackRate& Rate() const { return m_rate; }
+    const AfterPlay& AfterPlaying() const { return m_afterPlay; }
+    bool IsRewinding() const { return m_held.IsRewinding(); }
     const std::string& CurrentItemPath() const { return m_currentItemPath; }
     const EngineOptions& ItemOptions() const { return m_options; }
 
@@ -148,6 +179,10 @@ private:
     void SetPlayMode(std::int32_t mode);
     void StepTo(std::optional<int> index);
     void ItemEnded(bool failed);
+    Engine* LoadedEngine() const;
+    void ApplyRate(const RateChange& change);
+    void SetEngineRate(std::optional<double> rate);
+    void ShowRateLabel(bool isLoading);
     bool IsRoundOfFailures() const;
     void EnableMediaControls(bool enabled);
     void ShowCaption();
@@ -165,7 +200,11 @@ private:
     StartupRequest m_startup;
     std::unique_ptr<platform::HandOverEnds> m_ends;
     std::string m_currentItemPath;
-    double m_rate = 1.0;
+    SeekBar m_seekBar;
+    VolumeSlider m_volumeSlider;
+    PlaybackRate m_rate;
+    HeldButtons m_held;
+    AfterPlay m_afterPlay;
     bool m_starting = false;
     bool m_replaceOnOpen = true;
     bool m_mediaControlsEnabled = false;

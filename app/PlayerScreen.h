@@ -35,8 +35,10 @@ public:
     virtual void SetPlaylistPosition(PlaylistDock position) = 0;
     virtual bool IsPlaylistVisible() const = 0;
     virtual void ShowAddProgress(const AddProgress& progress) = 0;
-    virtual void ShowPosition(const PositionTick& tick) = 0;
-    /// Back to what is shown while nothing is loaded: time, bar, audio logo.
+    /// `length` of the item in ms, 0 or below while unknown. The seek bar has its new fill already.
+    virtual void ShowPosition(const PositionTick& tick, double length) = 0;
+    virtual void ShowRate(const std::string& text) = 0;
+    /// Back to what is shown while nothing is loaded: time, bar, rate, audio logo.
     virtual void ShowIdle() = 0;
     /// The check marks, enabled commands and buttons are to be worked out anew.
     virtual void StateChanged() = 0;

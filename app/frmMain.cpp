@@ -10,7 +10,9 @@
 #include "shell/Caption.h"
 #include "shell/GlyphButton.h"
 #include "shell/QtText.h"
+#include "shell/SeekTrack.h"
 #include "shell/Style.h"
+#include "shell/VolumeKnob.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -73,7 +75,9 @@ frmMain::frmMain(const QString& programFolder)
     , m_content(new QSplitter(this))
     , m_video(new VideoFrame(programFolder + "Audio.JPG", m_content))
     , m_time(new QLabel(this))
+    , m_rate(new QLabel(this))
     , m_note(new QLabel(this))
+    , m_volumeNumber(new QLabel(this))
     , m_caption(kProgramName)
 {
     setObjectName("frmMain");
@@ -88,17 +92,23 @@ frmMain::frmMain(const QString& programFolder)
     m_video->installEventFilter(this);
     m_video->setAcceptDrops(true);
     m_video->setMinimumSize(kPaneMinimum, kPaneMinimum);
-    for (auto* const label : { m_time, m_note })
+    for (auto* const label : { m_time, m_rate, m_note, m_volumeNumber })
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_rate->setObjectName("lblRate");
+    m_rate->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_volumeNumber->setObjectName("lblVolume");
+    m_volumeNumber->setFont(style::TimeFont());
     m_time->setObjectName("lblTime");
     m_time->setFont(style::TimeFont());
-    m_note->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_note->setAlignment(Qt::AlignCenter);
     m_note->setTextFormat(Qt::PlainText);
     m_noteEnd.setSingleShot(true);
     connect(&m_noteEnd, &QTimer::timeout, m_note, &QLabel::clear);
     m_progressDelay.setSingleShot(true);
     connect(&m_progressDelay, &QTimer::timeout, this, [this] { m_list->ShowAddProgress(m_progress); });
     m_tmrMovie.setInterval(500ms);
+    m_tmrRewind.setInterval(10ms);
+    m_tmrRewind.setTimerType(Qt::PreciseTimer);
     ShowIdle();
 }
 
@@ -106,7 +116,9 @@ void frmMain::Serve(Player& player)
 {
     m_player = &player;
     connect(&m_tmrMovie, &QTimer::timeout, this, [this] { m_player->OnPositionTick(); });
+    connect(&m_tmrRewind, &QTimer::timeout, this, [this] { m_player->OnRewindTick(); });
     MakeList();
+    MakeSliders();
     MakeTitleButton(Button::Minimize, "Minimize", &frmMain::showMinimized);
     MakeTitleButton(Button::Maximize, "Maximize", &frmMain::ToggleMaximized);
     MakeTitleButton(Button::Close, "Close", &frmMain::CloseWindow);
@@ -115,6 +127,8 @@ void frmMain::Serve(Player& player)
     MakeButton(Button::Stop, "Stop", "Ctrl+S", &Player::cmdStopClick);
     MakeButton(Button::Previous, "Previous", "Page Up", &Player::cmdPreviousClick);
     MakeButton(Button::Next, "Next", "Page Down", &Player::cmdNextClick);
+    MakeHeldButton(Button::Rewind, "Rewind", &Player::RewindPressed, &Player::RewindReleased);
+    MakeHeldButton(Button::FastForward, "Fast forward", &Player::cmdffMouseDown, &Player::cmdffMouseUp);
     MakeButton(Button::FullScreen, "Full Screen", "Ctrl+F", &Player::cmdFulScreenClick);
     MakeButton(Button::PlayList, "Playlist", "", &Player::cmdPlayListClick);
     MakeButton(Button::SoundOn, "Mute", "", &Player::cmdMuteClick);
@@ -128,6 +142,28 @@ void frmMain::MakeButton(Button button, const QString& name, const QString& shor
 {
     auto* const made = m_buttons[button] = new GlyphButton(button, name, shortcut, this);
     connect(made, &GlyphButton::clicked, this, [this, command] { (m_player->*command)(); });
+}
+
+void frmMain::MakeHeldButton(Button button, const QString& name, void (Player::*press)(), void (Player::*release)())
+{
+    auto* const made = m_buttons[button] = new GlyphButton(button, name, "hold", this);
+    connect(made, &GlyphButton::pressed, this, [this, press] {
+        (m_player->*press)();
+        m_tmrRewind.start();
+    });
+    connect(made, &GlyphButton::released, this, [this, release] {
+        (m_player->*release)();
+        m_tmrRewind.stop();
+    });
+}
+
+void frmMain::MakeSliders()
+{
+    m_seek = new SeekTrack(m_player->Seeking(), this);
+    connect(m_seek, &SeekTrack::PositionChosen, this, [this](double position) { m_player->Seek(position); });
+    connect(m_seek, &SeekTrack::StepChosen, this, [this](int milliseconds) { m_player->SeekBy(milliseconds); });
+    m_volume = new VolumeKnob(m_player->Loudness(), this);
+    connect(m_volume, &VolumeKnob::VolumeChosen, this, [this](int percent) { m_player->SetVolume(percent); });
 }
 
 void frmMain::MakeTitleButton(Button button, const QString& name, void (frmMain::*command)())
@@ -281,24 +317,37 @@ void frmMain::ShowAddProgress(const AddProgress& progress)
         m_list->ShowAddProgress(progress);
 }
 
-void frmMain::ShowPosition(const PositionTick& tick)
+void frmMain::ShowPosition(const PositionTick& tick, double length)
 {
     m_time->setText(ToQString(tick.timeText));
+    m_seek->SetItem(m_player->MediaControlsEnabled(), length);
+    m_seek->ShowProgress();
     if (tick.showAudioLogo)
         m_video->ShowAudioLogo(*tick.showAudioLogo);
+}
+
+void frmMain::ShowRate(const std::string& text)
+{
+    m_rate->setText(ToQString(text));
 }
 
 void frmMain::ShowIdle()
 {
     m_time->setText(ToQString(TimeLabelText(0, 0)));
     m_video->ShowAudioLogo(false);
+    if (m_seek != nullptr)
+        m_seek->ShowProgress();
 }
 
 void frmMain::StateChanged()
 {
     const bool isLoaded = m_player->MediaControlsEnabled();
-    for (const auto button : { Button::Pause, Button::Stop, Button::Previous, Button::Next, Button::FullScreen })
+    for (const auto button : { Button::Pause, Button::Stop, Button::Previous, Button::Next, Button::Rewind,
+             Button::FastForward, Button::FullScreen })
         m_buttons[button]->setEnabled(isLoaded);
+    m_seek->SetItem(isLoaded, 0);
+    m_volumeNumber->setText(QString::number(m_player->Host().Volume()));
+    m_volume->update();
     m_buttons[Button::SoundOn]->ShowSign(m_player->Host().IsMuted() ? Button::SoundOff : Button::SoundOn);
 }
 
@@ -355,7 +404,13 @@ void frmMain::PlaceChildren()
     const auto layout = Layout();
     m_content->setGeometry(ToQt(layout.Content()));
     m_time->setGeometry(ToQt(layout.TimeLabel()));
-    m_note->setGeometry(ToQt(layout.RateLabel()));
+    m_rate->setGeometry(ToQt(layout.RateLabel()));
+    m_note->setGeometry(ToQt(layout.NoteLabel()));
+    m_volumeNumber->setGeometry(ToQt(layout.VolumeNumber()));
+    if (m_seek != nullptr) {
+        m_seek->setGeometry(ToQt(layout.SeekTrack()));
+        m_volume->setGeometry(ToQt(layout.VolumeSlider()));
+    }
     for (const auto& [button, widget] : m_buttons)
         widget->setGeometry(ToQt(layout.ButtonRect(button)));
 }
@@ -467,6 +522,8 @@ void frmMain::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::WindowStateChange)
         PlaceChildren();
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow() && m_player != nullptr)
+        m_player->ReleaseHeldButtons();
     QWidget::changeEvent(event);
 }
 

@@ -18,7 +18,9 @@ namespace zentaro {
 class FancyList;
 class GlyphButton;
 class Player;
+class SeekTrack;
 class VideoFrame;
+class VolumeKnob;
 
 /// The main window: frameless, moved and resized by the system on the user's behalf. It shows the player's state and
 /// forwards what the user does; it decides nothing.
@@ -48,7 +50,8 @@ public:
     void SetPlaylistPosition(PlaylistDock position) override;
     bool IsPlaylistVisible() const override;
     void ShowAddProgress(const AddProgress& progress) override;
-    void ShowPosition(const PositionTick& tick) override;
+    void ShowPosition(const PositionTick& tick, double length) override;
+    void ShowRate(const std::string& text) override;
     void ShowIdle() override;
     void StateChanged() override;
     void ShowNotice(const Notice& notice) override;
@@ -77,6 +80,8 @@ private:
     WindowLayout Layout() const;
     void MakeButton(Button button, const QString& name, const QString& shortcut, void (Player::*command)());
     void MakeTitleButton(Button button, const QString& name, void (frmMain::*command)());
+    void MakeHeldButton(Button button, const QString& name, void (Player::*press)(), void (Player::*release)());
+    void MakeSliders();
     void MakeList();
     void ToggleMaximized();
     void PlaceChildren();
@@ -90,8 +95,13 @@ private:
     VideoFrame* m_video;
     FancyList* m_list = nullptr; // FancyList1
     QLabel* m_time;
+    QLabel* m_rate;
     QLabel* m_note;
+    QLabel* m_volumeNumber;
+    SeekTrack* m_seek = nullptr;
+    VolumeKnob* m_volume = nullptr;
     QTimer m_tmrMovie;
+    QTimer m_tmrRewind;
     QTimer m_noteEnd;
     QTimer m_progressDelay;
     AddProgress m_progress;

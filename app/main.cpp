@@ -6,6 +6,7 @@
 #include "inspect/DiskFiles.h"
 #include "inspect/QtServices.h"
 #include "platform/Folders.h"
+#include "platform/Power.h"
 #include "platform/Process.h"
 #include "platform/QuitRequest.h"
 #include "platform/TextFile.h"
@@ -95,6 +96,7 @@ int main(int argc, char** argv)
     const auto settingsFolder = WithTrailingSeparator(platform::SettingsFolder(), separator);
     const auto workingFolder = WithTrailingSeparator(platform::MakeWorkingFolder(), separator);
     const auto store = platform::StringStore::Open();
+    const auto power = platform::Power::Open();
 
     frmMain window(ToQString(programFolder));
     VlcEngines engines(window.Video(), workingFolder + "engine.log");
@@ -107,8 +109,8 @@ int main(int argc, char** argv)
         platform::RemoveFolder(workingFolder);
         platform::EndProcess();
     };
-    Player player({ window, engines, inspections, *store, RealHandOver(), RealRandom(), endProcess, programFolder,
-        settingsFolder, separator });
+    Player player({ window, engines, inspections, *store, *power, RealHandOver(), RealRandom(), endProcess,
+        programFolder, settingsFolder, separator });
     inspections.onCompleted = [&](int ticket, Inspection result) {
         player.InspectionCompleted(ticket, std::move(result));
     };

@@ -23,6 +23,7 @@ struct SilentHost : AddHost {
     void ShowNotice(const Notice&) override { }
     void PlayItem(int, bool) override { }
     std::int32_t PlayMode() const override { return playMode; }
+    void InspectionTaken(const Inspection&) override { }
     void EntryAdded() override { }
     std::int32_t playMode = kPlayContinuous;
 };

@@ -1,5 +1,7 @@
 #include "platform/ChildProcess.h"
 
+#include "platform/FileDescriptor_linux.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -28,42 +30,17 @@ using std::chrono::milliseconds;
 constexpr milliseconds kRound{ 40 };
 constexpr milliseconds kGrace{ 20 }; // between the polite and the hard signal
 
-class Descriptor {
-public:
-    explicit Descriptor(int number = -1)
-        : m_number(number)
-    {
-    }
-    Descriptor(Descriptor&& other) noexcept
-        : m_number(std::exchange(other.m_number, -1))
-    {
-    }
-    Descriptor& operator=(Descriptor&& other) noexcept
-    {
-        std::swap(m_number, other.m_number);
-        return *this;
-    }
-    ~Descriptor()
-    {
-        if (m_number >= 0)
-            ::close(m_number);
-    }
-    int Number() const { return m_number; }
-
-private:
-    int m_number;
-};
-
 struct Pipe {
-    Descriptor readEnd;
-    Descriptor writeEnd;
+    FileDescriptor readEnd;
+    FileDescriptor writeEnd;
 };
 
 /// In a program without standard streams a pipe's end may get one of their numbers; the child needs them free.
-Descriptor AboveStandardStreams(int number)
+FileDescriptor AboveStandardStreams(int number)
 {
-    Descriptor low(number);
-    return number > STDERR_FILENO ? std::move(low) : Descriptor(::fcntl(number, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
+    FileDescriptor low(number);
+    return number > STDERR_FILENO ? std::move(low)
+                                  : FileDescriptor(::fcntl(number, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
 }
 
 /// 0, or the system's error code.
@@ -260,13 +237,13 @@ private:
     }
 
     pid_t m_pid;
-    Descriptor m_endSignal;
+    FileDescriptor m_endSignal;
     bool m_ended = false;
 };
 
 class LinuxChild final : public ChildProcess {
 public:
-    LinuxChild(pid_t pid, Descriptor output)
+    LinuxChild(pid_t pid, FileDescriptor output)
         : m_leader(pid)
         , m_output(std::move(output))
     {
@@ -307,7 +284,7 @@ public:
 
 private:
     GroupLeader m_leader;
-    Descriptor m_output;
+    FileDescriptor m_output;
     bool m_closed = false;
     bool m_terminated = false;
 };

@@ -32,8 +32,8 @@ PositionTick ReadPosition(const EngineReading& reading, bool mediaControlsEnable
     if (reading.position > 0)
         tick.progress = RoundHalfEven(reading.position * 100);
     tick.timeText = TimeLabelText(std::max(reading.time, 0.0), std::max(reading.length, 0.0));
-    // While a video is being opened it has no output yet, and the logo would flash.
-    if (isOpen)
+    // While a video is being opened it has no output yet, and when it has ended no longer: the logo would flash.
+    if (isOpen && reading.state < Engine::kStopped)
         tick.showAudioLogo = !reading.hasVideoOutput;
     // The clock alone misses half of all files: its last reading can lie well before the total. The clock of a disc
     // stands at the total while a menu waits.

@@ -63,7 +63,12 @@ public:
     {
         return { 41 + (m_width - 82) / 2, PanelTop() + 12, m_width - 82 - (m_width - 82) / 2, 22 };
     }
-    Rect SeekTrack() const { return { 41, PanelTop() + 44, m_width - 85, 8 }; }
+    Rect SeekTrack() const { return { 41, PanelTop() + 40, m_width - 85, 16 }; }
+    /// Right of the sound button.
+    Rect VolumeSlider() const { return { m_width - 78, m_height - 27, 48, 20 }; }
+    Rect VolumeNumber() const { return { m_width - 27, m_height - 27, 24, 20 }; }
+    /// A passing note, over the seek track.
+    Rect NoteLabel() const { return { 41, PanelTop() + 1, m_width - 85, 14 }; }
 
     /// Which edges of the frameless window a pointer takes hold of.
     struct Edges {

@@ -31,7 +31,8 @@ public:
     void SetPlaylistPosition(PlaylistDock position) override { dock = position; }
     bool IsPlaylistVisible() const override { return dock != PlaylistDock::Hidden; }
     void ShowAddProgress(const AddProgress&) override { }
-    void ShowPosition(const PositionTick& tick) override { timeText = tick.timeText; }
+    void ShowPosition(const PositionTick& tick, double) override { timeText = tick.timeText; }
+    void ShowRate(const std::string& text) override { rateText = text; }
     void StateChanged() override { }
     void ShowNotice(const Notice& notice) override { boxes.push_back(notice.title + ": " + notice.text); }
     void ShowNote(const std::string& text) override { note = text; }
@@ -47,6 +48,7 @@ public:
     std::function<bool()> pump;
     PlaylistDock dock = PlaylistDock::Hidden;
     std::string timeText;
+    std::string rateText;
     std::vector<std::string> boxes;
     std::string note;
     std::vector<std::string> chosen;
@@ -150,6 +152,22 @@ public:
     std::map<std::string, std::string> values;
 };
 
+class FakePower : public platform::Power {
+public:
+    void EnableShutdownPrivilege() override { }
+    Result<void> Restart() override
+    {
+        requests += "restart ";
+        return {};
+    }
+    Result<void> PowerOff() override
+    {
+        requests += "off ";
+        return {};
+    }
+    std::string requests;
+};
+
 class FakeEnds : public platform::HandOverEnds {
 public:
     std::string CommandHandle() const override { return "4711"; }
@@ -186,7 +204,7 @@ protected:
             [] { return std::unique_ptr<platform::HandOverLock>(); },
         };
         screen.pump = [this] { return inspections.AnswerOne(*player); };
-        player = std::make_unique<Player>(PlayerWorld{ screen, engines, inspections, store, handOver,
+        player = std::make_unique<Player>(PlayerWorld{ screen, engines, inspections, store, power, handOver,
             [] { return 0.0; }, [this] { ended = true; }, folder.string() + "/", folder.string() + "/", '/' });
         isPlayer = player->Load(commandLine);
         return *player;
@@ -219,6 +237,7 @@ protected:
     FakeEngines engines;
     FakeInspections inspections;
     FakeStore store;
+    FakePower power;
     std::unique_ptr<Player> player;
     std::vector<std::string> sent;
     bool otherPlayerLives = false;
@@ -439,6 +458,39 @@ TEST_F(PlayerTest, chosen_files_are_added_and_only_the_first_plays)
     EXPECT_EQ(player->Entries().Count(), 3);
     EXPECT_EQ(player->Entries().EntryAt(2)->Title, "e.avi");
     EXPECT_EQ(engines.trace.played, std::vector<std::string>{ "/clips/c.avi" });
+}
+
+TEST_F(PlayerTest, the_after_play_action_runs_at_the_end_of_the_sequence_only)
+{
+    auto& loaded = StartWithEntries(2, kPlayContinuous, kNoRepeat);
+    loaded.DoAfter(2);
+    EndItem();
+    EXPECT_EQ(power.requests, "");
+    EndItem();
+    EXPECT_EQ(power.requests, "off ");
+    EXPECT_EQ(engines.trace.played.size(), 2u);
+    loaded.SetRepeatMode(kRepeatAll);
+    loaded.CMDPlayClick();
+    EndItem();
+    EndItem();
+    EXPECT_EQ(power.requests, "off ");
+}
+
+TEST_F(PlayerTest, what_is_held_ends_with_the_item_and_the_rate_starts_anew)
+{
+    auto& loaded = StartWithEntries(2, kPlayContinuous, kRepeatAll);
+    loaded.IncreaseRate();
+    EXPECT_EQ(engines.trace.rateSet, 2);
+    loaded.cmdffMouseDown();
+    EXPECT_EQ(engines.trace.rateSet, 10);
+    loaded.RewindPressed();
+    loaded.cmdStopClick();
+    EXPECT_EQ(engines.trace.rateSet, 1);
+    EXPECT_FALSE(loaded.IsRewinding());
+    EXPECT_EQ(screen.rateText, "Playing rate:1x");
+    loaded.CMDPlayClick();
+    EXPECT_EQ(loaded.Rate().Value(), 1);
+    EXPECT_EQ(screen.rateText, "Loading...");
 }
 
 TEST_F(PlayerTest, closing_while_files_are_added_ends_the_waiting)

@@ -35,6 +35,7 @@ struct Host : AddQueueHost {
             std::exchange(whilePlaying, nullptr)();
     }
     std::int32_t PlayMode() const override { return kPlayContinuous; }
+    void InspectionTaken(const Inspection& inspection) override { lastInfo = inspection.mediaInfo; }
     void EntryAdded() override { ++added; }
     void InspectionTaken(const Inspection&) override { }
     void AddProgressChanged(const AddProgress& progress) override { progressTexts.push_back(ProgressText(progress)); }
@@ -44,6 +45,7 @@ struct Host : AddQueueHost {
     std::vector<std::string> progressTexts;
     std::function<void()> whileBoxIsOpen;
     std::function<void()> whilePlaying;
+    std::string lastInfo;
     int added = 0;
 };
 

@@ -1,0 +1,66 @@
+#include "playback/PlaybackRate.h"
+
+#include "base/Numbers.h"
+
+#include <array>
+#include <charconv>
+
+namespace zentaro {
+
+namespace {
+
+constexpr double kSlowest = 0.125;
+constexpr double kFastest = 16;
+
+double Normalised(double rate)
+{
+    return rate <= 1 ? RoundHalfEven(rate * 1000) / 1000.0 : RoundDown(rate);
+}
+
+std::optional<double> ForEngine(double rate, bool mediaControlsEnabled)
+{
+    return mediaControlsEnabled ? std::optional(rate) : std::nullopt;
+}
+
+} // namespace
+
+RateChange PlaybackRate::IncreaseRate(bool mediaControlsEnabled)
+{
+    if (m_value >= kFastest)
+        return {};
+    m_value = Normalised(m_value * 2);
+    RateChange change{ .engineRate = ForEngine(m_value, mediaControlsEnabled), .decreaseEnabled = true };
+    if (m_value >= kFastest)
+        change.increaseEnabled = false;
+    return change;
+}
+
+RateChange PlaybackRate::DecreaseRate(bool mediaControlsEnabled)
+{
+    if (m_value <= kSlowest)
+        return {};
+    m_value = Normalised(m_value / 2);
+    RateChange change{ .engineRate = ForEngine(m_value, mediaControlsEnabled), .increaseEnabled = true };
+    if (m_value <= kSlowest)
+        change.decreaseEnabled = false;
+    return change;
+}
+
+RateChange PlaybackRate::ResetRate(bool mediaControlsEnabled)
+{
+    if (!mediaControlsEnabled)
+        return {};
+    m_value = 1;
+    return { .engineRate = m_value, .increaseEnabled = true, .decreaseEnabled = true };
+}
+
+std::string RateLabelText(double rate)
+{
+    // Engines keep the rate in few digits; more of them than ours has would only show that.
+    const double shown = RoundHalfEven(rate * 1000) / 1000.0;
+    std::array<char, 32> digits{};
+    const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), shown, std::chars_format::fixed);
+    return "Playing rate:" + std::string(digits.data(), written.ptr) + "x";
+}
+
+} // namespace zentaro

@@ -1,0 +1,133 @@
+#include "shell/SeekTrack.h"
+
+#include "shell/QtText.h"
+#include "shell/Style.h"
+
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QToolTip>
+
+namespace zentaro {
+
+namespace {
+
+constexpr double kSlim = 4;         // px
+constexpr double kUnderPointer = 6; // px
+constexpr int kKeyStep = 5000;      // ms
+constexpr int kLongKeyStep = 30000; // ms
+
+} // namespace
+
+SeekTrack::SeekTrack(SeekBar& bar, QWidget* parent)
+    : QWidget(parent)
+    , m_bar(bar)
+{
+    setObjectName("IMGProgressBack");
+    setAccessibleName("Position");
+    setMouseTracking(true);
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+    setCursor(Qt::ArrowCursor);
+}
+
+void SeekTrack::SetItem(bool mediaControlsEnabled, double length)
+{
+    m_mediaControlsEnabled = mediaControlsEnabled;
+    m_length = length;
+}
+
+void SeekTrack::ShowProgress()
+{
+    update();
+}
+
+void SeekTrack::Choose(std::optional<double> position)
+{
+    if (!position)
+        return;
+    update();
+    emit PositionChosen(*position);
+}
+
+void SeekTrack::ShowTimeAt(const QPoint& global, double x)
+{
+    const auto time = m_bar.TimeUnder(x, m_length, m_mediaControlsEnabled);
+    if (time.empty())
+        QToolTip::hideText();
+    else
+        QToolTip::showText(global, ToQString(time), this);
+}
+
+bool SeekTrack::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto* const help = static_cast<QHelpEvent*>(event);
+    ShowTimeAt(help->globalPos(), help->pos().x());
+    return true;
+}
+
+void SeekTrack::resizeEvent(QResizeEvent*)
+{
+    m_bar.SetTrackWidth(width());
+}
+
+void SeekTrack::mousePressEvent(QMouseEvent* event)
+{
+    const auto x = event->position().x();
+    const bool isLeft = event->button() == Qt::LeftButton;
+    m_heldOnFill = m_bar.IsOnFill(x);
+    Choose(m_heldOnFill ? m_bar.PointerOnFill(x, isLeft, m_mediaControlsEnabled)
+                        : m_bar.PressOnTrack(x, isLeft, m_mediaControlsEnabled));
+}
+
+void SeekTrack::mouseMoveEvent(QMouseEvent* event)
+{
+    const auto x = event->position().x();
+    ShowTimeAt(event->globalPosition().toPoint(), x);
+    if (event->buttons() == Qt::NoButton)
+        return;
+    const bool isLeft = event->buttons().testFlag(Qt::LeftButton);
+    Choose(m_heldOnFill ? m_bar.PointerOnFill(x, isLeft, m_mediaControlsEnabled)
+                        : m_bar.MoveOnTrack(x, isLeft, m_mediaControlsEnabled));
+}
+
+void SeekTrack::keyPressEvent(QKeyEvent* event)
+{
+    const int step = event->modifiers().testFlag(Qt::ShiftModifier) ? kLongKeyStep : kKeyStep;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        emit StepChosen(-step);
+        break;
+    case Qt::Key_Right:
+        emit StepChosen(step);
+        break;
+    case Qt::Key_Home:
+        Choose(m_bar.JumpTo(0, m_mediaControlsEnabled));
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void SeekTrack::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    const auto thickness = m_mediaControlsEnabled && underMouse() ? kUnderPointer : kSlim;
+    QRectF track(0, (height() - thickness) / 2, width(), thickness);
+    painter.setBrush(style::kBase);
+    painter.drawRoundedRect(track, thickness / 2, thickness / 2);
+    track.setWidth(m_bar.FillWidth());
+    painter.setBrush(style::kLight);
+    painter.drawRoundedRect(track, thickness / 2, thickness / 2);
+    if (hasFocus()) {
+        painter.setPen(QPen(style::kLight, 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+    }
+}
+
+} // namespace zentaro

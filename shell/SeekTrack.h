@@ -1,0 +1,47 @@
+#pragma once
+
+#include "playback/SeekBar.h"
+
+#include <QWidget>
+
+namespace zentaro {
+
+/// The seek bar on the screen: a track with the played part over its left end. Painted slimmer than it takes the
+/// pointer.
+class SeekTrack : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The bar must outlive the widget.
+    SeekTrack(SeekBar& bar, QWidget* parent);
+
+    /// Whether it can seek, and over which length (ms, 0 or below while unknown).
+    void SetItem(bool mediaControlsEnabled, double length);
+    /// The bar has changed by itself.
+    void ShowProgress();
+
+signals:
+    /// The engine is to go to this position, 0.0 to 1.0.
+    void PositionChosen(double position);
+    /// A key steps by so many ms, back when below 0.
+    void StepChosen(int milliseconds);
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void Choose(std::optional<double> position);
+    void ShowTimeAt(const QPoint& global, double x);
+
+    SeekBar& m_bar;
+    double m_length = 0;
+    bool m_mediaControlsEnabled = false;
+    bool m_heldOnFill = false; // the button went down on the played part
+};
+
+} // namespace zentaro

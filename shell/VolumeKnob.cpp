@@ -1,0 +1,88 @@
+#include "shell/VolumeKnob.h"
+
+#include "shell/Style.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+namespace zentaro {
+
+namespace {
+
+constexpr double kKnobWidth = 7;   // px; the slider's arithmetic keeps the knob's middle under the pointer
+constexpr double kKnobHeight = 14; // px
+constexpr double kTrackHeight = 4; // px
+constexpr int kKeyStep = 5;        // percent
+
+} // namespace
+
+VolumeKnob::VolumeKnob(VolumeSlider& slider, QWidget* parent)
+    : QWidget(parent)
+    , m_slider(slider)
+{
+    setObjectName("ImgSlider");
+    setAccessibleName("Volume");
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
+    setCursor(Qt::ArrowCursor);
+}
+
+void VolumeKnob::Choose(std::optional<int> percent)
+{
+    if (!percent)
+        return;
+    update();
+    emit VolumeChosen(*percent);
+}
+
+void VolumeKnob::resizeEvent(QResizeEvent*)
+{
+    m_slider.SetScaleWidth(width());
+}
+
+void VolumeKnob::mousePressEvent(QMouseEvent* event)
+{
+    Choose(m_slider.PointerOnSlider(event->position().x()));
+}
+
+void VolumeKnob::mouseMoveEvent(QMouseEvent* event)
+{
+    Choose(m_slider.PointerOnSlider(event->position().x()));
+}
+
+void VolumeKnob::wheelEvent(QWheelEvent* event)
+{
+    Choose(m_slider.Wheel(event->angleDelta().y()));
+    event->accept();
+}
+
+void VolumeKnob::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Down)
+        Choose(m_slider.StepBy(-kKeyStep));
+    else if (event->key() == Qt::Key_Right || event->key() == Qt::Key_Up)
+        Choose(m_slider.StepBy(kKeyStep));
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void VolumeKnob::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    const auto middle = height() / 2.0;
+    const QRectF track(0, middle - kTrackHeight / 2, width(), kTrackHeight);
+    painter.setBrush(style::kBase);
+    painter.drawRoundedRect(track, kTrackHeight / 2, kTrackHeight / 2);
+    const auto knobLeft = m_slider.KnobLeft();
+    auto loud = track;
+    loud.setWidth(knobLeft + kKnobWidth / 2);
+    painter.setBrush(style::kLight);
+    painter.drawRoundedRect(loud, kTrackHeight / 2, kTrackHeight / 2);
+    painter.setBrush(underMouse() || hasFocus() ? style::kLight : style::kText);
+    painter.drawRoundedRect(QRectF(knobLeft, middle - kKnobHeight / 2, kKnobWidth, kKnobHeight), 2.5, 2.5);
+}
+
+} // namespace zentaro

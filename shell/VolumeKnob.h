@@ -1,0 +1,35 @@
+#pragma once
+
+#include "playback/VolumeSlider.h"
+
+#include <QWidget>
+
+namespace zentaro {
+
+/// The volume slider on the screen.
+class VolumeKnob : public QWidget {
+    Q_OBJECT
+
+public:
+    /// The slider must outlive the widget.
+    VolumeKnob(VolumeSlider& slider, QWidget* parent);
+
+signals:
+    /// 0 to 100.
+    void VolumeChosen(int percent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void Choose(std::optional<int> percent);
+
+    VolumeSlider& m_slider;
+};
+
+} // namespace zentaro

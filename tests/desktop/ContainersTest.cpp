@@ -1,0 +1,55 @@
+#include "tests/desktop/PlayerDesk.h"
+
+#include <csignal>
+#include <filesystem>
+
+namespace zentaro::desktop {
+namespace {
+
+class Playing : public PlayerDesk {
+protected:
+    /// Whether the process has the file open just now.
+    static bool Reads(const Process& process, const std::string& path)
+    {
+        std::error_code gone;
+        for (const auto& entry :
+            std::filesystem::directory_iterator("/proc/" + std::to_string(process.Id()) + "/fd", gone)) {
+            if (std::filesystem::read_symlink(entry.path(), gone) == path)
+                return true;
+        }
+        return false;
+    }
+};
+
+TEST_F(Playing, EveryContainerMovesItsPictureOrShowsTheLogoWhileTheClockRuns)
+{
+    auto player = StartAndShow();
+    for (const auto* const name : { "c.mp4", "c.mkv", "c.mp3", "c.avi", "c.mpg", "c.wav", "c.flv", "c.wmv", "c.ogg",
+             "c.mov", "c.3gp", "c.m4a", "c.ogm", "c.wma", "c.mka" }) {
+        SCOPED_TRACE(name);
+        auto messenger = Start({ Clips::Make(name) });
+        EXPECT_EQ(messenger.WaitForEnd(), 0);
+        EXPECT_TRUE(player.WaitForTitle(name));
+        EXPECT_TRUE(Clips::IsSoundOnly(name) ? player.ShowsAudioLogo() && player.ClockRuns() : player.PictureMoves());
+    }
+    EXPECT_CLOSES_CLEANLY(player);
+}
+
+TEST_F(Playing, WorksWithoutAnyDisplay)
+{
+    const std::map<std::string, std::string> offscreen = { { "QT_QPA_PLATFORM", "offscreen" }, { "DISPLAY", "" } };
+    const auto first = CopyOf(Clips::Make("clip.mp4"), "first.mp4");
+    const auto second = CopyOf(Clips::Make("clip.mp4"), "second.mp4");
+    auto player = Start({ first }, {}, offscreen);
+    EXPECT_TRUE(WaitUntil([&] { return Reads(player, first); }));
+    auto messenger = Start({ second }, {}, offscreen);
+    EXPECT_EQ(messenger.WaitForEnd(), 0);
+    EXPECT_TRUE(WaitUntil([&] { return Reads(player, second); }));
+    EXPECT_FALSE(Reads(player, first));
+    player.Signal(SIGTERM);
+    EXPECT_EQ(player.WaitForEnd(), 0);
+    EXPECT_EQ(player.ErrorText(), "");
+}
+
+} // namespace
+} // namespace zentaro::desktop

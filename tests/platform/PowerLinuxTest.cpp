@@ -1,0 +1,172 @@
+#include "platform/Power_linux.h"
+#include "tests/platform/PrivateBus.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <functional>
+
+namespace zentaro::platform {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+
+constexpr auto kLong = 1h;
+
+/// A login manager that only notes what it is asked.
+class LoginManager : public QDBusVirtualObject {
+public:
+    enum class Mood { Obeys, Refuses, KeepsSilent };
+
+    explicit LoginManager(const std::string& address)
+        : m_bus(QDBusConnection::connectToBus(QString::fromStdString(address), "login1"))
+    {
+        EXPECT_TRUE(m_bus.registerVirtualObject("/org/freedesktop/login1", this));
+        EXPECT_TRUE(m_bus.registerService("org.freedesktop.login1"));
+    }
+    ~LoginManager() override { QDBusConnection::disconnectFromBus("login1"); }
+
+    QString introspect(const QString&) const override { return {}; }
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override
+    {
+        const auto& arguments = message.arguments();
+        const bool mayAsk = arguments.size() == 1 && arguments[0] == QVariant(true);
+        asked.push_back((message.interface() + "." + message.member() + (mayAsk ? " true" : "")).toStdString());
+        if (mood != Mood::KeepsSilent)
+            bus.send(mood == Mood::Obeys ? message.createReply()
+                                         : message.createErrorReply(QDBusError::AccessDenied, "not you"));
+        return true;
+    }
+
+    /// How many have a connection to the bus, this one included.
+    long ClientCount()
+    {
+        const auto names = m_bus.interface()->registeredServiceNames().value();
+        return std::count_if(names.begin(), names.end(), [](const QString& name) { return name.startsWith(':'); });
+    }
+
+    std::vector<std::string> asked;
+    Mood mood = Mood::Obeys;
+
+private:
+    QDBusConnection m_bus;
+};
+
+class PowerLinuxTest : public testing::Test {
+protected:
+    /// Handles messages until `done`, for ten seconds at most.
+    static bool Reached(const std::function<bool()>& done)
+    {
+        const auto end = std::chrono::steady_clock::now() + 10s;
+        while (!done() && std::chrono::steady_clock::now() < end)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        return done();
+    }
+    bool IsAsked(std::size_t times)
+    {
+        return Reached([&] { return login.asked.size() == times; });
+    }
+    /// The only way to a power service in this file, and never to one that could obey in earnest.
+    static LoginManagerPower PowerAt(
+        const PrivateBus& bus, const std::string& address, std::chrono::milliseconds patience = kLong)
+    {
+        if (bus.Folder().empty() || address.find(bus.Folder()) == std::string::npos
+            || address.find(';') != std::string::npos)
+            std::abort();
+        return LoginManagerPower(address, patience);
+    }
+    LoginManagerPower Power(std::chrono::milliseconds patience = kLong)
+    {
+        return PowerAt(bus, bus.Address(), patience);
+    }
+
+    int count = 0;
+    QCoreApplication application{ count, nullptr };
+    PrivateBus bus;
+    LoginManager login{ bus.Address() };
+};
+
+TEST_F(PowerLinuxTest, RestartAndPowerOffAskTheLoginManagerWhichMayAskForAPassword)
+{
+    auto power = Power();
+    power.EnableShutdownPrivilege();
+    EXPECT_TRUE(power.Restart());
+    ASSERT_TRUE(IsAsked(1));
+    EXPECT_TRUE(Reached([&] { return static_cast<bool>(power.PowerOff()); }));
+    ASSERT_TRUE(IsAsked(2));
+    EXPECT_THAT(login.asked,
+        ElementsAre("org.freedesktop.login1.Manager.Reboot true", "org.freedesktop.login1.Manager.PowerOff true"));
+}
+
+TEST_F(PowerLinuxTest, ARefusalIsSilentAndTheNextRequestGoesOutAgain)
+{
+    login.mood = LoginManager::Mood::Refuses;
+    auto power = Power();
+    EXPECT_TRUE(power.Restart());
+    ASSERT_TRUE(IsAsked(1));
+    EXPECT_TRUE(Reached([&] { return static_cast<bool>(power.Restart()); }));
+    EXPECT_TRUE(IsAsked(2));
+}
+
+TEST_F(PowerLinuxTest, AServiceThatNeverAnswersIsAskedOnceUntilPatienceEnds)
+{
+    login.mood = LoginManager::Mood::KeepsSilent;
+    auto power = Power(500ms);
+    EXPECT_TRUE(power.PowerOff());
+    EXPECT_FALSE(power.PowerOff());
+    ASSERT_TRUE(IsAsked(1));
+    EXPECT_TRUE(Reached([&] { return static_cast<bool>(power.PowerOff()); }));
+    EXPECT_TRUE(IsAsked(2));
+}
+
+TEST_F(PowerLinuxTest, ClosingDoesNotWaitForAnAnswerAndLeavesTheBus)
+{
+    login.mood = LoginManager::Mood::KeepsSilent;
+    {
+        auto power = Power();
+        EXPECT_TRUE(power.Restart());
+        ASSERT_TRUE(IsAsked(1));
+        EXPECT_EQ(login.ClientCount(), 2);
+    }
+    EXPECT_TRUE(Reached([&] { return login.ClientCount() == 1; }));
+}
+
+TEST_F(PowerLinuxTest, WithoutABusOrALoginManagerARequestComesToNothing)
+{
+    for (const auto& address : { "unix:path=" + bus.Folder() + "/nobody", "nonsense:" + bus.Folder() }) {
+        auto power = PowerAt(bus, address);
+        EXPECT_TRUE(power.Restart());
+        EXPECT_TRUE(Reached([&] { return static_cast<bool>(power.Restart()); }));
+    }
+    PrivateBus empty;
+    auto power = PowerAt(empty, empty.Address());
+    EXPECT_TRUE(power.PowerOff());
+    EXPECT_TRUE(Reached([&] { return static_cast<bool>(power.PowerOff()); }));
+    EXPECT_THAT(login.asked, ElementsAre());
+}
+
+TEST_F(PowerLinuxTest, NothingIsSaidToTheBusBeforeSomethingIsAsked)
+{
+    const auto power = Power();
+    EXPECT_EQ(login.ClientCount(), 1);
+}
+
+TEST(SystemBusAddress, comes_from_the_environment_or_is_the_usual_place)
+{
+    setenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/somewhere", 1);
+    EXPECT_EQ(SystemBusAddress(), "unix:path=/somewhere");
+    setenv("DBUS_SYSTEM_BUS_ADDRESS", "", 1);
+    EXPECT_EQ(SystemBusAddress(), "unix:path=/run/dbus/system_bus_socket");
+    unsetenv("DBUS_SYSTEM_BUS_ADDRESS");
+    EXPECT_EQ(SystemBusAddress(), "unix:path=/run/dbus/system_bus_socket");
+}
+
+} // namespace
+} // namespace zentaro::platform

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "tests/platform/WorkingFolder.h"
+
+#include <array>
+#include <csignal>
+#include <fcntl.h>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace zentaro::platform {
+
+/// A message bus of one test: its own daemon, configuration and address, on which nothing is started by itself.
+class PrivateBus {
+public:
+    PrivateBus()
+    {
+        const auto configuration = m_folder / "bus.conf";
+        std::ofstream(configuration) << "<busconfig><listen>" << Address() << "</listen><auth>EXTERNAL</auth>"
+                                     << "<policy context='default'><allow send_destination='*'/><allow own='*'/>"
+                                     << "</policy></busconfig>";
+        std::array<int, 2> ready{};
+        EXPECT_EQ(pipe2(ready.data(), O_CLOEXEC), 0);
+        const auto argument = "--config-file=" + configuration;
+        m_daemon = fork();
+        if (m_daemon == 0) {
+            prctl(PR_SET_PDEATHSIG, SIGKILL);
+            dup2(ready[1], STDOUT_FILENO);
+            execlp("dbus-daemon", "dbus-daemon", argument.c_str(), "--nofork", "--print-address", nullptr);
+            _exit(127);
+        }
+        close(ready[1]);
+        char first = 0;
+        EXPECT_EQ(read(ready[0], &first, 1), 1) << "dbus-daemon did not start";
+        close(ready[0]);
+    }
+    PrivateBus(const PrivateBus&) = delete;
+    ~PrivateBus()
+    {
+        kill(m_daemon, SIGKILL);
+        waitpid(m_daemon, nullptr, 0);
+    }
+
+    const std::string& Folder() const { return m_folder.Path(); }
+    std::string Address() const { return "unix:path=" + (m_folder / "bus"); }
+
+private:
+    WorkingFolder m_folder;
+    pid_t m_daemon = -1;
+};
+
+} // namespace zentaro::platform
