@@ -9,6 +9,7 @@ vlc-plugin-base         its readers, decoders and sound outputs
 vlc-plugin-video-output its picture outputs
 ffmpeg                  reads what is inside a file, makes thumbnails, the demo clip and the JPG pictures
 mpgtx                   reads MPEG program streams
+libsystemd0             speaks to the login manager; Qt brings it anyway
 fonts-inter             the typeface of the windows
 '
 packages_build='
@@ -20,6 +21,7 @@ pkg-config              finds the libraries
 qt6-base-dev            the windows
 libvlc-dev              the engine
 libxcb1-dev             window states that Qt has no call for
+libsystemd-dev          sd-bus: restart and power off
 nlohmann-json3-dev      prints what zentaro-inspect knows as JSON
 librsvg2-bin            draws the SVG sources of all pictures
 '

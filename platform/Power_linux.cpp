@@ -1,12 +1,8 @@
 #include "platform/Power_linux.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusPendingCall>
-
-#include <condition_variable>
 #include <cstdlib>
-#include <mutex>
+#include <memory>
+#include <systemd/sd-bus.h>
 #include <utility>
 
 namespace zentaro::platform {
@@ -16,34 +12,32 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kPatience = 2min;
-constexpr auto kLookForAnswer = 20ms;
-constexpr bool kMayAskForPassword = true;
+constexpr std::chrono::microseconds kLookForStop = 20ms;
+constexpr int kMayAskForPassword = 1;
 
-/// A connection of its own that is gone with the value: the login manager drops a question whose asker has left.
-class BusConnection {
-public:
-    BusConnection(const std::string& address, QString name)
-        : m_name(std::move(name))
-        , m_connection(QDBusConnection::connectToBus(QString::fromStdString(address), m_name))
-    {
-    }
-    BusConnection(const BusConnection&) = delete;
-    ~BusConnection() { QDBusConnection::disconnectFromBus(m_name); }
-
-    QDBusConnection* operator->() { return &m_connection; }
-
-private:
-    QString m_name;
-    QDBusConnection m_connection;
+struct CloseBus {
+    void operator()(sd_bus* bus) const { sd_bus_close_unref(bus); }
 };
+/// A connection of its own that goes with the value: the login manager drops a question whose asker has left.
+using Bus = std::unique_ptr<sd_bus, CloseBus>;
 
-void WaitForAnswer(const QDBusPendingCall& call, const std::stop_token& stop)
+/// Connecting goes on in sd_bus_process, so that nothing here waits for a bus that hangs.
+Bus StartConnecting(const std::string& address, std::chrono::microseconds patience)
 {
-    std::mutex mutex;
-    std::unique_lock lock(mutex);
-    std::condition_variable_any stopped;
-    while (!call.isFinished() && !stop.stop_requested())
-        stopped.wait_for(lock, stop, kLookForAnswer, [] { return false; });
+    sd_bus* created = nullptr;
+    if (sd_bus_new(&created) < 0)
+        return nullptr;
+    Bus bus(created);
+    const bool isStarted = sd_bus_set_address(created, address.c_str()) >= 0 && sd_bus_set_bus_client(created, 1) >= 0
+        && sd_bus_set_method_call_timeout(created, static_cast<std::uint64_t>(patience.count())) >= 0
+        && sd_bus_start(created) >= 0;
+    return isStarted ? std::move(bus) : nullptr;
+}
+
+int OnAnswer(sd_bus_message*, void* isAnswered, sd_bus_error*)
+{
+    *static_cast<bool*>(isAnswered) = true;
+    return 0;
 }
 
 } // namespace
@@ -75,15 +69,21 @@ Result<void> LoginManagerPower::Ask(const char* method)
 
 void LoginManagerPower::Call(const char* method, const std::stop_token& stop) const
 {
-    const auto name = QStringLiteral("zentaro-power-%1").arg(reinterpret_cast<quintptr>(this), 0, 16);
-    BusConnection bus(m_busAddress, name);
-    if (!bus->isConnected())
+    const auto end = std::chrono::steady_clock::now() + m_patience;
+    const auto bus = StartConnecting(m_busAddress, m_patience);
+    bool isAnswered = false;
+    if (!bus
+        || sd_bus_call_method_async(bus.get(), nullptr, "org.freedesktop.login1", "/org/freedesktop/login1",
+               "org.freedesktop.login1.Manager", method, &OnAnswer, &isAnswered, "b", kMayAskForPassword)
+            < 0)
         return;
-    auto message = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.login1"),
-        QStringLiteral("/org/freedesktop/login1"), QStringLiteral("org.freedesktop.login1.Manager"),
-        QString::fromLatin1(method));
-    message << kMayAskForPassword;
-    WaitForAnswer(bus->asyncCall(message, static_cast<int>(m_patience.count())), stop);
+    while (!isAnswered && !stop.stop_requested() && std::chrono::steady_clock::now() < end) {
+        const int handled = sd_bus_process(bus.get(), nullptr);
+        if (handled < 0)
+            return;
+        if (handled == 0)
+            sd_bus_wait(bus.get(), kLookForStop.count());
+    }
 }
 
 std::unique_ptr<Power> Power::Open()

@@ -19,9 +19,10 @@ public:
     PrivateBus()
     {
         const auto configuration = m_folder / "bus.conf";
-        std::ofstream(configuration) << "<busconfig><listen>" << Address() << "</listen><auth>EXTERNAL</auth>"
-                                     << "<policy context='default'><allow send_destination='*'/><allow own='*'/>"
-                                     << "</policy></busconfig>";
+        std::ofstream(configuration)
+            << "<busconfig><listen>" << Address() << "</listen><auth>EXTERNAL</auth>"
+            << "<policy context='default'><allow send_destination='*'/><allow receive_sender='*'/><allow own='*'/>"
+            << "</policy></busconfig>";
         std::array<int, 2> ready{};
         EXPECT_EQ(pipe2(ready.data(), O_CLOEXEC), 0);
         const auto argument = "--config-file=" + configuration;
@@ -29,6 +30,8 @@ public:
         if (m_daemon == 0) {
             prctl(PR_SET_PDEATHSIG, SIGKILL);
             dup2(ready[1], STDOUT_FILENO);
+            // It complains that an ordinary user cannot raise its limits.
+            dup2(open("/dev/null", O_WRONLY | O_CLOEXEC), STDERR_FILENO);
             execlp("dbus-daemon", "dbus-daemon", argument.c_str(), "--nofork", "--print-address", nullptr);
             _exit(127);
         }

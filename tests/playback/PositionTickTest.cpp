@@ -102,8 +102,7 @@ TEST(PositionTick, an_item_that_ended_without_having_played_has_failed)
     EXPECT_TRUE(ReadPosition(silent, true).hasFailed);
     EXPECT_FALSE(ReadPosition(InState(Engine::kPlaying, silent), true).hasFailed);
     // Any of the three is a sign of life: each of them stays 0 in some kind of file.
-    for (double EngineReading::*const sign :
-        { &EngineReading::position, &EngineReading::time, &EngineReading::length }) {
+    for (const auto sign : { &EngineReading::position, &EngineReading::time, &EngineReading::length }) {
         auto played = silent;
         played.*sign = 0.5;
         EXPECT_TRUE(Ends(played));
