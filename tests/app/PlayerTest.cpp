@@ -373,6 +373,7 @@ TEST_F(PlayerTest, a_file_that_is_gone_or_read_only_at_the_end_stays_so)
     fs::permissions(ConfigPath(), fs::perms::owner_read);
     EXPECT_FALSE(player->WriteConfigurations());
     EXPECT_EQ(ConfigText(), before);
+    fs::permissions(ConfigPath(), fs::perms::owner_all);
     fs::remove(ConfigPath());
     EXPECT_FALSE(player->WriteConfigurations());
     EXPECT_FALSE(fs::exists(ConfigPath()));
