@@ -43,8 +43,8 @@ enum class SkinImage {
     AboutBox, // the same picture as `About`, an object of its own
     FirstButton,
 };
-inline constexpr std::size_t kSkinImageCount
-    = static_cast<std::size_t>(SkinImage::FirstButton) + kButtonCount * kButtonStateCount;
+inline constexpr std::size_t kSkinImageCount =
+    static_cast<std::size_t>(SkinImage::FirstButton) + kButtonCount * kButtonStateCount;
 
 constexpr SkinImage ButtonImage(Button button, ButtonState state)
 {
