@@ -9,6 +9,7 @@
 #include <iostream>
 #include <stdexcept>
 #include <unistd.h>
+#include <utility>
 
 namespace zentaro::desktop {
 
@@ -77,6 +78,29 @@ void EnterOwnWorld(const std::string& home)
     }
     fs::permissions(home + "/run", fs::perms::owner_all);
 }
+
+/// Keeps what was on the screen when something first failed in a test.
+class ScreenshotOnFailure : public testing::EmptyTestEventListener {
+public:
+    explicit ScreenshotOnFailure(Desktop& screen)
+        : m_screen(screen)
+    {
+    }
+
+private:
+    void OnTestStart(const testing::TestInfo& test) override { m_test = test.name(); }
+    void OnTestPartResult(const testing::TestPartResult& result) override
+    {
+        if (!result.failed() || m_test.empty())
+            return;
+        const auto path = (TemporaryFolder() / ("failed-" + std::exchange(m_test, {}) + ".png")).string();
+        m_screen.Grab(m_screen.Area()).SavePng(path);
+        std::cout << "What was on the screen: " << path << '\n';
+    }
+
+    Desktop& m_screen;
+    std::string m_test; // empty when its picture is taken
+};
 
 } // namespace
 
@@ -193,6 +217,15 @@ PlayerDesk::PlayerDesk()
     Screen().MoveTo(0, 0);
 }
 
+void PlayerDesk::SetUpTestSuite()
+{
+    static const bool isWatched = [] {
+        testing::UnitTest::GetInstance()->listeners().Append(new ScreenshotOnFailure(Screen()));
+        return true;
+    }();
+    static_cast<void>(isWatched);
+}
+
 PlayerDesk::~PlayerDesk()
 {
     std::error_code ignored;
@@ -201,12 +234,6 @@ PlayerDesk::~PlayerDesk()
 
 void PlayerDesk::TearDown()
 {
-    if (HasFailure()) {
-        const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
-        const auto path = (TemporaryFolder() / ("failed-" + std::string(test->name()) + ".png")).string();
-        Screen().Grab(Screen().Area()).SavePng(path);
-        std::cout << "What was on the screen: " << path << '\n';
-    }
     for (const auto id : ProcessesAtHome(m_home))
         kill(id, SIGKILL);
 }
