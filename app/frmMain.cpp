@@ -9,9 +9,9 @@
 #include "playlist/FancyList.h"
 #include "playlist/OpenFiles.h"
 #include "shell/Caption.h"
-#include "shell/GlyphButton.h"
 #include "shell/QtText.h"
 #include "shell/SeekTrack.h"
+#include "shell/SkinButton.h"
 #include "shell/Style.h"
 #include "shell/VolumeKnob.h"
 
@@ -74,6 +74,7 @@ Qt::CursorShape CursorFor(const WindowLayout::Edges& edges)
 
 frmMain::frmMain(const QString& programFolder)
     : QWidget(nullptr, Qt::FramelessWindowHint | Qt::Window)
+    , m_programFolder(programFolder)
     , m_content(new QSplitter(this))
     , m_video(new VideoFrame(programFolder + "Audio.JPG", m_content))
     , m_time(new QLabel(this))
@@ -134,26 +135,26 @@ void frmMain::Serve(Player& player)
     MakeButton(Button::FullScreen, "Full Screen", "Ctrl+F", &Player::cmdFulScreenClick);
     MakeButton(Button::PlayList, "Playlist", "", &Player::cmdPlayListClick);
     MakeButton(Button::SoundOn, "Mute", "", &Player::cmdMuteClick);
-    auto* const open = m_buttons[Button::Open] = new GlyphButton(Button::Open, "Open Media File", "Ctrl+O", this);
-    connect(open, &GlyphButton::clicked, this, [this] { m_player->OpenFiles(false); });
+    auto* const open = m_buttons[Button::Open] = new SkinButton("Open Media File", "Ctrl+O", this);
+    connect(open, &SkinButton::clicked, this, [this] { m_player->OpenFiles(false); });
     StateChanged();
     PlaceChildren();
 }
 
 void frmMain::MakeButton(Button button, const QString& name, const QString& shortcut, void (Player::*command)())
 {
-    auto* const made = m_buttons[button] = new GlyphButton(button, name, shortcut, this);
-    connect(made, &GlyphButton::clicked, this, [this, command] { (m_player->*command)(); });
+    auto* const made = m_buttons[button] = new SkinButton(name, shortcut, this);
+    connect(made, &SkinButton::clicked, this, [this, command] { (m_player->*command)(); });
 }
 
 void frmMain::MakeHeldButton(Button button, const QString& name, void (Player::*press)(), void (Player::*release)())
 {
-    auto* const made = m_buttons[button] = new GlyphButton(button, name, "hold", this);
-    connect(made, &GlyphButton::pressed, this, [this, press] {
+    auto* const made = m_buttons[button] = new SkinButton(name, "hold", this);
+    connect(made, &SkinButton::pressed, this, [this, press] {
         (m_player->*press)();
         m_tmrRewind.start();
     });
-    connect(made, &GlyphButton::released, this, [this, release] {
+    connect(made, &SkinButton::released, this, [this, release] {
         (m_player->*release)();
         m_tmrRewind.stop();
     });
@@ -170,8 +171,8 @@ void frmMain::MakeSliders()
 
 void frmMain::MakeTitleButton(Button button, const QString& name, void (frmMain::*command)())
 {
-    auto* const made = m_buttons[button] = new GlyphButton(button, name, {}, this);
-    connect(made, &GlyphButton::clicked, this, command);
+    auto* const made = m_buttons[button] = new SkinButton(name, {}, this);
+    connect(made, &SkinButton::clicked, this, command);
 }
 
 void frmMain::MakeList()
@@ -215,6 +216,9 @@ double frmMain::WindowTop() const
 
 void frmMain::ShowWindow()
 {
+    // The window can be used without its pictures; whoever looks for them finds the name.
+    if (const auto loaded = m_skin.Load(m_programFolder + "images/"); !loaded)
+        qWarning("%s", loaded.error().text.c_str());
     if (!m_placed) {
         auto place = geometry();
         place.moveCenter(screen()->availableGeometry().center());
@@ -352,7 +356,7 @@ void frmMain::StateChanged()
     m_seek->SetItem(isLoaded, 0);
     m_volumeNumber->setText(QString::number(m_player->Host().Volume()));
     m_volume->update();
-    m_buttons[Button::SoundOn]->ShowSign(m_player->Host().IsMuted() ? Button::SoundOff : Button::SoundOn);
+    update();
 }
 
 void frmMain::ShowNotice(const Notice& notice)
@@ -442,20 +446,25 @@ void frmMain::moveEvent(QMoveEvent*)
     KeepNormalGeometry();
 }
 
+SkinButtons frmMain::ButtonStates() const
+{
+    SkinButtons buttons;
+    buttons.states.fill(ButtonState::Disabled);
+    for (const auto& [button, widget] : m_buttons)
+        buttons.StateOf(button) = widget->State();
+    buttons.StateOf(Button::SoundOff) = buttons.StateOf(Button::SoundOn);
+    buttons.isMuted = m_player->Host().IsMuted();
+    return buttons;
+}
+
 void frmMain::paintEvent(QPaintEvent*)
 {
-    const auto layout = Layout();
     QPainter painter(this);
-    painter.fillRect(rect(), style::kBase);
-    painter.fillRect(ToQt(layout.TitleBar()), style::kRaised);
-    painter.fillRect(ToQt(layout.Panel()), style::kRaised);
-    painter.fillRect(0, layout.Panel().top, width(), 1, style::kHairline);
-    const auto icon = ToQt(layout.Icon());
-    windowIcon().paint(&painter, icon.adjusted(2, 2, -2, -2));
+    m_skin.Paint(painter, width(), height(), ButtonStates());
+    const auto caption = ToQt(Layout().Caption());
+    const auto line = QString(m_caption).replace('\n', ' ');
     painter.setPen(style::kText);
     painter.setFont(font());
-    const auto caption = ToQt(layout.Caption());
-    const auto line = QString(m_caption).replace('\n', ' ');
     painter.drawText(caption, Qt::AlignVCenter | Qt::TextSingleLine,
         painter.fontMetrics().elidedText(line, Qt::ElideRight, caption.width()));
 }

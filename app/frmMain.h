@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/PlayerScreen.h"
+#include "shell/Skin.h"
 #include "shell/WindowLayout.h"
 
 #include <QTimer>
@@ -16,9 +17,9 @@ class QSplitter;
 namespace zentaro {
 
 class FancyList;
-class GlyphButton;
 class Player;
 class SeekTrack;
+class SkinButton;
 class VideoFrame;
 class VolumeKnob;
 
@@ -78,6 +79,8 @@ protected:
 
 private:
     WindowLayout Layout() const;
+    /// Buttons that have nothing to do yet show as disabled.
+    SkinButtons ButtonStates() const;
     void MakeButton(Button button, const QString& name, const QString& shortcut, void (Player::*command)());
     void MakeTitleButton(Button button, const QString& name, void (frmMain::*command)());
     void MakeHeldButton(Button button, const QString& name, void (Player::*press)(), void (Player::*release)());
@@ -90,6 +93,8 @@ private:
     /// Hands a drag to the system: a resize at an edge, a move of the title bar.
     void StartDrag();
 
+    QString m_programFolder;
+    Skin m_skin;
     Player* m_player = nullptr;
     QSplitter* m_content;
     VideoFrame* m_video;
@@ -105,7 +110,7 @@ private:
     QTimer m_noteEnd;
     QTimer m_progressDelay;
     AddProgress m_progress;
-    std::map<Button, GlyphButton*> m_buttons;
+    std::map<Button, SkinButton*> m_buttons;
     QString m_caption;
     QRect m_normal;                   // geometry while neither maximised nor full screen, in logical pixels
     std::optional<QPoint> m_dragFrom; // where the left button went down on something that can be dragged
