@@ -141,7 +141,10 @@ TEST(Skin, the_first_bad_file_ends_the_load_and_the_rest_draws_nothing)
 {
     const FlatSkin flat;
     // Bad are one in the middle and two later ones; what is no picture counts like what is missing.
-    QFile::resize(flat.folder + "BGCC.jpg", 100);
+    QFile noPicture(flat.folder + "BGCC.jpg");
+    ASSERT_TRUE(noPicture.open(QFile::WriteOnly));
+    noPicture.write("no picture");
+    noPicture.close();
     QFile::remove(flat.folder + "BGCR.jpg");
     QFile::remove(flat.folder + "Normal/Play.png");
     const auto size = kTestSizes[0];
@@ -150,7 +153,7 @@ TEST(Skin, the_first_bad_file_ends_the_load_and_the_rest_draws_nothing)
         return draw.image != SkinImage::BGCL && draw.image != SkinImage::BGDC && draw.image != SkinImage::BGDL
             && draw.image != SkinImage::BGDR;
     });
-    // As often as threads need to show an order of their own.
+    // Often enough for the threads to show an order of their own.
     for (int i = 0; i < 20; ++i) {
         Skin skin;
         const auto loaded = skin.Load(flat.folder);
