@@ -41,7 +41,7 @@ bool Player::Load(const std::string& commandLine)
     LoadConfigurations();
     m_world.screen.ShowIdle();
     m_playlist.BuildOrder(m_settings.PlayMode);
-    m_startup = ReadCommandLine(commandLine, &platform::PathExists);
+    m_startup = ReadCommandLine(commandLine, m_world.fileExists);
     m_replaceOnOpen = m_startup.ReplaceOnOpen;
     if (!BecomePlayer())
         return false;
@@ -92,8 +92,9 @@ void Player::Publish()
 
 void Player::OpenStartupFile()
 {
-    if (IsSupportedFile(m_startup.StartupArgument, m_world.separator))
-        OpenFromOutside(m_startup.StartupArgument);
+    const auto& path = m_startup.StartupArgument;
+    if (m_world.fileExists(path) && IsSupportedFile(path, m_world.separator))
+        OpenFromOutside(path);
 }
 
 void Player::ReceiveText(const std::string& text)

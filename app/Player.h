@@ -42,6 +42,7 @@ struct PlayerWorld {
     platform::Power& power;
     HandOverService handOver;
     RandomSource random; ///< uniform in [0, 1)
+    std::function<bool(const std::string& path)> fileExists;
     std::function<void()> endProcess;
     std::string programFolder;  ///< with a trailing separator
     std::string settingsFolder; ///< with a trailing separator

@@ -2,6 +2,7 @@
 
 #include "app/Player.h"
 #include "platform/Folders.h"
+#include "platform/QuitRequest.h"
 #include "platform/Window.h"
 #include "playback/TimeText.h"
 #include "playback/VideoFrame.h"
@@ -36,8 +37,9 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr double kTwipsPerPixel = 15;
-constexpr int kDragDistance = 2;    // px
-constexpr double kListShare = 0.45; // of the content, until the splitter is moved
+constexpr int kDragDistance = 2;            // px
+constexpr double kListShare = 0.45;         // of the content, until the splitter is moved
+constexpr qsizetype kLongestNotice = 10000; // characters
 constexpr auto kProgressDelay = 700ms;
 constexpr int kSplitterWidth = 6; // px
 constexpr int kPaneMinimum = 96;  // px
@@ -219,6 +221,8 @@ void frmMain::ShowWindow()
         setGeometry(place);
     }
     KeepNormalGeometry();
+    // Not earlier: a messenger that waits for its player ends at once. Not later: the first file can take long.
+    platform::OnQuitRequest([this] { close(); });
     show();
     m_tmrMovie.start();
     // Window managers read the state of a shown window only.
@@ -354,7 +358,11 @@ void frmMain::StateChanged()
 void frmMain::ShowNotice(const Notice& notice)
 {
     const auto icon = notice.icon == NoticeIcon::Information ? QMessageBox::Information : QMessageBox::Warning;
-    QMessageBox box(icon, ToQString(notice.title), ToQString(notice.text), QMessageBox::Ok, this);
+    auto text = ToQString(notice.text);
+    // Breaking an endless name into lines takes minutes, and nobody reads it.
+    if (text.size() > kLongestNotice)
+        text = text.left(kLongestNotice / 2) + " ... " + text.right(kLongestNotice / 2);
+    QMessageBox box(icon, ToQString(notice.title), text, QMessageBox::Ok, this);
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }

@@ -8,7 +8,6 @@
 #include "platform/Folders.h"
 #include "platform/Power.h"
 #include "platform/Process.h"
-#include "platform/QuitRequest.h"
 #include "platform/TextFile.h"
 #include "playback/VideoFrame.h"
 #include "playback/VlcEngine.h"
@@ -117,15 +116,14 @@ int main(int argc, char** argv)
         platform::RemoveFolder(workingFolder);
         platform::EndProcess();
     };
-    Player player({ window, engines, inspections, *store, *power, RealHandOver(), RealRandom(), endProcess,
-        programFolder, settingsFolder, separator });
+    Player player({ window, engines, inspections, *store, *power, RealHandOver(), RealRandom(), &platform::PathExists,
+        endProcess, programFolder, settingsFolder, separator });
     inspections.onCompleted = [&](int ticket, Inspection result) {
         player.InspectionCompleted(ticket, std::move(result));
     };
     window.Serve(player);
     if (!player.Load(commandLine))
         endProcess();
-    platform::OnQuitRequest([&] { window.close(); });
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
         [&] { IgnoreFailure(player.WriteConfigurations()); });
     return QApplication::exec();

@@ -9,6 +9,7 @@
 #include <iostream>
 #include <stdexcept>
 #include <unistd.h>
+#include <utility>
 
 namespace zentaro::desktop {
 
@@ -67,8 +68,8 @@ void EnterOwnWorld(const std::string& home)
     const std::map<std::string, std::string> world = { { "PATH", keptPath }, { "LC_ALL", "C.UTF-8" }, { "HOME", home },
         { "TMPDIR", home + "/tmp" }, { "XDG_RUNTIME_DIR", home + "/run" }, { "XDG_CONFIG_HOME", home + "/config" },
         { "XDG_DATA_HOME", home + "/data" }, { "XDG_CACHE_HOME", home + "/cache" },
-        // The real system bus would restart the real machine.
-        { "DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + home + "/no-system-bus" },
+        // No test may reach the machine's login manager.
+        { "DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + home + "/no-bus" },
         // What the system's libraries leak is not ours to find; what is freed must not look like a growing player.
         { "ASAN_OPTIONS", "detect_leaks=0:quarantine_size_mb=4" }, { "UBSAN_OPTIONS", "print_stacktrace=1" } };
     clearenv();
@@ -79,6 +80,29 @@ void EnterOwnWorld(const std::string& home)
     }
     fs::permissions(home + "/run", fs::perms::owner_all);
 }
+
+/// Keeps what was on the screen when something first failed in a test.
+class ScreenshotOnFailure : public testing::EmptyTestEventListener {
+public:
+    explicit ScreenshotOnFailure(Desktop& screen)
+        : m_screen(screen)
+    {
+    }
+
+private:
+    void OnTestStart(const testing::TestInfo& test) override { m_test = test.name(); }
+    void OnTestPartResult(const testing::TestPartResult& result) override
+    {
+        if (!result.failed() || m_test.empty())
+            return;
+        const auto path = (TemporaryFolder() / ("failed-" + std::exchange(m_test, {}) + ".png")).string();
+        m_screen.Grab(m_screen.Area()).SavePng(path);
+        std::cout << "What was on the screen: " << path << '\n';
+    }
+
+    Desktop& m_screen;
+    std::string m_test; // empty when its picture is taken
+};
 
 } // namespace
 
@@ -195,6 +219,15 @@ PlayerDesk::PlayerDesk()
     Screen().MoveTo(0, 0);
 }
 
+void PlayerDesk::SetUpTestSuite()
+{
+    static const bool isWatched = [] {
+        testing::UnitTest::GetInstance()->listeners().Append(new ScreenshotOnFailure(Screen()));
+        return true;
+    }();
+    static_cast<void>(isWatched);
+}
+
 PlayerDesk::~PlayerDesk()
 {
     std::error_code ignored;
@@ -203,12 +236,6 @@ PlayerDesk::~PlayerDesk()
 
 void PlayerDesk::TearDown()
 {
-    if (HasFailure()) {
-        const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
-        const auto path = (TemporaryFolder() / ("failed-" + std::string(test->name()) + ".png")).string();
-        Screen().Grab(Screen().Area()).SavePng(path);
-        std::cout << "What was on the screen: " << path << '\n';
-    }
     for (const auto id : ProcessesAtHome(m_home))
         kill(id, SIGKILL);
 }
