@@ -113,7 +113,12 @@ void InspectionThreads::Start(int ticket, const std::string& path)
 Inspection InspectionThreads::Inspect(Job& job, const std::string& path) const
 {
     std::error_code ignored;
-    std::filesystem::create_directory(job.folder, ignored);
+    // A folder that is not new is not ours to remove.
+    if (m_workingFolder.empty() || !std::filesystem::create_directory(job.folder, ignored)) {
+        Inspection refused;
+        refused.errorText = "No working folder can be made.";
+        return refused;
+    }
     CancellableRunner runner(job.tools, job.cancelled);
     auto context = m_context;
     context.tools = &runner;

@@ -21,7 +21,7 @@ public:
     using Post = std::function<void(std::function<void()>)>;
 
     /// `context`: what all inspections share; its tools and working folder are set here for each one.
-    /// `workingFolder`: the folder of this run, with a trailing separator.
+    /// `workingFolder`: the folder of this run, with a trailing separator; without one (empty) every inspection fails.
     InspectionThreads(InspectionContext context, std::string workingFolder, Post post);
     /// Ends the running tools and waits for their threads.
     ~InspectionThreads() override;

@@ -19,6 +19,7 @@
 
 #include <chrono>
 #include <random>
+#include <utility>
 
 namespace {
 
@@ -69,6 +70,13 @@ struct InspectionBase {
     InspectionContext context;
 };
 
+/// With a trailing separator; empty when no folder can be made, as on a full disk.
+std::string MakeFolderOfThisRun()
+{
+    auto folder = platform::MakeWorkingFolder();
+    return folder.empty() ? folder : WithTrailingSeparator(std::move(folder), platform::PathSeparator());
+}
+
 /// The engine draws into X windows only, so a Wayland session with an X server beside it is used through that server.
 void PreferX11()
 {
@@ -93,12 +101,12 @@ int main(int argc, char** argv)
     const auto separator = platform::PathSeparator();
     const auto programFolder = WithTrailingSeparator(platform::ExecutableFolder(), separator);
     const auto settingsFolder = WithTrailingSeparator(platform::SettingsFolder(), separator);
-    const auto workingFolder = WithTrailingSeparator(platform::MakeWorkingFolder(), separator);
+    const auto workingFolder = MakeFolderOfThisRun();
     const auto store = platform::StringStore::Open();
     const auto power = platform::Power::Open();
 
     frmMain window(ToQString(programFolder));
-    VlcEngines engines(window.Video(), workingFolder + "engine.log");
+    VlcEngines engines(window.Video(), workingFolder.empty() ? std::string() : workingFolder + "engine.log");
     InspectionBase inspection(programFolder);
     InspectionThreads inspections(inspection.context, workingFolder, [&](std::function<void()> work) {
         QMetaObject::invokeMethod(&application, std::move(work), Qt::QueuedConnection);
