@@ -184,7 +184,7 @@ bool ShownPlayer::ShowsAudioLogo() const
         if (seen.pixels.empty())
             return false;
         const auto logo = Picture::FromFile((BuiltProgramFolder() / "Audio.JPG").string(), place.width, place.height);
-        return seen.Mean().Brightest() > kDark && ShareThatDiffers(seen, logo, 40) < 0.05;
+        return ShareThatDiffers(seen.Blocks(8), logo.Blocks(8)) < 0.05;
     });
 }
 
