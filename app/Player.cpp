@@ -9,6 +9,7 @@
 #include "shell/Caption.h"
 #include "shell/WindowLayout.h"
 
+#include <limits>
 #include <utility>
 
 namespace zentaro {
@@ -20,6 +21,11 @@ constexpr std::size_t kConfigLimit = 1 << 20; // bytes; 46 lines are far shorter
 constexpr int kPumpsAfterPlay = 6;            // gives the engine time to open its video window
 
 } // namespace
+
+std::int16_t ItemNumber(int index)
+{
+    return index <= std::numeric_limits<std::int16_t>::max() ? static_cast<std::int16_t>(index) : std::int16_t{ -1 };
+}
 
 Player::Player(PlayerWorld world)
     : m_world(std::move(world))
@@ -45,9 +51,13 @@ bool Player::Load(const std::string& commandLine)
     m_replaceOnOpen = m_startup.ReplaceOnOpen;
     if (!BecomePlayer())
         return false;
+    m_world.engines.Prepare();
+    // The file's inspection is under way while the window comes up.
+    const auto opening = OpenStartupFile();
     m_world.screen.SetPlaylistPosition(StoredDock());
     m_world.screen.ShowWindow();
-    OpenStartupFile();
+    if (opening)
+        WaitForFile(*opening);
     m_starting = false;
     return true;
 }
@@ -58,13 +68,13 @@ bool Player::BecomePlayer()
     const auto read = [&](const char* name, const char* fallback) {
         return m_world.store.Read(platform::StringStore::Root::CurrentUser, key, name, fallback);
     };
-    // A caller whose player ends between the test and the call asks once more and then finds it gone.
-    for (;;) {
+    // A player can end between the test and the call: then its caller asks once more, and calls nobody any more.
+    for (bool mayCall = true;; mayCall = false) {
         auto lock = m_world.handOver.lock();
         const PublishedHandles handles{ read("txtHwnd", "-1"), read("txtHwnd1", "") };
         const auto role =
             DecideRole(m_startup, handles, m_settings.UseNewPlayer != 0, m_world.handOver.isAlive, m_world.separator);
-        if (role.kind == StartRole::Kind::Player) {
+        if (role.kind == StartRole::Kind::Player || (role.kind == StartRole::Kind::Caller && !mayCall)) {
             Publish();
             return true;
         }
@@ -90,11 +100,12 @@ void Player::Publish()
     m_ends->Deliver([this](const std::string& text) { ReceiveText(text); });
 }
 
-void Player::OpenStartupFile()
+std::optional<int> Player::OpenStartupFile()
 {
     const auto& path = m_startup.StartupArgument;
-    if (m_world.fileExists(path) && IsSupportedFile(path, m_world.separator))
-        OpenFromOutside(path);
+    if (!m_world.fileExists(path) || !IsSupportedFile(path, m_world.separator))
+        return std::nullopt;
+    return m_adding.Add({ RequestFromOutside(path) });
 }
 
 void Player::ReceiveText(const std::string& text)
@@ -102,15 +113,14 @@ void Player::ReceiveText(const std::string& text)
     if (text.empty())
         return;
     m_world.screen.FlashCaption();
-    // What counts is how this player itself was started; the text is opened as it stands.
-    if (!m_startup.ReplaceOnOpen)
-        m_replaceOnOpen = false;
-    OpenFromOutside(text);
+    // Whether it plays at once depends on how this player itself was started; the text is opened as it stands.
+    const auto request = RequestFromOutside(text);
+    LoadThumb(request.title, request.path, request.playFlag, request.playNow);
 }
 
-void Player::OpenFromOutside(const std::string& path)
+AddRequest Player::RequestFromOutside(const std::string& path) const
 {
-    LoadThumb(FileNamePart(path, m_world.separator), path, m_settings.LaunchFullScreen != 0, m_replaceOnOpen);
+    return { FileNamePart(path, m_world.separator), path, m_settings.LaunchFullScreen != 0, m_replaceOnOpen };
 }
 
 void Player::Unload()
@@ -204,7 +214,11 @@ void Player::WindowResized(int width, int height)
 
 void Player::LoadThumb(const std::string& title, const std::string& path, bool playFlag, bool playNow)
 {
-    const auto ticket = m_adding.Add({ { title, path, playFlag, playNow } });
+    WaitForFile(m_adding.Add({ { title, path, playFlag, playNow } }));
+}
+
+void Player::WaitForFile(int ticket)
+{
     // A file that is just being taken in waits for us below on the stack.
     if (!m_adding.IsTaking())
         m_world.screen.PumpUntil([&] { return !m_adding.IsPending(ticket); });
@@ -263,7 +277,8 @@ void Player::ListDoubleClicked()
     const auto index = m_playlist.DoubleClickedIndex();
     if (!index)
         return;
-    PlayItem(static_cast<std::int16_t>(*index), false);
+    m_failuresInRow = 0;
+    PlayItem(ItemNumber(*index), false);
     m_world.screen.SetPlaylistPosition(PlaylistDock::Hidden);
     m_playlist.MovePositionToSelected();
 }
@@ -299,10 +314,31 @@ void Player::CMDPlayClick()
         OpenFiles(false);
         return;
     }
+    m_failuresInRow = 0;
+    PlaySelected();
+}
+
+void Player::PlayPause()
+{
+    if (m_playlist.Count() == 0)
+        OpenFiles(false);
+    else
+        CMDPauseClick();
+}
+
+void Player::DockPlaylist(PlaylistDock position)
+{
+    if (position != PlaylistDock::Hidden)
+        m_settings.PlaylistPosition = static_cast<std::int32_t>(position);
+    m_world.screen.SetPlaylistPosition(position);
+}
+
+void Player::PlaySelected()
+{
     if (m_playlist.List().SelectedItem() < 0)
         m_playlist.List().SetSelectedItem(0);
     m_playlist.MovePositionToSelected();
-    PlayItem(static_cast<std::int16_t>(m_playlist.List().SelectedItem()), false);
+    PlayItem(ItemNumber(m_playlist.List().SelectedItem()), false);
 }
 
 void Player::CMDPauseClick()
@@ -357,7 +393,7 @@ void Player::RewindReleased()
 
 void Player::OnRewindTick()
 {
-    auto* const engine = LoadedEngine();
+    auto* const engine = m_held.IsRewinding() ? LoadedEngine() : nullptr;
     if (engine == nullptr)
         return;
     if (const auto position = m_held.RewindTick(engine->Position()))
@@ -456,8 +492,9 @@ void Player::cmdPreviousClick()
 
 void Player::StepTo(std::optional<int> index)
 {
+    m_failuresInRow = 0;
     if (index)
-        PlayItem(static_cast<std::int16_t>(*index), false);
+        PlayItem(ItemNumber(*index), false);
 }
 
 void Player::EnableMediaControls(bool enabled)
@@ -499,26 +536,21 @@ bool Player::IsRoundOfFailures() const
 void Player::ItemEnded(bool failed)
 {
     m_failuresInRow = failed ? m_failuresInRow + 1 : 0;
-    if (failed && IsRoundOfFailures()) {
+    const auto next = m_playlist.OnEndOfItem(m_settings.PlayMode, m_settings.RepeatMode);
+    if (next.action == EndOfItem::Action::StopAndAfterPlay) {
+        cmdStopClick();
+        DoAfterFinishPlay();
+    } else if (failed && IsRoundOfFailures()) {
         m_failuresInRow = 0;
         cmdStopClick();
         m_world.screen.ShowNote("Nothing in the playlist can be played");
-        return;
-    }
-    const auto next = m_playlist.OnEndOfItem(m_settings.PlayMode, m_settings.RepeatMode);
-    switch (next.action) {
-    case EndOfItem::Action::RestartSame:
+    } else if (next.action == EndOfItem::Action::RestartSame) {
         cmdStopClick();
-        CMDPlayClick();
-        break;
-    case EndOfItem::Action::StopAndAfterPlay:
-        cmdStopClick();
-        DoAfterFinishPlay();
-        break;
-    case EndOfItem::Action::Play:
+        if (m_playlist.Count() > 0)
+            PlaySelected();
+    } else {
         // An index that a removal has left behind plays nothing.
-        PlayItem(static_cast<std::int16_t>(next.index), false);
-        break;
+        PlayItem(ItemNumber(next.index), false);
     }
 }
 

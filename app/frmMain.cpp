@@ -1,6 +1,7 @@
 #include "app/frmMain.h"
 
 #include "app/Player.h"
+#include "app/PlayerMenus.h"
 #include "platform/Folders.h"
 #include "platform/QuitRequest.h"
 #include "platform/Window.h"
@@ -103,11 +104,14 @@ frmMain::frmMain(const QString& programFolder)
     m_volumeNumber->setFont(style::TimeFont());
     m_time->setObjectName("lblTime");
     m_time->setFont(style::TimeFont());
-    m_note->setAlignment(Qt::AlignCenter);
+    m_note->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_note->setTextFormat(Qt::PlainText);
     m_noteEnd.setSingleShot(true);
-    connect(&m_noteEnd, &QTimer::timeout, m_note, &QLabel::clear);
+    connect(&m_noteEnd, &QTimer::timeout, this, [this] { ShowNote({}); });
     m_progressDelay.setSingleShot(true);
+    m_geometrySettled.setSingleShot(true);
+    m_geometrySettled.setInterval(200ms);
+    connect(&m_geometrySettled, &QTimer::timeout, this, &frmMain::KeepNormalGeometry);
     connect(&m_progressDelay, &QTimer::timeout, this, [this] { m_list->ShowAddProgress(m_progress); });
     m_tmrMovie.setInterval(500ms);
     m_tmrRewind.setInterval(10ms);
@@ -128,8 +132,8 @@ void frmMain::Serve(Player& player)
     MakeButton(Button::Play, "Play", "", &Player::CMDPlayClick);
     MakeButton(Button::Pause, "Pause", "Ctrl+P", &Player::CMDPauseClick);
     MakeButton(Button::Stop, "Stop", "Ctrl+S", &Player::cmdStopClick);
-    MakeButton(Button::Previous, "Previous", "Page Up", &Player::cmdPreviousClick);
-    MakeButton(Button::Next, "Next", "Page Down", &Player::cmdNextClick);
+    MakeButton(Button::Previous, "Previous", "PgUp", &Player::cmdPreviousClick);
+    MakeButton(Button::Next, "Next", "PgDown", &Player::cmdNextClick);
     MakeHeldButton(Button::Rewind, "Rewind", &Player::RewindPressed, &Player::RewindReleased);
     MakeHeldButton(Button::FastForward, "Fast forward", &Player::cmdffMouseDown, &Player::cmdffMouseUp);
     MakeButton(Button::FullScreen, "Full Screen", "Ctrl+F", &Player::cmdFulScreenClick);
@@ -137,6 +141,7 @@ void frmMain::Serve(Player& player)
     MakeButton(Button::SoundOn, "Mute", "", &Player::cmdMuteClick);
     auto* const open = m_buttons[Button::Open] = new SkinButton("Open Media File", "Ctrl+O", this);
     connect(open, &SkinButton::clicked, this, [this] { m_player->OpenFiles(false); });
+    AddShortcuts(*this, *m_player);
     StateChanged();
     PlaceChildren();
 }
@@ -186,6 +191,10 @@ void frmMain::MakeList()
     m_list->setMinimumSize(kPaneMinimum, kPaneMinimum);
     connect(m_list, &FancyList::Click, this, [this] { m_player->ListClicked(); });
     connect(m_list, &FancyList::DblClick, this, [this] { m_player->ListDoubleClicked(); });
+    connect(m_list, &FancyList::MouseDown, this, [this](Qt::MouseButton button, Qt::KeyboardModifiers, int x, int y) {
+        if (button == Qt::RightButton)
+            ShowListMenu(*this, *m_player, m_list->mapToGlobal(QPoint(x, y)));
+    });
     connect(m_list, &FancyList::CancelAdding, this, [this] { m_player->CancelAdding(); });
     connect(m_list, &FancyList::OLEDragDrop, this, [this](const QMimeData* dropped) {
         // The drop is answered first: what it starts can take long, and its source waits.
@@ -236,7 +245,7 @@ void frmMain::ShowWindow()
 
 void frmMain::SetWindowSize(int width, int height)
 {
-    resize(QSize(width, height).expandedTo(minimumSize()));
+    resize(QSize(width, height).boundedTo(screen()->availableSize()).expandedTo(minimumSize()));
 }
 
 void frmMain::SetWindowPosition(int left, int top)
@@ -283,7 +292,8 @@ void frmMain::SetFullScreen(bool fullScreen)
 void frmMain::ShowCaption(const std::string& text)
 {
     m_caption = ToQString(text);
-    setWindowTitle(m_caption);
+    // Qt takes a lone "[*]" for its mark of changed documents.
+    setWindowTitle(QString(m_caption).replace("[*]", "[*][*]"));
     update();
 }
 
@@ -374,6 +384,7 @@ void frmMain::ShowNotice(const Notice& notice)
 void frmMain::ShowNote(const std::string& text)
 {
     m_note->setText(ToQString(text));
+    m_rate->setVisible(text.empty());
     m_noteEnd.start(5s);
 }
 
@@ -429,21 +440,23 @@ void frmMain::PlaceChildren()
 
 void frmMain::KeepNormalGeometry()
 {
-    if (!isMaximized() && !m_fullScreen && !isMinimized())
-        m_normal = geometry();
+    m_geometrySettled.stop();
+    if (isMaximized() || m_fullScreen || isMinimized())
+        return;
+    m_normal = geometry();
+    if (m_player != nullptr)
+        m_player->WindowResized(width(), height());
 }
 
 void frmMain::resizeEvent(QResizeEvent*)
 {
     PlaceChildren();
-    KeepNormalGeometry();
-    if (m_player != nullptr && !m_fullScreen)
-        m_player->WindowResized(width(), height());
+    KeepNormalGeometrySoon();
 }
 
 void frmMain::moveEvent(QMoveEvent*)
 {
-    KeepNormalGeometry();
+    KeepNormalGeometrySoon();
 }
 
 SkinButtons frmMain::ButtonStates() const
@@ -526,19 +539,25 @@ void frmMain::mouseDoubleClickEvent(QMouseEvent* event)
 void frmMain::dragEnterEvent(QDragEnterEvent* event)
 {
     if (event->mimeData()->hasUrls())
-        event->acceptProposedAction();
+        AcceptAsCopy(*event);
 }
 
 void frmMain::dropEvent(QDropEvent* event)
 {
-    event->acceptProposedAction();
+    AcceptAsCopy(*event);
     QTimer::singleShot(0, this, [this, paths = DroppedPaths(*event->mimeData())] { m_player->DropOnVideo(paths); });
 }
 
 void frmMain::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::WindowStateChange)
+    if (event->type() == QEvent::WindowStateChange) {
+        // The window manager has its own ways out of full screen.
+        if (m_fullScreen && !isFullScreen() && !isMinimized()) {
+            m_fullScreen = false;
+            m_player->Host().FullScreenLeft();
+        }
         PlaceChildren();
+    }
     if (event->type() == QEvent::ActivationChange && !isActiveWindow() && m_player != nullptr)
         m_player->ReleaseHeldButtons();
     QWidget::changeEvent(event);
@@ -549,7 +568,8 @@ bool frmMain::event(QEvent* event)
     if (event->type() == QEvent::ToolTip) {
         const auto* const help = static_cast<QHelpEvent*>(event);
         const bool isOnCaption = Layout().Caption().Contains(help->pos().x(), help->pos().y());
-        QToolTip::showText(help->globalPos(), isOnCaption ? m_caption.toHtmlEscaped() : QString(), this);
+        QToolTip::showText(
+            help->globalPos(), isOnCaption ? "<p>" + m_caption.toHtmlEscaped() + "</p>" : QString(), this);
         return true;
     }
     return QWidget::event(event);
@@ -559,7 +579,11 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::MouseButtonDblClick:
-        m_player->Host().SetFullScreen(!m_fullScreen);
+        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+            m_player->Host().SetFullScreen(!m_fullScreen);
+        return true;
+    case QEvent::ContextMenu:
+        ShowPlayMenu(*this, *m_player, static_cast<QContextMenuEvent*>(event)->globalPos());
         return true;
     case QEvent::Enter:
         unsetCursor();
@@ -587,6 +611,8 @@ void frmMain::keyPressEvent(QKeyEvent* event)
 void frmMain::closeEvent(QCloseEvent* event)
 {
     event->accept();
+    if (m_geometrySettled.isActive())
+        KeepNormalGeometry();
     m_tmrMovie.stop();
     m_player->Unload();
 }

@@ -88,7 +88,10 @@ private:
     void MakeList();
     void ToggleMaximized();
     void PlaceChildren();
+    /// Notes the geometry unless the window is maximised, minimised or full screen.
     void KeepNormalGeometry();
+    /// Later: the window system tells a new size before it tells the state that it belongs to.
+    void KeepNormalGeometrySoon() { m_geometrySettled.start(); }
     void UseCursorFor(const QPoint& at);
     /// Hands a drag to the system: a resize at an edge, a move of the title bar.
     void StartDrag();
@@ -109,6 +112,7 @@ private:
     QTimer m_tmrRewind;
     QTimer m_noteEnd;
     QTimer m_progressDelay;
+    QTimer m_geometrySettled;
     AddProgress m_progress;
     std::map<Button, SkinButton*> m_buttons;
     QString m_caption;

@@ -18,6 +18,7 @@
 #include <QApplication>
 
 #include <chrono>
+#include <optional>
 #include <random>
 #include <utility>
 
@@ -107,8 +108,11 @@ int main(int argc, char** argv)
 
     frmMain window(ToQString(programFolder));
     VlcEngines engines(window.Video(), workingFolder.empty() ? std::string() : workingFolder + "engine.log");
-    InspectionBase inspection(programFolder);
-    InspectionThreads inspections(inspection.context, workingFolder, [&](std::function<void()> work) {
+    std::optional<InspectionBase> base;
+    const auto inspectionContext = [&]() -> const InspectionContext& {
+        return (base ? *base : base.emplace(programFolder)).context;
+    };
+    InspectionThreads inspections(inspectionContext, workingFolder, [&](std::function<void()> work) {
         QMetaObject::invokeMethod(&application, std::move(work), Qt::QueuedConnection);
     });
     const auto endProcess = [&] {

@@ -67,8 +67,8 @@ public:
     /// Right of the sound button.
     Rect VolumeSlider() const { return { m_width - 78, m_height - 27, 48, 20 }; }
     Rect VolumeNumber() const { return { m_width - 27, m_height - 27, 24, 20 }; }
-    /// A passing note, over the seek track.
-    Rect NoteLabel() const { return { 41, PanelTop() + 1, m_width - 85, 14 }; }
+    /// A passing note, in place of the rate.
+    Rect NoteLabel() const { return { 170, PanelTop() + 12, m_width - 215, 22 }; }
 
     /// Which edges of the frameless window a pointer takes hold of.
     struct Edges {

@@ -39,11 +39,12 @@ protected:
 
     InspectionThreads& Threads()
     {
-        threads = std::make_unique<InspectionThreads>(context, folder, [this](std::function<void()> work) {
-            const std::lock_guard lock(mutex);
-            posted.push_back(std::move(work));
-            changed.notify_one();
-        });
+        threads = std::make_unique<InspectionThreads>([this]() -> const InspectionContext& { return context; }, folder,
+            [this](std::function<void()> work) {
+                const std::lock_guard lock(mutex);
+                posted.push_back(std::move(work));
+                changed.notify_one();
+            });
         threads->onCompleted = [this](int ticket, Inspection inspection) { results[ticket] = std::move(inspection); };
         return *threads;
     }
