@@ -20,6 +20,8 @@ namespace fs = std::filesystem;
 // Of 255: a black frame with a thin line of something is still black.
 constexpr double kDark = 12;
 constexpr double kMovingShare = 0.01;
+// The X server gives each client the window numbers of one block.
+constexpr int kClientShift = 21;
 // A window that is painted anew changes once or twice; what plays goes on.
 constexpr int kMovements = 4;
 
@@ -126,9 +128,22 @@ WindowLayout ShownPlayer::Layout() const
 
 Rect ShownPlayer::Video() const
 {
-    // Only the video has windows of the X server's own.
-    const auto children = m_desktop->ShownChildren(window);
-    return children.empty() ? Rect{} : m_desktop->Place(children.front());
+    // The engine puts a window of its own connection into the player's; without a picture the logo covers that one.
+    const auto isEngines = [this](Window inner) { return inner >> kClientShift != window >> kClientShift; };
+    std::vector<Window> waiting = { window };
+    while (!waiting.empty()) {
+        const auto outer = waiting.back();
+        waiting.pop_back();
+        const auto children = m_desktop->ShownChildren(outer);
+        if (std::any_of(children.begin(), children.end(), isEngines))
+            return m_desktop->Place(outer);
+        for (std::size_t i = 1; i < children.size(); ++i) {
+            if (m_desktop->Place(children[i]) == m_desktop->Place(children[i - 1]))
+                return m_desktop->Place(children[i]);
+        }
+        waiting.insert(waiting.end(), children.begin(), children.end());
+    }
+    return {};
 }
 
 Rect ShownPlayer::OnScreen(const Rect& inWindow) const
