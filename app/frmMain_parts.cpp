@@ -15,6 +15,7 @@
 #include <QMimeData>
 #include <QSplitter>
 
+#include <algorithm>
 #include <chrono>
 #include <utility>
 
@@ -26,6 +27,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr double kListShare = 0.45; // of the content, until the splitter is moved
+constexpr int kListRoom = 280;      // px, at the most until then
 constexpr auto kProgressDelay = 700ms;
 constexpr int kPaneMinimum = 96; // px
 
@@ -131,8 +133,9 @@ void frmMain::SetPlaylistPosition(PlaylistDock position)
         m_content->insertWidget(isListFirst ? 0 : 1, m_list);
         m_content->setStretchFactor(m_content->indexOf(m_video), 1);
         m_content->setStretchFactor(m_content->indexOf(m_list), 0);
-        const auto room = isStacked ? m_content->height() : m_content->width();
-        const auto listRoom = static_cast<int>(room * kListShare);
+        const auto content = Layout().Content();
+        const auto room = isStacked ? content.height : content.width;
+        const auto listRoom = std::min(static_cast<int>(room * kListShare), kListRoom);
         m_content->setSizes(isListFirst ? QList{ listRoom, room - listRoom } : QList{ room - listRoom, listRoom });
     }
     PlaceChildren();
