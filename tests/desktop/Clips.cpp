@@ -2,6 +2,7 @@
 
 #include "tests/desktop/Process.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <map>
 #include <stdexcept>
@@ -43,6 +44,14 @@ const Kind& KindOf(const std::string& name)
     return kinds.at(std::filesystem::path(name).extension().string());
 }
 
+const std::string kTestPicture = "testsrc2=size=320x240:rate=25";
+
+// The tenths of a second as stripes, lowest digit on the left, and in the lower half their negative: what is black,
+// torn or something else altogether is no time.
+constexpr int kStripes = 8;
+const std::string kClockPicture = "color=size=128x96:rate=25,format=gray,"
+                                  "geq=lum='255*abs(mod(floor(floor(10*T+0.01)/pow(2,floor(8*X/W))),2)-gte(Y,H/2))'";
+
 class Folder {
 public:
     Folder()
@@ -63,7 +72,7 @@ private:
     std::string m_path;
 };
 
-std::string MakeFile(const std::string& name, int seconds, bool withSound)
+std::string MakeFile(const std::string& name, double seconds, const std::string& picture, bool withSound)
 {
     static const Folder folder;
     const auto path = folder / name;
@@ -76,7 +85,7 @@ std::string MakeFile(const std::string& name, int seconds, bool withSound)
         arguments.insert(arguments.end(), more.begin(), more.end());
     };
     if (!kind.picture.empty())
-        add({ "-f", "lavfi", "-i", "testsrc2=size=320x240:rate=25:duration=" + duration });
+        add({ "-f", "lavfi", "-t", duration, "-i", picture });
     if (withSound)
         add({ "-f", "lavfi", "-i", "sine=frequency=440:sample_rate=44100:duration=" + duration });
     add(kind.picture);
@@ -91,19 +100,45 @@ std::string MakeFile(const std::string& name, int seconds, bool withSound)
 
 } // namespace
 
-std::string Clips::Make(const std::string& name, int seconds)
+std::string Clips::Make(const std::string& name, double seconds)
 {
-    return MakeFile(name, seconds, true);
+    return MakeFile(name, seconds, kTestPicture, true);
 }
 
-std::string Clips::MakeSilent(const std::string& name, int seconds)
+std::string Clips::MakeSilent(const std::string& name, double seconds)
 {
-    return MakeFile(name, seconds, false);
+    return MakeFile(name, seconds, kTestPicture, false);
+}
+
+std::string Clips::MakeClock(const std::string& name, double seconds)
+{
+    return MakeFile(name, seconds, kClockPicture, true);
 }
 
 bool Clips::IsSoundOnly(const std::string& name)
 {
     return KindOf(name).picture.empty();
+}
+
+std::optional<double> ShownTime(const Picture& video)
+{
+    // The picture lies in the middle and keeps its shape of 4 to 3.
+    const int width = std::min(video.width, video.height * 4 / 3);
+    const int height = std::min(video.height, video.width * 3 / 4);
+    const auto isWhite = [&](int stripe, int quarter) {
+        const int x = (video.width - width) / 2 + width * (2 * stripe + 1) / (2 * kStripes);
+        const int y = (video.height - height) / 2 + height * quarter / 4;
+        return (video.pixels[static_cast<std::size_t>(y * video.width + x)] & 0xFF) > 128;
+    };
+    int tenths = 0;
+    if (video.pixels.empty())
+        return std::nullopt;
+    for (int stripe = 0; stripe < kStripes; ++stripe) {
+        if (isWhite(stripe, 1) == isWhite(stripe, 3))
+            return std::nullopt;
+        tenths |= isWhite(stripe, 1) << stripe;
+    }
+    return tenths / 10.0;
 }
 
 } // namespace zentaro::desktop

@@ -277,6 +277,17 @@ void Desktop::DoubleClick(int x, int y)
     Click(x, y);
 }
 
+void Desktop::Hold(int x, int y)
+{
+    MoveTo(x, y);
+    Fake(XCB_BUTTON_PRESS, 1);
+}
+
+void Desktop::Release()
+{
+    Fake(XCB_BUTTON_RELEASE, 1);
+}
+
 void Desktop::Wheel(int x, int y, int steps)
 {
     for (int i = 0; i < std::abs(steps); ++i)

@@ -76,6 +76,9 @@ public:
     void MoveTo(int x, int y);
     void Click(int x, int y, int button = 1);
     void DoubleClick(int x, int y);
+    /// The left button goes down here and stays down.
+    void Hold(int x, int y);
+    void Release();
     /// Positive: away from the user.
     void Wheel(int x, int y, int steps);
     /// With the left button, in several steps, as a hand moves.

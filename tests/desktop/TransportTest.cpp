@@ -1,0 +1,301 @@
+#include "tests/desktop/PlayerDesk.h"
+#include "tests/desktop/TitleLog.h"
+
+#include <cmath>
+#include <stdexcept>
+
+namespace zentaro::desktop {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+double Since(Clock::time_point start)
+{
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+class Transport : public PlayerDesk {
+protected:
+    struct Clip {
+        std::string name;
+        double seconds = 0;
+    };
+
+    /// A player whose list holds these clips; nothing plays yet.
+    ShownPlayer ShowWith(const std::vector<Clip>& clips)
+    {
+        auto player = StartAndShow({ "*Add" });
+        for (const auto& [name, seconds] : clips) {
+            const auto clip = Clips::MakeClock("clock-" + std::to_string(seconds) + ".mp4", seconds);
+            EXPECT_EQ(Start({ CopyOf(clip, name) }).WaitForEnd(), 0);
+        }
+        Screen().Activate(player.window);
+        EXPECT_TRUE(WaitUntil([&] { return IsSettled(player); }));
+        return player;
+    }
+
+    /// The window manager has placed the window, and all of it is painted.
+    static bool IsSettled(const ShownPlayer& player)
+    {
+        const auto place = player.Place();
+        const auto look = Look(place);
+        std::this_thread::sleep_for(200ms);
+        return look.Mean().Brightest() > 5 && player.Place() == place && ShareThatDiffers(Look(place), look) == 0;
+    }
+
+    static Rect PlaceOf(const ShownPlayer& player, Button button)
+    {
+        return player.OnScreen(player.Layout().ButtonRect(button));
+    }
+    static void Click(int x, int y)
+    {
+        Screen().Click(x, y);
+        // No hand is gone in the instant of the click; the window manager would lose it.
+        std::this_thread::sleep_for(60ms);
+    }
+    static void Click(const ShownPlayer& player, Button button)
+    {
+        const auto place = PlaceOf(player, button);
+        Click(place.left + place.width / 2, place.top + place.height / 2);
+    }
+    /// How a part of the window looks while the pointer is elsewhere.
+    static Picture Look(const Rect& part)
+    {
+        Screen().MoveTo(0, 0);
+        return Screen().Grab(part);
+    }
+    static bool TakesLook(const Rect& part, const Picture& look)
+    {
+        return WaitUntil([&] { return ShareThatDiffers(Look(part), look) == 0; });
+    }
+    /// Presses the seek track at a share of its width.
+    static void ClickTrack(const ShownPlayer& player, double share)
+    {
+        const auto track = player.OnScreen(player.Layout().SeekTrack());
+        Screen().Click(track.left + static_cast<int>(std::lround(track.width * share)), track.top + track.height / 2);
+    }
+    /// What the video shows as soon as it shows a time.
+    static double Time(const ShownPlayer& player)
+    {
+        std::optional<double> time;
+        if (!WaitUntil([&] { return (time = ShownTime(Screen().Grab(player.Video()))).has_value(); }))
+            throw std::runtime_error("the video shows no time");
+        return *time;
+    }
+    static bool ReachesTime(const ShownPlayer& player, double from, double to)
+    {
+        return WaitUntil([&] {
+            const auto time = Time(player);
+            return time >= from && time <= to;
+        });
+    }
+    /// How many seconds of the clip pass in one, over a while.
+    static double Speed(const ShownPlayer& player)
+    {
+        const auto first = Time(player);
+        const auto start = Clock::now();
+        std::this_thread::sleep_for(1500ms);
+        return (Time(player) - first) / Since(start);
+    }
+
+    /// The clips that played, in order, by the titles.
+    static std::vector<std::string> Played(const TitleLog& log)
+    {
+        std::vector<std::string> names;
+        for (const auto& title : log.Titles()) {
+            const auto end = title.find(".mp4");
+            const auto start = title.rfind('/', end) + 1;
+            if (end != std::string::npos && (names.empty() || names.back() != title.substr(start, end - start)))
+                names.push_back(title.substr(start, end - start));
+        }
+        return names;
+    }
+};
+
+struct EndRule {
+    const char* name;
+    std::int32_t playMode;
+    std::int32_t repeatMode;
+    std::vector<std::string> played;
+    bool goesOn;
+};
+
+class TransportEnds : public Transport, public testing::WithParamInterface<EndRule> { };
+
+TEST_P(TransportEnds, ShortClipsEndOnceEachAndGoOnByTheModes)
+{
+    const auto& rule = GetParam();
+    StoreSettings([&](PlayerSettings& settings) {
+        settings.PlayMode = rule.playMode;
+        settings.RepeatMode = rule.repeatMode;
+    });
+    const TitleLog log(Screen());
+    auto player = ShowWith({ { "a.mp4", 0.3 }, { "b.mp4", 1.4 }, { "c.mp4", 1.6 } });
+    const auto stop = PlaceOf(player, Button::Stop);
+    const auto idle = Look(stop);
+    Click(player, Button::Play);
+    EXPECT_TRUE(WaitUntil([&] { return Played(log).size() >= rule.played.size(); }));
+    if (!rule.goesOn) {
+        EXPECT_TRUE(TakesLook(stop, idle));
+        std::this_thread::sleep_for(2s);
+        EXPECT_EQ(ShareThatDiffers(Look(stop), idle), 0);
+        EXPECT_EQ(Played(log).size(), rule.played.size());
+    }
+    auto played = Played(log);
+    played.resize(std::min(played.size(), rule.played.size()));
+    EXPECT_EQ(played, rule.played);
+    EXPECT_CLOSES_CLEANLY(player);
+}
+
+INSTANTIATE_TEST_SUITE_P(Modes, TransportEnds,
+    testing::Values(EndRule{ "normal", 0, 2, { "a" }, false }, EndRule{ "continuous", 1, 0, { "a", "b", "c" }, false },
+        EndRule{ "repeatAll", 1, 2, { "a", "b", "c", "a", "b" }, true }),
+    [](const auto& test) { return test.param.name; });
+
+TEST_F(Transport, APressOnTheTrackLandsThere)
+{
+    constexpr double kLength = 20.4;
+    StoreSettings([](PlayerSettings& settings) { settings.RepeatMode = 0; });
+    auto player = ShowWith({ { "long.mp4", kLength } });
+    Click(player, Button::Play);
+    EXPECT_TRUE(ReachesTime(player, 0, 1));
+    // In an order in which every jump is a long one.
+    for (const int tenth : { 5, 1, 8, 3, 6, 0, 7, 2, 9, 4 }) {
+        SCOPED_TRACE(tenth);
+        const auto before = Time(player);
+        const auto start = Clock::now();
+        ClickTrack(player, tenth / 10.0);
+        double landed = before;
+        EXPECT_TRUE(WaitUntil([&] {
+            landed = Time(player);
+            return std::abs(landed - before - Since(start)) > 1.5;
+        }));
+        EXPECT_NEAR(landed, tenth * kLength / 10, 0.5);
+    }
+    // The last pixels of the track are dead, and the end of a clip that was sought to is an end like any other.
+    const auto before = Time(player);
+    const auto track = player.OnScreen(player.Layout().SeekTrack());
+    Screen().Click(track.Right() - 2, track.top + track.height / 2);
+    EXPECT_NEAR(Speed(player), 1, 0.3);
+    EXPECT_NEAR(Time(player), before + 1.5, 1.0);
+    const auto stop = PlaceOf(player, Button::Stop);
+    const auto enabled = Look(stop);
+    ClickTrack(player, 0.97);
+    EXPECT_TRUE(WaitUntil([&] { return ShareThatDiffers(Look(stop), enabled) > 0; }));
+    EXPECT_CLOSES_CLEANLY(player);
+}
+
+TEST_F(Transport, HeldButtonsMoveTheirWayAndAPauseChangesNothing)
+{
+    auto player = ShowWith({ { "long.mp4", 20.4 } });
+    Click(player, Button::Play);
+    EXPECT_TRUE(ReachesTime(player, 0, 1));
+    const auto hold = [&](Button button) {
+        const auto place = PlaceOf(player, button);
+        Screen().Hold(place.left + place.width / 2, place.top + place.height / 2);
+    };
+    hold(Button::FastForward);
+    EXPECT_TRUE(ReachesTime(player, 6, 14));
+    Screen().Release();
+    EXPECT_NEAR(Speed(player), 1, 0.3);
+
+    ClickTrack(player, 0.6);
+    EXPECT_TRUE(ReachesTime(player, 11.7, 13.5));
+    hold(Button::Rewind);
+    EXPECT_TRUE(ReachesTime(player, 0, 10));
+    Screen().Release();
+    EXPECT_NEAR(Speed(player), 1, 0.3);
+
+    Click(player, Button::Pause);
+    std::this_thread::sleep_for(300ms);
+    const auto paused = Time(player);
+    std::this_thread::sleep_for(3s);
+    EXPECT_EQ(Time(player), paused);
+    Click(player, Button::Pause);
+    EXPECT_TRUE(ReachesTime(player, paused + 0.1, paused + 1.5));
+    EXPECT_NEAR(Speed(player), 1, 0.3);
+    EXPECT_CLOSES_CLEANLY(player);
+}
+
+TEST_F(Transport, FullScreenGoesOnPlayingAndLeavesTheWindowAsItWas)
+{
+    auto player = ShowWith({ { "long.mp4", 20.4 } });
+    Click(player, Button::Play);
+    EXPECT_TRUE(ReachesTime(player, 0.1, 2));
+    const auto place = player.Place();
+    const auto before = Time(player);
+    const auto start = Clock::now();
+    Click(player, Button::FullScreen);
+    EXPECT_TRUE(WaitUntil([&] { return player.Video() == Screen().Area(); }));
+    EXPECT_NEAR(Time(player), before + Since(start), 0.6);
+    EXPECT_NEAR(Speed(player), 1, 0.3);
+    Screen().Press(kEscape);
+    EXPECT_TRUE(WaitUntil([&] { return player.Place() == place; }));
+    EXPECT_NEAR(Time(player), before + Since(start), 0.6);
+    EXPECT_CLOSES_CLEANLY(player);
+}
+
+TEST_F(Transport, StopResetsAndNextAndPreviousWrap)
+{
+    const TitleLog log(Screen());
+    auto player = ShowWith({ { "a.mp4", 20 }, { "b.mp4", 20 }, { "c.mp4", 20 } });
+    const std::vector<Rect> parts = { player.OnScreen(player.Layout().TimeLabel()),
+        player.OnScreen(player.Layout().SeekTrack()), player.OnScreen(player.Layout().RateLabel()),
+        PlaceOf(player, Button::Stop), PlaceOf(player, Button::Next) };
+    std::vector<Picture> idle;
+    for (const auto& part : parts)
+        idle.push_back(Look(part));
+    Click(player, Button::Play);
+    EXPECT_TRUE(WaitUntil([&] { return Played(log) == std::vector<std::string>{ "a" }; }));
+    for (const auto& [button, expected] :
+        std::initializer_list<std::pair<Button, std::vector<std::string>>>{ { Button::Previous, { "a", "c" } },
+            { Button::Next, { "a", "c", "a" } }, { Button::Next, { "a", "c", "a", "b" } } }) {
+        Click(player, button);
+        EXPECT_TRUE(WaitUntil([&] { return Played(log).size() >= expected.size(); }));
+        EXPECT_EQ(Played(log), expected);
+    }
+    ClickTrack(player, 0.5);
+    EXPECT_TRUE(WaitUntil([&] { return ShareThatDiffers(Look(parts[0]), idle[0]) > 0; }));
+    EXPECT_TRUE(WaitUntil([&] { return ShareThatDiffers(Look(parts[1]), idle[1]) > 0.05; }));
+    EXPECT_GT(ShareThatDiffers(Look(parts[3]), idle[3]), 0);
+    Click(player, Button::Stop);
+    for (std::size_t i = 0; i < parts.size(); ++i)
+        EXPECT_TRUE(TakesLook(parts[i], idle[i])) << "part " << i;
+    EXPECT_TRUE(WaitUntil([&] { return Screen().Grab(player.Video()).Mean().Brightest() < 2; }));
+    EXPECT_CLOSES_CLEANLY(player);
+}
+
+TEST_F(Transport, MuteAndVolumeShowWhatTheyAre)
+{
+    auto player = ShowWith({ { "a.mp4", 20 } });
+    const auto button = PlaceOf(player, Button::SoundOn);
+    const auto loud = Look(button);
+    Click(player, Button::SoundOn);
+    EXPECT_TRUE(WaitUntil([&] { return ShareThatDiffers(Look(button), loud) > 0.01; }));
+    Click(player, Button::SoundOn);
+    EXPECT_TRUE(TakesLook(button, loud));
+
+    const auto slider = player.OnScreen(player.Layout().VolumeSlider());
+    const auto number = player.OnScreen(player.Layout().VolumeNumber());
+    const auto full = Look(number);
+    const auto middle = slider.left + slider.width / 2;
+    const auto height = slider.top + slider.height / 2;
+    Click(middle, height);
+    EXPECT_TRUE(WaitUntil([&] { return ShareThatDiffers(Look(number), full) > 0; }));
+    const auto half = Look(number);
+    Screen().Wheel(middle, height, 2);
+    EXPECT_TRUE(WaitUntil([&] { return ShareThatDiffers(Look(number), half) > 0; }));
+    EXPECT_GT(ShareThatDiffers(Look(number), full), 0);
+    Screen().Wheel(middle, height, -2);
+    EXPECT_TRUE(TakesLook(number, half));
+    Screen().Wheel(middle, height, 20);
+    EXPECT_TRUE(TakesLook(number, full));
+    // The ends of the slider are dead.
+    Click(slider.left + 1, height);
+    Click(slider.Right() - 1, height);
+    EXPECT_EQ(ShareThatDiffers(Look(number), full), 0);
+    EXPECT_CLOSES_CLEANLY(player);
+}
+
+} // namespace
+} // namespace zentaro::desktop
