@@ -251,6 +251,12 @@ void frmMain::PumpUntil(const std::function<bool()>& done)
 void frmMain::KeepNormalGeometry()
 {
     m_geometrySettled.stop();
+    // The window manager has ways of its own out of full screen. On the way in it can tell of other states first.
+    if (m_fullScreen && !isFullScreen() && !isMinimized() && size() != screen()->size()) {
+        m_fullScreen = false;
+        m_player->Host().FullScreenLeft();
+        PlaceChildren();
+    }
     if (isMaximized() || m_fullScreen || isMinimized())
         return;
     m_normal = geometry();
@@ -361,12 +367,8 @@ void frmMain::dropEvent(QDropEvent* event)
 void frmMain::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::WindowStateChange) {
-        // The window manager has its own ways out of full screen.
-        if (m_fullScreen && !isFullScreen() && !isMinimized()) {
-            m_fullScreen = false;
-            m_player->Host().FullScreenLeft();
-        }
         PlaceChildren();
+        KeepNormalGeometrySoon();
     }
     if (event->type() == QEvent::ActivationChange && !isActiveWindow() && m_player != nullptr)
         m_player->ReleaseHeldButtons();

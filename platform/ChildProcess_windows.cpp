@@ -229,7 +229,10 @@ std::optional<std::string> FindTool(const std::string& name, const std::string& 
 {
     // Without a list of folders the system also looks into the current one, where a download may lie.
     const char* const searched = std::getenv("PATH");
-    const std::string searchPath = searched != nullptr ? searched : "";
+    std::array<char, MAX_PATH> system;
+    const auto systemLength = ::GetSystemDirectoryA(system.data(), MAX_PATH);
+    const auto searchPath = (searched != nullptr ? std::string(searched) + ";" : std::string())
+        + std::string(system.data(), systemLength < MAX_PATH ? systemLength : 0);
     for (const auto& folders : { firstFolder, searchPath }) {
         if (folders.empty())
             continue;
