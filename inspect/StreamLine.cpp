@@ -280,7 +280,7 @@ int ChannelsOfLayout(std::string_view name)
         return 0;
     if (CutFront(name, "ambisonic ")) {
         const auto plus = name.find('+');
-        const int order = std::min(IntegerOfText(name).value_or(0), 100) + 1;
+        const int order = std::clamp(IntegerOfText(name).value_or(0), 0, 100) + 1;
         return order * order + (plus == std::string_view::npos ? 0 : ChannelsOfLayout(name.substr(plus + 1)));
     }
     if (Contains(name, " channel"))

@@ -4,10 +4,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <chrono>
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <stdexcept>
+#include <thread>
 #include <unistd.h>
 #include <xcb/xcb.h>
 #include <xcb/xcb_keysyms.h>
@@ -272,9 +274,14 @@ void Desktop::MoveTo(int x, int y)
 
 void Desktop::Click(int x, int y, int button)
 {
+    // A hand needs as long; window managers that see a press first lose ones that come faster.
+    constexpr auto pause = std::chrono::milliseconds(25);
     MoveTo(x, y);
+    std::this_thread::sleep_for(pause);
     Fake(XCB_BUTTON_PRESS, static_cast<std::uint8_t>(button));
+    std::this_thread::sleep_for(pause);
     Fake(XCB_BUTTON_RELEASE, static_cast<std::uint8_t>(button));
+    std::this_thread::sleep_for(pause);
 }
 
 void Desktop::DoubleClick(int x, int y)

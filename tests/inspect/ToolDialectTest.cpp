@@ -108,6 +108,7 @@ TEST(ToolDialect, layouts_are_counted)
     EXPECT_EQ(ChannelsOfLayout("5:1"), 6);
     EXPECT_EQ(ChannelsOfLayout("something"), 0);
     EXPECT_EQ(ChannelsOfLayout("ambisonic 999+2147483647 channels"), 101 * 101 + 0xFFFF);
+    EXPECT_EQ(ChannelsOfLayout("ambisonic -441002007"), 1);
     std::string nested;
     for (int i = 0; i < 1'000'000; ++i)
         nested += "+downmix";
