@@ -106,6 +106,9 @@ VLCAudioLogo::VLCAudioLogo(QString picturePath, QWidget* parent)
 {
     setObjectName("VLCAudioLogo");
     MakeBlack(*this);
+    // Beside the surface it becomes a window of the system's; without this all its ancestors would, and with them every
+    // button of the main window.
+    setAttribute(Qt::WA_DontCreateNativeAncestors);
     hide();
 }
 
