@@ -59,6 +59,13 @@ MediaFacts FactsOf(const clsSource& source, InspectionFiles& files)
     return facts;
 }
 
+Inspection Refusal(std::string reason)
+{
+    Inspection inspection;
+    inspection.errorText = std::move(reason);
+    return inspection;
+}
+
 Inspection ToInspection(const clsSource& source, InspectionFiles& files)
 {
     const auto& outcome = source.Outcome();
@@ -78,7 +85,7 @@ Inspection ToInspection(const clsSource& source, InspectionFiles& files)
 
 } // namespace
 
-InspectionThreads::InspectionThreads(InspectionContext context, std::string workingFolder, Post post)
+InspectionThreads::InspectionThreads(SharedContext context, std::string workingFolder, Post post)
     : m_context(std::move(context))
     , m_workingFolder(std::move(workingFolder))
     , m_post(std::move(post))
@@ -95,27 +102,38 @@ InspectionThreads::~InspectionThreads()
 void InspectionThreads::Start(int ticket, const std::string& path)
 {
     Forget([](const Job& job) { return job.finished.load(); });
+    const auto& context = m_context();
     auto& job = m_jobs.emplace_back();
     job.ticket = ticket;
-    job.folder = m_workingFolder + "inspect" + std::to_string(++m_started) + m_context.separator;
-    job.thread = std::thread([this, &job, path] {
-        auto result = Inspect(job, path);
-        if (!job.cancelled) {
-            m_post([alive = m_alive, ticket = job.ticket, result = std::move(result)] {
-                if (*alive != nullptr && (*alive)->onCompleted)
-                    (*alive)->onCompleted(ticket, result);
-            });
-        }
-        job.finished = true;
+    job.folder = m_workingFolder + "inspect" + std::to_string(++m_started) + context.separator;
+    try {
+        job.thread = std::thread([this, &job, context, path] {
+            auto inspection = Inspect(job, context, path);
+            if (!job.cancelled)
+                Deliver(job.ticket, std::move(inspection));
+            job.finished = true;
+        });
+    } catch (const std::system_error& error) {
+        m_jobs.pop_back();
+        Deliver(ticket, Refusal(error.what()));
+    }
+}
+
+void InspectionThreads::Deliver(int ticket, Inspection inspection) const
+{
+    m_post([alive = m_alive, ticket, result = std::move(inspection)] {
+        if (*alive != nullptr && (*alive)->onCompleted)
+            (*alive)->onCompleted(ticket, result);
     });
 }
 
-Inspection InspectionThreads::Inspect(Job& job, const std::string& path) const
+Inspection InspectionThreads::Inspect(Job& job, InspectionContext context, const std::string& path) const
 {
     std::error_code ignored;
-    std::filesystem::create_directory(job.folder, ignored);
+    // A folder that is not new is not ours to remove.
+    if (m_workingFolder.empty() || !std::filesystem::create_directory(job.folder, ignored))
+        return Refusal("No working folder can be made.");
     CancellableRunner runner(job.tools, job.cancelled);
-    auto context = m_context;
     context.tools = &runner;
     context.workingFolder = job.folder;
     clsSource source(context);

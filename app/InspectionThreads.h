@@ -20,9 +20,12 @@ public:
     /// Runs a piece of work on the UI thread, later.
     using Post = std::function<void(std::function<void()>)>;
 
-    /// `context`: what all inspections share; its tools and working folder are set here for each one.
-    /// `workingFolder`: the folder of this run, with a trailing separator.
-    InspectionThreads(InspectionContext context, std::string workingFolder, Post post);
+    /// What all inspections share, asked for when the first one starts; its tools and working folder are set here for
+    /// each one.
+    using SharedContext = std::function<const InspectionContext&()>;
+
+    /// `workingFolder`: the folder of this run, with a trailing separator; without one (empty) every inspection fails.
+    InspectionThreads(SharedContext context, std::string workingFolder, Post post);
     /// Ends the running tools and waits for their threads.
     ~InspectionThreads() override;
 
@@ -44,10 +47,11 @@ private:
         std::thread thread;
     };
 
-    Inspection Inspect(Job& job, const std::string& path) const;
+    Inspection Inspect(Job& job, InspectionContext context, const std::string& path) const;
+    void Deliver(int ticket, Inspection inspection) const;
     void Forget(const std::function<bool(const Job&)>& which);
 
-    InspectionContext m_context;
+    SharedContext m_context;
     std::string m_workingFolder;
     Post m_post;
     std::list<Job> m_jobs;

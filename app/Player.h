@@ -21,6 +21,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace zentaro {
@@ -42,11 +43,15 @@ struct PlayerWorld {
     platform::Power& power;
     HandOverService handOver;
     RandomSource random; ///< uniform in [0, 1)
+    std::function<bool(const std::string& path)> fileExists;
     std::function<void()> endProcess;
     std::string programFolder;  ///< with a trailing separator
     std::string settingsFolder; ///< with a trailing separator
     char separator = '/';
 };
+
+/// The 16-bit number by which an item is played; -1, which plays nothing, for an index that does not fit.
+std::int16_t ItemNumber(int index);
 
 /// The whole program without its window.
 class Player {
@@ -87,6 +92,10 @@ public:
     /// Plays a playlist entry in a fresh engine; an index outside the list does nothing.
     void PlayItem(std::int16_t index, bool fullScreen);
     void CMDPlayClick();
+    /// Pauses or goes on; asks for files while the list is empty.
+    void PlayPause();
+    /// The list lies there from now on, also after a restart.
+    void DockPlaylist(PlaylistDock position);
     void CMDPauseClick();
     void cmdStopClick();
     void cmdffMouseDown();
@@ -152,7 +161,8 @@ private:
         void ShowNotice(const Notice& notice) override { m_player.m_world.screen.ShowNotice(notice); }
         void PlayItem(int index, bool playFlag) override
         {
-            m_player.PlayItem(static_cast<std::int16_t>(index), playFlag);
+            m_player.m_failuresInRow = 0;
+            m_player.PlayItem(ItemNumber(index), playFlag);
         }
         std::int32_t PlayMode() const override { return m_player.m_settings.PlayMode; }
         void EntryAdded() override { m_player.m_world.screen.StateChanged(); }
@@ -172,12 +182,15 @@ private:
 
     bool BecomePlayer();
     void Publish();
-    void OpenStartupFile();
-    void OpenFromOutside(const std::string& path);
+    /// The ticket of the file while there is one.
+    std::optional<int> OpenStartupFile();
+    AddRequest RequestFromOutside(const std::string& path) const;
+    void WaitForFile(int ticket);
     void UseSettings(const PlayerSettings& settings);
     void AddPaths(const std::vector<std::string>& paths, bool playFirst);
     void SetPlayMode(std::int32_t mode);
     void StepTo(std::optional<int> index);
+    void PlaySelected();
     void ItemEnded(bool failed);
     Engine* LoadedEngine() const;
     void ApplyRate(const RateChange& change);

@@ -1,16 +1,19 @@
 #include "app/frmMain.h"
 
 #include "app/Player.h"
+#include "app/PlayerMenus.h"
 #include "platform/Folders.h"
+#include "platform/QuitRequest.h"
 #include "platform/Window.h"
 #include "playback/TimeText.h"
 #include "playback/VideoFrame.h"
 #include "playlist/FancyList.h"
 #include "playlist/OpenFiles.h"
 #include "shell/Caption.h"
-#include "shell/GlyphButton.h"
+#include "shell/QtGeometry.h"
 #include "shell/QtText.h"
 #include "shell/SeekTrack.h"
+#include "shell/SkinButton.h"
 #include "shell/Style.h"
 #include "shell/VolumeKnob.h"
 
@@ -36,16 +39,9 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr double kTwipsPerPixel = 15;
-constexpr int kDragDistance = 2;    // px
-constexpr double kListShare = 0.45; // of the content, until the splitter is moved
-constexpr auto kProgressDelay = 700ms;
-constexpr int kSplitterWidth = 6; // px
-constexpr int kPaneMinimum = 96;  // px
-
-QRect ToQt(const Rect& rect)
-{
-    return { rect.left, rect.top, rect.width, rect.height };
-}
+constexpr int kDragDistance = 2;            // px
+constexpr qsizetype kLongestNotice = 10000; // characters
+constexpr int kSplitterWidth = 6;           // px
 
 Qt::Edges ToQt(const WindowLayout::Edges& edges)
 {
@@ -72,6 +68,7 @@ Qt::CursorShape CursorFor(const WindowLayout::Edges& edges)
 
 frmMain::frmMain(const QString& programFolder)
     : QWidget(nullptr, Qt::FramelessWindowHint | Qt::Window)
+    , m_programFolder(programFolder)
     , m_content(new QSplitter(this))
     , m_video(new VideoFrame(programFolder + "Audio.JPG", m_content))
     , m_time(new QLabel(this))
@@ -91,7 +88,6 @@ frmMain::frmMain(const QString& programFolder)
     m_content->setHandleWidth(kSplitterWidth);
     m_video->installEventFilter(this);
     m_video->setAcceptDrops(true);
-    m_video->setMinimumSize(kPaneMinimum, kPaneMinimum);
     for (auto* const label : { m_time, m_rate, m_note, m_volumeNumber })
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_rate->setObjectName("lblRate");
@@ -100,94 +96,19 @@ frmMain::frmMain(const QString& programFolder)
     m_volumeNumber->setFont(style::TimeFont());
     m_time->setObjectName("lblTime");
     m_time->setFont(style::TimeFont());
-    m_note->setAlignment(Qt::AlignCenter);
+    m_note->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_note->setTextFormat(Qt::PlainText);
     m_noteEnd.setSingleShot(true);
-    connect(&m_noteEnd, &QTimer::timeout, m_note, &QLabel::clear);
+    connect(&m_noteEnd, &QTimer::timeout, this, [this] { ShowNote({}); });
     m_progressDelay.setSingleShot(true);
+    m_geometrySettled.setSingleShot(true);
+    m_geometrySettled.setInterval(200ms);
+    connect(&m_geometrySettled, &QTimer::timeout, this, &frmMain::KeepNormalGeometry);
     connect(&m_progressDelay, &QTimer::timeout, this, [this] { m_list->ShowAddProgress(m_progress); });
     m_tmrMovie.setInterval(500ms);
     m_tmrRewind.setInterval(10ms);
     m_tmrRewind.setTimerType(Qt::PreciseTimer);
     ShowIdle();
-}
-
-void frmMain::Serve(Player& player)
-{
-    m_player = &player;
-    connect(&m_tmrMovie, &QTimer::timeout, this, [this] { m_player->OnPositionTick(); });
-    connect(&m_tmrRewind, &QTimer::timeout, this, [this] { m_player->OnRewindTick(); });
-    MakeList();
-    MakeSliders();
-    MakeTitleButton(Button::Minimize, "Minimize", &frmMain::showMinimized);
-    MakeTitleButton(Button::Maximize, "Maximize", &frmMain::ToggleMaximized);
-    MakeTitleButton(Button::Close, "Close", &frmMain::CloseWindow);
-    MakeButton(Button::Play, "Play", "", &Player::CMDPlayClick);
-    MakeButton(Button::Pause, "Pause", "Ctrl+P", &Player::CMDPauseClick);
-    MakeButton(Button::Stop, "Stop", "Ctrl+S", &Player::cmdStopClick);
-    MakeButton(Button::Previous, "Previous", "Page Up", &Player::cmdPreviousClick);
-    MakeButton(Button::Next, "Next", "Page Down", &Player::cmdNextClick);
-    MakeHeldButton(Button::Rewind, "Rewind", &Player::RewindPressed, &Player::RewindReleased);
-    MakeHeldButton(Button::FastForward, "Fast forward", &Player::cmdffMouseDown, &Player::cmdffMouseUp);
-    MakeButton(Button::FullScreen, "Full Screen", "Ctrl+F", &Player::cmdFulScreenClick);
-    MakeButton(Button::PlayList, "Playlist", "", &Player::cmdPlayListClick);
-    MakeButton(Button::SoundOn, "Mute", "", &Player::cmdMuteClick);
-    auto* const open = m_buttons[Button::Open] = new GlyphButton(Button::Open, "Open Media File", "Ctrl+O", this);
-    connect(open, &GlyphButton::clicked, this, [this] { m_player->OpenFiles(false); });
-    StateChanged();
-    PlaceChildren();
-}
-
-void frmMain::MakeButton(Button button, const QString& name, const QString& shortcut, void (Player::*command)())
-{
-    auto* const made = m_buttons[button] = new GlyphButton(button, name, shortcut, this);
-    connect(made, &GlyphButton::clicked, this, [this, command] { (m_player->*command)(); });
-}
-
-void frmMain::MakeHeldButton(Button button, const QString& name, void (Player::*press)(), void (Player::*release)())
-{
-    auto* const made = m_buttons[button] = new GlyphButton(button, name, "hold", this);
-    connect(made, &GlyphButton::pressed, this, [this, press] {
-        (m_player->*press)();
-        m_tmrRewind.start();
-    });
-    connect(made, &GlyphButton::released, this, [this, release] {
-        (m_player->*release)();
-        m_tmrRewind.stop();
-    });
-}
-
-void frmMain::MakeSliders()
-{
-    m_seek = new SeekTrack(m_player->Seeking(), this);
-    connect(m_seek, &SeekTrack::PositionChosen, this, [this](double position) { m_player->Seek(position); });
-    connect(m_seek, &SeekTrack::StepChosen, this, [this](int milliseconds) { m_player->SeekBy(milliseconds); });
-    m_volume = new VolumeKnob(m_player->Loudness(), this);
-    connect(m_volume, &VolumeKnob::VolumeChosen, this, [this](int percent) { m_player->SetVolume(percent); });
-}
-
-void frmMain::MakeTitleButton(Button button, const QString& name, void (frmMain::*command)())
-{
-    auto* const made = m_buttons[button] = new GlyphButton(button, name, {}, this);
-    connect(made, &GlyphButton::clicked, this, command);
-}
-
-void frmMain::MakeList()
-{
-    auto& state = m_player->Entries().List();
-    state.SetImageWidth(64);
-    state.SetImageHeight(64);
-    state.SetItemHeight(80);
-    m_list = new FancyList(state, m_content);
-    m_list->setObjectName("FancyList1");
-    m_list->setMinimumSize(kPaneMinimum, kPaneMinimum);
-    connect(m_list, &FancyList::Click, this, [this] { m_player->ListClicked(); });
-    connect(m_list, &FancyList::DblClick, this, [this] { m_player->ListDoubleClicked(); });
-    connect(m_list, &FancyList::CancelAdding, this, [this] { m_player->CancelAdding(); });
-    connect(m_list, &FancyList::OLEDragDrop, this, [this](const QMimeData* dropped) {
-        // The drop is answered first: what it starts can take long, and its source waits.
-        QTimer::singleShot(0, this, [this, paths = DroppedPaths(*dropped)] { m_player->DropOnList(paths); });
-    });
 }
 
 WindowLayout frmMain::Layout() const
@@ -213,12 +134,17 @@ double frmMain::WindowTop() const
 
 void frmMain::ShowWindow()
 {
+    // The window can be used without its pictures; whoever looks for them finds the name.
+    if (const auto loaded = m_skin.Load(m_programFolder + "images/"); !loaded)
+        qWarning("%s", loaded.error().text.c_str());
     if (!m_placed) {
         auto place = geometry();
         place.moveCenter(screen()->availableGeometry().center());
         setGeometry(place);
     }
     KeepNormalGeometry();
+    // Not earlier: a messenger that waits for its player ends at once. Not later: the first file can take long.
+    platform::OnQuitRequest([this] { close(); });
     show();
     m_tmrMovie.start();
     // Window managers read the state of a shown window only.
@@ -228,7 +154,7 @@ void frmMain::ShowWindow()
 
 void frmMain::SetWindowSize(int width, int height)
 {
-    resize(QSize(width, height).expandedTo(minimumSize()));
+    resize(QSize(width, height).boundedTo(screen()->availableSize()).expandedTo(minimumSize()));
 }
 
 void frmMain::SetWindowPosition(int left, int top)
@@ -275,7 +201,8 @@ void frmMain::SetFullScreen(bool fullScreen)
 void frmMain::ShowCaption(const std::string& text)
 {
     m_caption = ToQString(text);
-    setWindowTitle(m_caption);
+    // Qt takes a lone "[*]" for its mark of changed documents.
+    setWindowTitle(QString(m_caption).replace("[*]", "[*][*]"));
     update();
 }
 
@@ -284,85 +211,16 @@ void frmMain::FlashCaption()
     platform::FlashWindowOnce(winId());
 }
 
-bool frmMain::IsPlaylistVisible() const
-{
-    return m_dock != PlaylistDock::Hidden;
-}
-
-void frmMain::SetPlaylistPosition(PlaylistDock position)
-{
-    const bool isStacked = position == PlaylistDock::Top || position == PlaylistDock::Bottom;
-    const bool isListFirst = position == PlaylistDock::Left || position == PlaylistDock::Top;
-    m_dock = position;
-    // Hiding keeps the place, so that the splitter is where it was when the list comes back.
-    if (position < PlaylistDock::Whole && std::exchange(m_splitFor, position) != position) {
-        m_content->setOrientation(isStacked ? Qt::Vertical : Qt::Horizontal);
-        m_content->insertWidget(isListFirst ? 0 : 1, m_list);
-        m_content->setStretchFactor(m_content->indexOf(m_video), 1);
-        m_content->setStretchFactor(m_content->indexOf(m_list), 0);
-        const auto room = isStacked ? m_content->height() : m_content->width();
-        const auto listRoom = static_cast<int>(room * kListShare);
-        m_content->setSizes(isListFirst ? QList{ listRoom, room - listRoom } : QList{ room - listRoom, listRoom });
-    }
-    PlaceChildren();
-}
-
-void frmMain::ShowAddProgress(const AddProgress& progress)
-{
-    // One file is opened in a moment; the line comes only when that moment grows long.
-    m_progress = progress;
-    if (progress.total == 1)
-        m_progressDelay.start(kProgressDelay);
-    else
-        m_list->ShowAddProgress(progress);
-}
-
-void frmMain::ShowPosition(const PositionTick& tick, double length)
-{
-    m_time->setText(ToQString(tick.timeText));
-    m_seek->SetItem(m_player->MediaControlsEnabled(), length);
-    m_seek->ShowProgress();
-    if (tick.showAudioLogo)
-        m_video->ShowAudioLogo(*tick.showAudioLogo);
-}
-
-void frmMain::ShowRate(const std::string& text)
-{
-    m_rate->setText(ToQString(text));
-}
-
-void frmMain::ShowIdle()
-{
-    m_time->setText(ToQString(TimeLabelText(0, 0)));
-    m_video->ShowAudioLogo(false);
-    if (m_seek != nullptr)
-        m_seek->ShowProgress();
-}
-
-void frmMain::StateChanged()
-{
-    const bool isLoaded = m_player->MediaControlsEnabled();
-    for (const auto button : { Button::Pause, Button::Stop, Button::Previous, Button::Next, Button::Rewind,
-             Button::FastForward, Button::FullScreen })
-        m_buttons[button]->setEnabled(isLoaded);
-    m_seek->SetItem(isLoaded, 0);
-    m_volumeNumber->setText(QString::number(m_player->Host().Volume()));
-    m_volume->update();
-    m_buttons[Button::SoundOn]->ShowSign(m_player->Host().IsMuted() ? Button::SoundOff : Button::SoundOn);
-}
-
 void frmMain::ShowNotice(const Notice& notice)
 {
     const auto icon = notice.icon == NoticeIcon::Information ? QMessageBox::Information : QMessageBox::Warning;
-    QMessageBox box(icon, ToQString(notice.title), ToQString(notice.text), QMessageBox::Ok, this);
+    auto text = ToQString(notice.text);
+    // Breaking an endless name into lines takes minutes, and nobody reads it.
+    if (text.size() > kLongestNotice)
+        text = text.left(kLongestNotice / 2) + " ... " + text.right(kLongestNotice / 2);
+    QMessageBox box(icon, ToQString(notice.title), text, QMessageBox::Ok, this);
     box.setTextFormat(Qt::PlainText);
     box.exec();
-}
-
-void frmMain::ShowNote(const std::string& text)
-{
-    m_note->setText(ToQString(text));
-    m_noteEnd.start(5s);
 }
 
 std::vector<std::string> frmMain::AskForFiles(const std::string& title, const std::string& filter)
@@ -390,64 +248,52 @@ void frmMain::PumpUntil(const std::function<bool()>& done)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-void frmMain::PlaceChildren()
-{
-    if (m_list != nullptr)
-        m_list->setVisible(!m_fullScreen && m_dock != PlaylistDock::Hidden);
-    if (m_fullScreen) {
-        m_video->setVisible(true);
-        m_content->setGeometry(rect());
-        m_content->raise();
-        return;
-    }
-    m_video->setVisible(m_dock != PlaylistDock::Whole);
-    const auto layout = Layout();
-    m_content->setGeometry(ToQt(layout.Content()));
-    m_time->setGeometry(ToQt(layout.TimeLabel()));
-    m_rate->setGeometry(ToQt(layout.RateLabel()));
-    m_note->setGeometry(ToQt(layout.NoteLabel()));
-    m_volumeNumber->setGeometry(ToQt(layout.VolumeNumber()));
-    if (m_seek != nullptr) {
-        m_seek->setGeometry(ToQt(layout.SeekTrack()));
-        m_volume->setGeometry(ToQt(layout.VolumeSlider()));
-    }
-    for (const auto& [button, widget] : m_buttons)
-        widget->setGeometry(ToQt(layout.ButtonRect(button)));
-}
-
 void frmMain::KeepNormalGeometry()
 {
-    if (!isMaximized() && !m_fullScreen && !isMinimized())
-        m_normal = geometry();
+    m_geometrySettled.stop();
+    // The window manager has ways of its own out of full screen. On the way in it can tell of other states first.
+    if (m_fullScreen && !isFullScreen() && !isMinimized() && size() != screen()->size()) {
+        m_fullScreen = false;
+        m_player->Host().FullScreenLeft();
+        PlaceChildren();
+    }
+    if (isMaximized() || m_fullScreen || isMinimized())
+        return;
+    m_normal = geometry();
+    if (m_player != nullptr)
+        m_player->WindowResized(width(), height());
 }
 
 void frmMain::resizeEvent(QResizeEvent*)
 {
     PlaceChildren();
-    KeepNormalGeometry();
-    if (m_player != nullptr && !m_fullScreen)
-        m_player->WindowResized(width(), height());
+    KeepNormalGeometrySoon();
 }
 
 void frmMain::moveEvent(QMoveEvent*)
 {
-    KeepNormalGeometry();
+    KeepNormalGeometrySoon();
+}
+
+SkinButtons frmMain::ButtonStates() const
+{
+    SkinButtons buttons;
+    buttons.states.fill(ButtonState::Disabled);
+    for (const auto& [button, widget] : m_buttons)
+        buttons.StateOf(button) = widget->State();
+    buttons.StateOf(Button::SoundOff) = buttons.StateOf(Button::SoundOn);
+    buttons.isMuted = m_player->Host().IsMuted();
+    return buttons;
 }
 
 void frmMain::paintEvent(QPaintEvent*)
 {
-    const auto layout = Layout();
     QPainter painter(this);
-    painter.fillRect(rect(), style::kBase);
-    painter.fillRect(ToQt(layout.TitleBar()), style::kRaised);
-    painter.fillRect(ToQt(layout.Panel()), style::kRaised);
-    painter.fillRect(0, layout.Panel().top, width(), 1, style::kHairline);
-    const auto icon = ToQt(layout.Icon());
-    windowIcon().paint(&painter, icon.adjusted(2, 2, -2, -2));
+    m_skin.Paint(painter, width(), height(), ButtonStates());
+    const auto caption = ToQt(Layout().Caption());
+    const auto line = QString(m_caption).replace('\n', ' ');
     painter.setPen(style::kText);
     painter.setFont(font());
-    const auto caption = ToQt(layout.Caption());
-    const auto line = QString(m_caption).replace('\n', ' ');
     painter.drawText(caption, Qt::AlignVCenter | Qt::TextSingleLine,
         painter.fontMetrics().elidedText(line, Qt::ElideRight, caption.width()));
 }
@@ -509,19 +355,21 @@ void frmMain::mouseDoubleClickEvent(QMouseEvent* event)
 void frmMain::dragEnterEvent(QDragEnterEvent* event)
 {
     if (event->mimeData()->hasUrls())
-        event->acceptProposedAction();
+        AcceptAsCopy(*event);
 }
 
 void frmMain::dropEvent(QDropEvent* event)
 {
-    event->acceptProposedAction();
+    AcceptAsCopy(*event);
     QTimer::singleShot(0, this, [this, paths = DroppedPaths(*event->mimeData())] { m_player->DropOnVideo(paths); });
 }
 
 void frmMain::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::WindowStateChange)
+    if (event->type() == QEvent::WindowStateChange) {
         PlaceChildren();
+        KeepNormalGeometrySoon();
+    }
     if (event->type() == QEvent::ActivationChange && !isActiveWindow() && m_player != nullptr)
         m_player->ReleaseHeldButtons();
     QWidget::changeEvent(event);
@@ -532,7 +380,8 @@ bool frmMain::event(QEvent* event)
     if (event->type() == QEvent::ToolTip) {
         const auto* const help = static_cast<QHelpEvent*>(event);
         const bool isOnCaption = Layout().Caption().Contains(help->pos().x(), help->pos().y());
-        QToolTip::showText(help->globalPos(), isOnCaption ? m_caption.toHtmlEscaped() : QString(), this);
+        QToolTip::showText(
+            help->globalPos(), isOnCaption ? "<p>" + m_caption.toHtmlEscaped() + "</p>" : QString(), this);
         return true;
     }
     return QWidget::event(event);
@@ -542,7 +391,11 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::MouseButtonDblClick:
-        m_player->Host().SetFullScreen(!m_fullScreen);
+        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+            m_player->Host().SetFullScreen(!m_fullScreen);
+        return true;
+    case QEvent::ContextMenu:
+        ShowPlayMenu(*this, *m_player, static_cast<QContextMenuEvent*>(event)->globalPos());
         return true;
     case QEvent::Enter:
         unsetCursor();
@@ -570,6 +423,8 @@ void frmMain::keyPressEvent(QKeyEvent* event)
 void frmMain::closeEvent(QCloseEvent* event)
 {
     event->accept();
+    if (m_geometrySettled.isActive())
+        KeepNormalGeometry();
     m_tmrMovie.stop();
     m_player->Unload();
 }

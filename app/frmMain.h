@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/PlayerScreen.h"
+#include "shell/Skin.h"
 #include "shell/WindowLayout.h"
 
 #include <QTimer>
@@ -16,9 +17,9 @@ class QSplitter;
 namespace zentaro {
 
 class FancyList;
-class GlyphButton;
 class Player;
 class SeekTrack;
+class SkinButton;
 class VideoFrame;
 class VolumeKnob;
 
@@ -78,6 +79,8 @@ protected:
 
 private:
     WindowLayout Layout() const;
+    /// Buttons that have nothing to do yet show as disabled.
+    SkinButtons ButtonStates() const;
     void MakeButton(Button button, const QString& name, const QString& shortcut, void (Player::*command)());
     void MakeTitleButton(Button button, const QString& name, void (frmMain::*command)());
     void MakeHeldButton(Button button, const QString& name, void (Player::*press)(), void (Player::*release)());
@@ -85,11 +88,16 @@ private:
     void MakeList();
     void ToggleMaximized();
     void PlaceChildren();
+    /// Notes the geometry unless the window is maximised, minimised or full screen.
     void KeepNormalGeometry();
+    /// Later: the window system tells a new size before it tells the state that it belongs to.
+    void KeepNormalGeometrySoon() { m_geometrySettled.start(); }
     void UseCursorFor(const QPoint& at);
     /// Hands a drag to the system: a resize at an edge, a move of the title bar.
     void StartDrag();
 
+    QString m_programFolder;
+    Skin m_skin;
     Player* m_player = nullptr;
     QSplitter* m_content;
     VideoFrame* m_video;
@@ -104,8 +112,9 @@ private:
     QTimer m_tmrRewind;
     QTimer m_noteEnd;
     QTimer m_progressDelay;
+    QTimer m_geometrySettled;
     AddProgress m_progress;
-    std::map<Button, GlyphButton*> m_buttons;
+    std::map<Button, SkinButton*> m_buttons;
     QString m_caption;
     QRect m_normal;                   // geometry while neither maximised nor full screen, in logical pixels
     std::optional<QPoint> m_dragFrom; // where the left button went down on something that can be dragged

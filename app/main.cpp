@@ -8,7 +8,6 @@
 #include "platform/Folders.h"
 #include "platform/Power.h"
 #include "platform/Process.h"
-#include "platform/QuitRequest.h"
 #include "platform/TextFile.h"
 #include "playback/VideoFrame.h"
 #include "playback/VlcEngine.h"
@@ -19,7 +18,9 @@
 #include <QApplication>
 
 #include <chrono>
+#include <optional>
 #include <random>
+#include <utility>
 
 namespace {
 
@@ -70,6 +71,13 @@ struct InspectionBase {
     InspectionContext context;
 };
 
+/// With a trailing separator; empty when no folder can be made, as on a full disk.
+std::string MakeFolderOfThisRun()
+{
+    auto folder = platform::MakeWorkingFolder();
+    return folder.empty() ? folder : WithTrailingSeparator(std::move(folder), platform::PathSeparator());
+}
+
 /// The engine draws into X windows only, so a Wayland session with an X server beside it is used through that server.
 void PreferX11()
 {
@@ -94,14 +102,17 @@ int main(int argc, char** argv)
     const auto separator = platform::PathSeparator();
     const auto programFolder = WithTrailingSeparator(platform::ExecutableFolder(), separator);
     const auto settingsFolder = WithTrailingSeparator(platform::SettingsFolder(), separator);
-    const auto workingFolder = WithTrailingSeparator(platform::MakeWorkingFolder(), separator);
+    const auto workingFolder = MakeFolderOfThisRun();
     const auto store = platform::StringStore::Open();
     const auto power = platform::Power::Open();
 
     frmMain window(ToQString(programFolder));
-    VlcEngines engines(window.Video(), workingFolder + "engine.log");
-    InspectionBase inspection(programFolder);
-    InspectionThreads inspections(inspection.context, workingFolder, [&](std::function<void()> work) {
+    VlcEngines engines(window.Video(), workingFolder.empty() ? std::string() : workingFolder + "engine.log");
+    std::optional<InspectionBase> base;
+    const auto inspectionContext = [&]() -> const InspectionContext& {
+        return (base ? *base : base.emplace(programFolder)).context;
+    };
+    InspectionThreads inspections(inspectionContext, workingFolder, [&](std::function<void()> work) {
         QMetaObject::invokeMethod(&application, std::move(work), Qt::QueuedConnection);
     });
     const auto endProcess = [&] {
@@ -109,15 +120,14 @@ int main(int argc, char** argv)
         platform::RemoveFolder(workingFolder);
         platform::EndProcess();
     };
-    Player player({ window, engines, inspections, *store, *power, RealHandOver(), RealRandom(), endProcess,
-        programFolder, settingsFolder, separator });
+    Player player({ window, engines, inspections, *store, *power, RealHandOver(), RealRandom(), &platform::PathExists,
+        endProcess, programFolder, settingsFolder, separator });
     inspections.onCompleted = [&](int ticket, Inspection result) {
         player.InspectionCompleted(ticket, std::move(result));
     };
     window.Serve(player);
     if (!player.Load(commandLine))
         endProcess();
-    platform::OnQuitRequest([&] { window.close(); });
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
         [&] { IgnoreFailure(player.WriteConfigurations()); });
     return QApplication::exec();

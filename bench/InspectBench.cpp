@@ -195,8 +195,8 @@ void ManyFilesAdded(benchmark::State& state)
 {
     for (auto _ : state) {
         WorkList work;
-        InspectionThreads threads(
-            TheWorld().context, TheWorld().folder, [&](std::function<void()> done) { work.Post(std::move(done)); });
+        InspectionThreads threads([]() -> const InspectionContext& { return TheWorld().context; }, TheWorld().folder,
+            [&](std::function<void()> done) { work.Post(std::move(done)); });
         Playlist playlist([] { return 0.5; });
         SilentHost host;
         AddQueue queue(playlist, host, threads);

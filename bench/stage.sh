@@ -14,8 +14,8 @@ clean_up() {
 # prepare_stage TARGET...: builds the player and these programs and copies them to $stage, which the ordinary user can
 # read; $stage/home is the user's.
 prepare_stage() {
-  install_packages build run screenless bench || exit 1
-  [[ -f $build/build.ninja ]] || (cd "$root" && cmake --preset linux-release) || exit 1
+  install_packages build run screenless test bench || exit 1
+  (cd "$root" && cmake --preset linux-release -DZENTARO_TESTS=ON >/dev/null) || exit 1
   ninja -C "$build" program "$@" || exit 1
   stage=$(mktemp -d "${TMPDIR:-/tmp}/zentaro-bench.XXXXXX")
   display_pids=()
@@ -39,7 +39,7 @@ open_stage() {
 # as_user COMMAND...: in the user's home, with nothing of this environment but the display.
 as_user() {
   (cd "$stage/home" && exec "${user[@]}" env -i PATH="$PATH" LC_ALL=C.UTF-8 DISPLAY="${DISPLAY:-}" \
-    HOME="$stage/home" XDG_RUNTIME_DIR="$stage/home/run" "$@")
+    HOME="$stage/home" XDG_RUNTIME_DIR="$stage/home/run" DBUS_SYSTEM_BUS_ADDRESS="unix:path=$stage/no-bus" "$@")
 }
 
 # median NUMBER...

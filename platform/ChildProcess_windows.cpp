@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <mutex>
 #include <shellapi.h>
 #include <utility>
@@ -226,9 +227,17 @@ std::unique_ptr<StartedProcess> ShellStart(const ShellCommand& command)
 
 std::optional<std::string> FindTool(const std::string& name, const std::string& firstFolder)
 {
-    for (const char* folder : { firstFolder.c_str(), static_cast<const char*>(nullptr) }) {
+    // Without a list of folders the system also looks into the current one, where a download may lie.
+    const char* const searched = std::getenv("PATH");
+    std::array<char, MAX_PATH> system;
+    const auto systemLength = ::GetSystemDirectoryA(system.data(), MAX_PATH);
+    const auto searchPath = (searched != nullptr ? std::string(searched) + ";" : std::string())
+        + std::string(system.data(), systemLength < MAX_PATH ? systemLength : 0);
+    for (const auto& folders : { firstFolder, searchPath }) {
+        if (folders.empty())
+            continue;
         std::array<char, 32768> path; // the longest path of the system
-        const auto length = ::SearchPathA(folder, name.c_str(), ".exe", path.size(), path.data(), nullptr);
+        const auto length = ::SearchPathA(folders.c_str(), name.c_str(), ".exe", path.size(), path.data(), nullptr);
         if (length > 0 && length < path.size())
             return std::string(path.data(), length);
     }

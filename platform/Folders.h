@@ -28,7 +28,7 @@ std::string PicturesFolder();
 /// empty when none can be made. The caller removes it.
 std::string MakeWorkingFolder();
 
-/// Removes the folder and all that is in it; a failure is ignored.
+/// Removes the folder and all that is in it; a failure is ignored. An empty name and a root are left alone.
 void RemoveFolder(const std::string& folder);
 
 /// The command line without the program's own name: on Windows as it was typed, elsewhere the given arguments (the

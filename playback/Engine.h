@@ -55,6 +55,8 @@ public:
 class EngineFactory {
 public:
     virtual ~EngineFactory() = default;
+    /// The first item will come soon; called once, when it is known that this process plays.
+    virtual void Prepare() { }
     /// Null when the engine library cannot be started.
     virtual std::unique_ptr<Engine> Create() = 0;
 };

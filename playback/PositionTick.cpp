@@ -32,8 +32,9 @@ PositionTick ReadPosition(const EngineReading& reading, bool mediaControlsEnable
     if (reading.position > 0)
         tick.progress = RoundHalfEven(reading.position * 100);
     tick.timeText = TimeLabelText(std::max(reading.time, 0.0), std::max(reading.length, 0.0));
-    // While a video is being opened it has no output yet, and when it has ended no longer: the logo would flash.
-    if (isOpen && reading.state < Engine::kStopped)
+    // A video has no output yet in its first moments, and when it has ended no longer: the logo would flash.
+    const bool isMoving = reading.time > 0 || reading.position > 0;
+    if (isOpen && reading.state < Engine::kStopped && (reading.hasVideoOutput || isMoving))
         tick.showAudioLogo = !reading.hasVideoOutput;
     // The clock alone misses half of all files: its last reading can lie well before the total. The clock of a disc
     // stands at the total while a menu waits.

@@ -185,8 +185,8 @@ public:
             return;
         for (const auto& option : options)
             libvlc_media_add_option(media, option.c_str());
-        // No card decodes either, and asking for one makes the card's library complain on the terminal. The player would
-        // forget this one; the item keeps it.
+        // No card decodes either, and asking for one makes the card's library complain on the terminal. The player
+        // would forget this one; the item keeps it.
         if (m_engines.m_plainOutput)
             libvlc_media_add_option(media, ":avcodec-hw=none");
         m_player = libvlc_media_player_new_from_media(media);
@@ -268,8 +268,18 @@ private:
 VlcEngines::VlcEngines(VideoFrame& frame, const std::string& logPath)
     : m_frame(frame)
     , m_log(logPath)
-    , m_plainOutput(!platform::HasGraphicsCard())
 {
+}
+
+VlcEngines::~VlcEngines()
+{
+    if (m_base.valid())
+        m_base.wait();
+}
+
+void VlcEngines::Prepare()
+{
+    m_plainOutput = !platform::HasGraphicsCard();
     // Finding the plug-ins takes longest at a start; the window comes up meanwhile.
     m_base = std::async(std::launch::async, [plain = m_plainOutput] {
         platform::SilenceSoundLibrary();
@@ -277,13 +287,10 @@ VlcEngines::VlcEngines(VideoFrame& frame, const std::string& logPath)
     }).share();
 }
 
-VlcEngines::~VlcEngines()
-{
-    m_base.wait();
-}
-
 std::unique_ptr<Engine> VlcEngines::Create()
 {
+    if (!m_base.valid())
+        Prepare();
     if (!m_base.get())
         return nullptr;
     return std::make_unique<VlcEngine>(*this, m_frame.AddSurface());

@@ -42,6 +42,7 @@ public:
     VlcEngines(VideoFrame& frame, const std::string& logPath);
     ~VlcEngines() override;
 
+    void Prepare() override;
     std::unique_ptr<Engine> Create() override;
 
 private:
@@ -56,7 +57,7 @@ private:
     VlcLog m_log;
     /// Holds the library's plug-in list in memory for the whole run; an instance beside it costs about a millisecond.
     std::shared_future<Instance> m_base;
-    bool m_plainOutput;
+    bool m_plainOutput = false;
     std::chrono::steady_clock::time_point m_silentUntil;
 };
 

@@ -44,6 +44,12 @@ std::vector<std::string> DroppedPaths(const QMimeData& data)
     return paths;
 }
 
+void AcceptAsCopy(QDropEvent& event)
+{
+    event.setDropAction(Qt::CopyAction);
+    event.accept();
+}
+
 FancyList::FancyList(FancyListState& state, QWidget* parent)
     : QWidget(parent)
     , m_state(state)
@@ -185,12 +191,12 @@ void FancyList::focusOutEvent(QFocusEvent* event)
 void FancyList::dragEnterEvent(QDragEnterEvent* event)
 {
     if (event->mimeData()->hasUrls())
-        event->acceptProposedAction();
+        AcceptAsCopy(*event);
 }
 
 void FancyList::dropEvent(QDropEvent* event)
 {
-    event->acceptProposedAction();
+    AcceptAsCopy(*event);
     const auto at = event->position().toPoint();
     emit OLEDragDrop(event->mimeData(), event->dropAction(), event->buttons(), event->modifiers(), at.x(), at.y());
 }

@@ -18,6 +18,9 @@ class AddProgressLine;
 /// The local paths of dropped or pasted files, in order; bytes that are no UTF-8 survive.
 std::vector<std::string> DroppedPaths(const QMimeData& data);
 
+/// Accepts a drag or drop of files whatever the source proposes: after a move it would delete them.
+void AcceptAsCopy(QDropEvent& event);
+
 /// The thumbnail list on the screen: paints a FancyListState and raises events; it decides nothing. A left press has
 /// set the selection when MouseDown, and after it Click or DblClick, are raised. Positions are pixels of the list.
 class FancyList : public QWidget, private FancyListObserver {

@@ -58,17 +58,14 @@ public:
     /// The splitter's place: the video and the playlist share it.
     Rect Content() const { return { 15, 57, m_width - 31, m_height - 204 }; }
     Rect Panel() const { return { 0, m_height - kPanelHeight, m_width, kPanelHeight }; }
-    Rect TimeLabel() const { return { 41, PanelTop() + 12, (m_width - 82) / 2, 22 }; }
-    Rect RateLabel() const
-    {
-        return { 41 + (m_width - 82) / 2, PanelTop() + 12, m_width - 82 - (m_width - 82) / 2, 22 };
-    }
-    Rect SeekTrack() const { return { 41, PanelTop() + 40, m_width - 85, 16 }; }
+    Rect TimeLabel() const { return { 45, PanelTop() + 12, (m_width - 93) / 2, 22 }; }
+    Rect RateLabel() const { return { TimeLabel().Right(), PanelTop() + 12, m_width - 48 - TimeLabel().Right(), 22 }; }
+    Rect SeekTrack() const { return { 45, PanelTop() + 38, m_width - 93, 16 }; }
     /// Right of the sound button.
     Rect VolumeSlider() const { return { m_width - 78, m_height - 27, 48, 20 }; }
     Rect VolumeNumber() const { return { m_width - 27, m_height - 27, 24, 20 }; }
-    /// A passing note, over the seek track.
-    Rect NoteLabel() const { return { 41, PanelTop() + 1, m_width - 85, 14 }; }
+    /// A passing note, in place of the rate.
+    Rect NoteLabel() const { return { 170, PanelTop() + 12, m_width - 218, 22 }; }
 
     /// Which edges of the frameless window a pointer takes hold of.
     struct Edges {

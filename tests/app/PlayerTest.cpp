@@ -205,7 +205,8 @@ protected:
         };
         screen.pump = [this] { return inspections.AnswerOne(*player); };
         player = std::make_unique<Player>(PlayerWorld{ screen, engines, inspections, store, power, handOver,
-            [] { return 0.0; }, [this] { ended = true; }, folder.string() + "/", folder.string() + "/", '/' });
+            [] { return 0.0; }, [](const std::string& path) { return path != "/clips/missing.avi"; },
+            [this] { ended = true; }, folder.string() + "/", folder.string() + "/", '/' });
         isPlayer = player->Load(commandLine);
         return *player;
     }
@@ -373,6 +374,7 @@ TEST_F(PlayerTest, a_file_that_is_gone_or_read_only_at_the_end_stays_so)
     fs::permissions(ConfigPath(), fs::perms::owner_read);
     EXPECT_FALSE(player->WriteConfigurations());
     EXPECT_EQ(ConfigText(), before);
+    fs::permissions(ConfigPath(), fs::perms::owner_all);
     fs::remove(ConfigPath());
     EXPECT_FALSE(player->WriteConfigurations());
     EXPECT_FALSE(fs::exists(ConfigPath()));

@@ -18,16 +18,20 @@ TEST_F(BadInput, WhatIsNoMediaIsRefusedInABoxOrSilently)
     fs::create_directory(InHome("folder.mkv"));
     WriteWholeFile(InHome("closed.mp4"), "secret");
     ASSERT_EQ(chmod(InHome("closed.mp4").c_str(), 0), 0);
-    for (const auto* const refused : { "empty.mp4", "text.avi", "closed.mp4" }) {
+    for (const auto* const refused : { "empty.mp4", "text.avi", "closed.mp4", "folder.mkv" }) {
         auto player = StartAndShow({ InHome(refused) });
         EXPECT_EQ(player.AnswerDialog(), "Zentaro") << refused;
         EXPECT_EQ(player.Title(), "Zentaro") << refused;
         EXPECT_CLOSES_CLEANLY(player);
     }
-    for (const auto& ignored : { InHome("notes.txt"), InHome("missing.mp4"), InHome("folder.mkv"), Home(),
-             std::string(4000, 'x') + ".mp4", std::string("-platform"), std::string("\xFF\xFE*Add"), std::string() }) {
+    int names = 0;
+    for (const auto& ignored : { InHome("notes.txt"), InHome("missing.mp4"), Home(), std::string(4000, 'x') + ".mp4",
+             std::string("-platform"), std::string("\xFF\xFE*Add"), std::string() }) {
         auto player = StartAndShow({ ignored });
         EXPECT_EQ(player.Title(), "Zentaro") << ignored;
+        // The next file comes through: nothing is in its way.
+        const auto clip = CopyOf(Clips::Make("clip.mp4"), std::to_string(++names) + ".mp4");
+        EXPECT_EQ(Start({ clip }).WaitForEnd(), 0);
         EXPECT_TRUE(player.Dialogs().empty()) << ignored;
         EXPECT_CLOSES_CLEANLY(player);
     }

@@ -27,6 +27,8 @@ TEST_F(Playing, EveryContainerMovesItsPictureOrShowsTheLogoWhileTheClockRuns)
     for (const auto* const name : { "c.mp4", "c.mkv", "c.mp3", "c.avi", "c.mpg", "c.wav", "c.flv", "c.wmv", "c.ogg",
              "c.mov", "c.3gp", "c.m4a", "c.ogm", "c.wma", "c.mka" }) {
         SCOPED_TRACE(name);
+        ASSERT_TRUE(player.process.IsRunning())
+            << player.process.WaitForEnd().value_or(-1) << player.process.ErrorText();
         auto messenger = Start({ Clips::Make(name) });
         EXPECT_EQ(messenger.WaitForEnd(), 0);
         EXPECT_TRUE(player.WaitForTitle(name));

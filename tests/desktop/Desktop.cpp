@@ -202,11 +202,17 @@ std::vector<Window> Desktop::ShownChildren(Window window) const
     return children;
 }
 
-std::size_t Desktop::CountChildren(Window window) const
+std::size_t Desktop::CountInside(Window window) const
 {
     const Reply<xcb_query_tree_reply_t> tree(
         xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
-    return tree ? tree->children_len : 0;
+    if (!tree)
+        return 0;
+    const auto* const children = xcb_query_tree_children(tree.get());
+    std::size_t count = tree->children_len;
+    for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i)
+        count += CountInside(children[i]);
+    return count;
 }
 
 Picture Desktop::Grab(const Rect& area) const

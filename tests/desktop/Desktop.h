@@ -64,7 +64,8 @@ public:
     void Close(Window window);
     /// Child windows that are shown, bottom first.
     std::vector<Window> ShownChildren(Window window) const;
-    std::size_t CountChildren(Window window) const;
+    /// Windows inside it at any depth, hidden ones included.
+    std::size_t CountInside(Window window) const;
     /// The numbers of a property, or none.
     std::vector<std::uint32_t> Numbers(Window window, const std::string& property) const;
 

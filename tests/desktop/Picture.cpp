@@ -54,6 +54,23 @@ Colour Picture::Mean() const
     return { sum.red / count, sum.green / count, sum.blue / count };
 }
 
+Picture Picture::Blocks(int count) const
+{
+    Picture blocks{ count, count, {} };
+    for (int at = 0; at < count * count; ++at) {
+        const int left = at % count * width / count;
+        const int right = (at % count + 1) * width / count;
+        Picture block;
+        for (int y = at / count * height / count; y < (at / count + 1) * height / count; ++y)
+            block.pixels.insert(
+                block.pixels.end(), pixels.begin() + y * width + left, pixels.begin() + y * width + right);
+        const auto mean = block.Mean();
+        const auto part = [](double value, int shift) { return static_cast<std::uint32_t>(value) << shift; };
+        blocks.pixels.push_back(part(mean.red, 16) | part(mean.green, 8) | part(mean.blue, 0));
+    }
+    return blocks;
+}
+
 void Picture::SavePng(const std::string& path) const
 {
     auto bytes = "P6\n" + std::to_string(width) + " " + std::to_string(height) + "\n255\n";

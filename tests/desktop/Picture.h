@@ -21,6 +21,8 @@ struct Picture {
     static Picture FromFile(const std::string& path, int width, int height);
 
     Colour Mean() const;
+    /// Its coarse look, `count` times `count` pixels: how something was scaled no longer matters.
+    Picture Blocks(int count) const;
     /// For a person to look at.
     void SavePng(const std::string& path) const;
 };

@@ -9,6 +9,7 @@
 #include <iostream>
 #include <stdexcept>
 #include <unistd.h>
+#include <utility>
 
 namespace zentaro::desktop {
 
@@ -19,6 +20,8 @@ namespace fs = std::filesystem;
 // Of 255: a black frame with a thin line of something is still black.
 constexpr double kDark = 12;
 constexpr double kMovingShare = 0.01;
+// The X server gives each client the window numbers of one block.
+constexpr int kClientShift = 21;
 // A window that is painted anew changes once or twice; what plays goes on.
 constexpr int kMovements = 4;
 
@@ -67,6 +70,8 @@ void EnterOwnWorld(const std::string& home)
     const std::map<std::string, std::string> world = { { "PATH", keptPath }, { "LC_ALL", "C.UTF-8" }, { "HOME", home },
         { "TMPDIR", home + "/tmp" }, { "XDG_RUNTIME_DIR", home + "/run" }, { "XDG_CONFIG_HOME", home + "/config" },
         { "XDG_DATA_HOME", home + "/data" }, { "XDG_CACHE_HOME", home + "/cache" },
+        // No test may reach the machine's login manager.
+        { "DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + home + "/no-bus" },
         // What the system's libraries leak is not ours to find; what is freed must not look like a growing player.
         { "ASAN_OPTIONS", "detect_leaks=0:quarantine_size_mb=4" }, { "UBSAN_OPTIONS", "print_stacktrace=1" } };
     clearenv();
@@ -77,6 +82,29 @@ void EnterOwnWorld(const std::string& home)
     }
     fs::permissions(home + "/run", fs::perms::owner_all);
 }
+
+/// Keeps what was on the screen when something first failed in a test.
+class ScreenshotOnFailure : public testing::EmptyTestEventListener {
+public:
+    explicit ScreenshotOnFailure(Desktop& screen)
+        : m_screen(screen)
+    {
+    }
+
+private:
+    void OnTestStart(const testing::TestInfo& test) override { m_test = test.name(); }
+    void OnTestPartResult(const testing::TestPartResult& result) override
+    {
+        if (!result.failed() || m_test.empty())
+            return;
+        const auto path = (TemporaryFolder() / ("failed-" + std::exchange(m_test, {}) + ".png")).string();
+        m_screen.Grab(m_screen.Area()).SavePng(path);
+        std::cout << "What was on the screen: " << path << '\n';
+    }
+
+    Desktop& m_screen;
+    std::string m_test; // empty when its picture is taken
+};
 
 } // namespace
 
@@ -100,9 +128,22 @@ WindowLayout ShownPlayer::Layout() const
 
 Rect ShownPlayer::Video() const
 {
-    // Only the video has windows of the X server's own.
-    const auto children = m_desktop->ShownChildren(window);
-    return children.empty() ? Rect{} : m_desktop->Place(children.front());
+    // The engine puts a window of its own connection into the player's; without a picture the logo covers that one.
+    const auto isEngines = [this](Window inner) { return inner >> kClientShift != window >> kClientShift; };
+    std::vector<Window> waiting = { window };
+    while (!waiting.empty()) {
+        const auto outer = waiting.back();
+        waiting.pop_back();
+        const auto children = m_desktop->ShownChildren(outer);
+        if (std::any_of(children.begin(), children.end(), isEngines))
+            return m_desktop->Place(outer);
+        for (std::size_t i = 1; i < children.size(); ++i) {
+            if (m_desktop->Place(children[i]) == m_desktop->Place(children[i - 1]))
+                return m_desktop->Place(children[i]);
+        }
+        waiting.insert(waiting.end(), children.begin(), children.end());
+    }
+    return {};
 }
 
 Rect ShownPlayer::OnScreen(const Rect& inWindow) const
@@ -158,7 +199,7 @@ bool ShownPlayer::ShowsAudioLogo() const
         if (seen.pixels.empty())
             return false;
         const auto logo = Picture::FromFile((BuiltProgramFolder() / "Audio.JPG").string(), place.width, place.height);
-        return seen.Mean().Brightest() > kDark && ShareThatDiffers(seen, logo, 40) < 0.05;
+        return ShareThatDiffers(seen.Blocks(8), logo.Blocks(8)) < 0.05;
     });
 }
 
@@ -193,6 +234,15 @@ PlayerDesk::PlayerDesk()
     Screen().MoveTo(0, 0);
 }
 
+void PlayerDesk::SetUpTestSuite()
+{
+    static const bool isWatched = [] {
+        testing::UnitTest::GetInstance()->listeners().Append(new ScreenshotOnFailure(Screen()));
+        return true;
+    }();
+    static_cast<void>(isWatched);
+}
+
 PlayerDesk::~PlayerDesk()
 {
     std::error_code ignored;
@@ -201,12 +251,6 @@ PlayerDesk::~PlayerDesk()
 
 void PlayerDesk::TearDown()
 {
-    if (HasFailure()) {
-        const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
-        const auto path = (TemporaryFolder() / ("failed-" + std::string(test->name()) + ".png")).string();
-        Screen().Grab(Screen().Area()).SavePng(path);
-        std::cout << "What was on the screen: " << path << '\n';
-    }
     for (const auto id : ProcessesAtHome(m_home))
         kill(id, SIGKILL);
 }

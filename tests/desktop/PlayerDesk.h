@@ -48,6 +48,7 @@ class PlayerDesk : public testing::Test {
 protected:
     PlayerDesk();
     ~PlayerDesk() override;
+    static void SetUpTestSuite();
     void TearDown() override;
 
     static Desktop& Screen();

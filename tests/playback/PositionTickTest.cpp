@@ -41,7 +41,7 @@ TEST(PositionTick, without_an_item_shows_zero_times_and_touches_nothing_else)
     EXPECT_FALSE(tick.isLoading || tick.progress || tick.showAudioLogo || tick.hasEnded);
 }
 
-TEST(PositionTick, an_item_loads_until_it_plays_and_its_logo_waits_for_that)
+TEST(PositionTick, an_item_loads_until_it_plays_and_its_logo_is_settled_only_while_it_does)
 {
     auto opening = InState(Engine::kPlaying - 1);
     opening.hasVideoOutput = false;
@@ -52,6 +52,7 @@ TEST(PositionTick, an_item_loads_until_it_plays_and_its_logo_waits_for_that)
     EXPECT_FALSE(video.isLoading);
     EXPECT_EQ(video.showAudioLogo, false);
     EXPECT_EQ(ReadPosition(InState(Engine::kPlaying, opening), true).showAudioLogo, true);
+    EXPECT_FALSE(ReadPosition(InState(Engine::kEnded, opening), true).showAudioLogo);
 }
 
 TEST(PositionTick, the_bar_gets_whole_percent_and_stays_while_the_position_is_not_positive)

@@ -167,9 +167,12 @@ TEST_F(FancyListTest, DroppedNamesKeepTheirBytes)
         &list, &FancyList::OLEDragDrop, &list, [&](const QMimeData* mime) { dropped = DroppedPaths(*mime); });
     QDragEnterEvent enter({ 10, 10 }, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&list, &enter);
-    QDropEvent drop({ 10, 10 }, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop({ 10, 10 }, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::ShiftModifier);
+    drop.setDropAction(Qt::MoveAction);
     QApplication::sendEvent(&list, &drop);
     EXPECT_EQ(dropped.size(), 2u);
+    // After a move the source would delete its files.
+    EXPECT_EQ(drop.dropAction(), Qt::CopyAction);
 }
 
 TEST_F(FancyListTest, TheProgressLineTakesItsRoomFromTheRowsAndCancels)

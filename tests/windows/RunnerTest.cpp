@@ -9,6 +9,7 @@
 #include <fstream>
 #include <io.h>
 #include <iterator>
+#include <thread>
 
 using namespace zentaro;
 namespace fs = std::filesystem;
@@ -163,6 +164,12 @@ TEST_F(WindowsRunner, a_shell_run_completes_a_bare_name_waits_and_can_be_cancell
     EXPECT_TRUE(ShellExecuteAndWait(forever, 0, true, true, context));
     EXPECT_EQ(pumps, 5);
 
+    // The system tells about a missing program in a box, and waits until somebody closes it.
+    const std::jthread user([](const std::stop_token& stop) {
+        for (; !stop.stop_requested(); ::Sleep(20))
+            if (auto* const box = ::FindWindowA("#32770", nullptr))
+                ::PostMessageA(box, WM_COMMAND, IDOK, 0);
+    });
     ToolCommand missing{ "zentaro-no-such-tool", {}, "" };
     EXPECT_FALSE(ShellExecuteAndWait(missing, 0, true, true, context));
     EXPECT_EQ(missing.program, context.programFolder + "\\zentaro-no-such-tool");

@@ -1,0 +1,220 @@
+#include "app/frmMain.h"
+
+#include "app/Player.h"
+#include "app/PlayerMenus.h"
+#include "playback/TimeText.h"
+#include "playback/VideoFrame.h"
+#include "playlist/FancyList.h"
+#include "shell/QtGeometry.h"
+#include "shell/QtText.h"
+#include "shell/SeekTrack.h"
+#include "shell/SkinButton.h"
+#include "shell/VolumeKnob.h"
+
+#include <QLabel>
+#include <QMimeData>
+#include <QSplitter>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+// The window's parts: what they are connected to, where they lie, what they show.
+namespace zentaro {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr double kListShare = 0.45; // of the content, until the splitter is moved
+constexpr int kListRoom = 280;      // px, at the most until then
+constexpr auto kProgressDelay = 700ms;
+constexpr int kPaneMinimum = 96; // px
+
+} // namespace
+
+void frmMain::Serve(Player& player)
+{
+    m_player = &player;
+    connect(&m_tmrMovie, &QTimer::timeout, this, [this] { m_player->OnPositionTick(); });
+    connect(&m_tmrRewind, &QTimer::timeout, this, [this] { m_player->OnRewindTick(); });
+    MakeList();
+    MakeSliders();
+    MakeTitleButton(Button::Minimize, "Minimize", &frmMain::showMinimized);
+    MakeTitleButton(Button::Maximize, "Maximize", &frmMain::ToggleMaximized);
+    MakeTitleButton(Button::Close, "Close", &frmMain::CloseWindow);
+    MakeButton(Button::Play, "Play", "", &Player::CMDPlayClick);
+    MakeButton(Button::Pause, "Pause", "Ctrl+P", &Player::CMDPauseClick);
+    MakeButton(Button::Stop, "Stop", "Ctrl+S", &Player::cmdStopClick);
+    MakeButton(Button::Previous, "Previous", "PgUp", &Player::cmdPreviousClick);
+    MakeButton(Button::Next, "Next", "PgDown", &Player::cmdNextClick);
+    MakeHeldButton(Button::Rewind, "Rewind", &Player::RewindPressed, &Player::RewindReleased);
+    MakeHeldButton(Button::FastForward, "Fast forward", &Player::cmdffMouseDown, &Player::cmdffMouseUp);
+    MakeButton(Button::FullScreen, "Full Screen", "Ctrl+F", &Player::cmdFulScreenClick);
+    MakeButton(Button::PlayList, "Playlist", "", &Player::cmdPlayListClick);
+    MakeButton(Button::SoundOn, "Mute", "", &Player::cmdMuteClick);
+    auto* const open = m_buttons[Button::Open] = new SkinButton("Open Media File", "Ctrl+O", this);
+    connect(open, &SkinButton::clicked, this, [this] { m_player->OpenFiles(false); });
+    AddShortcuts(*this, *m_player);
+    StateChanged();
+    PlaceChildren();
+}
+
+void frmMain::MakeButton(Button button, const QString& name, const QString& shortcut, void (Player::*command)())
+{
+    auto* const made = m_buttons[button] = new SkinButton(name, shortcut, this);
+    connect(made, &SkinButton::clicked, this, [this, command] { (m_player->*command)(); });
+}
+
+void frmMain::MakeHeldButton(Button button, const QString& name, void (Player::*press)(), void (Player::*release)())
+{
+    auto* const made = m_buttons[button] = new SkinButton(name, "hold", this);
+    connect(made, &SkinButton::pressed, this, [this, press] {
+        (m_player->*press)();
+        m_tmrRewind.start();
+    });
+    connect(made, &SkinButton::released, this, [this, release] {
+        (m_player->*release)();
+        m_tmrRewind.stop();
+    });
+}
+
+void frmMain::MakeSliders()
+{
+    m_seek = new SeekTrack(m_player->Seeking(), this);
+    connect(m_seek, &SeekTrack::PositionChosen, this, [this](double position) { m_player->Seek(position); });
+    connect(m_seek, &SeekTrack::StepChosen, this, [this](int milliseconds) { m_player->SeekBy(milliseconds); });
+    m_volume = new VolumeKnob(m_player->Loudness(), this);
+    connect(m_volume, &VolumeKnob::VolumeChosen, this, [this](int percent) { m_player->SetVolume(percent); });
+}
+
+void frmMain::MakeTitleButton(Button button, const QString& name, void (frmMain::*command)())
+{
+    auto* const made = m_buttons[button] = new SkinButton(name, {}, this);
+    connect(made, &SkinButton::clicked, this, command);
+}
+
+void frmMain::MakeList()
+{
+    auto& state = m_player->Entries().List();
+    state.SetImageWidth(64);
+    state.SetImageHeight(64);
+    state.SetItemHeight(80);
+    m_list = new FancyList(state, m_content);
+    m_list->setObjectName("FancyList1");
+    m_list->setMinimumSize(kPaneMinimum, kPaneMinimum);
+    m_video->setMinimumSize(kPaneMinimum, kPaneMinimum);
+    connect(m_list, &FancyList::Click, this, [this] { m_player->ListClicked(); });
+    connect(m_list, &FancyList::DblClick, this, [this] { m_player->ListDoubleClicked(); });
+    connect(m_list, &FancyList::MouseDown, this, [this](Qt::MouseButton button, Qt::KeyboardModifiers, int x, int y) {
+        if (button == Qt::RightButton)
+            ShowListMenu(*this, *m_player, m_list->mapToGlobal(QPoint(x, y)));
+    });
+    connect(m_list, &FancyList::CancelAdding, this, [this] { m_player->CancelAdding(); });
+    connect(m_list, &FancyList::OLEDragDrop, this, [this](const QMimeData* dropped) {
+        // The drop is answered first: what it starts can take long, and its source waits.
+        QTimer::singleShot(0, this, [this, paths = DroppedPaths(*dropped)] { m_player->DropOnList(paths); });
+    });
+}
+
+bool frmMain::IsPlaylistVisible() const
+{
+    return m_dock != PlaylistDock::Hidden;
+}
+
+void frmMain::SetPlaylistPosition(PlaylistDock position)
+{
+    const bool isStacked = position == PlaylistDock::Top || position == PlaylistDock::Bottom;
+    const bool isListFirst = position == PlaylistDock::Left || position == PlaylistDock::Top;
+    m_dock = position;
+    // Hiding keeps the place, so that the splitter is where it was when the list comes back.
+    if (position < PlaylistDock::Whole && std::exchange(m_splitFor, position) != position) {
+        m_content->setOrientation(isStacked ? Qt::Vertical : Qt::Horizontal);
+        m_content->insertWidget(isListFirst ? 0 : 1, m_list);
+        m_content->setStretchFactor(m_content->indexOf(m_video), 1);
+        m_content->setStretchFactor(m_content->indexOf(m_list), 0);
+        const auto content = Layout().Content();
+        const auto room = isStacked ? content.height : content.width;
+        const auto listRoom = std::min(static_cast<int>(room * kListShare), kListRoom);
+        m_content->setSizes(isListFirst ? QList{ listRoom, room - listRoom } : QList{ room - listRoom, listRoom });
+    }
+    PlaceChildren();
+}
+
+void frmMain::ShowAddProgress(const AddProgress& progress)
+{
+    // One file is opened in a moment; the line comes only when that moment grows long.
+    m_progress = progress;
+    if (progress.total == 1)
+        m_progressDelay.start(kProgressDelay);
+    else
+        m_list->ShowAddProgress(progress);
+}
+
+void frmMain::ShowPosition(const PositionTick& tick, double length)
+{
+    m_time->setText(ToQString(tick.timeText));
+    m_seek->SetItem(m_player->MediaControlsEnabled(), length);
+    m_seek->ShowProgress();
+    if (tick.showAudioLogo)
+        m_video->ShowAudioLogo(*tick.showAudioLogo);
+}
+
+void frmMain::ShowRate(const std::string& text)
+{
+    m_rate->setText(ToQString(text));
+}
+
+void frmMain::ShowIdle()
+{
+    m_time->setText(ToQString(TimeLabelText(0, 0)));
+    m_video->ShowAudioLogo(false);
+    if (m_seek != nullptr)
+        m_seek->ShowProgress();
+}
+
+void frmMain::StateChanged()
+{
+    const bool isLoaded = m_player->MediaControlsEnabled();
+    for (const auto button : { Button::Pause, Button::Stop, Button::Previous, Button::Next, Button::Rewind,
+             Button::FastForward, Button::FullScreen })
+        m_buttons[button]->setEnabled(isLoaded);
+    m_seek->SetItem(isLoaded, 0);
+    m_volumeNumber->setText(QString::number(m_player->Host().Volume()));
+    m_volume->update();
+    update();
+}
+
+void frmMain::ShowNote(const std::string& text)
+{
+    m_note->setText(ToQString(text));
+    m_rate->setVisible(text.empty());
+    m_noteEnd.start(5s);
+}
+
+void frmMain::PlaceChildren()
+{
+    if (m_list != nullptr)
+        m_list->setVisible(!m_fullScreen && m_dock != PlaylistDock::Hidden);
+    if (m_fullScreen) {
+        m_video->setVisible(true);
+        m_content->setGeometry(rect());
+        m_content->raise();
+        return;
+    }
+    m_video->setVisible(m_dock != PlaylistDock::Whole);
+    const auto layout = Layout();
+    m_content->setGeometry(ToQt(layout.Content()));
+    m_time->setGeometry(ToQt(layout.TimeLabel()));
+    m_rate->setGeometry(ToQt(layout.RateLabel()));
+    m_note->setGeometry(ToQt(layout.NoteLabel()));
+    m_volumeNumber->setGeometry(ToQt(layout.VolumeNumber()));
+    if (m_seek != nullptr) {
+        m_seek->setGeometry(ToQt(layout.SeekTrack()));
+        m_volume->setGeometry(ToQt(layout.VolumeSlider()));
+    }
+    for (const auto& [button, widget] : m_buttons)
+        widget->setGeometry(ToQt(layout.ButtonRect(button)));
+}
+
+} // namespace zentaro

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "base/Geometry.h"
+
+#include <QRect>
+
+namespace zentaro {
+
+inline QRect ToQt(const Rect& rect)
+{
+    return { rect.left, rect.top, rect.width, rect.height };
+}
+
+} // namespace zentaro

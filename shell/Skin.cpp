@@ -1,0 +1,114 @@
+#include "shell/Skin.h"
+
+#include "shell/QtText.h"
+
+#include <QImageReader>
+#include <QPainter>
+
+#include <atomic>
+#include <thread>
+
+namespace zentaro {
+
+namespace {
+
+constexpr qsizetype kCopiesKiB = 64 * 1024; // a window that fills a 4K screen needs 36 MiB
+constexpr unsigned kMaximumThreads = 4;
+
+QImage Decoded(const QString& path)
+{
+    auto image = QImageReader(path).read();
+    if (image.isNull())
+        return image;
+    // The two formats that are copied to the screen without a look at each pixel's format.
+    image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
+    return image;
+}
+
+/// `image` as large as the device pixels that it fills.
+QImage Stretched(const QImage& image, const QSize& size)
+{
+    return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+} // namespace
+
+Skin::Skin()
+    : m_copies(kCopiesKiB)
+{
+}
+
+Result<void> Skin::Load(const QString& folder)
+{
+    const auto files = SkinLoadOrder();
+    std::array<QImage, kSkinImageCount> decoded;
+    std::atomic<std::size_t> next = 0;
+    std::atomic<std::size_t> end = files.size();
+    // A failure ends the work behind it only: what comes before it in load order is still decoded.
+    const auto decode = [&] {
+        for (auto i = next++; i < end; i = next++) {
+            decoded[i] = Decoded(folder + ToQString(files[i].name));
+            auto last = end.load();
+            while (decoded[i].isNull() && i < last && !end.compare_exchange_weak(last, i)) { }
+        }
+    };
+    {
+        std::vector<std::jthread> threads;
+        for (unsigned i = 1; i < std::min(std::thread::hardware_concurrency(), kMaximumThreads); ++i)
+            threads.emplace_back(decode);
+        decode();
+    }
+    m_copies.clear();
+    m_images.fill({});
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        if (decoded[i].isNull())
+            return Error{ 0, "cannot load the picture " + ToText(folder) + files[i].name };
+        m_images[static_cast<std::size_t>(files[i].image)] = decoded[i];
+    }
+    return {};
+}
+
+QImage Skin::ScaledCopy(SkinImage image, const QSize& size)
+{
+    const CopyKey key{ image, size.width(), size.height() };
+    if (const auto* const copy = m_copies.object(key))
+        return *copy;
+    const auto copy = Stretched(m_images[static_cast<std::size_t>(image)], size);
+    m_copies.insert(key, new QImage(copy), copy.sizeInBytes() / 1024 + 1);
+    return copy;
+}
+
+Rect Skin::Draw(QPainter& painter, SkinImage image, const Rect& rect)
+{
+    if (rect.width <= 0 || rect.height <= 0 || m_images[static_cast<std::size_t>(image)].isNull())
+        return rect;
+    // Both edges are rounded to device pixels, so that neighbours meet without a gap at every scale factor.
+    const auto& toDevice = painter.deviceTransform();
+    const auto place = toDevice.mapRect(QRectF(rect.left, rect.top, rect.width, rect.height));
+    const QPoint from(qRound(place.left()), qRound(place.top()));
+    const QPoint to(qRound(place.right()), qRound(place.bottom()));
+    const QSize size(to.x() - from.x(), to.y() - from.y());
+    if (size.isEmpty())
+        return rect;
+    const auto target = toDevice.inverted().mapRect(QRectF(from, size));
+    painter.drawImage(target, ScaledCopy(image, size));
+    return rect;
+}
+
+void Skin::DrawAll(QPainter& painter, const std::vector<SkinDraw>& draws)
+{
+    for (const auto& draw : draws)
+        Draw(painter, draw.image, draw.rect);
+}
+
+void Skin::DrawBackGround(QPainter& painter, int width, int height)
+{
+    DrawAll(painter, BackgroundPass(width, height, m_rects));
+}
+
+void Skin::Paint(QPainter& painter, int width, int height, const SkinButtons& buttons)
+{
+    DrawAll(painter, PaintPass(width, height, buttons, m_rects));
+}
+
+} // namespace zentaro

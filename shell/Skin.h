@@ -1,0 +1,57 @@
+#pragma once
+
+#include "base/Result.h"
+#include "shell/SkinPasses.h"
+
+#include <QCache>
+#include <QImage>
+#include <QString>
+
+#include <array>
+
+class QPainter;
+
+namespace zentaro {
+
+/// The window's pictures: loaded once, kept decoded, and drawn in the two passes.
+class Skin {
+public:
+    Skin();
+
+    /// Decodes every file below `folder` (with a trailing separator). The first one, in load order, that cannot be
+    /// loaded ends the load: it and the later ones stay empty, and the error's text names it.
+    Result<void> Load(const QString& folder);
+
+    /// Stretches the whole image into the rectangle (logical px) and gives the rectangle back. An empty image and a
+    /// rectangle without area draw nothing. The painter may be moved and scaled, not turned.
+    Rect Draw(QPainter& painter, SkinImage image, const Rect& rect);
+
+    /// The background pass, for a client area of that size (logical px).
+    void DrawBackGround(QPainter& painter, int width, int height);
+    /// The paint pass.
+    void Paint(QPainter& painter, int width, int height, const SkinButtons& buttons);
+
+    /// What takes the pointer, where the passes drew it last.
+    const SkinRects& Rects() const { return m_rects; }
+
+private:
+    struct CopyKey {
+        SkinImage image;
+        int width;
+        int height; // device px
+        bool operator==(const CopyKey&) const = default;
+    };
+    friend std::size_t qHash(const CopyKey& key, std::size_t seed)
+    {
+        return qHashMulti(seed, static_cast<int>(key.image), key.width, key.height);
+    }
+
+    QImage ScaledCopy(SkinImage image, const QSize& size);
+    void DrawAll(QPainter& painter, const std::vector<SkinDraw>& draws);
+
+    std::array<QImage, kSkinImageCount> m_images;
+    QCache<CopyKey, QImage> m_copies; // the cost is in KiB
+    SkinRects m_rects;
+};
+
+} // namespace zentaro

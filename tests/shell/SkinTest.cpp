@@ -1,0 +1,228 @@
+#include "shell/Skin.h"
+#include "shell/QtText.h"
+#include "tests/shell/SkinTable.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <map>
+#include <set>
+
+namespace zentaro {
+namespace {
+
+constexpr QRgb kUnpainted = 0xFF000000;
+
+/// A skin on the disk whose every image has one colour of its own.
+class FlatSkin {
+public:
+    FlatSkin()
+    {
+        const QDir dir(folder);
+        for (const auto* const state : { "Normal", "Over", "Press", "Disabel" })
+            dir.mkpath(state);
+        int number = 0;
+        for (const auto& file : SkinLoadOrder()) {
+            // Far enough apart to stay different through JPEG.
+            const QColor color(40 + number % 5 * 50, 40 + number / 5 % 5 * 50, 40 + number / 25 * 50);
+            ++number;
+            const auto path = folder + ToQString(file.name);
+            if (file.image != SkinImage::AboutBox) {
+                QImage image(8, 8, QImage::Format_RGB32);
+                image.fill(color);
+                image.save(path, nullptr, 100);
+            }
+            m_colors[static_cast<std::size_t>(file.image)] = QImage(path).pixel(4, 4);
+        }
+    }
+
+    QRgb Color(SkinImage image) const { return m_colors[static_cast<std::size_t>(image)]; }
+
+    /// What a window of that size shows when the images lie as the table says.
+    QImage Expected(const std::vector<SkinDraw>& table, int width, int height, int scale = 1) const
+    {
+        QImage image(width * scale, height * scale, QImage::Format_RGB32);
+        image.fill(kUnpainted);
+        QPainter painter(&image);
+        painter.scale(scale, scale);
+        for (const auto& [picture, rect] : table) {
+            if (rect.width > 0 && rect.height > 0)
+                painter.fillRect(rect.left, rect.top, rect.width, rect.height, QColor(Color(picture)));
+        }
+        return image;
+    }
+
+private:
+    QTemporaryDir m_dir;
+    std::array<QRgb, kSkinImageCount> m_colors{};
+
+public:
+    QString folder = m_dir.path() + '/';
+};
+
+template <class Pass> QImage Painted(int width, int height, double scale, const Pass& pass)
+{
+    QImage image(qRound(width * scale), qRound(height * scale), QImage::Format_RGB32);
+    image.fill(kUnpainted);
+    image.setDevicePixelRatio(scale);
+    QPainter painter(&image);
+    pass(painter);
+    painter.end();
+    image.setDevicePixelRatio(1);
+    return image;
+}
+
+QImage PaintedWindow(Skin& skin, const TestSize& size, const SkinButtons& buttons, double scale = 1)
+{
+    return Painted(size.width, size.height, scale,
+        [&](QPainter& painter) { skin.Paint(painter, size.width, size.height, buttons); });
+}
+
+QImage PaintedBackground(Skin& skin, const TestSize& size)
+{
+    return Painted(
+        size.width, size.height, 1, [&](QPainter& painter) { skin.DrawBackGround(painter, size.width, size.height); });
+}
+
+TEST(Skin, every_pixel_belongs_to_the_image_that_lies_on_top)
+{
+    const FlatSkin flat;
+    Skin skin;
+    ASSERT_TRUE(skin.Load(flat.folder));
+    auto buttons = MixedButtons();
+    for (const auto& size : kTestSizes) {
+        EXPECT_EQ(PaintedBackground(skin, size),
+            flat.Expected(BackgroundTable(size.width, size.height), size.width, size.height));
+        for (const auto sound : { Button::SoundOn, Button::SoundOff }) {
+            buttons.isMuted = sound == Button::SoundOff;
+            const auto table = PaintTable(size, buttons, sound);
+            EXPECT_EQ(PaintedWindow(skin, size, buttons), flat.Expected(table, size.width, size.height));
+            EXPECT_EQ(PaintedWindow(skin, size, buttons, 2), flat.Expected(table, size.width, size.height, 2));
+        }
+    }
+}
+
+TEST(Skin, neighbours_meet_without_a_gap_at_a_broken_scale_factor)
+{
+    const FlatSkin flat;
+    Skin skin;
+    ASSERT_TRUE(skin.Load(flat.folder));
+    std::set<QRgb> known;
+    for (std::size_t i = 0; i < kSkinImageCount; ++i)
+        known.insert(flat.Color(static_cast<SkinImage>(i)));
+    for (const double scale : { 1.25, 1.5, 1.75 }) {
+        // Sizes that such a screen can show to the pixel.
+        const auto shot = PaintedWindow(skin, { 388, 516, 160 }, MixedButtons(), scale);
+        for (int y = 0; y < shot.height(); ++y) {
+            for (int x = 0; x < shot.width(); ++x)
+                ASSERT_TRUE(known.contains(shot.pixel(x, y))) << x << ',' << y << " at " << scale;
+        }
+    }
+}
+
+TEST(Skin, a_rectangle_without_area_draws_nothing_and_comes_back)
+{
+    const FlatSkin flat;
+    Skin skin;
+    ASSERT_TRUE(skin.Load(flat.folder));
+    const auto shot = Painted(20, 20, 1, [&](QPainter& painter) {
+        for (const Rect& rect : { Rect{ 9, 9, -5, 4 }, Rect{ 9, 9, 4, -5 }, Rect{ 9, 9, 0, 4 } })
+            EXPECT_EQ(skin.Draw(painter, SkinImage::TitleBar, rect), rect);
+    });
+    EXPECT_EQ(shot, flat.Expected({}, 20, 20));
+}
+
+TEST(Skin, the_first_bad_file_ends_the_load_and_the_rest_draws_nothing)
+{
+    const FlatSkin flat;
+    // Bad are one in the middle and two later ones; what is no picture counts like what is missing.
+    QFile noPicture(flat.folder + "BGCC.jpg");
+    ASSERT_TRUE(noPicture.open(QFile::WriteOnly));
+    noPicture.write("no picture");
+    noPicture.close();
+    QFile::remove(flat.folder + "BGCR.jpg");
+    QFile::remove(flat.folder + "Normal/Play.png");
+    const auto size = kTestSizes[0];
+    auto table = PaintTable(size, {}, Button::SoundOn);
+    std::erase_if(table, [](const SkinDraw& draw) {
+        return draw.image != SkinImage::BGCL && draw.image != SkinImage::BGDC && draw.image != SkinImage::BGDL
+            && draw.image != SkinImage::BGDR;
+    });
+    // Often enough for the threads to show an order of their own.
+    for (int i = 0; i < 20; ++i) {
+        Skin skin;
+        const auto loaded = skin.Load(flat.folder);
+        ASSERT_FALSE(loaded);
+        EXPECT_TRUE(loaded.error().text.ends_with("/BGCC.jpg")) << loaded.error().text;
+        EXPECT_EQ(PaintedWindow(skin, size, {}), flat.Expected(table, size.width, size.height));
+    }
+}
+
+/// A button's picture over the panel's colour, in one size for all.
+QImage Look(const QString& file)
+{
+    const QImage image(QCoreApplication::applicationDirPath() + "/../bin/images/" + file);
+    EXPECT_FALSE(image.isNull()) << ToText(file);
+    QImage look(48, 48, QImage::Format_RGB32);
+    look.fill(QColor(0x23, 0x26, 0x2E));
+    QPainter painter(&look);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(look.rect(), image);
+    return look;
+}
+
+/// How much two looks differ, as the share of pixels that the eye can tell apart, in percent.
+double Difference(const QImage& a, const QImage& b)
+{
+    constexpr int kVisible = 12;
+    int count = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x)
+            count += std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y))) >= kVisible;
+    }
+    return 100.0 * count / (a.width() * a.height());
+}
+
+TEST(SkinPictures, are_all_there)
+{
+    Skin skin;
+    const auto loaded = skin.Load(QCoreApplication::applicationDirPath() + "/../bin/images/");
+    EXPECT_TRUE(loaded) << loaded.error().text;
+}
+
+TEST(SkinPictures, no_two_of_a_button_s_states_and_no_two_buttons_look_alike)
+{
+    std::vector<std::pair<std::string, QImage>> normal;
+    std::map<std::string, std::vector<QImage>> states;
+    for (const auto& [image, name] : SkinLoadOrder()) {
+        const auto slash = name.find('/');
+        if (slash == std::string::npos)
+            continue;
+        const auto look = Look(ToQString(name));
+        for (const auto& other : states[name.substr(slash)])
+            EXPECT_GE(Difference(look, other), 2) << name;
+        states[name.substr(slash)].push_back(look);
+        if (name.starts_with("Normal/")) {
+            for (const auto& [otherName, other] : normal)
+                EXPECT_GE(Difference(look, other), 2) << name << " and " << otherName;
+            normal.emplace_back(name, look);
+        }
+    }
+    EXPECT_EQ(states.size(), kButtonCount);
+}
+
+} // namespace
+} // namespace zentaro
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
