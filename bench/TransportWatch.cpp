@@ -68,7 +68,11 @@ public:
         WaitUntil([&] { return (m_window = FindWindow()) != 0; });
         if (name == "zentaro")
             HideList();
-        if (!WaitUntil([&] { return Seen() != Band::None; }))
+        const auto isShown = [&] {
+            FindRow();
+            return m_row.width > kVideoWidth / 2;
+        };
+        if (!WaitUntil(isShown))
             throw std::runtime_error(name + " shows no band");
     }
     ~Watched()
@@ -81,6 +85,7 @@ public:
     Band Seen() const { return BandIn(m_desktop.Grab(m_row)); }
     void FindRow()
     {
+        m_row = {};
         // The band has the width of the video; the longest one is it.
         for (int y = 0; y < kScreenHeight; y += 8) {
             const auto line = m_desktop.Grab({ 0, y, kScreenWidth, 1 });
@@ -152,7 +157,7 @@ private:
     Desktop& m_desktop;
     std::string m_name;
     Window m_window = 0;
-    Rect m_row = { 0, kScreenHeight / 2, 1, 1 };
+    Rect m_row;
     std::vector<int> m_ends;
 };
 

@@ -72,7 +72,7 @@ protected:
     static void ClickTrack(const ShownPlayer& player, double share)
     {
         const auto track = player.OnScreen(player.Layout().SeekTrack());
-        Screen().Click(track.left + static_cast<int>(std::lround(track.width * share)), track.top + track.height / 2);
+        Click(track.left + static_cast<int>(std::lround(track.width * share)), track.top + track.height / 2);
     }
     /// What the video shows as soon as it shows a time.
     static double Time(const ShownPlayer& player)
@@ -175,7 +175,7 @@ TEST_F(Transport, APressOnTheTrackLandsThere)
     // The last pixels of the track are dead, and the end of a clip that was sought to is an end like any other.
     const auto before = Time(player);
     const auto track = player.OnScreen(player.Layout().SeekTrack());
-    Screen().Click(track.Right() - 2, track.top + track.height / 2);
+    Click(track.Right() - 2, track.top + track.height / 2);
     EXPECT_NEAR(Speed(player), 1, 0.3);
     EXPECT_NEAR(Time(player), before + 1.5, 1.0);
     const auto stop = PlaceOf(player, Button::Stop);
@@ -254,14 +254,17 @@ TEST_F(Transport, StopResetsAndNextAndPreviousWrap)
         EXPECT_TRUE(WaitUntil([&] { return Played(log).size() >= expected.size(); }));
         EXPECT_EQ(Played(log), expected);
     }
+    EXPECT_TRUE(ReachesTime(player, 0.1, 3));
     ClickTrack(player, 0.5);
     EXPECT_TRUE(WaitUntil([&] { return ShareThatDiffers(Look(parts[0]), idle[0]) > 0; }));
     EXPECT_TRUE(WaitUntil([&] { return ShareThatDiffers(Look(parts[1]), idle[1]) > 0.05; }));
     EXPECT_GT(ShareThatDiffers(Look(parts[3]), idle[3]), 0);
+    EXPECT_TRUE(ReachesTime(player, 9, 12));
+    const auto video = player.Video();
     Click(player, Button::Stop);
     for (std::size_t i = 0; i < parts.size(); ++i)
         EXPECT_TRUE(TakesLook(parts[i], idle[i])) << "part " << i;
-    EXPECT_TRUE(WaitUntil([&] { return Screen().Grab(player.Video()).Mean().Brightest() < 2; }));
+    EXPECT_TRUE(WaitUntil([&] { return Screen().Grab(video).Mean().Brightest() < 2; }));
     EXPECT_CLOSES_CLEANLY(player);
 }
 

@@ -131,9 +131,10 @@ TEST_P(EndsByMode, TheOrderAndTheRepeatModeSayWhatFollows)
     AddEntries(clips);
     player.DoAfter(1);
     player.Entries().List().SetSelectedItem(static_cast<int>(mode.first));
-    const std::map<std::int32_t, void (Player::*)()> modes = { { kPlayNormal, &Player::PBNormal },
-        { kPlayContinuous, &Player::PBCont }, { kPlayShuffle, &Player::PBShuffle } };
-    (player.*modes.at(mode.play))();
+    if (mode.play == kPlayNormal)
+        player.PBNormal();
+    else
+        mode.play == kPlayContinuous ? player.PBCont() : player.PBShuffle();
     player.SetRepeatMode(mode.repeat);
     std::vector<std::string> expected = { clips[mode.first] };
     for (const auto position : mode.played)
