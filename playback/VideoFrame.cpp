@@ -108,9 +108,6 @@ VLCAudioLogo::VLCAudioLogo(QString picturePath, QWidget* parent)
     // Beside the engine's window it gets one, too; the rest of the window must not follow.
     setAttribute(Qt::WA_DontCreateNativeAncestors);
     MakeBlack(*this);
-    // Beside the surface it becomes a window of the system's; without this all its ancestors would, and with them every
-    // button of the main window.
-    setAttribute(Qt::WA_DontCreateNativeAncestors);
     hide();
 }
 
