@@ -36,7 +36,7 @@ protected:
         fs::create_directory(program);
         for (const std::string tool : { "ffmpeg", "mpgtx" })
             fs::create_symlink(FindTool(tool, ""), program / tool);
-        fs::create_directory(m_folder + "/work");
+        fs::create_directory(m_folder + "/scratch");
 
         m_context.tools = &m_tools;
         m_context.files = &m_files;
@@ -44,7 +44,7 @@ protected:
         m_context.decodePicture = DecodePictureFile;
         m_context.ffmpeg = program / "ffmpeg";
         m_context.mpgtx = program / "mpgtx";
-        m_context.workingFolder = m_folder + "/work/";
+        m_context.workingFolder = m_folder + "/scratch/";
         m_context.audioCodecNames = &m_names;
         m_context.videoCodecNames = &m_names;
         m_context.defaultVideoPicture = Picture(1, 1, { 1 });
@@ -67,7 +67,7 @@ protected:
     {
         clsSource source(m_context);
         EXPECT_TRUE(source.GetVideoInformation(Path(name))) << name << ": " << source.Outcome().error;
-        EXPECT_TRUE(fs::is_empty(m_folder + "/work")) << name;
+        EXPECT_TRUE(fs::is_empty(m_folder + "/scratch")) << name;
         return source;
     }
 
