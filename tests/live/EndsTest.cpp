@@ -76,7 +76,7 @@ TEST_F(Ends, ClipsOfAllLengthsEndOnceEachAtEveryRate)
     for (const double rate : { 1, 4, 16 }) {
         SCOPED_TRACE(rate);
         // The long ones where they take no time; all of them when there is time.
-        if (rate == 16 || IsLongRun()) {
+        if (clips.size() == 3 && (rate == 16 || IsLongRun())) {
             for (const double seconds : { 20.4, 59.6 }) {
                 clips.push_back(Clips::Make("for-" + std::to_string(seconds) + ".mp4", seconds));
                 AddEntries({ clips.back() });
