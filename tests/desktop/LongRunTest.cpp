@@ -7,10 +7,10 @@ namespace {
 
 class LongRun : public PlayerDesk { };
 
-TEST_F(LongRun, AHundredFilesOneAfterTheOtherLeaveMemoryThreadsAndWindowsLevel)
+TEST_F(LongRun, TwoHundredFilesOneAfterTheOtherLeaveMemoryThreadsAndWindowsLevel)
 {
     constexpr int kWarmUp = 40;
-    constexpr int kFiles = 100;
+    constexpr int kFiles = 200;
     auto player = StartAndShow();
     const auto handle = platform::StringStore::Open()->Read(
         platform::StringStore::Root::CurrentUser, platform::SettingsKey("Quorvane Zentaro", "Setting"), "txtHwnd", "");

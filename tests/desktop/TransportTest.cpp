@@ -209,7 +209,7 @@ TEST_F(Transport, HeldButtonsMoveTheirWayAndAPauseChangesNothing)
     Click(player, Button::Pause);
     std::this_thread::sleep_for(300ms);
     const auto paused = Time(player);
-    std::this_thread::sleep_for(3s);
+    std::this_thread::sleep_for(5s);
     EXPECT_EQ(Time(player), paused);
     Click(player, Button::Pause);
     EXPECT_TRUE(ReachesTime(player, paused + 0.1, paused + 1.5));
