@@ -45,7 +45,6 @@ struct PlayerWorld {
     RandomSource random; ///< uniform in [0, 1)
     std::function<bool(const std::string& path)> fileExists;
     std::function<void()> endProcess;
-    std::string programFolder;  ///< with a trailing separator
     std::string settingsFolder; ///< with a trailing separator
     char separator = '/';
 };
@@ -147,8 +146,6 @@ public:
     const PlaybackRate& Rate() const { return m_rate; }
     const AfterPlay& AfterPlaying() const { return m_afterPlay; }
     bool IsRewinding() const { return m_held.IsRewinding(); }
-    const std::string& CurrentItemPath() const { return m_currentItemPath; }
-    const EngineOptions& ItemOptions() const { return m_options; }
 
 private:
     /// What adding does to the player.

@@ -189,7 +189,8 @@ void frmMain::ShowNote(const std::string& text)
 {
     m_note->setText(ToQString(text));
     m_rate->setVisible(text.empty());
-    m_noteEnd.start(5s);
+    if (!text.empty())
+        m_noteEnd.start(5s);
 }
 
 void frmMain::PlaceChildren()

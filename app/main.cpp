@@ -121,7 +121,7 @@ int main(int argc, char** argv)
         platform::EndProcess();
     };
     Player player({ window, engines, inspections, *store, *power, RealHandOver(), RealRandom(), &platform::PathExists,
-        endProcess, programFolder, settingsFolder, separator });
+        endProcess, settingsFolder, separator });
     inspections.onCompleted = [&](int ticket, Inspection result) {
         player.InspectionCompleted(ticket, std::move(result));
     };

@@ -11,12 +11,10 @@ namespace zentaro::style {
 inline constexpr QColor kBase{ 0x16, 0x18, 0x1D };
 inline constexpr QColor kBaseLight{ 0x23, 0x26, 0x2E };
 inline constexpr QColor kRaised{ 0x2C, 0x30, 0x38 };
-inline constexpr QColor kHairline{ 255, 255, 255, 20 };
 inline constexpr QColor kText{ 0xE8, 0xEA, 0xED };
 inline constexpr QColor kSecondText{ 0x9A, 0xA0, 0xA6 };
 inline constexpr QColor kLight{ 0xFF, 0xB0, 0x20 };
 inline constexpr QColor kSelection{ 0x45, 0x3B, 0x27 };
-inline constexpr QColor kCloseHover{ 0xE5, 0x48, 0x4D };
 
 /// Palette and font of the whole program.
 void Apply(QApplication& application);

@@ -206,7 +206,7 @@ protected:
         screen.pump = [this] { return inspections.AnswerOne(*player); };
         player = std::make_unique<Player>(PlayerWorld{ screen, engines, inspections, store, power, handOver,
             [] { return 0.0; }, [](const std::string& path) { return path != "/clips/missing.avi"; },
-            [this] { ended = true; }, folder.string() + "/", folder.string() + "/", '/' });
+            [this] { ended = true; }, folder.string() + "/", '/' });
         isPlayer = player->Load(commandLine);
         return *player;
     }

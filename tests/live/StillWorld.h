@@ -107,7 +107,7 @@ class StillWorld {
 public:
     StillWorld(EngineFactory& engines, const std::string& folder, RandomSource random, PlayerScreen* shown = nullptr)
         : player({ shown != nullptr ? *shown : screen, engines, inspections, store, power, NobodyElse(),
-            std::move(random), [](const std::string&) { return true; }, [] {}, folder, folder, '/' })
+            std::move(random), [](const std::string&) { return true; }, [] {}, folder, '/' })
     {
         inspections.player = &player;
     }
