@@ -191,6 +191,8 @@ void Player::ItemEnded(bool failed)
         cmdStopClick();
         if (m_playlist.Count() > 0)
             PlaySelected();
+        else
+            OpenFiles(false); // emptied while its last item played
     } else {
         // An index that a removal has left behind plays nothing.
         PlayItem(ItemNumber(next.index), false);

@@ -169,7 +169,10 @@ TEST_F(RandomCommands, LeaveThePlayerInTheStatesOfTheReplay)
 {
     const bool isLongRun = std::getenv("ZENTARO_LONG_RUN") != nullptr;
     const auto* const given = std::getenv("ZENTARO_SEED");
-    const unsigned seed = given != nullptr ? static_cast<unsigned>(std::atoi(given)) : std::random_device{}();
+    // A failure must come again in the next run; only a long run looks for new ones.
+    unsigned seed = isLongRun ? std::random_device{}() : 59;
+    if (given != nullptr)
+        seed = static_cast<unsigned>(std::atoi(given));
     std::cout << "seed " << seed << '\n';
     SCOPED_TRACE("ZENTARO_SEED=" + std::to_string(seed));
     Seed(seed);
