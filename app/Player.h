@@ -112,6 +112,8 @@ public:
     /// Plays a playlist entry in a fresh engine; an index outside the list does nothing.
     void PlayItem(std::int16_t index, bool fullScreen);
     void CMDPlayClick();
+    /// Pauses, goes on, or plays the selected entry where nothing is loaded.
+    void PlayOrPause();
     /// Pauses or goes on; asks for files while the list is empty.
     void PlayPause();
     /// The list lies there from now on, also after a restart.

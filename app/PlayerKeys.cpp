@@ -31,8 +31,7 @@ constexpr int Direction(int index)
 }
 
 constexpr std::array kTable{
-    PlayerKey{ "Space", kSpace, "Play or pause",
-        [](Player& player, int) { player.MediaControlsEnabled() ? player.CMDPauseClick() : player.CMDPlayClick(); } },
+    PlayerKey{ "Space", kSpace, "Play or pause", [](Player& player, int) { player.PlayOrPause(); } },
     PlayerKey{ "Left, Right", kArrows, "5 seconds back or forward",
         [](Player& player, int index) { player.SeekBy(Direction(index) * kStep); } },
     PlayerKey{ "Shift+Left, Shift+Right", kShiftArrows, "30 seconds back or forward",

@@ -141,6 +141,9 @@ void frmMain::SetPlaylistPosition(PlaylistDock position)
         const auto listRoom = std::min(static_cast<int>(room * kListShare), kListRoom);
         m_content->setSizes(isListFirst ? QList{ listRoom, room - listRoom } : QList{ room - listRoom, listRoom });
     }
+    // What is hidden must not keep the keys, nor hand them to the next part.
+    if (position == PlaylistDock::Hidden && m_list->hasFocus())
+        setFocus();
     PlaceChildren();
 }
 

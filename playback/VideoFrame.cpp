@@ -4,6 +4,7 @@
 #include <QImageReader>
 #include <QPainter>
 #include <QPointer>
+#include <QWindow>
 
 #include <utility>
 
@@ -157,6 +158,15 @@ void VideoFrame::ShowAudioLogo(bool shown)
         return;
     m_logo->setVisible(shown);
     m_logo->raise();
+}
+
+void VideoFrame::moveEvent(QMoveEvent*)
+{
+    // Windows inside a frame that has none do not follow it.
+    for (auto* const part : std::initializer_list<QWidget*>{ m_surface, m_logo }) {
+        if (part != nullptr && part->windowHandle() != nullptr)
+            part->windowHandle()->setPosition(part->mapTo(window(), QPoint()));
+    }
 }
 
 void VideoFrame::resizeEvent(QResizeEvent*)
