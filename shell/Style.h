@@ -14,6 +14,8 @@ inline constexpr QColor kRaised{ 0x2C, 0x30, 0x38 };
 inline constexpr QColor kText{ 0xE8, 0xEA, 0xED };
 inline constexpr QColor kSecondText{ 0x9A, 0xA0, 0xA6 };
 inline constexpr QColor kLight{ 0xFF, 0xB0, 0x20 };
+/// Over whatever it is drawn on.
+inline constexpr QColor kHairline{ 0xFF, 0xFF, 0xFF, 0x14 };
 inline constexpr QColor kSelection{ 0x45, 0x3B, 0x27 };
 
 /// Palette and font of the whole program.

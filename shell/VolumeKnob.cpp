@@ -53,8 +53,13 @@ void VolumeKnob::mouseMoveEvent(QMouseEvent* event)
 
 void VolumeKnob::wheelEvent(QWheelEvent* event)
 {
-    Choose(m_slider.Wheel(event->angleDelta().y()));
+    Turn(event->angleDelta().y());
     event->accept();
+}
+
+void VolumeKnob::Turn(int eighths)
+{
+    Choose(m_slider.Wheel(eighths));
 }
 
 void VolumeKnob::keyPressEvent(QKeyEvent* event)
