@@ -152,6 +152,7 @@ VideoSurface* VideoFrame::AddSurface()
 {
     m_surface = new VideoSurface(this);
     m_surface->setGeometry(rect());
+    m_surface->setCursor(m_pointer);
     m_surface->show();
     KeepBelow();
     return m_surface;
@@ -175,7 +176,12 @@ void VideoFrame::KeepBelow()
 
 void VideoFrame::ShowPointer(bool shown)
 {
-    setCursor(shown ? Qt::ArrowCursor : Qt::BlankCursor);
+    m_pointer = shown ? Qt::ArrowCursor : Qt::BlankCursor;
+    // Windows of their own take none from a widget without one.
+    for (auto* const part : std::initializer_list<QWidget*>{ this, m_logo, m_surface }) {
+        if (part != nullptr)
+            part->setCursor(m_pointer);
+    }
 }
 
 void VideoFrame::resizeEvent(QResizeEvent*)

@@ -96,6 +96,7 @@ private:
 
     QPointer<VideoSurface> m_surface;
     VLCAudioLogo* m_logo;
+    Qt::CursorShape m_pointer = Qt::ArrowCursor;
 };
 
 } // namespace zentaro
