@@ -142,9 +142,12 @@ void frmMain::ShowWindow()
     // The window can be used without its pictures; whoever looks for them finds the name.
     if (const auto loaded = m_skin.Load(m_programFolder + "images/"); !loaded)
         qWarning("%s", loaded.error().text.c_str());
+    if (QGuiApplication::platformName() == "offscreen")
+        qWarning("There is no display: the window is not seen, but files play. Ctrl+C ends the player.");
     if (!m_placed) {
-        auto place = geometry();
-        place.moveCenter(screen()->availableGeometry().center());
+        const auto room = screen()->availableGeometry();
+        QRect place({}, size().boundedTo(room.size()).expandedTo(minimumSize()));
+        place.moveCenter(room.center());
         setGeometry(place);
     }
     KeepNormalGeometry();
@@ -388,8 +391,9 @@ void frmMain::dropEvent(QDropEvent* event)
 
 void frmMain::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::WindowStateChange) {
+    if (event->type() == QEvent::WindowStateChange && m_player != nullptr) {
         PlaceChildren();
+        m_buttons[Button::Maximize]->SetName(isMaximized() ? "Restore" : "Maximize", {});
         KeepNormalGeometrySoon();
     }
     if (event->type() == QEvent::ActivationChange && !isActiveWindow() && m_player != nullptr)

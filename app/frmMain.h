@@ -86,7 +86,7 @@ private:
     /// Buttons that have nothing to do yet show as disabled.
     SkinButtons ButtonStates() const;
     void MakeButton(Button button, const QString& name, const QString& shortcut, void (Player::*command)());
-    void MakeTitleButton(Button button, const QString& name, void (frmMain::*command)());
+    void MakeTitleButton(Button button, const QString& name, const QString& shortcut, void (frmMain::*command)());
     void MakeHeldButton(Button button, const QString& name, void (Player::*press)(), void (Player::*release)());
     void MakeSliders();
     void MakeList();

@@ -47,9 +47,9 @@ void frmMain::Serve(Player& player)
     MakeList();
     MakeSliders();
     MakeCovers();
-    MakeTitleButton(Button::Minimize, "Minimize", &frmMain::showMinimized);
-    MakeTitleButton(Button::Maximize, "Maximize", &frmMain::ToggleMaximized);
-    MakeTitleButton(Button::Close, "Close", &frmMain::CloseWindow);
+    MakeTitleButton(Button::Minimize, "Minimize", {}, &frmMain::showMinimized);
+    MakeTitleButton(Button::Maximize, "Maximize", {}, &frmMain::ToggleMaximized);
+    MakeTitleButton(Button::Close, "Close", "Ctrl+X", &frmMain::CloseWindow);
     MakeButton(Button::Play, "Play", "", &Player::CMDPlayClick);
     MakeButton(Button::Pause, "Pause", "Ctrl+P", &Player::CMDPauseClick);
     MakeButton(Button::Stop, "Stop", "Ctrl+S", &Player::cmdStopClick);
@@ -126,9 +126,9 @@ void frmMain::OrderFocus()
     followButtons({ Button::Minimize, Button::Maximize, Button::Close });
 }
 
-void frmMain::MakeTitleButton(Button button, const QString& name, void (frmMain::*command)())
+void frmMain::MakeTitleButton(Button button, const QString& name, const QString& shortcut, void (frmMain::*command)())
 {
-    auto* const made = m_buttons[button] = new SkinButton(name, {}, this);
+    auto* const made = m_buttons[button] = new SkinButton(name, shortcut, this);
     connect(made, &SkinButton::clicked, this, command);
 }
 
@@ -218,6 +218,7 @@ void frmMain::StateChanged()
              Button::FastForward, Button::FullScreen })
         m_buttons[button]->setEnabled(isLoaded);
     m_buttons[Button::Snapshot]->setEnabled(m_player->CanTakeSnapshot());
+    m_buttons[Button::SoundOn]->SetName(m_player->Host().IsMuted() ? "Unmute" : "Mute", {});
     m_seek->SetItem(isLoaded, 0);
     m_volumeNumber->setText(QString::number(m_player->Host().Volume()));
     m_volume->update();

@@ -23,6 +23,7 @@ VolumeKnob::VolumeKnob(VolumeSlider& slider, QWidget* parent)
 {
     setObjectName("ImgSlider");
     setAccessibleName("Volume");
+    setToolTip("Volume");
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
     setCursor(Qt::ArrowCursor);
@@ -79,7 +80,7 @@ void VolumeKnob::paintEvent(QPaintEvent*)
     painter.setPen(Qt::NoPen);
     const auto middle = height() / 2.0;
     const QRectF track(0, middle - kTrackHeight / 2, width(), kTrackHeight);
-    painter.setBrush(style::kBase);
+    painter.setBrush(style::kTrack);
     painter.drawRoundedRect(track, kTrackHeight / 2, kTrackHeight / 2);
     const auto knobLeft = m_slider.KnobLeft();
     auto loud = track;

@@ -293,6 +293,12 @@ TEST_F(Transport, MuteAndVolumeShowWhatTheyAre)
     EXPECT_TRUE(TakesLook(number, half));
     Screen().Wheel(middle, height, 20);
     EXPECT_TRUE(TakesLook(number, full));
+    // On the video as on the slider.
+    const auto content = player.OnScreen(player.Layout().Content());
+    Screen().Wheel(content.Right() - 40, content.Bottom() - 40, -1);
+    EXPECT_TRUE(WaitUntil([&] { return ShareThatDiffers(Look(number), full) > 0; }));
+    Screen().Wheel(content.Right() - 40, content.Bottom() - 40, 1);
+    EXPECT_TRUE(TakesLook(number, full));
     // The ends of the slider are dead.
     Click(slider.left + 1, height);
     Click(slider.Right() - 1, height);
