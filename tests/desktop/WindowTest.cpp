@@ -40,6 +40,8 @@ TEST_F(MainWindow, IsMovedByItsTitleBarAndResizedAtItsEdges)
             if (horizontal == 0 && vertical == 0)
                 continue;
             SCOPED_TRACE(std::to_string(horizontal) + ", " + std::to_string(vertical));
+            // The window manager finishes the drag before after the hand has.
+            std::this_thread::sleep_for(200ms);
             before = player.Place();
             const auto edge = [](int side, int start, int size) {
                 return side < 0 ? start + 3 : side > 0 ? start + size - 3 : start + size / 2;
