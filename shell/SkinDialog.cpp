@@ -94,6 +94,9 @@ void SkinPushButton::paintEvent(QPaintEvent*)
                                     : ButtonState::Normal;
     QPainter painter(this);
     m_skin.Draw(painter, ButtonImage(Button::PushButton, state), WholeOf(*this));
+    auto font = painter.font();
+    font.setWeight(isDefault() ? QFont::DemiBold : QFont::Normal);
+    painter.setFont(font);
     style()->drawItemText(&painter, rect().translated(0, isDown() ? 1 : 0), Qt::AlignCenter | Qt::TextShowMnemonic,
         palette(), isEnabled(), text(), QPalette::ButtonText);
     if (hasFocus())

@@ -12,7 +12,6 @@ namespace zentaro {
 
 namespace {
 
-constexpr int kWidth = 430;
 constexpr int kPicture = 64;
 constexpr int kMargin = 24;
 constexpr int kHeadTop = 20;    // px below the title bar
@@ -60,7 +59,7 @@ frmAbout::frmAbout(Skin& skin, QWidget* owner)
     head->addWidget(SecondText(tr("Version %1").arg(ZENTARO_VERSION), this));
 
     auto* const parts = new QGridLayout;
-    parts->setHorizontalSpacing(18);
+    parts->setHorizontalSpacing(24);
     parts->setVerticalSpacing(5);
     for (const auto& part : kParts) {
         const int row = parts->rowCount();
@@ -94,7 +93,7 @@ frmAbout::frmAbout(Skin& skin, QWidget* owner)
     all->addSpacing(4);
     all->addWidget(ok, 0, Qt::AlignRight);
     ok->setFocus();
-    setFixedSize(kWidth, sizeHint().height());
+    setFixedSize(sizeHint());
 }
 
 void frmAbout::PaintBody(QPainter& painter)

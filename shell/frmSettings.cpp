@@ -27,7 +27,7 @@ namespace zentaro {
 namespace {
 
 constexpr int kWidth = 560;
-constexpr int kHeight = 480;
+constexpr int kHeight = 500;
 constexpr int kBand = 52;   // px, the strip of the buttons
 constexpr int kCorner = 16; // px
 constexpr int kTabsTop = 8; // px below the title bar
@@ -92,7 +92,7 @@ QWidget* frmSettings::MakePlayerPage()
     AddFlag(*left, tr("Icon in the tra&y"), &SettingsPages::showInTray);
     AddFlag(*left, tr("Remember the posit&ion"), &SettingsPages::rememberLastPos);
     AddFlag(*left, tr("Remember the si&ze"), &SettingsPages::rememberLastSize);
-    left->addSpacing(8);
+    left->addSpacing(14);
     AddHeading(*left, tr("The caption shows"));
     auto* const modes = new QButtonGroup(page);
     const QStringList names{ tr("the title &of the file"), tr("the &full path"), tr("the p&rogram's name alone") };
@@ -114,10 +114,10 @@ QWidget* frmSettings::MakePlayerPage()
     AddFlag(*right, tr("&Keep History of recently Opened files."), &SettingsPages::keepHistory);
     AddFlag(*right, tr("&Launch Files in Fullscreen."), &SettingsPages::launchFullScreen);
     AddFlag(*right, tr("&Use new player for each media file played."), &SettingsPages::useNewPlayer);
-    right->addSpacing(8);
+    right->addSpacing(14);
     AddHeading(*right, tr("While a video plays"));
     AddFlag(*right, tr("Disable the screen sa&ver"), &SettingsPages::disableScreenSaver);
-    right->addSpacing(8);
+    right->addSpacing(14);
     AddHeading(*right, tr("Playlist"));
     auto* const dock = new QComboBox;
     dock->addItems({ tr("Left"), tr("Right"), tr("Top"), tr("Bottom"), tr("The whole window") });
@@ -134,8 +134,8 @@ QWidget* frmSettings::MakePlayerPage()
     right->addLayout(dockRow);
     right->addStretch();
 
-    auto* const columns = new QHBoxLayout(page);
-    columns->setContentsMargins(20, 16, 20, 12);
+    auto* const columns = new QHBoxLayout;
+    PageLayout(page)->addLayout(columns);
     columns->setSpacing(18);
     for (auto* const column : { left, right })
         column->setSpacing(9);
@@ -173,9 +173,6 @@ QWidget* frmSettings::MakeAssociationsPage(const std::vector<AssociationRow>& ro
         AddFamily(*side, family, std::move(members));
     }
     side->addStretch();
-    auto* const note = SecondText(tr("A type that is no longer chosen goes back to the program that had it before."));
-    note->setWordWrap(true);
-    side->addWidget(note);
     ShowAssociations();
     if (m_types->count() > 0)
         m_types->setCurrentRow(0);
@@ -185,12 +182,14 @@ QWidget* frmSettings::MakeAssociationsPage(const std::vector<AssociationRow>& ro
         NoteChange();
     });
 
-    auto* const columns = new QHBoxLayout(page);
-    columns->setContentsMargins(20, 16, 20, 12);
+    auto* const columns = new QHBoxLayout;
     columns->setSpacing(18);
     columns->addWidget(m_types, 5);
     columns->addWidget(new SkinLine(Qt::Vertical, Pictures()));
     columns->addLayout(side, 3);
+    auto* const layout = PageLayout(page);
+    layout->addLayout(columns);
+    layout->addWidget(SecondText(tr("A type that is no longer chosen goes back to the program that had it before.")));
     return page;
 }
 
@@ -221,7 +220,7 @@ QWidget* frmSettings::MakeSnapshotsPage()
     auto* const layout = PageLayout(page);
     AddHeading(*layout, tr("Where snapshots go"));
     layout->addLayout(form);
-    layout->addSpacing(10);
+    layout->addSpacing(14);
     AddHeading(*layout, tr("After a snapshot"));
     AddFlag(*layout, tr("Show a small previe&w in the window"), &SettingsPages::snapshotPreview);
     layout->addStretch();
