@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/History.h"
 #include "app/PlayerScreen.h"
 #include "app/StartUp.h"
 #include "base/PlayerSettings.h"
@@ -17,6 +18,9 @@
 #include "playback/VolumeSlider.h"
 #include "playlist/AddQueue.h"
 #include "playlist/Playlist.h"
+#include "shell/ClassicTree.h"
+#include "shell/CommandTree.h"
+#include "shell/DvdMenu.h"
 
 #include <cstdint>
 #include <functional>
@@ -69,6 +73,23 @@ public:
     Result<void> WriteConfigurations();
     void SaveVLCOptions();
     void SetLoadedOptions();
+
+    /// Does what the command of this key is for. A key that no item has, and an item that is disabled or hidden, do
+    /// nothing.
+    void RunCommand(std::string_view key);
+    /// From now on the DVD menus work. It must outlive the player.
+    void UseDvdMenu(DvdMenu& dvd) { m_dvdMenu = &dvd; }
+    void mnuOpenDVD_Click();
+    void dvdsList_Click(int index);
+    /// Shows the list of DVD drives.
+    void cmdDVDClick();
+    /// Asks for files to add; the commands on the list can be used when there is one.
+    void AddVideoFile();
+    /// Shows the options while the window is not held on top.
+    void ShowOptions();
+    void ShowAbout();
+    void ShowHelp() { m_world.screen.ShowHelp(); }
+    void Exit() { m_world.screen.CloseWindow(); }
 
     /// Adds one file and, when `playNow`, plays it; returns when that is done, unless another file is just being taken
     /// into the list: then it follows that one. `playFlag` asks for full screen.
@@ -137,6 +158,10 @@ public:
     void WindowResized(int width, int height);
 
     const PlayerSettings& Settings() const { return m_settings; }
+    /// The commands by key: what they are called, what is enabled, checked and shown.
+    CommandTree& SmartMenuXP1() { return m_commands; }
+    /// The menus of the tray, the playlist and the DVD button.
+    ClassicTree& ClassicMenus() { return m_classic; }
     Playlist& Entries() { return m_playlist; }
     EngineHost& Host() { return m_host; }
     const InspectionState& Inspected() const { return m_inspected; }
@@ -162,7 +187,7 @@ private:
             m_player.PlayItem(ItemNumber(index), playFlag);
         }
         std::int32_t PlayMode() const override { return m_player.m_settings.PlayMode; }
-        void EntryAdded() override { m_player.m_world.screen.StateChanged(); }
+        void EntryAdded() override { m_player.EntryAdded(); }
         void InspectionTaken(const Inspection& inspection) override
         {
             m_player.m_inspected.TakeOver(
@@ -177,6 +202,9 @@ private:
         Player& m_player;
     };
 
+    void EntryAdded();
+    void EnableListCommands();
+    void PlayHistoryItem(int slot);
     bool BecomePlayer();
     void Publish();
     /// The ticket of the file while there is one.
@@ -202,6 +230,10 @@ private:
     PlayerWorld m_world;
     PlayerSettings m_settings;
     EngineOptions m_options;
+    CommandTree m_commands;
+    ClassicTree m_classic;
+    History m_history;
+    DvdMenu* m_dvdMenu = nullptr;
     EngineHost m_host;
     Playlist m_playlist;
     Adding m_addingHost{ *this };
@@ -219,7 +251,8 @@ private:
     bool m_replaceOnOpen = true;
     bool m_mediaControlsEnabled = false;
     bool m_ended = false;
-    int m_failuresInRow = 0; // items that ended without having played
+    bool m_selectsFirstAdded = false; // files of "AddVideoFile" are on their way
+    int m_failuresInRow = 0;          // items that ended without having played
 };
 
 } // namespace zentaro

@@ -4,15 +4,18 @@
 #include "shell/Skin.h"
 #include "shell/WindowLayout.h"
 
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
 #include <map>
 #include <optional>
 
 class QLabel;
 class QMimeData;
 class QSplitter;
+class QSystemTrayIcon;
 
 namespace zentaro {
 
@@ -22,6 +25,7 @@ class SeekTrack;
 class SkinButton;
 class VideoFrame;
 class VolumeKnob;
+class frmMenu;
 
 /// The main window: frameless, moved and resized by the system on the user's behalf. It shows the player's state and
 /// forwards what the user does; it decides nothing.
@@ -33,6 +37,10 @@ public:
     explicit frmMain(const QString& programFolder);
 
     VideoFrame& Video() { return *m_video; }
+    /// The dialogs are made by whoever made the window.
+    std::function<void()> onShowOptions;
+    std::function<void()> onShowAbout;
+    std::function<void()> onShowHelp;
     /// From now on the window works for this player.
     void Serve(Player& player);
 
@@ -58,6 +66,11 @@ public:
     void ShowNotice(const Notice& notice) override;
     void ShowNote(const std::string& text) override;
     std::vector<std::string> AskForFiles(const std::string& title, const std::string& filter) override;
+    void ShowOptions() override;
+    void ShowAbout() override;
+    void ShowHelp() override;
+    void SetTrayShown(bool shown) override;
+    void PopupMenu(const std::string& menu) override;
     void PumpMessages(int times) override;
     void PumpUntil(const std::function<bool()>& done) override;
 
@@ -86,6 +99,8 @@ private:
     void MakeHeldButton(Button button, const QString& name, void (Player::*press)(), void (Player::*release)());
     void MakeSliders();
     void MakeList();
+    /// Made on first use.
+    frmMenu& ClassicMenus();
     void ToggleMaximized();
     void PlaceChildren();
     /// Notes the geometry unless the window is maximised, minimised or full screen.
@@ -108,6 +123,8 @@ private:
     QLabel* m_volumeNumber;
     SeekTrack* m_seek = nullptr;
     VolumeKnob* m_volume = nullptr;
+    frmMenu* m_menus = nullptr;
+    QPointer<QSystemTrayIcon> m_tray;
     QTimer m_tmrMovie;
     QTimer m_tmrRewind;
     QTimer m_noteEnd;
@@ -123,6 +140,7 @@ private:
     bool m_fullScreen = false;
     bool m_wasMaximized = false; // before full screen
     bool m_topmost = false;
+    bool m_hasTrayIcon = false; // as the settings want it
     bool m_placed = false;
 };
 

@@ -37,6 +37,11 @@ public:
     void ShowNotice(const Notice& notice) override { boxes.push_back(notice.title + ": " + notice.text); }
     void ShowNote(const std::string& text) override { note = text; }
     std::vector<std::string> AskForFiles(const std::string&, const std::string&) override { return chosen; }
+    void ShowOptions() override { log << "options " << isTopmost << " "; }
+    void ShowAbout() override { log << "about " << isTopmost << " "; }
+    void ShowHelp() override { log << "help "; }
+    void SetTrayShown(bool shown) override { hasTrayIcon = shown; }
+    void PopupMenu(const std::string& menu) override { log << "menu " << menu << " "; }
     void PumpMessages(int times) override { log << "pump " << times << " "; }
     void PumpUntil(const std::function<bool()>& done) override
     {
@@ -58,6 +63,7 @@ public:
     bool maximized = false;
     bool isTopmost = false;
     bool isFullScreen = false;
+    bool hasTrayIcon = false;
 };
 
 struct EngineTrace {

@@ -34,6 +34,11 @@ public:
     void ShowNotice(const Notice&) override { }
     void ShowNote(const std::string&) override { ++notes; }
     std::vector<std::string> AskForFiles(const std::string&, const std::string&) override { return chosen; }
+    void ShowOptions() override { }
+    void ShowAbout() override { }
+    void ShowHelp() override { }
+    void SetTrayShown(bool) override { }
+    void PopupMenu(const std::string&) override { }
     void PumpMessages(int times) override
     {
         for (int i = 0; pump && i < times; ++i)
