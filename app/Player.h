@@ -21,6 +21,7 @@
 #include "shell/ClassicTree.h"
 #include "shell/CommandTree.h"
 #include "shell/DvdMenu.h"
+#include "shell/SettingsPages.h"
 
 #include <cstdint>
 #include <functional>
@@ -87,6 +88,8 @@ public:
     void AddVideoFile();
     /// Shows the options while the window is not held on top.
     void ShowOptions();
+    /// Takes over what the options dialog holds, while it is open.
+    void CommitOptions(const SettingsPages& pages);
     void ShowAbout();
     void ShowHelp() { m_world.screen.ShowHelp(); }
     void Exit() { m_world.screen.CloseWindow(); }

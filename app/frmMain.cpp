@@ -155,11 +155,15 @@ void frmMain::ShowWindow()
 
 void frmMain::SetWindowSize(int width, int height)
 {
+    if (isMaximized() || m_fullScreen)
+        return;
     resize(QSize(width, height).boundedTo(screen()->availableSize()).expandedTo(minimumSize()));
 }
 
 void frmMain::SetWindowPosition(int left, int top)
 {
+    if (isMaximized() || m_fullScreen)
+        return;
     std::vector<Rect> screens;
     for (const auto* const each : QGuiApplication::screens()) {
         const auto area = each->availableGeometry();
@@ -219,7 +223,9 @@ void frmMain::ShowNotice(const Notice& notice)
     // Breaking an endless name into lines takes minutes, and nobody reads it.
     if (text.size() > kLongestNotice)
         text = text.left(kLongestNotice / 2) + " ... " + text.right(kLongestNotice / 2);
-    QMessageBox box(icon, ToQString(notice.title), text, QMessageBox::Ok, this);
+    // Above a dialog that is open: below it nobody could answer the box.
+    auto* const dialog = QApplication::activeModalWidget();
+    QMessageBox box(icon, ToQString(notice.title), text, QMessageBox::Ok, dialog != nullptr ? dialog : this);
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }

@@ -37,6 +37,7 @@ public:
     explicit frmMain(const QString& programFolder);
 
     VideoFrame& Video() { return *m_video; }
+    Skin& Pictures() { return m_skin; }
     /// The dialogs are made by whoever made the window.
     std::function<void()> onShowOptions;
     std::function<void()> onShowAbout;

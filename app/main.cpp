@@ -1,3 +1,4 @@
+#include "app/Dialogs.h"
 #include "app/InspectionThreads.h"
 #include "app/Player.h"
 #include "app/frmMain.h"
@@ -125,6 +126,7 @@ int main(int argc, char** argv)
     inspections.onCompleted = [&](int ticket, Inspection result) {
         player.InspectionCompleted(ticket, std::move(result));
     };
+    Dialogs dialogs(window, player, programFolder);
     window.Serve(player);
     if (!player.Load(commandLine))
         endProcess();

@@ -1,5 +1,6 @@
 #include "shell/SettingsPages.h"
 
+#include "base/Paths.h"
 #include "platform/Folders.h"
 
 #include <algorithm>
@@ -10,6 +11,12 @@ namespace {
 
 constexpr int kNameAlone = 2; // every other title bar mode acts like it
 constexpr int kLastPosition = 4;
+
+/// The family of each media extension, in the same order.
+constexpr std::array<const char*, kMediaExtensions.size()> kFamilyOfType{ "A&udio", "&Video", "&Matroska", "&Matroska",
+    "A&udio", "MP&EG", "MP&EG", "MP&EG", "A&udio", "MP&EG", "MP&EG", "A&udio", "O&gg", "O&gg", "&QuickTime",
+    "&QuickTime", "&QuickTime", "&QuickTime", "&QuickTime", "&QuickTime", "&Video", "&Windows", "&Windows",
+    "&Windows" };
 
 constexpr std::int16_t Flag(bool on)
 {
@@ -81,6 +88,21 @@ std::optional<PageFault> FaultIn(const SettingsPages& pages)
     if (pages.snapshotPrefix.find_first_of("/\\:*?\"<>|") != std::string::npos)
         return PageFault{ SnapshotPrefix, "A file's name cannot hold any of / \\ : * ? \" < > |" };
     return std::nullopt;
+}
+
+const std::vector<FileTypeFamily>& FileTypeFamilies()
+{
+    static const auto families = [] {
+        std::vector<FileTypeFamily> result;
+        for (std::size_t type = 0; type < kFamilyOfType.size(); ++type) {
+            auto family = std::ranges::find(result, kFamilyOfType[type], &FileTypeFamily::name);
+            if (family == result.end())
+                family = result.insert(family, { kFamilyOfType[type], {} });
+            family->members.push_back(type);
+        }
+        return result;
+    }();
+    return families;
 }
 
 Chosen ChosenOf(const std::array<bool, 24>& associations, std::span<const std::size_t> members)

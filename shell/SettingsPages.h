@@ -6,6 +6,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace zentaro {
 
@@ -43,6 +44,13 @@ struct PageFault {
 };
 /// The first value that the settings file or the file system could not keep, or nothing.
 std::optional<PageFault> FaultIn(const SettingsPages& pages);
+
+/// File types that can be chosen together. Every type belongs to one family.
+struct FileTypeFamily {
+    std::string name;                 ///< with "&" before its access letter
+    std::vector<std::size_t> members; ///< indexes of file types, in the order of kMediaExtensions
+};
+const std::vector<FileTypeFamily>& FileTypeFamilies();
 
 /// How many of a group of file types are chosen.
 enum class Chosen { None, Some, All };

@@ -62,8 +62,7 @@ QVBoxLayout* PageLayout(QWidget* page)
 
 } // namespace
 
-frmSettings::frmSettings(
-    const SettingsPages& pages, const std::vector<AssociationRow>& rows, Skin& skin, QWidget* owner)
+frmSettings::frmSettings(const SettingsPages& pages, const std::vector<FileTypeRow>& rows, Skin& skin, QWidget* owner)
     : SkinDialog(tr("Options"), skin, owner)
     , m_pages(pages)
     , m_committed(pages)
@@ -145,33 +144,26 @@ QWidget* frmSettings::MakePlayerPage()
     return page;
 }
 
-QWidget* frmSettings::MakeAssociationsPage(const std::vector<AssociationRow>& rows)
+QWidget* frmSettings::MakeAssociationsPage(const std::vector<FileTypeRow>& rows)
 {
     auto* const page = new QWidget;
     m_types = new QListWidget;
     m_types->setAccessibleName(tr("File types"));
     m_types->setIconSize({ 20, 20 });
     m_types->setUniformItemSizes(true);
-    QStringList families;
-    std::vector<std::size_t> everything(rows.size());
-    std::iota(everything.begin(), everything.end(), std::size_t{ 0 });
     for (const auto& row : rows) {
         auto* const item = new QListWidgetItem(row.icon, row.text, m_types);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-        if (!families.contains(row.family))
-            families << row.family;
     }
+    std::vector<std::size_t> everything(rows.size());
+    std::iota(everything.begin(), everything.end(), std::size_t{ 0 });
     auto* const side = new QVBoxLayout;
     side->setSpacing(9);
     AddHeading(*side, tr("Choose together"));
-    AddFamily(*side, tr("All file types"), everything);
+    AddFamily(*side, tr("All file &types"), std::move(everything));
     side->addSpacing(6);
-    for (const auto& family : families) {
-        std::vector<std::size_t> members;
-        std::ranges::copy_if(
-            everything, std::back_inserter(members), [&](std::size_t index) { return rows[index].family == family; });
-        AddFamily(*side, family, std::move(members));
-    }
+    for (const auto& family : FileTypeFamilies())
+        AddFamily(*side, ToQString(family.name), family.members);
     side->addStretch();
     ShowAssociations();
     if (m_types->count() > 0)

@@ -17,10 +17,9 @@ class QTabWidget;
 namespace zentaro {
 
 /// A file type as the options list it.
-struct AssociationRow {
+struct FileTypeRow {
     QString text;
-    QString family; ///< types of one family can be chosen together
-    QIcon icon;     ///< of the program that opens the type now
+    QIcon icon; ///< of the program that opens the type now
 };
 
 /// The options: pages for the player, the file types and the snapshots. It holds `SettingsPages` and gives them back;
@@ -30,7 +29,7 @@ class frmSettings : public SkinDialog {
 
 public:
     /// One row for each file type, in the order of the settings.
-    frmSettings(const SettingsPages& pages, const std::vector<AssociationRow>& rows, Skin& skin, QWidget* owner);
+    frmSettings(const SettingsPages& pages, const std::vector<FileTypeRow>& rows, Skin& skin, QWidget* owner);
 
 signals:
     /// OK or Apply, with values that can be stored.
@@ -46,7 +45,7 @@ private:
     };
 
     QWidget* MakePlayerPage();
-    QWidget* MakeAssociationsPage(const std::vector<AssociationRow>& rows);
+    QWidget* MakeAssociationsPage(const std::vector<FileTypeRow>& rows);
     QWidget* MakeSnapshotsPage();
     QBoxLayout* MakeButtons();
     void AddHeading(QBoxLayout& layout, const QString& text);

@@ -1,0 +1,69 @@
+#include "app/Dialogs.h"
+
+#include "app/Player.h"
+#include "app/frmMain.h"
+#include "base/Paths.h"
+#include "platform/OpenDocument.h"
+#include "platform/TextFile.h"
+#include "shell/QtText.h"
+#include "shell/frmAbout.h"
+#include "shell/frmSettings.h"
+
+#include <utility>
+
+namespace zentaro {
+
+namespace {
+
+std::vector<FileTypeRow> FileTypeRows()
+{
+    std::vector<FileTypeRow> rows;
+    for (const auto extension : kMediaExtensions)
+        rows.push_back({ ToQString("*." + std::string(extension)), {} });
+    return rows;
+}
+
+} // namespace
+
+Dialogs::Dialogs(frmMain& window, Player& player, std::string programFolder)
+    : m_window(window)
+    , m_player(player)
+    , m_programFolder(std::move(programFolder))
+{
+    window.onShowOptions = [this] { ShowOptions(); };
+    window.onShowAbout = [this] { ShowAbout(); };
+    window.onShowHelp = [this] { ShowHelp(); };
+}
+
+void Dialogs::ShowOptions()
+{
+    frmSettings dialog(PagesOf(m_player.Settings()), FileTypeRows(), m_window.Pictures(), &m_window);
+    QObject::connect(&dialog, &frmSettings::Commit, &m_window,
+        [this](const SettingsPages& pages) { m_player.CommitOptions(pages); });
+    dialog.exec();
+}
+
+void Dialogs::ShowAbout()
+{
+    frmAbout dialog(m_window.Pictures(), &m_window);
+    QObject::connect(
+        &dialog, &frmAbout::LinkChosen, &m_window, [this](const QString& address) { OpenPage(ToText(address)); });
+    dialog.exec();
+}
+
+void Dialogs::ShowHelp()
+{
+    const auto help = m_programFolder + platform::HelpFile();
+    if (!platform::PathExists(help))
+        m_window.ShowNotice({ "The help is missing. It should be here:\r\n" + help });
+    else if (!platform::OpenDocument(help))
+        m_window.ShowNotice({ "There is no program that shows the help:\r\n" + help });
+}
+
+void Dialogs::OpenPage(const std::string& address)
+{
+    if (!platform::OpenDocument(address))
+        m_window.ShowNotice({ "There is no browser that shows this page:\r\n" + address });
+}
+
+} // namespace zentaro
