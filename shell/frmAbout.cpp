@@ -31,6 +31,19 @@ constexpr Part kParts[] = {
     { "Inter", "the typeface", "SIL Open Font License 1.1" },
 };
 
+/// A link that the first Tab reaches: a label alone wants one for itself and another one for its link.
+class LinkLabel : public QLabel {
+public:
+    using QLabel::QLabel;
+
+protected:
+    void focusInEvent(QFocusEvent* event) override
+    {
+        QLabel::focusInEvent(event);
+        QLabel::focusNextPrevChild(true);
+    }
+};
+
 QLabel* SecondText(const QString& text, QWidget* parent)
 {
     auto* const label = new QLabel(text, parent);
@@ -68,7 +81,7 @@ frmAbout::frmAbout(Skin& skin, QWidget* owner)
         parts->addWidget(SecondText(part.licence, this), row, 2, Qt::AlignRight);
     }
 
-    auto* const link = new QLabel(this);
+    auto* const link = new LinkLabel(this);
     link->setText(tr("<a href=\"%1\">The web page of VLC</a>, whose engine plays everything here").arg(kVlcPage));
     link->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     link->setFocusPolicy(Qt::StrongFocus);
