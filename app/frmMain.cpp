@@ -1,7 +1,7 @@
 #include "app/frmMain.h"
 
 #include "app/Player.h"
-#include "app/PlayerMenus.h"
+#include "app/VideoMenu.h"
 #include "platform/Folders.h"
 #include "platform/QuitRequest.h"
 #include "platform/Window.h"
@@ -143,6 +143,8 @@ void frmMain::ShowWindow()
         setGeometry(place);
     }
     KeepNormalGeometry();
+    // Else the first part that takes keys would have them.
+    setFocus();
     // Not earlier: a messenger that waits for its player ends at once. Not later: the first file can take long.
     platform::OnQuitRequest([this] { close(); });
     show();
@@ -241,6 +243,12 @@ std::vector<std::string> frmMain::AskForFiles(const std::string& title, const st
     for (const auto& name : QFileDialog::getOpenFileNames(this, ToQString(title), {}, filters.join(";;")))
         paths.push_back(ToPath(name));
     return OpenFileResults(paths, platform::PathSeparator());
+}
+
+std::string frmMain::AskForSubtitles()
+{
+    const QString filter = "Subtitles (*.srt *.sub *.ass *.ssa *.vtt *.idx *.smi *.txt *.mpl);;All files (*)";
+    return ToPath(QFileDialog::getOpenFileName(this, "Open Subtitles", {}, filter));
 }
 
 void frmMain::PumpMessages(int times)
@@ -384,6 +392,10 @@ void frmMain::changeEvent(QEvent* event)
 
 bool frmMain::event(QEvent* event)
 {
+    if (event->type() == QEvent::ShortcutOverride && FocusUsesKey(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
     if (event->type() == QEvent::ToolTip) {
         const auto* const help = static_cast<QHelpEvent*>(event);
         const bool isOnCaption = Layout().Caption().Contains(help->pos().x(), help->pos().y());
@@ -396,13 +408,15 @@ bool frmMain::event(QEvent* event)
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched != m_video)
+        return event->type() == QEvent::KeyPress && MoveSelection(*static_cast<QKeyEvent*>(event));
     switch (event->type()) {
     case QEvent::MouseButtonDblClick:
         if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
             m_player->Host().SetFullScreen(!m_fullScreen);
         return true;
     case QEvent::ContextMenu:
-        ShowPlayMenu(*this, *m_player, static_cast<QContextMenuEvent*>(event)->globalPos());
+        ShowVideoMenu(*this, *m_player, static_cast<QContextMenuEvent*>(event)->globalPos());
         return true;
     case QEvent::Enter:
         unsetCursor();
@@ -417,14 +431,6 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event)
         break;
     }
     return QWidget::eventFilter(watched, event);
-}
-
-void frmMain::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape && m_fullScreen)
-        m_player->Host().SetFullScreen(false);
-    else
-        QWidget::keyPressEvent(event);
 }
 
 void frmMain::closeEvent(QCloseEvent* event)

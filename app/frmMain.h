@@ -22,6 +22,7 @@ namespace zentaro {
 class FancyList;
 class Player;
 class SeekTrack;
+class MenuStrip;
 class SkinButton;
 class VideoFrame;
 class VolumeKnob;
@@ -55,6 +56,7 @@ public:
     void SetWindowPosition(int left, int top) override;
     void SetTopmost(bool topmost) override;
     void SetFullScreen(bool fullScreen) override;
+    bool IsFullScreen() const override { return m_fullScreen; }
     void ShowCaption(const std::string& text) override;
     void FlashCaption() override;
     void SetPlaylistPosition(PlaylistDock position) override;
@@ -72,6 +74,7 @@ public:
     void ShowHelp() override;
     void SetTrayShown(bool shown) override;
     void PopupMenu(const std::string& menu) override;
+    std::string AskForSubtitles() override;
     void PumpMessages(int times) override;
     void PumpUntil(const std::function<bool()>& done) override;
 
@@ -86,7 +89,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -100,6 +102,12 @@ private:
     void MakeHeldButton(Button button, const QString& name, void (Player::*press)(), void (Player::*release)());
     void MakeSliders();
     void MakeList();
+    /// The menu strip and the keys of the commands and of PlayerKeys.
+    void MakeMenus();
+    /// Whether what has the focus uses the key itself.
+    bool FocusUsesKey(const QKeyEvent& event) const;
+    /// The list has no keys of its own: the window moves its selection. False for other keys.
+    bool MoveSelection(const QKeyEvent& event);
     /// Made on first use.
     frmMenu& ClassicMenus();
     void ToggleMaximized();
@@ -124,6 +132,7 @@ private:
     QLabel* m_volumeNumber;
     SeekTrack* m_seek = nullptr;
     VolumeKnob* m_volume = nullptr;
+    MenuStrip* m_strip = nullptr;
     frmMenu* m_menus = nullptr;
     QPointer<QSystemTrayIcon> m_tray;
     QTimer m_tmrMovie;

@@ -24,6 +24,7 @@ public:
     void SetWindowPosition(int x, int y) override { log << "at " << x << "," << y << " "; }
     void SetTopmost(bool topmost) override { isTopmost = topmost; }
     void SetFullScreen(bool fullScreen) override { isFullScreen = fullScreen; }
+    bool IsFullScreen() const override { return isFullScreen; }
     void ShowCaption(const std::string& text) override { caption = text; }
     void FlashCaption() override { log << "flash "; }
     void CloseWindow() override { }
@@ -42,6 +43,7 @@ public:
     void ShowHelp() override { log << "help "; }
     void SetTrayShown(bool shown) override { hasTrayIcon = shown; }
     void PopupMenu(const std::string& menu) override { log << "menu " << menu << " "; }
+    std::string AskForSubtitles() override { return {}; }
     void PumpMessages(int times) override { log << "pump " << times << " "; }
     void PumpUntil(const std::function<bool()>& done) override
     {
