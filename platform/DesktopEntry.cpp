@@ -86,7 +86,8 @@ std::string ExecQuoted(const std::string& path)
     std::string quoted;
     for (const char c : path) {
         const auto byte = static_cast<unsigned char>(c);
-        isPlain = isPlain && (byte >= 0x80 || std::isalnum(byte) || std::string_view("/._-+:@,").find(c) != std::string_view::npos);
+        isPlain = isPlain
+            && (byte >= 0x80 || std::isalnum(byte) || std::string_view("/._-+:@,").find(c) != std::string_view::npos);
         if (std::string_view("\"`$\\").find(c) != std::string_view::npos)
             quoted += '\\';
         quoted += c == '%' ? "%%" : std::string(1, c);
@@ -129,9 +130,9 @@ std::string AddNemoActionText(const DesktopEntryFacts& facts)
 
 std::string AddActionText(const DesktopEntryFacts& facts)
 {
-    return std::string("[Desktop Entry]\nType=Action\nName=") + kAddName + "\nTooltip=" + kAddComment
-        + "\nIcon=" + Escaped(facts.icon) + "\nProfiles=add;\n\n[X-Action-Profile add]\nMimeTypes="
-        + Joined(facts.mimeTypes) + "\nExec=" + Command(facts, kAddArguments) + "\n";
+    return std::string("[Desktop Entry]\nType=Action\nName=") + kAddName + "\nTooltip=" + kAddComment + "\nIcon="
+        + Escaped(facts.icon) + "\nProfiles=add;\n\n[X-Action-Profile add]\nMimeTypes=" + Joined(facts.mimeTypes)
+        + "\nExec=" + Command(facts, kAddArguments) + "\n";
 }
 
 std::string MimePackageText(const std::vector<MimeAddition>& additions)

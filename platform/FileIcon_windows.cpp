@@ -36,8 +36,7 @@ std::vector<std::uint32_t> DrawnOver(HICON icon, int width, int height, std::uin
     info.bmiHeader = { sizeof info.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0 };
     void* bits = nullptr;
     const Owned<HDC, CloseContext> context(CreateCompatibleDC(nullptr));
-    const Owned<HBITMAP, CloseBitmap> bitmap(
-        CreateDIBSection(context.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    const Owned<HBITMAP, CloseBitmap> bitmap(CreateDIBSection(context.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
     if (!context || !bitmap)
         return {};
     const auto count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);

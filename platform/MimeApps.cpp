@@ -128,8 +128,8 @@ std::vector<std::size_t> MimeApps::LinesOf(std::string_view group, std::string_v
 /// The place of a group's first line.
 std::size_t MimeApps::StartOf(std::string_view group)
 {
-    const auto header = std::find_if(
-        m_lines.begin(), m_lines.end(), [&](const std::string& line) { return IsHeaderOf(line, group); });
+    const auto header =
+        std::find_if(m_lines.begin(), m_lines.end(), [&](const std::string& line) { return IsHeaderOf(line, group); });
     if (header == m_lines.end()) {
         if (m_lines.back().empty())
             m_lines.pop_back();

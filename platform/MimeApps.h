@@ -11,8 +11,8 @@ inline constexpr std::string_view kAddedAssociations = "Added Associations";
 inline constexpr std::string_view kRemovedAssociations = "Removed Associations";
 inline constexpr std::string_view kMimeCache = "MIME Cache";
 
-/// The text of a desktop's file of defaults ("mimeapps.list", "mimeinfo.cache"): groups of lines "type=program;program;".
-/// Whatever else the text holds stays as it is.
+/// The text of a desktop's file of defaults ("mimeapps.list", "mimeinfo.cache"): groups of lines
+/// "type=program;program;". Whatever else the text holds stays as it is.
 class MimeApps {
 public:
     explicit MimeApps(const std::string& text);

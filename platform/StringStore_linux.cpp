@@ -6,8 +6,8 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
-#include <QSettings>
 #include <QMap>
+#include <QSettings>
 #include <QStandardPaths>
 
 #include <fcntl.h>
