@@ -3,6 +3,8 @@
 #include "app/History.h"
 #include "app/PlayerScreen.h"
 #include "app/StartUp.h"
+#include "assoc/ModAssoc.h"
+#include "assoc/ModIcons.h"
 #include "base/PlayerSettings.h"
 #include "inspect/Inspection.h"
 #include "platform/HandOver.h"
@@ -39,6 +41,22 @@ struct HandOverService {
     std::function<std::unique_ptr<platform::HandOverLock>()> lock;
 };
 
+/// Where types of files are given to this program.
+struct AssociationService {
+    platform::AssociationShell* shell = nullptr; ///< without one, types are left alone
+    std::string programPath;                     ///< as of platform::ShortProgramPath()
+    std::string programFolder;                   ///< with a trailing separator
+    ModIcons::Loaders icons;
+    /// Runs the work once a start has done all that the user waits for.
+    std::function<void(std::function<void()>)> later;
+};
+
+/// A row of the options list.
+struct AssociationChoice {
+    std::string listText;
+    Picture icon; ///< of the program that opens the type now
+};
+
 /// What a player needs from the world.
 struct PlayerWorld {
     PlayerScreen& screen;
@@ -52,6 +70,7 @@ struct PlayerWorld {
     std::function<void()> endProcess;
     std::string settingsFolder; ///< with a trailing separator
     char separator = '/';
+    AssociationService associations = {};
 };
 
 /// The 16-bit number by which an item is played; -1, which plays nothing, for an index that does not fit.
@@ -74,6 +93,10 @@ public:
     Result<void> WriteConfigurations();
     void SaveVLCOptions();
     void SetLoadedOptions();
+    /// Takes and releases types of files as the settings say; for start-up and when options have been chosen.
+    void ApplyAssociations();
+    /// The 24 rows, by index of the flags in the settings.
+    std::vector<AssociationChoice> AssociationChoices();
 
     /// Does what the command of this key is for. A key that no item has, and an item that is disabled or hidden, do
     /// nothing.
@@ -234,10 +257,13 @@ private:
     void EnableMediaControls(bool enabled);
     void ShowCaption();
     PlaylistDock StoredDock() const;
+    void ApplyAssociationsLater();
     std::string ConfigPath() const;
 
     PlayerWorld m_world;
     PlayerSettings m_settings;
+    std::optional<ModAssoc> m_modAssoc;
+    bool m_associationsPending = false;
     EngineOptions m_options;
     CommandTree m_commands;
     ClassicTree m_classic;
