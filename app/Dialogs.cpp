@@ -2,7 +2,6 @@
 
 #include "app/Player.h"
 #include "app/frmMain.h"
-#include "base/Paths.h"
 #include "platform/OpenDocument.h"
 #include "platform/TextFile.h"
 #include "shell/QtText.h"
@@ -15,11 +14,20 @@ namespace zentaro {
 
 namespace {
 
-std::vector<FileTypeRow> FileTypeRows()
+QIcon ToIcon(const Picture& picture)
+{
+    if (picture.IsEmpty())
+        return {};
+    const QImage pixels(reinterpret_cast<const uchar*>(picture.Pixels()), picture.Width(), picture.Height(),
+        4 * static_cast<qsizetype>(picture.Width()), QImage::Format_ARGB32);
+    return QIcon(QPixmap::fromImage(pixels));
+}
+
+std::vector<FileTypeRow> Rows(const std::vector<AssociationChoice>& choices)
 {
     std::vector<FileTypeRow> rows;
-    for (const auto extension : kMediaExtensions)
-        rows.push_back({ ToQString("*." + std::string(extension)), {} });
+    for (const auto& choice : choices)
+        rows.push_back({ ToQString(choice.listText), ToIcon(choice.icon) });
     return rows;
 }
 
@@ -37,7 +45,8 @@ Dialogs::Dialogs(frmMain& window, Player& player, std::string programFolder)
 
 void Dialogs::ShowOptions()
 {
-    frmSettings dialog(PagesOf(m_player.Settings()), FileTypeRows(), m_window.Pictures(), &m_window);
+    frmSettings dialog(
+        PagesOf(m_player.Settings()), Rows(m_player.AssociationChoices()), m_window.Pictures(), &m_window);
     QObject::connect(&dialog, &frmSettings::Commit, &m_window,
         [this](const SettingsPages& pages) { m_player.CommitOptions(pages); });
     dialog.exec();

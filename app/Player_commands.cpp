@@ -121,6 +121,7 @@ void Player::CommitOptions(const SettingsPages& pages)
     IgnoreFailure(WriteConfigurations());
     SaveVLCOptions();
     SetLoadedOptions();
+    ApplyAssociations();
     // The dialog is still open and lies above the window.
     m_world.screen.SetTopmost(false);
 }
