@@ -10,6 +10,7 @@
 #include "playlist/FancyList.h"
 #include "playlist/OpenFiles.h"
 #include "shell/Caption.h"
+#include "shell/DigitLabel.h"
 #include "shell/QtGeometry.h"
 #include "shell/QtText.h"
 #include "shell/SeekTrack.h"
@@ -71,10 +72,10 @@ frmMain::frmMain(const QString& programFolder)
     , m_programFolder(programFolder)
     , m_content(new QSplitter(this))
     , m_video(new VideoFrame(programFolder + "Audio.JPG", m_content))
-    , m_time(new QLabel(this))
+    , m_time(new DigitLabel(this))
     , m_rate(new QLabel(this))
     , m_note(new QLabel(this))
-    , m_volumeNumber(new QLabel(this))
+    , m_volumeNumber(new DigitLabel(this))
     , m_caption(kProgramName)
 {
     setObjectName("frmMain");
@@ -93,9 +94,7 @@ frmMain::frmMain(const QString& programFolder)
     m_rate->setObjectName("lblRate");
     m_rate->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_volumeNumber->setObjectName("lblVolume");
-    m_volumeNumber->setFont(style::TimeFont());
     m_time->setObjectName("lblTime");
-    m_time->setFont(style::TimeFont());
     m_note->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_note->setTextFormat(Qt::PlainText);
     m_noteEnd.setSingleShot(true);

@@ -25,6 +25,8 @@ libxcb1-dev             window states that Qt has no call for
 libsystemd-dev          sd-bus: restart and power off
 nlohmann-json3-dev      prints what zentaro-inspect knows as JSON
 librsvg2-bin            draws the SVG sources of all pictures
+icoutils                packs the icons of Windows
+fonts-inter             the letters on the icons
 '
 packages_screenless='
 xvfb                    a display in memory
