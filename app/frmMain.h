@@ -98,6 +98,9 @@ private:
     void PlaceChildren();
     void PlaceControls();
     void TurnVolume(int eighths);
+    QString VolumeText() const;
+    /// Keys change volume and rate in full screen, too, where nothing else shows them.
+    void NoteChanges();
     /// The video, else the list in its place.
     QRect NoteArea() const;
     /// All of the screen that shows most of the window.
@@ -133,6 +136,8 @@ private:
     AddProgress m_progress;
     std::map<Button, SkinButton*> m_buttons;
     QString m_caption;
+    QString m_shownVolume;
+    QString m_shownRate;
     QRect m_normal;                   // geometry while neither maximised nor full screen, in logical pixels
     std::optional<QPoint> m_dragFrom; // where the left button went down on something that can be dragged
     PlaylistDock m_dock = PlaylistDock::Left;

@@ -35,7 +35,7 @@ constexpr int kListRoom = 280;      // px, at the most until then
 constexpr auto kProgressDelay = 700ms;
 constexpr int kPaneMinimum = 96; // px
 constexpr auto kNoteTime = 5s;
-constexpr auto kVolumeNoteTime = 1500ms;
+constexpr auto kChangeTime = 1500ms;
 
 } // namespace
 
@@ -224,6 +224,7 @@ void frmMain::StateChanged()
     m_volume->update();
     m_bar->update();
     update();
+    NoteChanges();
 }
 
 QRect frmMain::NoteArea() const
@@ -248,9 +249,23 @@ void frmMain::ShowPictureNote(const std::string& text, const std::string& file)
 void frmMain::TurnVolume(int eighths)
 {
     m_volume->Turn(eighths);
+    m_note->Show(NoteArea(), VolumeText(), {}, kChangeTime);
+}
+
+QString frmMain::VolumeText() const
+{
     const auto& host = m_player->Host();
-    const auto* const muted = host.IsMuted() ? " (muted)" : "";
-    m_note->Show(NoteArea(), QString("Volume %1 %%2").arg(host.Volume()).arg(muted), {}, kVolumeNoteTime);
+    return QString("Volume %1 %").arg(host.Volume()) + (host.IsMuted() ? " (muted)" : "");
+}
+
+void frmMain::NoteChanges()
+{
+    const auto volume = VolumeText();
+    const auto rate = ToQString(RateLabelText(m_player->Rate().Value()));
+    const bool isVolumeNew = std::exchange(m_shownVolume, volume) != volume;
+    const bool isRateNew = std::exchange(m_shownRate, rate) != rate;
+    if (m_fullScreen && !m_bar->isVisible() && (isVolumeNew || isRateNew))
+        m_note->Show(NoteArea(), isVolumeNew ? volume : rate, {}, kChangeTime);
 }
 
 void frmMain::PlaceChildren()
