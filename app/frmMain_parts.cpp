@@ -275,8 +275,10 @@ void frmMain::PlaceChildren()
     m_list->setVisible(!m_fullScreen && m_dock != PlaylistDock::Hidden);
     m_video->setVisible(m_fullScreen || m_dock != PlaylistDock::Whole);
     m_content->setGeometry(m_fullScreen ? rect() : ToQt(Layout().Content()));
-    if (m_fullScreen)
-        m_content->raise();
+    if (m_fullScreen) {
+        for (auto* const part : std::initializer_list<QWidget*>{ m_content, m_bar, m_note })
+            part->raise();
+    }
     PlaceControls();
 }
 
