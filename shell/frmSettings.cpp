@@ -98,6 +98,8 @@ QWidget* frmSettings::MakePlayerPage()
     for (int mode = 0; mode < names.size(); ++mode) {
         auto* const button = new QRadioButton(names[mode]);
         button->setChecked(mode == m_pages.titleBarMode);
+        // Tab stops at the choice that holds; Qt sees to that only once the group has had the focus.
+        button->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
         button->setAccessibleDescription(tr("What the caption shows"));
         modes->addButton(button, mode);
         left->addWidget(button);
