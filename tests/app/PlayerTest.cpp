@@ -623,6 +623,7 @@ TEST_F(PlayerTest, dialogs_are_never_under_a_window_that_stays_on_top)
     for (const auto* const key : { "Options", "About", "HelpTopics" })
         player->RunCommand(key);
     EXPECT_EQ(screen.log.str(), "options 0 about 0 help ");
+    player->DialogClosed();
     EXPECT_TRUE(screen.isTopmost);
     player->Unload();
     EXPECT_FALSE(screen.hasTrayIcon);
