@@ -109,11 +109,13 @@ public:
     void cmdDVDClick();
     /// Asks for files to add; the commands on the list can be used when there is one.
     void AddVideoFile();
-    /// Shows the options while the window is not held on top.
+    /// Shows the options; the window is not held on top until they are closed.
     void ShowOptions();
     /// Takes over what the options dialog holds, while it is open.
     void CommitOptions(const SettingsPages& pages);
     void ShowAbout();
+    /// The options or the about box have been closed.
+    void DialogClosed();
     void ShowHelp() { m_world.screen.ShowHelp(); }
     void Exit() { m_world.screen.CloseWindow(); }
 

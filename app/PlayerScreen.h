@@ -53,7 +53,7 @@ public:
     /// Asks for files, more than one at will. One text per folder, as ParseOpenFileResult reads it; none on cancel.
     virtual std::vector<std::string> AskForFiles(const std::string& title, const std::string& filter) = 0;
 
-    // Dialogs: they return when they are closed.
+    // Dialogs: these return at once; Player::DialogClosed() follows.
     virtual void ShowOptions() = 0;
     virtual void ShowAbout() = 0;
     /// Opens the help pages; says so when they are missing.

@@ -112,7 +112,6 @@ void Player::ShowOptions()
 {
     m_world.screen.SetTopmost(false);
     m_world.screen.ShowOptions();
-    m_world.screen.SetTopmost(m_settings.AlwaysOnTop != 0);
 }
 
 void Player::CommitOptions(const SettingsPages& pages)
@@ -130,6 +129,10 @@ void Player::ShowAbout()
 {
     m_world.screen.SetTopmost(false);
     m_world.screen.ShowAbout();
+}
+
+void Player::DialogClosed()
+{
     m_world.screen.SetTopmost(m_settings.AlwaysOnTop != 0);
 }
 
