@@ -141,7 +141,10 @@ void Player::CMDPlayClick()
         return;
     }
     m_failuresInRow = 0;
-    PlaySelected();
+    if (m_dvdMode)
+        PlayLoadedDisc();
+    else
+        PlaySelected();
 }
 
 void Player::PlayPause()
@@ -191,12 +194,14 @@ void Player::PlayItem(std::int16_t index, bool fullScreen)
     if (index < 0 || index >= m_playlist.Count())
         return;
     ReleaseHeldButtons();
+    ForgetDiscStart();
+    m_dvdMode = false;
     m_host.RemoveVLCPlayer();
     m_host.AddVLCPLayer();
     m_currentItemPath = m_playlist.PathAt(index);
     m_options = WithSnapshotFolder(m_options, m_settings.SnapshotPath, m_currentItemPath, m_world.separator);
     if (auto* const engine = m_host.VLCPlayer()) {
-        engine->Add({ m_currentItemPath, false }, m_options);
+        engine->Add({ m_currentItemPath, IsDiscLocation(m_currentItemPath) }, m_options);
         engine->Play();
     }
     ShowCaption();

@@ -4,10 +4,13 @@
 #include "app/StartUp.h"
 #include "base/PlayerSettings.h"
 #include "inspect/Inspection.h"
+#include "platform/Drives.h"
 #include "platform/HandOver.h"
 #include "platform/Power.h"
 #include "platform/StringStore.h"
 #include "playback/AfterPlay.h"
+#include "playback/DiscParts.h"
+#include "playback/DriveEnumerator.h"
 #include "playback/EngineHost.h"
 #include "playback/EngineOptions.h"
 #include "playback/HeldButtons.h"
@@ -47,6 +50,10 @@ struct PlayerWorld {
     std::function<void()> endProcess;
     std::string settingsFolder; ///< with a trailing separator
     char separator = '/';
+    /// The answer comes back through Player::DrivesFound, soon or after many seconds.
+    std::function<void()> askForDrives = [] {};
+    /// What the list shows for a disc.
+    std::function<Picture()> readDiscPicture = [] { return Picture(); };
 };
 
 /// The 16-bit number by which an item is played; -1, which plays nothing, for an index that does not fit.
@@ -131,6 +138,21 @@ public:
     /// The position timer's tick, every 500 ms.
     void OnPositionTick();
 
+    /// Asks for the drives, so that the menus come to list them: before they are shown, and by the watcher.
+    void mnuOpenDVD_Click() { m_world.askForDrives(); }
+    void DrivesFound(std::vector<platform::OpticalDrive> drives);
+    /// Replaces the playlist with the disc of that entry of the classic menu, and plays it.
+    void dvdsList_Click(int index);
+    /// The watcher's timer is to run, every 1000 ms.
+    bool IsWatchingDiscs() const { return m_discWatcher.IsOn(); }
+    void OnDVDTick();
+    /// False while no disc plays: then the key means what it means elsewhere.
+    bool NavigateDisc(DiscKey key);
+    PartChoice Titles() const;
+    PartChoice Chapters() const;
+    void SetTitle(int index);
+    void SetChapter(int index);
+
     /// A text has come from a later start.
     void ReceiveText(const std::string& text);
     /// The window has a new size in logical pixels, by the user's hand or by the settings.
@@ -145,6 +167,7 @@ public:
     VolumeSlider& Loudness() { return m_volumeSlider; }
     const PlaybackRate& Rate() const { return m_rate; }
     const AfterPlay& AfterPlaying() const { return m_afterPlay; }
+    const DriveEnumerator& Drives() const { return m_drives; }
     bool IsRewinding() const { return m_held.IsRewinding(); }
 
 private:
@@ -177,6 +200,13 @@ private:
         Player& m_player;
     };
 
+    class DiscItems : public MenuItemStates {
+    public:
+        void SetCaption(const std::string&, const std::string&) override { }
+        void SetEnabled(const std::string&, bool) override { }
+        void SetVisible(const std::string&, bool) override { }
+    };
+
     bool BecomePlayer();
     void Publish();
     /// The ticket of the file while there is one.
@@ -194,6 +224,16 @@ private:
     void SetEngineRate(std::optional<double> rate);
     void ShowRateLabel(bool isLoading);
     bool IsRoundOfFailures() const;
+    bool IsDiscLoaded() const;
+    static bool IsDiscLocation(const std::string& path);
+    void StartNewDiscs();
+    void PlayDisc(int index);
+    /// False when the disc is not to be played any more.
+    bool WaitBeforeDisc();
+    void ForgetDiscStart();
+    void PlayLoadedDisc();
+    void DiscEnded(bool failed);
+    void DiscFailed();
     void EnableMediaControls(bool enabled);
     void ShowCaption();
     PlaylistDock StoredDock() const;
@@ -215,6 +255,13 @@ private:
     PlaybackRate m_rate;
     HeldButtons m_held;
     AfterPlay m_afterPlay;
+    DiscItems m_discItems;
+    DriveEnumerator m_drives{ m_discItems };
+    DiscWatcher m_discWatcher;
+    std::string m_currentDiscRoot;
+    bool m_dvdMode = false; // the engine was given a disc that the drive list names
+    bool m_isStartingDisc = false;
+    int m_discStarts = 0;
     bool m_starting = false;
     bool m_replaceOnOpen = true;
     bool m_mediaControlsEnabled = false;

@@ -11,6 +11,7 @@ void Player::CMDPauseClick()
 
 void Player::cmdStopClick()
 {
+    ForgetDiscStart();
     if (auto* const engine = m_host.VLCPlayer(); engine != nullptr && engine->ItemCount() > 0)
         engine->Stop();
     ReleaseHeldButtons();
@@ -150,6 +151,8 @@ void Player::EnableMediaControls(bool enabled)
 
 void Player::OnPositionTick()
 {
+    if (m_isStartingDisc)
+        return; // the word in place of the time stays until the disc plays
     EngineReading reading;
     if (auto* const engine = m_host.VLCPlayer(); engine != nullptr && engine->ItemCount() > 0) {
         reading.isLoaded = m_mediaControlsEnabled;
@@ -157,6 +160,7 @@ void Player::OnPositionTick()
         reading.position = engine->Position();
         reading.time = engine->Time();
         reading.length = engine->Length();
+        reading.isDisc = IsDiscLoaded();
         reading.hasVideoOutput = reading.state >= Engine::kPlaying && engine->HasVideoOutput();
     }
     const auto tick = ReadPosition(reading, m_mediaControlsEnabled);
@@ -167,8 +171,13 @@ void Player::OnPositionTick()
     if (tick.hasEnded) {
         ReleaseHeldButtons();
         EnableMediaControls(false);
-        ItemEnded(tick.hasFailed);
+        if (IsDiscLoaded())
+            DiscEnded(tick.hasFailed);
+        else
+            ItemEnded(tick.hasFailed);
     }
+    if (!m_mediaControlsEnabled && !m_starting && m_adding.Progress().total == 0)
+        m_discWatcher.SwitchOn();
 }
 
 bool Player::IsRoundOfFailures() const

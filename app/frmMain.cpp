@@ -19,6 +19,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QEventLoop>
 #include <QFileDialog>
 #include <QHelpEvent>
 #include <QLabel>
@@ -62,6 +63,26 @@ Qt::CursorShape CursorFor(const WindowLayout::Edges& edges)
     if (edges.left || edges.right)
         return Qt::SizeHorCursor;
     return edges.Any() ? Qt::SizeVerCursor : Qt::ArrowCursor;
+}
+
+/// Nothing for a key that means nothing to the menu of a disc.
+std::optional<DiscKey> DiscKeyOf(int key)
+{
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return DiscKey::Activate;
+    case Qt::Key_Up:
+        return DiscKey::Up;
+    case Qt::Key_Down:
+        return DiscKey::Down;
+    case Qt::Key_Left:
+        return DiscKey::Left;
+    case Qt::Key_Right:
+        return DiscKey::Right;
+    default:
+        return std::nullopt;
+    }
 }
 
 } // namespace
@@ -108,6 +129,7 @@ frmMain::frmMain(const QString& programFolder)
     m_tmrMovie.setInterval(500ms);
     m_tmrRewind.setInterval(10ms);
     m_tmrRewind.setTimerType(Qt::PreciseTimer);
+    m_tmrCheckDVD.setInterval(1000ms);
     ShowIdle();
 }
 
@@ -213,7 +235,8 @@ void frmMain::FlashCaption()
 
 void frmMain::ShowNotice(const Notice& notice)
 {
-    const auto icon = notice.icon == NoticeIcon::Information ? QMessageBox::Information : QMessageBox::Warning;
+    constexpr QMessageBox::Icon icons[] = { QMessageBox::Information, QMessageBox::Warning, QMessageBox::Critical };
+    const auto icon = icons[static_cast<int>(notice.icon)];
     auto text = ToQString(notice.text);
     // Breaking an endless name into lines takes minutes, and nobody reads it.
     if (text.size() > kLongestNotice)
@@ -240,6 +263,13 @@ void frmMain::PumpMessages(int times)
 {
     for (int i = 0; i < times; ++i)
         QCoreApplication::processEvents();
+}
+
+void frmMain::PumpFor(std::chrono::milliseconds time)
+{
+    QEventLoop loop;
+    QTimer::singleShot(time, &loop, &QEventLoop::quit);
+    loop.exec();
 }
 
 void frmMain::PumpUntil(const std::function<bool()>& done)
@@ -416,7 +446,7 @@ void frmMain::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape && m_fullScreen)
         m_player->Host().SetFullScreen(false);
-    else
+    else if (const auto key = DiscKeyOf(event->key()); !key || !m_player->NavigateDisc(*key))
         QWidget::keyPressEvent(event);
 }
 

@@ -52,13 +52,17 @@ public:
     bool IsPlaylistVisible() const override;
     void ShowAddProgress(const AddProgress& progress) override;
     void ShowPosition(const PositionTick& tick, double length) override;
+    void ShowTimeText(const std::string& text) override;
     void ShowRate(const std::string& text) override;
     void ShowIdle() override;
     void StateChanged() override;
+    void DiscListChanged() override;
+    void FocusVideo() override;
     void ShowNotice(const Notice& notice) override;
     void ShowNote(const std::string& text) override;
     std::vector<std::string> AskForFiles(const std::string& title, const std::string& filter) override;
     void PumpMessages(int times) override;
+    void PumpFor(std::chrono::milliseconds time) override;
     void PumpUntil(const std::function<bool()>& done) override;
 
 protected:
@@ -85,6 +89,7 @@ private:
     void MakeTitleButton(Button button, const QString& name, void (frmMain::*command)());
     void MakeHeldButton(Button button, const QString& name, void (Player::*press)(), void (Player::*release)());
     void MakeSliders();
+    void MakeTimers();
     void MakeList();
     void ToggleMaximized();
     void PlaceChildren();
@@ -110,6 +115,7 @@ private:
     VolumeKnob* m_volume = nullptr;
     QTimer m_tmrMovie;
     QTimer m_tmrRewind;
+    QTimer m_tmrCheckDVD;
     QTimer m_noteEnd;
     QTimer m_progressDelay;
     QTimer m_geometrySettled;

@@ -1,3 +1,4 @@
+#include "app/DriveQueries.h"
 #include "app/InspectionThreads.h"
 #include "app/Player.h"
 #include "app/frmMain.h"
@@ -112,16 +113,20 @@ int main(int argc, char** argv)
     const auto inspectionContext = [&]() -> const InspectionContext& {
         return (base ? *base : base.emplace(programFolder)).context;
     };
-    InspectionThreads inspections(inspectionContext, workingFolder, [&](std::function<void()> work) {
+    const auto onWindowThread = [&](std::function<void()> work) {
         QMetaObject::invokeMethod(&application, std::move(work), Qt::QueuedConnection);
-    });
+    };
+    InspectionThreads inspections(inspectionContext, workingFolder, onWindowThread);
+    DriveQueries drives(platform::Drives::Open(), onWindowThread);
     const auto endProcess = [&] {
         inspections.CancelAll();
         platform::RemoveFolder(workingFolder);
         platform::EndProcess();
     };
     Player player({ window, engines, inspections, *store, *power, RealHandOver(), RealRandom(), &platform::PathExists,
-        endProcess, settingsFolder, separator });
+        endProcess, settingsFolder, separator, [&] { drives.Ask(); },
+        [&] { return DecodePictureFile(programFolder + "DVD.jpg"); } });
+    drives.onFound = [&](auto found) { player.DrivesFound(std::move(found)); };
     inspections.onCompleted = [&](int ticket, Inspection result) {
         player.InspectionCompleted(ticket, std::move(result));
     };

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace zentaro {
 
@@ -14,6 +15,15 @@ using EngineOptions = std::array<std::string, 9>;
 struct MediaLocation {
     std::string text;
     bool isLocation = false;
+};
+
+/// What a user presses in the menu of a disc.
+enum class DiscKey { Activate, Up, Down, Left, Right };
+
+/// A title of a disc or a chapter of a title.
+struct DiscPart {
+    std::string name;  ///< empty for most
+    double length = 0; ///< ms; 0 or below while unknown
 };
 
 /// The media engine of one item. Reads answer at once with the engine's present view; a call that the engine cannot
@@ -42,6 +52,15 @@ public:
     virtual double Rate() = 0; ///< 1.0 is normal speed
     virtual void SetRate(double rate) = 0;
     virtual bool HasVideoOutput() = 0;
+
+    // discs; chapters also of files
+    virtual void Navigate(DiscKey) { }
+    virtual std::vector<DiscPart> Titles() { return {}; }
+    virtual int Title() { return -1; } ///< index of the present one, below 0 when there is none
+    virtual void SetTitle(int) { }
+    virtual std::vector<DiscPart> Chapters() { return {}; } ///< of the present title
+    virtual int Chapter() { return -1; }
+    virtual void SetChapter(int) { }
 
     // playlist
     virtual void Add(const MediaLocation& location, const EngineOptions& options) = 0;

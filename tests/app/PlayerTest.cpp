@@ -32,12 +32,21 @@ public:
     bool IsPlaylistVisible() const override { return dock != PlaylistDock::Hidden; }
     void ShowAddProgress(const AddProgress&) override { }
     void ShowPosition(const PositionTick& tick, double) override { timeText = tick.timeText; }
+    void ShowTimeText(const std::string& text) override { timeText = text; }
     void ShowRate(const std::string& text) override { rateText = text; }
     void StateChanged() override { }
+    void DiscListChanged() override { }
+    void FocusVideo() override { }
     void ShowNotice(const Notice& notice) override { boxes.push_back(notice.title + ": " + notice.text); }
     void ShowNote(const std::string& text) override { note = text; }
     std::vector<std::string> AskForFiles(const std::string&, const std::string&) override { return chosen; }
     void PumpMessages(int times) override { log << "pump " << times << " "; }
+    void PumpFor(std::chrono::milliseconds time) override
+    {
+        log << "for " << time.count() << " ";
+        if (auto meanwhile = std::exchange(whilePumping, {}))
+            meanwhile();
+    }
     void PumpUntil(const std::function<bool()>& done) override
     {
         while (!done() && pump())
@@ -46,6 +55,7 @@ public:
     }
 
     std::function<bool()> pump;
+    std::function<void()> whilePumping;
     PlaylistDock dock = PlaylistDock::Hidden;
     std::string timeText;
     std::string rateText;

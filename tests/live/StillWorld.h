@@ -28,9 +28,12 @@ public:
     bool IsPlaylistVisible() const override { return false; }
     void ShowAddProgress(const AddProgress&) override { }
     void ShowPosition(const PositionTick&, double) override { }
+    void ShowTimeText(const std::string&) override { }
     void ShowRate(const std::string&) override { }
     void ShowIdle() override { }
     void StateChanged() override { }
+    void DiscListChanged() override { }
+    void FocusVideo() override { }
     void ShowNotice(const Notice&) override { }
     void ShowNote(const std::string&) override { ++notes; }
     std::vector<std::string> AskForFiles(const std::string&, const std::string&) override { return chosen; }
@@ -38,6 +41,11 @@ public:
     {
         for (int i = 0; pump && i < times; ++i)
             pump();
+    }
+    void PumpFor(std::chrono::milliseconds time) override
+    {
+        const auto end = std::chrono::steady_clock::now() + time;
+        PumpUntil([&] { return std::chrono::steady_clock::now() >= end; });
     }
     void PumpUntil(const std::function<bool()>& done) override
     {
