@@ -12,6 +12,7 @@
 #include <strings.h>
 #include <sys/stat.h>
 #include <systemd/sd-bus.h>
+#include <unistd.h>
 #include <utility>
 #include <variant>
 
@@ -169,6 +170,8 @@ bool IsVideoFolderIn(const std::string& folder)
 /// The device is read as the engine reads it, so that what is found can be played.
 bool IsVideoFolderOn(const std::string& device)
 {
+    if (access(device.c_str(), R_OK) != 0)
+        return false; // the library would say so on the terminal
     const dvd_logger_cb silence = { [](void*, dvd_logger_level_t, const char*, va_list) {} };
     auto* const disc = DVDOpen2(nullptr, &silence, device.c_str());
     if (disc == nullptr)
