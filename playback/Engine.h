@@ -54,13 +54,13 @@ public:
     virtual bool HasVideoOutput() = 0;
 
     // discs; chapters also of files
-    virtual void Navigate(DiscKey) { }
-    virtual std::vector<DiscPart> Titles() { return {}; }
-    virtual int Title() { return -1; } ///< index of the present one, below 0 when there is none
-    virtual void SetTitle(int) { }
-    virtual std::vector<DiscPart> Chapters() { return {}; } ///< of the present title
-    virtual int Chapter() { return -1; }
-    virtual void SetChapter(int) { }
+    virtual void Navigate(DiscKey key) = 0;
+    virtual std::vector<DiscPart> Titles() = 0;
+    virtual int Title() = 0; ///< index of the present one, below 0 when there is none
+    virtual void SetTitle(int index) = 0;
+    virtual std::vector<DiscPart> Chapters() = 0; ///< of the present title
+    virtual int Chapter() = 0;
+    virtual void SetChapter(int index) = 0;
 
     // playlist
     virtual void Add(const MediaLocation& location, const EngineOptions& options) = 0;

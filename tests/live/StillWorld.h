@@ -34,7 +34,7 @@ public:
     void StateChanged() override { }
     void DiscListChanged() override { }
     void FocusVideo() override { }
-    void ShowNotice(const Notice&) override { }
+    void ShowNotice(const Notice&) override { ++boxes; }
     void ShowNote(const std::string&) override { ++notes; }
     std::vector<std::string> AskForFiles(const std::string&, const std::string&) override { return chosen; }
     void PumpMessages(int times) override
@@ -57,6 +57,7 @@ public:
     std::vector<std::string> chosen;
     int closes = 0;
     int notes = 0;
+    int boxes = 0;
 };
 
 /// Every file is good, and at once.
@@ -114,12 +115,14 @@ public:
 class StillWorld {
 public:
     StillWorld(EngineFactory& engines, const std::string& folder, RandomSource random, PlayerScreen* shown = nullptr)
-        : player({ shown != nullptr ? *shown : screen, engines, inspections, store, power, NobodyElse(),
-            std::move(random), [](const std::string&) { return true; }, [] {}, folder, '/' })
+        : player(
+            { shown != nullptr ? *shown : screen, engines, inspections, store, power, NobodyElse(), std::move(random),
+                [](const std::string&) { return true; }, [] {}, folder, '/', [this] { askForDrives(); } })
     {
         inspections.player = &player;
     }
 
+    std::function<void()> askForDrives = [] {};
     StillScreen screen;
     InstantInspections inspections;
     MemoryStore store;
