@@ -24,6 +24,7 @@ std::int16_t ItemNumber(int index)
 
 Player::Player(PlayerWorld world)
     : m_world(std::move(world))
+    , m_history(m_world.store, m_commands, m_classic)
     , m_host(m_world.engines)
     , m_playlist(m_world.random)
     , m_adding(m_playlist, m_addingHost, m_world.inspections)
@@ -124,6 +125,7 @@ void Player::RemoveAll()
 void Player::SetPlayMode(std::int32_t mode)
 {
     m_settings.PlayMode = mode;
+    m_commands.CheckOnly(kPlayModeKeys, static_cast<std::size_t>(mode));
     m_playlist.BuildOrder(mode);
     m_world.screen.StateChanged();
 }
@@ -131,6 +133,7 @@ void Player::SetPlayMode(std::int32_t mode)
 void Player::SetRepeatMode(std::int32_t mode)
 {
     m_settings.RepeatMode = mode;
+    m_commands.CheckOnly(kRepeatModeKeys, static_cast<std::size_t>(mode));
     m_world.screen.StateChanged();
 }
 
@@ -145,14 +148,6 @@ void Player::CMDPlayClick()
         PlayLoadedDisc();
     else
         PlaySelected();
-}
-
-void Player::PlayPause()
-{
-    if (m_playlist.Count() == 0)
-        OpenFiles(false);
-    else
-        CMDPauseClick();
 }
 
 void Player::DockPlaylist(PlaylistDock position)
@@ -205,6 +200,9 @@ void Player::PlayItem(std::int16_t index, bool fullScreen)
         engine->Play();
     }
     ShowCaption();
+    // Which disc a drive holds is known to nobody later.
+    if (!IsDiscLocation(m_currentItemPath))
+        m_history.AddToHistory(m_currentItemPath, m_playlist.List().SelectedText());
     m_playlist.List().SetPlayingItem(index);
     m_playlist.List().ScrollToRow(index);
     EnableMediaControls(true);

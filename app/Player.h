@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/History.h"
 #include "app/PlayerScreen.h"
 #include "app/StartUp.h"
 #include "base/PlayerSettings.h"
@@ -20,6 +21,8 @@
 #include "playback/VolumeSlider.h"
 #include "playlist/AddQueue.h"
 #include "playlist/Playlist.h"
+#include "shell/ClassicTree.h"
+#include "shell/CommandTree.h"
 
 #include <cstdint>
 #include <functional>
@@ -76,6 +79,19 @@ public:
     Result<void> WriteConfigurations();
     void SaveVLCOptions();
     void SetLoadedOptions();
+
+    /// Does what the command of this key is for. A key that no item has, and an item that is disabled or hidden, do
+    /// nothing.
+    void RunCommand(std::string_view key);
+    /// Shows the list of DVD drives.
+    void cmdDVDClick();
+    /// Asks for files to add; the commands on the list can be used when there is one.
+    void AddVideoFile();
+    /// Shows the options while the window is not held on top.
+    void ShowOptions();
+    void ShowAbout();
+    void ShowHelp() { m_world.screen.ShowHelp(); }
+    void Exit() { m_world.screen.CloseWindow(); }
 
     /// Adds one file and, when `playNow`, plays it; returns when that is done, unless another file is just being taken
     /// into the list: then it follows that one. `playFlag` asks for full screen.
@@ -159,6 +175,10 @@ public:
     void WindowResized(int width, int height);
 
     const PlayerSettings& Settings() const { return m_settings; }
+    /// The commands by key: what they are called, what is enabled, checked and shown.
+    CommandTree& SmartMenuXP1() { return m_commands; }
+    /// The menus of the tray, the playlist and the DVD button.
+    ClassicTree& ClassicMenus() { return m_classic; }
     Playlist& Entries() { return m_playlist; }
     EngineHost& Host() { return m_host; }
     const InspectionState& Inspected() const { return m_inspected; }
@@ -185,7 +205,7 @@ private:
             m_player.PlayItem(ItemNumber(index), playFlag);
         }
         std::int32_t PlayMode() const override { return m_player.m_settings.PlayMode; }
-        void EntryAdded() override { m_player.m_world.screen.StateChanged(); }
+        void EntryAdded() override { m_player.EntryAdded(); }
         void InspectionTaken(const Inspection& inspection) override
         {
             m_player.m_inspected.TakeOver(
@@ -200,13 +220,36 @@ private:
         Player& m_player;
     };
 
-    class DiscItems : public MenuItemStates {
+    /// The DVD entries of both menu trees.
+    class DiscEntries : public DvdMenus {
     public:
-        void SetCaption(const std::string&, const std::string&) override { }
-        void SetEnabled(const std::string&, bool) override { }
-        void SetVisible(const std::string&, bool) override { }
+        explicit DiscEntries(Player& player)
+            : m_player(player)
+        {
+        }
+        void SetCaption(const std::string& key, const std::string& caption) override
+        {
+            m_player.m_commands.SetCaption(key, caption);
+        }
+        void SetEnabled(const std::string& key, bool enabled) override { m_player.m_commands.SetEnabled(key, enabled); }
+        void SetVisible(const std::string& key, bool visible) override { m_player.m_commands.SetVisible(key, visible); }
+        int ClassicCount() const override { return m_player.m_classic.Count(kName); }
+        void SetFirstClassic(const std::string& caption, bool enabled) override
+        {
+            m_player.m_classic.SetCaption(kName, 0, caption);
+            m_player.m_classic.SetEnabled(kName, 0, enabled);
+        }
+        void LoadClassic(const std::string& caption) override { m_player.m_classic.Load(kName, caption); }
+        void UnloadLastClassic() override { m_player.m_classic.UnloadLast(kName); }
+
+    private:
+        static constexpr const char* kName = "dvdsList";
+        Player& m_player;
     };
 
+    void EntryAdded();
+    void EnableListCommands();
+    void PlayHistoryItem(int slot);
     bool BecomePlayer();
     void Publish();
     /// The ticket of the file while there is one.
@@ -242,6 +285,9 @@ private:
     PlayerWorld m_world;
     PlayerSettings m_settings;
     EngineOptions m_options;
+    CommandTree m_commands;
+    ClassicTree m_classic;
+    History m_history;
     EngineHost m_host;
     Playlist m_playlist;
     Adding m_addingHost{ *this };
@@ -255,8 +301,8 @@ private:
     PlaybackRate m_rate;
     HeldButtons m_held;
     AfterPlay m_afterPlay;
-    DiscItems m_discItems;
-    DriveEnumerator m_drives{ m_discItems };
+    DiscEntries m_discEntries{ *this };
+    DriveEnumerator m_drives{ m_discEntries };
     DiscWatcher m_discWatcher;
     std::string m_currentDiscRoot;
     bool m_dvdMode = false; // the engine was given a disc that the drive list names
@@ -266,7 +312,8 @@ private:
     bool m_replaceOnOpen = true;
     bool m_mediaControlsEnabled = false;
     bool m_ended = false;
-    int m_failuresInRow = 0; // items that ended without having played
+    bool m_selectsFirstAdded = false; // files of "AddVideoFile" are on their way
+    int m_failuresInRow = 0;          // items that ended without having played
 };
 
 } // namespace zentaro

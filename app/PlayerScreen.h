@@ -46,8 +46,6 @@ public:
     /// The check marks, enabled commands and buttons are to be worked out anew.
     virtual void StateChanged() = 0;
 
-    /// The DVD entries of both menus are to be taken anew.
-    virtual void DiscListChanged() = 0;
     /// Keys go to the video from now on.
     virtual void FocusVideo() = 0;
 
@@ -57,6 +55,17 @@ public:
     virtual void ShowNote(const std::string& text) = 0;
     /// Asks for files, more than one at will. One text per folder, as ParseOpenFileResult reads it; none on cancel.
     virtual std::vector<std::string> AskForFiles(const std::string& title, const std::string& filter) = 0;
+
+    // Dialogs: they return when they are closed.
+    virtual void ShowOptions() = 0;
+    virtual void ShowAbout() = 0;
+    /// Opens the help pages; says so when they are missing.
+    virtual void ShowHelp() = 0;
+
+    /// Shows or removes the icon in the notification area, where there is one.
+    virtual void SetTrayShown(bool shown) = 0;
+    /// Pops a menu of the classic tree up, by its control's name, near what it belongs to.
+    virtual void PopupMenu(const std::string& menu) = 0;
 
     /// Lets waiting window messages be handled that many times.
     virtual void PumpMessages(int times) = 0;

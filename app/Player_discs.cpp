@@ -39,11 +39,8 @@ void Player::DrivesFound(std::vector<platform::OpticalDrive> drives)
 {
     if (m_ended)
         return;
-    const auto listed = m_drives.ClassicEntries();
     m_discWatcher.DrivesFound(drives);
     m_drives.mnuOpenDVD_Click(std::move(drives));
-    if (m_drives.ClassicEntries() != listed)
-        m_world.screen.DiscListChanged();
     if (m_discWatcher.IsOn() && !m_mediaControlsEnabled && !m_isStartingDisc)
         StartNewDiscs();
 }

@@ -108,6 +108,10 @@ void Player::ResetRate()
 void Player::ApplyRate(const RateChange& change)
 {
     SetEngineRate(change.engineRate);
+    if (change.increaseEnabled)
+        m_commands.SetEnabled("IncreaseSpeed", *change.increaseEnabled);
+    if (change.decreaseEnabled)
+        m_commands.SetEnabled("DecreaseSpeed", *change.decreaseEnabled);
     if (change.engineRate)
         ShowRateLabel(false);
     m_world.screen.StateChanged();
@@ -122,6 +126,7 @@ void Player::ShowRateLabel(bool isLoading)
 void Player::DoAfter(std::int16_t action)
 {
     m_afterPlay.DoAfter(action);
+    m_commands.CheckOnly(kAfterPlayKeys, m_afterPlay.MarkedItem());
     m_world.screen.StateChanged();
 }
 
@@ -144,6 +149,7 @@ void Player::cmdFulScreenClick()
 void Player::EnableMediaControls(bool enabled)
 {
     m_mediaControlsEnabled = enabled;
+    m_commands.SetEnabled({ "Stop", "FullScreen", "IncreaseSpeed", "DecreaseSpeed", "ResetSpeed" }, enabled);
     if (!enabled)
         m_playlist.List().SetPlayingItem(FancyListState::kNone);
     m_world.screen.StateChanged();

@@ -169,6 +169,7 @@ void frmMain::ShowWindow()
     platform::OnQuitRequest([this] { close(); });
     show();
     m_tmrMovie.start();
+    SetTrayShown(m_hasTrayIcon);
     // Window managers read the state of a shown window only.
     if (m_topmost)
         platform::SetTopmost(winId(), true);

@@ -4,15 +4,18 @@
 #include "shell/Skin.h"
 #include "shell/WindowLayout.h"
 
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
 #include <map>
 #include <optional>
 
 class QLabel;
 class QMimeData;
 class QSplitter;
+class QSystemTrayIcon;
 
 namespace zentaro {
 
@@ -22,6 +25,7 @@ class SeekTrack;
 class SkinButton;
 class VideoFrame;
 class VolumeKnob;
+class frmMenu;
 
 /// The main window: frameless, moved and resized by the system on the user's behalf. It shows the player's state and
 /// forwards what the user does; it decides nothing.
@@ -33,6 +37,10 @@ public:
     explicit frmMain(const QString& programFolder);
 
     VideoFrame& Video() { return *m_video; }
+    /// The dialogs are made by whoever made the window.
+    std::function<void()> onShowOptions;
+    std::function<void()> onShowAbout;
+    std::function<void()> onShowHelp;
     /// From now on the window works for this player.
     void Serve(Player& player);
 
@@ -56,11 +64,15 @@ public:
     void ShowRate(const std::string& text) override;
     void ShowIdle() override;
     void StateChanged() override;
-    void DiscListChanged() override;
     void FocusVideo() override;
     void ShowNotice(const Notice& notice) override;
     void ShowNote(const std::string& text) override;
     std::vector<std::string> AskForFiles(const std::string& title, const std::string& filter) override;
+    void ShowOptions() override;
+    void ShowAbout() override;
+    void ShowHelp() override;
+    void SetTrayShown(bool shown) override;
+    void PopupMenu(const std::string& menu) override;
     void PumpMessages(int times) override;
     void PumpFor(std::chrono::milliseconds time) override;
     void PumpUntil(const std::function<bool()>& done) override;
@@ -91,6 +103,8 @@ private:
     void MakeSliders();
     void MakeTimers();
     void MakeList();
+    /// Made on first use.
+    frmMenu& ClassicMenus();
     void ToggleMaximized();
     void PlaceChildren();
     /// Notes the geometry unless the window is maximised, minimised or full screen.
@@ -113,6 +127,8 @@ private:
     QLabel* m_volumeNumber;
     SeekTrack* m_seek = nullptr;
     VolumeKnob* m_volume = nullptr;
+    frmMenu* m_menus = nullptr;
+    QPointer<QSystemTrayIcon> m_tray;
     QTimer m_tmrMovie;
     QTimer m_tmrRewind;
     QTimer m_tmrCheckDVD;
@@ -129,6 +145,7 @@ private:
     bool m_fullScreen = false;
     bool m_wasMaximized = false; // before full screen
     bool m_topmost = false;
+    bool m_hasTrayIcon = false; // as the settings want it
     bool m_placed = false;
 };
 

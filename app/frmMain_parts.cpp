@@ -2,6 +2,7 @@
 
 #include "app/Player.h"
 #include "app/PlayerMenus.h"
+#include "app/frmMenu.h"
 #include "playback/TimeText.h"
 #include "playback/VideoFrame.h"
 #include "playlist/FancyList.h"
@@ -51,6 +52,7 @@ void frmMain::Serve(Player& player)
     MakeHeldButton(Button::FastForward, "Fast forward", &Player::cmdffMouseDown, &Player::cmdffMouseUp);
     MakeButton(Button::FullScreen, "Full Screen", "Ctrl+F", &Player::cmdFulScreenClick);
     MakeButton(Button::PlayList, "Playlist", "", &Player::cmdPlayListClick);
+    MakeButton(Button::Dvd, "DVD", "", &Player::cmdDVDClick);
     MakeButton(Button::SoundOn, "Mute", "", &Player::cmdMuteClick);
     auto* const open = m_buttons[Button::Open] = new SkinButton("Open Media File", "Ctrl+O", this);
     connect(open, &SkinButton::clicked, this, [this] { m_player->OpenFiles(false); });
@@ -124,7 +126,7 @@ void frmMain::MakeList()
     connect(m_list, &FancyList::DblClick, this, [this] { m_player->ListDoubleClicked(); });
     connect(m_list, &FancyList::MouseDown, this, [this](Qt::MouseButton button, Qt::KeyboardModifiers, int x, int y) {
         if (button == Qt::RightButton)
-            ShowListMenu(*this, *m_player, m_list->mapToGlobal(QPoint(x, y)));
+            ClassicMenus().Popup("mnuPlayListmenu", m_list->mapToGlobal(QPoint(x, y)));
     });
     connect(m_list, &FancyList::CancelAdding, this, [this] { m_player->CancelAdding(); });
     connect(m_list, &FancyList::OLEDragDrop, this, [this](const QMimeData* dropped) {
@@ -180,8 +182,6 @@ void frmMain::ShowTimeText(const std::string& text)
 {
     m_time->setText(ToQString(text));
 }
-
-void frmMain::DiscListChanged() { }
 
 void frmMain::FocusVideo()
 {

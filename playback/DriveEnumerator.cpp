@@ -28,19 +28,23 @@ std::string DriveNameIn(const std::string& label, std::size_t nameLength)
 void DriveEnumerator::mnuOpenDVD_Click(std::vector<platform::OpticalDrive> drives)
 {
     m_drives = std::move(drives);
-    if (EnumerateDrives() == 0)
+    const auto shown = m_labels;
+    ReadLabels();
+    // An open menu would lose its place.
+    if (m_labels == shown || EnumerateDrives() == 0)
         return;
-    m_classic = m_labels;
-    m_items.SetVisible(kFirstItem, true);
-    m_items.SetCaption(kFirstItem, m_labels[0]);
-    m_items.SetEnabled(kFirstItem, true);
+    m_menus.SetFirstClassic(m_labels[0], true);
+    m_menus.SetVisible(kFirstItem, true);
+    m_menus.SetCaption(kFirstItem, m_labels[0]);
+    m_menus.SetEnabled(kFirstItem, true);
     for (std::size_t i = 1; i < m_labels.size(); ++i) {
-        m_items.SetVisible(ItemKey(i), true);
-        m_items.SetCaption(ItemKey(i), m_labels[i]);
+        m_menus.SetVisible(ItemKey(i), true);
+        m_menus.SetCaption(ItemKey(i), m_labels[i]);
+        m_menus.LoadClassic(m_labels[i]);
     }
 }
 
-int DriveEnumerator::EnumerateDrives()
+void DriveEnumerator::ReadLabels()
 {
     m_labels.clear();
     m_roots.clear();
@@ -48,10 +52,14 @@ int DriveEnumerator::EnumerateDrives()
         m_roots.push_back(drive.label ? drive.name : std::string());
         m_labels.push_back(drive.label.value_or(kNoDisc) + " (" + drive.name + ")");
     }
+}
+
+int DriveEnumerator::EnumerateDrives()
+{
     if (m_labels.empty()) {
-        m_classic[0] = kNoDrives;
-        m_items.SetEnabled(kFirstItem, false);
-        m_items.SetCaption(kFirstItem, kNoDrives);
+        m_menus.SetFirstClassic(kNoDrives, false);
+        m_menus.SetEnabled(kFirstItem, false);
+        m_menus.SetCaption(kFirstItem, kNoDrives);
     }
     UnloadClassicEntries();
     return static_cast<int>(m_labels.size());
@@ -60,8 +68,8 @@ int DriveEnumerator::EnumerateDrives()
 void DriveEnumerator::UnloadClassicEntries()
 {
     // The first slot for every entry that goes, and never that entry's own: a slot that was filled once keeps its look.
-    for (; m_classic.size() > 1; m_classic.pop_back())
-        m_items.SetVisible(kFirstItem, false);
+    for (; m_menus.ClassicCount() > 1; m_menus.UnloadLastClassic())
+        m_menus.SetVisible(kFirstItem, false);
 }
 
 std::string DriveEnumerator::RootAt(int index) const

@@ -7,28 +7,34 @@
 
 namespace zentaro {
 
-/// State of the command menu's items by key. A key that names no item changes nothing.
-class MenuItemStates {
+/// The entries for drives in both menus.
+class DvdMenus {
 public:
-    virtual ~MenuItemStates() = default;
+    virtual ~DvdMenus() = default;
+
+    // Items of the command menu, by key. A key that names no item changes nothing.
     virtual void SetCaption(const std::string& key, const std::string& caption) = 0;
     virtual void SetEnabled(const std::string& key, bool enabled) = 0;
     virtual void SetVisible(const std::string& key, bool visible) = 0;
+
+    // The classic menu, which has one entry at least.
+    virtual int ClassicCount() const = 0;
+    virtual void SetFirstClassic(const std::string& caption, bool enabled) = 0;
+    virtual void LoadClassic(const std::string& caption) = 0; ///< one more entry at the end
+    virtual void UnloadLastClassic() = 0;
 };
 
 /// The optical drives as both menus list them. Indexes are those of the classic menu's entries, from 0.
 class DriveEnumerator {
 public:
-    explicit DriveEnumerator(MenuItemStates& items)
-        : m_items(items)
+    explicit DriveEnumerator(DvdMenus& menus)
+        : m_menus(menus)
     {
     }
 
-    /// Lists the drives that the system has named last, and fills both menus.
+    /// Lists the drives that the system has named last, and fills both menus when they show others.
     void mnuOpenDVD_Click(std::vector<platform::OpticalDrive> drives);
 
-    /// The captions of the classic menu's DVD entries, never empty.
-    const std::vector<std::string>& ClassicEntries() const { return m_classic; }
     /// One label for each drive; empty without drives.
     const std::vector<std::string>& Labels() const { return m_labels; }
     /// The name of the drive; empty when its volume could not be read.
@@ -44,14 +50,15 @@ public:
     const std::vector<platform::OpticalDrive>& Drives() const { return m_drives; }
 
 private:
+    void ReadLabels();
+    /// The number of drives.
     int EnumerateDrives();
     void UnloadClassicEntries();
 
-    MenuItemStates& m_items;
+    DvdMenus& m_menus;
     std::vector<platform::OpticalDrive> m_drives;
     std::vector<std::string> m_labels;
     std::vector<std::string> m_roots;
-    std::vector<std::string> m_classic{ "<No DVD drives were found>" };
 };
 
 /// Starts video discs by itself.

@@ -35,11 +35,15 @@ public:
     void ShowTimeText(const std::string& text) override { timeText = text; }
     void ShowRate(const std::string& text) override { rateText = text; }
     void StateChanged() override { }
-    void DiscListChanged() override { }
     void FocusVideo() override { }
     void ShowNotice(const Notice& notice) override { boxes.push_back(notice.title + ": " + notice.text); }
     void ShowNote(const std::string& text) override { note = text; }
     std::vector<std::string> AskForFiles(const std::string&, const std::string&) override { return chosen; }
+    void ShowOptions() override { log << "options " << isTopmost << " "; }
+    void ShowAbout() override { log << "about " << isTopmost << " "; }
+    void ShowHelp() override { log << "help "; }
+    void SetTrayShown(bool shown) override { hasTrayIcon = shown; }
+    void PopupMenu(const std::string& menu) override { log << "menu " << menu << " "; }
     void PumpMessages(int times) override { log << "pump " << times << " "; }
     void PumpFor(std::chrono::milliseconds time) override
     {
@@ -68,6 +72,7 @@ public:
     bool maximized = false;
     bool isTopmost = false;
     bool isFullScreen = false;
+    bool hasTrayIcon = false;
 };
 
 struct EngineTrace {

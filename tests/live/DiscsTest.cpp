@@ -90,7 +90,7 @@ TEST_F(Discs, AnImageInsertedIntoADrivePlaysByItselfAndEndsWhenItIsPulledOut)
 
     service.InsertDisc(image, "MOVIE");
     ASSERT_TRUE(letWatch());
-    EXPECT_EQ(player.Drives().ClassicEntries(), std::vector{ "MOVIE (" + image + ")" });
+    EXPECT_EQ(player.Drives().Labels(), std::vector{ "MOVIE (" + image + ")" });
     ASSERT_TRUE(RunUntilIn(0));
     EXPECT_TRUE(player.NavigateDisc(DiscKey::Activate));
     ASSERT_TRUE(RunUntilIn(1));

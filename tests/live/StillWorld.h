@@ -32,11 +32,15 @@ public:
     void ShowRate(const std::string&) override { }
     void ShowIdle() override { }
     void StateChanged() override { }
-    void DiscListChanged() override { }
     void FocusVideo() override { }
     void ShowNotice(const Notice&) override { ++boxes; }
     void ShowNote(const std::string&) override { ++notes; }
     std::vector<std::string> AskForFiles(const std::string&, const std::string&) override { return chosen; }
+    void ShowOptions() override { }
+    void ShowAbout() override { }
+    void ShowHelp() override { }
+    void SetTrayShown(bool) override { }
+    void PopupMenu(const std::string&) override { }
     void PumpMessages(int times) override
     {
         for (int i = 0; pump && i < times; ++i)

@@ -12,13 +12,23 @@ using testing::ElementsAre;
 namespace {
 
 constexpr const char* kNoDrives = "<No DVD drives were found>";
+const std::string kNoneOff = std::string(kNoDrives) + " off";
 
-/// The six items of the command menu as they are made, each shown as its caption with what it lacks.
-class Items : public MenuItemStates {
+/// The six items of the command menu as they are made, and the classic entries. Each is its caption, with what it
+/// lacks.
+class Items : public DvdMenus {
 public:
     void SetCaption(const std::string& key, const std::string& caption) override { With(key, &Item::caption, caption); }
     void SetEnabled(const std::string& key, bool enabled) override { With(key, &Item::enabled, enabled); }
     void SetVisible(const std::string& key, bool visible) override { With(key, &Item::visible, visible); }
+
+    int ClassicCount() const override { return static_cast<int>(classic.size()); }
+    void SetFirstClassic(const std::string& caption, bool enabled) override
+    {
+        classic[0] = caption + (enabled ? "" : " off");
+    }
+    void LoadClassic(const std::string& caption) override { classic.push_back(caption); }
+    void UnloadLastClassic() override { classic.pop_back(); }
 
     std::vector<std::string> Shown() const
     {
@@ -29,6 +39,8 @@ public:
         }
         return texts;
     }
+
+    std::vector<std::string> classic{ "<No DVD drives were found> off" };
 
 private:
     struct Item {
@@ -67,8 +79,8 @@ OpticalDrive Video(const std::string& name, const std::string& label)
 TEST_F(DriveEnumeratorTest, each_drive_is_listed_by_its_disc_in_both_menus)
 {
     drives.mnuOpenDVD_Click({ Video("D:", "MOVIE"), Empty("E:"), Video("F:", "") });
-    EXPECT_THAT(drives.ClassicEntries(), ElementsAre("MOVIE (D:)", "<Please insert a DVD> (E:)", " (F:)"));
-    EXPECT_EQ(items.Shown(), drives.ClassicEntries());
+    EXPECT_THAT(items.classic, ElementsAre("MOVIE (D:)", "<Please insert a DVD> (E:)", " (F:)"));
+    EXPECT_EQ(items.Shown(), items.classic);
     EXPECT_EQ(drives.RootAt(0), "D:");
     EXPECT_EQ(drives.RootAt(1), "");
     EXPECT_TRUE(drives.CanStart(0) && drives.CanStart(2));
@@ -78,19 +90,17 @@ TEST_F(DriveEnumeratorTest, each_drive_is_listed_by_its_disc_in_both_menus)
 
 TEST_F(DriveEnumeratorTest, drives_that_go_leave_their_slots_behind_and_take_the_first_one_along)
 {
-    drives.mnuOpenDVD_Click({});
-    EXPECT_THAT(drives.ClassicEntries(), ElementsAre(kNoDrives));
-    EXPECT_THAT(items.Shown(), ElementsAre(std::string(kNoDrives) + " off"));
+    EXPECT_THAT(items.Shown(), ElementsAre(kNoneOff));
     drives.mnuOpenDVD_Click({ Video("D:", "ONE"), Video("E:", "TWO"), Empty("F:") });
     drives.mnuOpenDVD_Click({ Video("D:", "ONE") });
-    EXPECT_THAT(drives.ClassicEntries(), ElementsAre("ONE (D:)"));
+    EXPECT_THAT(items.classic, ElementsAre("ONE (D:)"));
     EXPECT_THAT(items.Shown(), ElementsAre("ONE (D:)", "TWO (E:)", "<Please insert a DVD> (F:)"));
     // From one drive to none the first slot stays in sight; from two it goes.
     drives.mnuOpenDVD_Click({});
-    EXPECT_EQ(items.Shown()[0], std::string(kNoDrives) + " off");
+    EXPECT_EQ(items.Shown()[0], kNoneOff);
     drives.mnuOpenDVD_Click({ Video("D:", "ONE"), Video("E:", "TWO") });
     drives.mnuOpenDVD_Click({});
-    EXPECT_THAT(drives.ClassicEntries(), ElementsAre(kNoDrives));
+    EXPECT_THAT(items.classic, ElementsAre(kNoneOff));
     EXPECT_THAT(items.Shown(), ElementsAre("TWO (E:)", "<Please insert a DVD> (F:)"));
     EXPECT_TRUE(drives.Labels().empty());
 }
@@ -101,7 +111,7 @@ TEST_F(DriveEnumeratorTest, more_drives_than_slots_are_in_the_classic_menu)
     for (int i = 0; i < 8; ++i)
         eight.push_back(Video("/dev/sr" + std::to_string(i), "DISC"));
     drives.mnuOpenDVD_Click(eight);
-    EXPECT_EQ(drives.ClassicEntries().size(), 8U);
+    EXPECT_EQ(items.classic.size(), 8U);
     EXPECT_EQ(items.Shown().size(), 6U);
 }
 
