@@ -1,6 +1,7 @@
 #include "app/PlayerMenus.h"
 
 #include "app/Player.h"
+#include "shell/MenuText.h"
 
 #include <QMenu>
 #include <QShortcut>
@@ -29,6 +30,20 @@ void AddChoices(QMenu& menu, const char* title, std::initializer_list<Choice> ch
         action->setCheckable(true);
         action->setChecked(choice.value == present);
         QObject::connect(action, &QAction::triggered, submenu, [choose, value = choice.value] { choose(value); });
+    }
+}
+
+/// Where a disc, or a file with chapters, can be entered; nothing while there is only one place.
+void AddParts(QMenu& menu, const char* title, const PartChoice& parts, const std::function<void(int)>& choose)
+{
+    if (parts.captions.size() < 2)
+        return;
+    auto* const submenu = menu.addMenu(title);
+    for (int i = 0; i < static_cast<int>(parts.captions.size()); ++i) {
+        auto* const action = submenu->addAction(MenuName(parts.captions[static_cast<std::size_t>(i)]));
+        action->setCheckable(true);
+        action->setChecked(i == parts.present);
+        QObject::connect(action, &QAction::triggered, submenu, [choose, i] { choose(i); });
     }
 }
 
@@ -82,6 +97,9 @@ void ShowPlayMenu(QWidget& window, Player& player, const QPoint& at)
     AddChoices(menu, "Repeat Mode",
         { { "&No Repeat", kNoRepeat }, { "&Single Repeat", kRepeatSingle }, { "&Repeat All", kRepeatAll } },
         settings.RepeatMode, [&](int mode) { player.SetRepeatMode(mode); });
+    menu.addSeparator();
+    AddParts(menu, "Title", player.Titles(), [&](int index) { player.SetTitle(index); });
+    AddParts(menu, "Chapter", player.Chapters(), [&](int index) { player.SetChapter(index); });
     menu.addSeparator();
     AddCommand(menu, "Full Screen", "Ctrl+F", isLoaded, [&] { player.cmdFulScreenClick(); });
     menu.addSeparator();
