@@ -162,7 +162,7 @@ public:
     /// The watcher's timer is to run, every 1000 ms.
     bool IsWatchingDiscs() const { return m_discWatcher.IsOn(); }
     void OnDVDTick();
-    /// False while no disc plays: then the key means what it means elsewhere.
+    /// False while no menu of a disc is shown: then the key means what it means elsewhere.
     bool NavigateDisc(DiscKey key);
     PartChoice Titles() const;
     PartChoice Chapters() const;

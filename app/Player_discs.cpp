@@ -13,6 +13,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
+constexpr int kMenuTitle = 0;
 constexpr auto kBeforeDisc = 500ms; // gives the engine time to meet the drive
 const std::string kDiscScheme = "dvd://";
 
@@ -83,6 +84,7 @@ void Player::PlayDisc(int index)
     if (m_playlist.List().SelectedItem() < 0)
         m_playlist.List().SetSelectedItem(0);
     m_playlist.BuildSequentialOrder();
+    ShowCaption();
     m_currentItemPath = WithTrailingSeparator(m_currentDiscRoot, m_world.separator);
     m_options = WithSnapshotFolder(m_options, m_settings.SnapshotPath, m_currentItemPath, m_world.separator);
     auto* const engine = m_host.VLCPlayer();
@@ -121,9 +123,11 @@ void Player::PlayLoadedDisc()
     if (engine == nullptr)
         return;
     engine->Play();
-    ShowCaption();
-    m_playlist.List().SetPlayingItem(m_playlist.List().SelectedItem());
     EnableMediaControls(true);
+    for (int i = 0; i < m_playlist.Count(); ++i) {
+        if (IsDiscLocation(m_playlist.PathAt(i)))
+            m_playlist.List().SetPlayingItem(i);
+    }
     m_rate.ItemStarted();
     ShowRateLabel(true);
     m_world.screen.FocusVideo();
@@ -145,9 +149,10 @@ void Player::DiscFailed()
 bool Player::NavigateDisc(DiscKey key)
 {
     auto* const engine = IsDiscLoaded() ? LoadedEngine() : nullptr;
-    if (engine != nullptr)
-        engine->Navigate(key);
-    return engine != nullptr;
+    if (engine == nullptr || engine->Title() != kMenuTitle)
+        return false;
+    engine->Navigate(key);
+    return true;
 }
 
 PartChoice Player::Titles() const

@@ -81,6 +81,7 @@ struct EngineTrace {
     std::vector<std::string> played; ///< a location in brackets
     int plays = 0;
     std::vector<DiscKey> keys;
+    int title = 0;
     EngineOptions options;
     int volume = -1;
     bool muted = false;
@@ -117,7 +118,7 @@ public:
     void Play() override { ++m_trace.plays; }
     void Navigate(DiscKey key) override { m_trace.keys.push_back(key); }
     std::vector<DiscPart> Titles() override { return {}; }
-    int Title() override { return -1; }
+    int Title() override { return m_trace.title; }
     void SetTitle(int) override { }
     std::vector<DiscPart> Chapters() override { return {}; }
     int Chapter() override { return -1; }
@@ -569,6 +570,8 @@ TEST_F(PlayerTest, a_disc_replaces_the_list_and_plays_by_its_root_after_half_a_s
     EXPECT_EQ(player->Entries().List().SelectedItem(), 0);
     EXPECT_EQ(screen.caption, "Zentaro - (dvd:///dev/sr0)");
     EXPECT_TRUE(player->NavigateDisc(DiscKey::Down));
+    engines.trace.title = 1; // no menu any more
+    EXPECT_FALSE(player->NavigateDisc(DiscKey::Down));
     EXPECT_EQ(engines.trace.keys, std::vector{ DiscKey::Down });
 }
 

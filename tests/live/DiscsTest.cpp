@@ -51,7 +51,11 @@ TEST_F(Discs, AFolderPlaysAndItsMenuWaitsForTheUser)
     RunFor(3s);
     EXPECT_TRUE(player.MediaControlsEnabled());
     EXPECT_EQ(player.Titles().present, 0);
+    EXPECT_TRUE(player.NavigateDisc(DiscKey::Right));
     EXPECT_TRUE(player.NavigateDisc(DiscKey::Activate));
+    ASSERT_TRUE(RunUntilIn(2));
+    EXPECT_FALSE(player.NavigateDisc(DiscKey::Right));
+    player.SetTitle(1);
     ASSERT_TRUE(RunUntilIn(1));
     EXPECT_EQ(player.Chapters().captions.size(), 3U);
     player.SetTitle(2);
