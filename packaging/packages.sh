@@ -10,7 +10,7 @@ vlc-plugin-video-output its picture outputs
 ffmpeg                  reads what is inside a file, makes thumbnails, the demo clip and the JPG pictures
 mpgtx                   reads MPEG program streams
 libsystemd0             speaks to the login manager; Qt brings it anyway
-libdvdread8             finds the video folder of a disc that is not mounted; the engine's disc reader brings it anyway
+libdvdread8             finds the video folder of a disc that is not mounted; the disc reader of the engine brings it anyway
 fonts-inter             the typeface of the windows
 '
 packages_build='
