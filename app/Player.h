@@ -142,6 +142,11 @@ public:
     void DoAfterFinishPlay();
     void cmdMuteClick();
     void cmdFulScreenClick();
+    /// Asks for a file of subtitles and shows it with the video.
+    void LoadSubtitleFile();
+    /// By what the window shows.
+    void ToggleFullScreen();
+    void LeaveFullScreen();
     /// Shows or hides the list.
     void cmdPlayListClick();
     void cmdNextClick();
@@ -181,6 +186,8 @@ public:
     ClassicTree& ClassicMenus() { return m_classic; }
     Playlist& Entries() { return m_playlist; }
     EngineHost& Host() { return m_host; }
+    /// Null while nothing is loaded.
+    Engine* LoadedEngine() const;
     const InspectionState& Inspected() const { return m_inspected; }
     bool MediaControlsEnabled() const { return m_mediaControlsEnabled; }
     SeekBar& Seeking() { return m_seekBar; }
@@ -262,7 +269,6 @@ private:
     void StepTo(std::optional<int> index);
     void PlaySelected();
     void ItemEnded(bool failed);
-    Engine* LoadedEngine() const;
     void ApplyRate(const RateChange& change);
     void SetEngineRate(std::optional<double> rate);
     void ShowRateLabel(bool isLoading);

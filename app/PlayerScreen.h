@@ -29,6 +29,7 @@ public:
     virtual void SetWindowPosition(int left, int top) = 0; ///< twips
     virtual void SetTopmost(bool topmost) = 0;
     virtual void SetFullScreen(bool fullScreen) = 0;
+    virtual bool IsFullScreen() const = 0;
     /// The whole text; the window shortens it to its width.
     virtual void ShowCaption(const std::string& text) = 0;
     virtual void FlashCaption() = 0;
@@ -66,6 +67,9 @@ public:
     virtual void SetTrayShown(bool shown) = 0;
     /// Pops a menu of the classic tree up, by its control's name, near what it belongs to.
     virtual void PopupMenu(const std::string& menu) = 0;
+
+    /// Asks for one file of subtitles; empty on cancel.
+    virtual std::string AskForSubtitles() = 0;
 
     /// Lets waiting window messages be handled that many times.
     virtual void PumpMessages(int times) = 0;

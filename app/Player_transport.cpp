@@ -146,6 +146,28 @@ void Player::cmdFulScreenClick()
     m_host.SetFullScreen(true);
 }
 
+void Player::LoadSubtitleFile()
+{
+    const auto path = m_world.screen.AskForSubtitles();
+    // The item can have ended under the dialog.
+    auto* const engine = LoadedEngine();
+    if (path.empty() || engine == nullptr)
+        return;
+    if (!engine->AddSubtitleFile(path))
+        m_world.screen.ShowNote("The subtitles cannot be opened");
+}
+
+void Player::ToggleFullScreen()
+{
+    m_host.SetFullScreen(!m_world.screen.IsFullScreen());
+}
+
+void Player::LeaveFullScreen()
+{
+    if (m_world.screen.IsFullScreen())
+        m_host.SetFullScreen(false);
+}
+
 void Player::EnableMediaControls(bool enabled)
 {
     m_mediaControlsEnabled = enabled;

@@ -1,7 +1,7 @@
 #include "app/frmMain.h"
 
 #include "app/Player.h"
-#include "app/PlayerMenus.h"
+#include "app/VideoMenu.h"
 #include "platform/Folders.h"
 #include "platform/QuitRequest.h"
 #include "platform/Window.h"
@@ -63,26 +63,6 @@ Qt::CursorShape CursorFor(const WindowLayout::Edges& edges)
     if (edges.left || edges.right)
         return Qt::SizeHorCursor;
     return edges.Any() ? Qt::SizeVerCursor : Qt::ArrowCursor;
-}
-
-/// Nothing for a key that means nothing to the menu of a disc.
-std::optional<DiscKey> DiscKeyOf(int key)
-{
-    switch (key) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        return DiscKey::Activate;
-    case Qt::Key_Up:
-        return DiscKey::Up;
-    case Qt::Key_Down:
-        return DiscKey::Down;
-    case Qt::Key_Left:
-        return DiscKey::Left;
-    case Qt::Key_Right:
-        return DiscKey::Right;
-    default:
-        return std::nullopt;
-    }
 }
 
 } // namespace
@@ -165,6 +145,8 @@ void frmMain::ShowWindow()
         setGeometry(place);
     }
     KeepNormalGeometry();
+    // Else the first part that takes keys would have them.
+    setFocus();
     // Not earlier: a messenger that waits for its player ends at once. Not later: the first file can take long.
     platform::OnQuitRequest([this] { close(); });
     show();
@@ -258,6 +240,12 @@ std::vector<std::string> frmMain::AskForFiles(const std::string& title, const st
     for (const auto& name : QFileDialog::getOpenFileNames(this, ToQString(title), {}, filters.join(";;")))
         paths.push_back(ToPath(name));
     return OpenFileResults(paths, platform::PathSeparator());
+}
+
+std::string frmMain::AskForSubtitles()
+{
+    const QString filter = "Subtitles (*.srt *.sub *.ass *.ssa *.vtt *.idx *.smi *.txt *.mpl);;All files (*)";
+    return ToPath(QFileDialog::getOpenFileName(this, "Open Subtitles", {}, filter));
 }
 
 void frmMain::PumpMessages(int times)
@@ -408,6 +396,10 @@ void frmMain::changeEvent(QEvent* event)
 
 bool frmMain::event(QEvent* event)
 {
+    if (event->type() == QEvent::ShortcutOverride && FocusUsesKey(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
     if (event->type() == QEvent::ToolTip) {
         const auto* const help = static_cast<QHelpEvent*>(event);
         const bool isOnCaption = Layout().Caption().Contains(help->pos().x(), help->pos().y());
@@ -420,13 +412,15 @@ bool frmMain::event(QEvent* event)
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched != m_video)
+        return event->type() == QEvent::KeyPress && MoveSelection(*static_cast<QKeyEvent*>(event));
     switch (event->type()) {
     case QEvent::MouseButtonDblClick:
         if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
             m_player->Host().SetFullScreen(!m_fullScreen);
         return true;
     case QEvent::ContextMenu:
-        ShowPlayMenu(*this, *m_player, static_cast<QContextMenuEvent*>(event)->globalPos());
+        ShowVideoMenu(*this, *m_player, static_cast<QContextMenuEvent*>(event)->globalPos());
         return true;
     case QEvent::Enter:
         unsetCursor();
@@ -441,14 +435,6 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event)
         break;
     }
     return QWidget::eventFilter(watched, event);
-}
-
-void frmMain::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape && m_fullScreen)
-        m_player->Host().SetFullScreen(false);
-    else if (const auto key = DiscKeyOf(event->key()); !key || !m_player->NavigateDisc(*key))
-        QWidget::keyPressEvent(event);
 }
 
 void frmMain::closeEvent(QCloseEvent* event)

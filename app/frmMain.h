@@ -22,6 +22,7 @@ namespace zentaro {
 class FancyList;
 class Player;
 class SeekTrack;
+class MenuStrip;
 class SkinButton;
 class VideoFrame;
 class VolumeKnob;
@@ -54,6 +55,7 @@ public:
     void SetWindowPosition(int left, int top) override;
     void SetTopmost(bool topmost) override;
     void SetFullScreen(bool fullScreen) override;
+    bool IsFullScreen() const override { return m_fullScreen; }
     void ShowCaption(const std::string& text) override;
     void FlashCaption() override;
     void SetPlaylistPosition(PlaylistDock position) override;
@@ -73,6 +75,7 @@ public:
     void ShowHelp() override;
     void SetTrayShown(bool shown) override;
     void PopupMenu(const std::string& menu) override;
+    std::string AskForSubtitles() override;
     void PumpMessages(int times) override;
     void PumpFor(std::chrono::milliseconds time) override;
     void PumpUntil(const std::function<bool()>& done) override;
@@ -88,7 +91,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -103,6 +105,12 @@ private:
     void MakeSliders();
     void MakeTimers();
     void MakeList();
+    /// The menu strip and the keys of the commands and of PlayerKeys.
+    void MakeMenus();
+    /// Whether what has the focus uses the key itself.
+    bool FocusUsesKey(const QKeyEvent& event) const;
+    /// The list has no keys of its own: the window moves its selection. False for other keys.
+    bool MoveSelection(const QKeyEvent& event);
     /// Made on first use.
     frmMenu& ClassicMenus();
     void ToggleMaximized();
@@ -127,6 +135,7 @@ private:
     QLabel* m_volumeNumber;
     SeekTrack* m_seek = nullptr;
     VolumeKnob* m_volume = nullptr;
+    MenuStrip* m_strip = nullptr;
     frmMenu* m_menus = nullptr;
     QPointer<QSystemTrayIcon> m_tray;
     QTimer m_tmrMovie;

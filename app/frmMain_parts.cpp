@@ -1,11 +1,11 @@
 #include "app/frmMain.h"
 
 #include "app/Player.h"
-#include "app/PlayerMenus.h"
 #include "app/frmMenu.h"
 #include "playback/TimeText.h"
 #include "playback/VideoFrame.h"
 #include "playlist/FancyList.h"
+#include "shell/MenuStrip.h"
 #include "shell/QtGeometry.h"
 #include "shell/QtText.h"
 #include "shell/SeekTrack.h"
@@ -56,7 +56,7 @@ void frmMain::Serve(Player& player)
     MakeButton(Button::SoundOn, "Mute", "", &Player::cmdMuteClick);
     auto* const open = m_buttons[Button::Open] = new SkinButton("Open Media File", "Ctrl+O", this);
     connect(open, &SkinButton::clicked, this, [this] { m_player->OpenFiles(false); });
-    AddShortcuts(*this, *m_player);
+    MakeMenus();
     StateChanged();
     PlaceChildren();
 }
@@ -120,6 +120,7 @@ void frmMain::MakeList()
     state.SetItemHeight(80);
     m_list = new FancyList(state, m_content);
     m_list->setObjectName("FancyList1");
+    m_list->installEventFilter(this);
     m_list->setMinimumSize(kPaneMinimum, kPaneMinimum);
     m_video->setMinimumSize(kPaneMinimum, kPaneMinimum);
     connect(m_list, &FancyList::Click, this, [this] { m_player->ListClicked(); });
@@ -234,6 +235,8 @@ void frmMain::PlaceChildren()
     m_video->setVisible(m_dock != PlaylistDock::Whole);
     const auto layout = Layout();
     m_content->setGeometry(ToQt(layout.Content()));
+    if (m_strip != nullptr)
+        m_strip->setGeometry(ToQt(layout.MenuStrip()));
     m_time->setGeometry(ToQt(layout.TimeLabel()));
     m_rate->setGeometry(ToQt(layout.RateLabel()));
     m_note->setGeometry(ToQt(layout.NoteLabel()));

@@ -22,6 +22,7 @@ public:
     void SetWindowPosition(int, int) override { }
     void SetTopmost(bool) override { }
     void SetFullScreen(bool) override { }
+    bool IsFullScreen() const override { return false; }
     void ShowCaption(const std::string&) override { }
     void FlashCaption() override { }
     void SetPlaylistPosition(PlaylistDock) override { }
@@ -41,6 +42,7 @@ public:
     void ShowHelp() override { }
     void SetTrayShown(bool) override { }
     void PopupMenu(const std::string&) override { }
+    std::string AskForSubtitles() override { return {}; }
     void PumpMessages(int times) override
     {
         for (int i = 0; pump && i < times; ++i)
