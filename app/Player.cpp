@@ -30,6 +30,8 @@ Player::Player(PlayerWorld world)
     , m_adding(m_playlist, m_addingHost, m_world.inspections)
 {
     m_host.onFullScreen = [this](bool fullScreen) { m_world.screen.SetFullScreen(fullScreen); };
+    if (const auto& types = m_world.associations; types.shell)
+        m_modAssoc.emplace(m_world.store, *types.shell, types.programPath, types.programFolder, m_world.separator);
 }
 
 Player::~Player() = default;

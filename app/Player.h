@@ -3,6 +3,8 @@
 #include "app/History.h"
 #include "app/PlayerScreen.h"
 #include "app/StartUp.h"
+#include "assoc/ModAssoc.h"
+#include "assoc/ModIcons.h"
 #include "base/PlayerSettings.h"
 #include "inspect/Inspection.h"
 #include "platform/Drives.h"
@@ -23,6 +25,7 @@
 #include "playlist/Playlist.h"
 #include "shell/ClassicTree.h"
 #include "shell/CommandTree.h"
+#include "shell/SettingsPages.h"
 
 #include <cstdint>
 #include <functional>
@@ -40,6 +43,22 @@ struct HandOverService {
     std::function<std::unique_ptr<platform::HandOverLock>()> lock;
 };
 
+/// Where types of files are given to this program.
+struct AssociationService {
+    platform::AssociationShell* shell = nullptr; ///< without one, types are left alone
+    std::string programPath;                     ///< as of platform::ShortProgramPath()
+    std::string programFolder;                   ///< with a trailing separator
+    ModIcons::Loaders icons;
+    /// Runs the work once a start has done all that the user waits for.
+    std::function<void(std::function<void()>)> later;
+};
+
+/// A row of the options list.
+struct AssociationChoice {
+    std::string listText;
+    Picture icon; ///< of the program that opens the type now
+};
+
 /// What a player needs from the world.
 struct PlayerWorld {
     PlayerScreen& screen;
@@ -53,6 +72,7 @@ struct PlayerWorld {
     std::function<void()> endProcess;
     std::string settingsFolder; ///< with a trailing separator
     char separator = '/';
+    AssociationService associations = {};
     /// The answer comes back through Player::DrivesFound, soon or after many seconds.
     std::function<void()> askForDrives = [] {};
     /// What the list shows for a disc.
@@ -79,6 +99,10 @@ public:
     Result<void> WriteConfigurations();
     void SaveVLCOptions();
     void SetLoadedOptions();
+    /// Takes and releases types of files as the settings say; for start-up and when options have been chosen.
+    void ApplyAssociations();
+    /// The 24 rows, by index of the flags in the settings.
+    std::vector<AssociationChoice> AssociationChoices();
 
     /// Does what the command of this key is for. A key that no item has, and an item that is disabled or hidden, do
     /// nothing.
@@ -89,6 +113,8 @@ public:
     void AddVideoFile();
     /// Shows the options while the window is not held on top.
     void ShowOptions();
+    /// Takes over what the options dialog holds, while it is open.
+    void CommitOptions(const SettingsPages& pages);
     void ShowAbout();
     void ShowHelp() { m_world.screen.ShowHelp(); }
     void Exit() { m_world.screen.CloseWindow(); }
@@ -142,6 +168,9 @@ public:
     void DoAfterFinishPlay();
     void cmdMuteClick();
     void cmdFulScreenClick();
+    /// Saves the present picture of the video in the item's snapshot folder and says so. Nothing without a video.
+    void TakeSnapshot();
+    bool CanTakeSnapshot() const { return m_mediaControlsEnabled && m_hasVideoOutput; }
     /// Asks for a file of subtitles and shows it with the video.
     void LoadSubtitleFile();
     /// By what the window shows.
@@ -272,6 +301,7 @@ private:
     void ApplyRate(const RateChange& change);
     void SetEngineRate(std::optional<double> rate);
     void ShowRateLabel(bool isLoading);
+    void NoteVideoOutput(bool hasVideoOutput);
     bool IsRoundOfFailures() const;
     bool IsDiscLoaded() const;
     static bool IsDiscLocation(const std::string& path);
@@ -286,10 +316,13 @@ private:
     void EnableMediaControls(bool enabled);
     void ShowCaption();
     PlaylistDock StoredDock() const;
+    void ApplyAssociationsLater();
     std::string ConfigPath() const;
 
     PlayerWorld m_world;
     PlayerSettings m_settings;
+    std::optional<ModAssoc> m_modAssoc;
+    bool m_associationsPending = false;
     EngineOptions m_options;
     CommandTree m_commands;
     ClassicTree m_classic;
@@ -317,6 +350,7 @@ private:
     bool m_starting = false;
     bool m_replaceOnOpen = true;
     bool m_mediaControlsEnabled = false;
+    bool m_hasVideoOutput = false;
     bool m_ended = false;
     bool m_selectsFirstAdded = false; // files of "AddVideoFile" are on their way
     int m_failuresInRow = 0;          // items that ended without having played

@@ -115,6 +115,17 @@ void Player::ShowOptions()
     m_world.screen.SetTopmost(m_settings.AlwaysOnTop != 0);
 }
 
+void Player::CommitOptions(const SettingsPages& pages)
+{
+    m_settings = WithPages(m_settings, pages);
+    IgnoreFailure(WriteConfigurations());
+    SaveVLCOptions();
+    SetLoadedOptions();
+    ApplyAssociations();
+    // The dialog is still open and lies above the window.
+    m_world.screen.SetTopmost(false);
+}
+
 void Player::ShowAbout()
 {
     m_world.screen.SetTopmost(false);

@@ -42,6 +42,7 @@ bool Player::Load(const std::string& commandLine)
     m_world.screen.ShowWindow();
     if (opening)
         WaitForFile(*opening);
+    ApplyAssociationsLater();
     m_starting = false;
     return true;
 }
@@ -112,6 +113,8 @@ void Player::Unload()
     if (std::exchange(m_ended, true))
         return;
     m_adding.Close();
+    if (m_associationsPending)
+        ApplyAssociations();
     IgnoreFailure(WriteConfigurations());
     m_host.RemoveVLCPlayer();
     m_world.screen.SetTrayShown(false);
@@ -177,6 +180,38 @@ void Player::SetLoadedOptions()
         ShowCaption();
     if (m_world.screen.IsPlaylistVisible())
         m_world.screen.SetPlaylistPosition(StoredDock());
+}
+
+void Player::ApplyAssociationsLater()
+{
+    if (!m_modAssoc || !m_world.associations.later)
+        return;
+    m_associationsPending = true;
+    m_world.associations.later([this] {
+        if (m_associationsPending)
+            ApplyAssociations();
+    });
+}
+
+void Player::ApplyAssociations()
+{
+    m_associationsPending = false;
+    if (m_modAssoc)
+        m_modAssoc->ApplyAssociations(m_settings.Associations);
+}
+
+std::vector<AssociationChoice> Player::AssociationChoices()
+{
+    const auto& service = m_world.associations;
+    if (m_modAssoc)
+        m_modAssoc->AdoptLiveOwners();
+    const ModIcons icons(m_world.store, service.icons, service.programFolder, m_world.separator);
+    std::vector<AssociationChoice> choices;
+    for (int i = 0; i < kAssociationCount; ++i) {
+        const auto row = AssociationRowAt(i, m_world.separator);
+        choices.push_back({ row.listText, service.icons.loadPicture ? icons.OwnerIcon(row.extension) : Picture() });
+    }
+    return choices;
 }
 
 PlaylistDock Player::StoredDock() const

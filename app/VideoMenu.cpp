@@ -43,10 +43,15 @@ void ShowVideoMenu(QWidget& window, Player& player, const QPoint& at)
     if (!choices.subtitles.empty())
         subtitles->addSeparator();
     add(subtitles, "&Load File...", choices.hasVideo, &Player::LoadSubtitleFile);
+    if (choices.titles.size() > 1)
+        AddChoices(*menu, "&Title", choices.titles);
+    if (choices.chapters.size() > 1)
+        AddChoices(*menu, "&Chapter", choices.chapters);
     menu->addSeparator();
     AddChoices(*menu, "As&pect Ratio", choices.aspectRatios);
     AddChoices(*menu, "&Deinterlace", choices.deinterlacing);
     menu->addSeparator();
+    add(menu, "S&napshot", player.CanTakeSnapshot(), &Player::TakeSnapshot);
     const bool isFullScreen = window.isFullScreen();
     add(menu, isFullScreen ? "Leave &Full Screen\tF" : "&Full Screen\tF", true, &Player::ToggleFullScreen);
     AddChoices(*menu, "Play&list", choices.docking);

@@ -20,6 +20,8 @@ class QSystemTrayIcon;
 namespace zentaro {
 
 class FancyList;
+class FullScreenBar;
+class NoteBox;
 class Player;
 class SeekTrack;
 class MenuStrip;
@@ -38,6 +40,7 @@ public:
     explicit frmMain(const QString& programFolder);
 
     VideoFrame& Video() { return *m_video; }
+    Skin& Pictures() { return m_skin; }
     /// The dialogs are made by whoever made the window.
     std::function<void()> onShowOptions;
     std::function<void()> onShowAbout;
@@ -69,6 +72,7 @@ public:
     void FocusVideo() override;
     void ShowNotice(const Notice& notice) override;
     void ShowNote(const std::string& text) override;
+    void ShowPictureNote(const std::string& text, const std::string& file) override;
     std::vector<std::string> AskForFiles(const std::string& title, const std::string& filter) override;
     void ShowOptions() override;
     void ShowAbout() override;
@@ -91,6 +95,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -100,11 +105,15 @@ private:
     /// Buttons that have nothing to do yet show as disabled.
     SkinButtons ButtonStates() const;
     void MakeButton(Button button, const QString& name, const QString& shortcut, void (Player::*command)());
-    void MakeTitleButton(Button button, const QString& name, void (frmMain::*command)());
+    void MakeTitleButton(Button button, const QString& name, const QString& shortcut, void (frmMain::*command)());
     void MakeHeldButton(Button button, const QString& name, void (Player::*press)(), void (Player::*release)());
     void MakeSliders();
     void MakeTimers();
     void MakeList();
+    /// The bar of full screen and the note, which lie over the video.
+    void MakeCovers();
+    /// In the order of their places.
+    void OrderFocus();
     /// The menu strip and the keys of the commands and of PlayerKeys.
     void MakeMenus();
     /// Whether what has the focus uses the key itself.
@@ -115,6 +124,14 @@ private:
     frmMenu& ClassicMenus();
     void ToggleMaximized();
     void PlaceChildren();
+    void PlaceControls();
+    void TurnVolume(int eighths);
+    /// The video, else the list in its place.
+    QRect NoteArea() const;
+    /// All of the screen that shows most of the window.
+    QRect FullScreenArea() const;
+    /// What is to be done however full screen was left.
+    void FullScreenLeft();
     /// Notes the geometry unless the window is maximised, minimised or full screen.
     void KeepNormalGeometry();
     /// Later: the window system tells a new size before it tells the state that it belongs to.
@@ -131,17 +148,17 @@ private:
     FancyList* m_list = nullptr; // FancyList1
     QLabel* m_time;
     QLabel* m_rate;
-    QLabel* m_note;
     QLabel* m_volumeNumber;
     SeekTrack* m_seek = nullptr;
     VolumeKnob* m_volume = nullptr;
+    FullScreenBar* m_bar = nullptr;
+    NoteBox* m_note = nullptr;
     MenuStrip* m_strip = nullptr;
     frmMenu* m_menus = nullptr;
     QPointer<QSystemTrayIcon> m_tray;
     QTimer m_tmrMovie;
     QTimer m_tmrRewind;
     QTimer m_tmrCheckDVD;
-    QTimer m_noteEnd;
     QTimer m_progressDelay;
     QTimer m_geometrySettled;
     AddProgress m_progress;

@@ -1,15 +1,20 @@
+#include "app/Dialogs.h"
 #include "app/DriveQueries.h"
 #include "app/InspectionThreads.h"
 #include "app/Player.h"
 #include "app/frmMain.h"
+#include "assoc/IconPicture.h"
 #include "base/Paths.h"
 #include "inspect/ConsoleToolRunner.h"
 #include "inspect/DiskFiles.h"
 #include "inspect/QtServices.h"
+#include "platform/AssociationShell.h"
+#include "platform/FileIcon.h"
 #include "platform/Folders.h"
 #include "platform/Power.h"
 #include "platform/Process.h"
 #include "platform/TextFile.h"
+#include "platform/Window.h"
 #include "playback/VideoFrame.h"
 #include "playback/VlcEngine.h"
 #include "shell/Caption.h"
@@ -17,6 +22,7 @@
 #include "shell/Style.h"
 
 #include <QApplication>
+#include <QTimer>
 
 #include <chrono>
 #include <optional>
@@ -79,11 +85,11 @@ std::string MakeFolderOfThisRun()
     return folder.empty() ? folder : WithTrailingSeparator(std::move(folder), platform::PathSeparator());
 }
 
-/// The engine draws into X windows only, so a Wayland session with an X server beside it is used through that server.
-void PreferX11()
+void ChooseWindowSystem()
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "xcb");
+    const auto* const chosen = platform::WindowSystem();
+    if (*chosen != '\0' && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", chosen);
 }
 
 } // namespace
@@ -91,7 +97,7 @@ void PreferX11()
 int main(int argc, char** argv)
 {
     const auto commandLine = platform::CommandLineText({ argv + 1, argv + argc });
-    PreferX11();
+    ChooseWindowSystem();
     // Qt takes words of its own from the command line; all of ours belong to the file.
     int ownArgument = 1;
     QApplication application(ownArgument, argv);
@@ -123,13 +129,20 @@ int main(int argc, char** argv)
         platform::RemoveFolder(workingFolder);
         platform::EndProcess();
     };
+    const auto programPath = platform::ShortProgramPath();
+    const auto shell = platform::AssociationShell::Open(programPath, programFolder);
+    constexpr int iconSide = 64; // px: sharp in a list of a scaled display, too
+    const AssociationService associations{ shell.get(), programPath, programFolder,
+        { &platform::ExtractIcon, [](const std::string& file) { return LoadIconPicture(file, iconSide); } },
+        [&](std::function<void()> work) { QTimer::singleShot(std::chrono::seconds(2), &window, std::move(work)); } };
     Player player({ window, engines, inspections, *store, *power, RealHandOver(), RealRandom(), &platform::PathExists,
-        endProcess, settingsFolder, separator, [&] { drives.Ask(); },
+        endProcess, settingsFolder, separator, associations, [&] { drives.Ask(); },
         [&] { return DecodePictureFile(programFolder + "DVD.jpg"); } });
     drives.onFound = [&](auto found) { player.DrivesFound(std::move(found)); };
     inspections.onCompleted = [&](int ticket, Inspection result) {
         player.InspectionCompleted(ticket, std::move(result));
     };
+    Dialogs dialogs(window, player, programFolder);
     window.Serve(player);
     if (!player.Load(commandLine))
         endProcess();

@@ -30,6 +30,7 @@ public:
     std::vector<DiscPart> Chapters() override { return {}; }
     int Chapter() override { return -1; }
     void SetChapter(int) override { }
+    bool TakeSnapshot(const std::string&) override { return false; }
     void Add(const MediaLocation&, const EngineOptions&) override { }
     void Play() override { }
     void TogglePause() override { }

@@ -12,6 +12,7 @@ mpgtx                   reads MPEG program streams
 libsystemd0             speaks to the login manager; Qt brings it anyway
 libdvdread8             finds the video folder of a disc that is not mounted; the disc reader of the engine brings it anyway
 fonts-inter             the typeface of the windows
+xdg-utils               opens the help and web pages in the browser
 '
 packages_build='
 g++                     the compiler
@@ -26,6 +27,8 @@ libsystemd-dev          sd-bus: restart and power off, drives
 libdvdread-dev          reads the folders of a disc
 nlohmann-json3-dev      prints what zentaro-inspect knows as JSON
 librsvg2-bin            draws the SVG sources of all pictures
+icoutils                packs the icons of Windows
+fonts-inter             the letters on the icons
 '
 packages_screenless='
 xvfb                    a display in memory
@@ -45,6 +48,7 @@ clang                   builds the fuzz targets
 libclang-rt-dev         libFuzzer and the sanitizers of clang
 g++-mingw-w64-x86-64-posix  builds for Windows
 binutils-mingw-w64-x86-64   its linker and resource compiler
+fp-utils                chmcmd, which compiles the help for Windows
 wine                    runs the Windows tests
 wine64                  its 64-bit half
 '

@@ -80,6 +80,11 @@ public:
     virtual void SetRate(double rate) = 0;
     virtual bool HasVideoOutput() = 0;
 
+    // video
+    /// Writes the present picture, in the video's own size, to a new PNG file of that full path. False when there is no
+    /// picture; a file that cannot be written is only missing afterwards.
+    virtual bool TakeSnapshot(const std::string& file) = 0;
+
     // discs; chapters also of files
     virtual void Navigate(DiscKey key) = 0;
     virtual std::vector<DiscPart> Titles() = 0;

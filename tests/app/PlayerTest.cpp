@@ -40,6 +40,7 @@ public:
     void FocusVideo() override { }
     void ShowNotice(const Notice& notice) override { boxes.push_back(notice.title + ": " + notice.text); }
     void ShowNote(const std::string& text) override { note = text; }
+    void ShowPictureNote(const std::string& text, const std::string& file) override { note = text + "|" + file; }
     std::vector<std::string> AskForFiles(const std::string&, const std::string&) override { return chosen; }
     void ShowOptions() override { log << "options " << isTopmost << " "; }
     void ShowAbout() override { log << "about " << isTopmost << " "; }
@@ -94,6 +95,7 @@ struct EngineTrace {
     int state = Engine::kPlaying;
     double time = 0;
     double length = 0;
+    bool hasVideo = true;
 };
 
 class FakeEngine : public Engine {
@@ -113,7 +115,12 @@ public:
     int State() override { return m_trace.state; }
     double Rate() override { return 1; }
     void SetRate(double rate) override { m_trace.rateSet = rate; }
-    bool HasVideoOutput() override { return true; }
+    bool HasVideoOutput() override { return m_trace.hasVideo; }
+    bool TakeSnapshot(const std::string& file) override
+    {
+        std::ofstream(file) << "picture";
+        return true;
+    }
     void Add(const MediaLocation& location, const EngineOptions& options) override
     {
         m_trace.played.push_back(location.isLocation ? "<" + location.text + ">" : location.text);
@@ -238,7 +245,7 @@ protected:
         screen.pump = [this] { return inspections.AnswerOne(*player); };
         player = std::make_unique<Player>(PlayerWorld{ screen, engines, inspections, store, power, handOver,
             [] { return 0.0; }, [](const std::string& path) { return path != "/clips/missing.avi"; },
-            [this] { ended = true; }, folder.string() + "/", '/', [this] { ++driveQuestions; } });
+            [this] { ended = true; }, folder.string() + "/", '/', {}, [this] { ++driveQuestions; } });
         isPlayer = player->Load(commandLine);
         return *player;
     }
@@ -862,4 +869,35 @@ TEST_F(PlayerTest, classic_menus_do_the_same_and_take_the_states_when_they_open)
     while (inspections.AnswerOne(loaded))
         ;
     EXPECT_EQ(LastPlayed(), "/clips/new.avi");
+}
+
+TEST_F(PlayerTest, a_snapshot_takes_the_next_free_name_in_the_folder_of_its_file)
+{
+    auto settings = DefaultSettings("/", {});
+    settings.SnapshotPath = (folder / "new" / "shots").string();
+    settings.SnapshotPrefix = "up/IMG_";
+    WriteConfig(FormatConfigurations(settings));
+    Start().LoadThumb("", "/clips/a.avi", false, true);
+    engines.trace.hasVideo = false;
+    player->OnPositionTick();
+    player->TakeSnapshot();
+    EXPECT_EQ(screen.note, "");
+
+    engines.trace.hasVideo = true;
+    player->OnPositionTick();
+    const auto images = folder / "new" / "shots" / "a.avi Images";
+    player->TakeSnapshot();
+    EXPECT_EQ(screen.note, "Saved up_IMG_00001.png|" + (images / "up_IMG_00001.png").string());
+    player->TakeSnapshot();
+    player->TakeSnapshot();
+    fs::remove(images / "up_IMG_00002.png");
+    player->TakeSnapshot();
+    EXPECT_TRUE(screen.note.starts_with("Saved up_IMG_00002.png|"));
+
+    fs::remove_all(images);
+    std::ofstream(images) << "in the way";
+    player->TakeSnapshot();
+    EXPECT_EQ(screen.note, "No snapshot could be saved in " + images.string());
+    player->cmdStopClick();
+    EXPECT_FALSE(player->CanTakeSnapshot());
 }

@@ -43,6 +43,7 @@ public:
     std::vector<DiscPart> Chapters() override { return m_engine->Chapters(); }
     int Chapter() override { return m_engine->Chapter(); }
     void SetChapter(int index) override { m_engine->SetChapter(index); }
+    bool TakeSnapshot(const std::string& file) override { return m_engine->TakeSnapshot(file); }
     void Add(const MediaLocation& location, const EngineOptions& options) override
     {
         m_watch.played.push_back(location.text);

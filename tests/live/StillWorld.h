@@ -36,6 +36,7 @@ public:
     void FocusVideo() override { }
     void ShowNotice(const Notice&) override { ++boxes; }
     void ShowNote(const std::string&) override { ++notes; }
+    void ShowPictureNote(const std::string&, const std::string&) override { ++notes; }
     std::vector<std::string> AskForFiles(const std::string&, const std::string&) override { return chosen; }
     void ShowOptions() override { }
     void ShowAbout() override { }
@@ -123,7 +124,7 @@ public:
     StillWorld(EngineFactory& engines, const std::string& folder, RandomSource random, PlayerScreen* shown = nullptr)
         : player(
             { shown != nullptr ? *shown : screen, engines, inspections, store, power, NobodyElse(), std::move(random),
-                [](const std::string&) { return true; }, [] {}, folder, '/', [this] { askForDrives(); } })
+                [](const std::string&) { return true; }, [] {}, folder, '/', {}, [this] { askForDrives(); } })
     {
         inspections.player = &player;
     }
