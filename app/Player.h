@@ -344,6 +344,7 @@ private:
     DriveEnumerator m_drives{ m_discEntries };
     DiscWatcher m_discWatcher;
     std::string m_currentDiscRoot;
+    std::string m_discName; // for the folder of its snapshots
     bool m_dvdMode = false; // the engine was given a disc that the drive list names
     bool m_isStartingDisc = false;
     int m_discStarts = 0;

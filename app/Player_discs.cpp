@@ -70,9 +70,11 @@ void Player::dvdsList_Click(int index)
 
 void Player::PlayDisc(int index)
 {
+    // Copies: what is stopped here can pump messages, and the list change.
     const auto drive = m_drives.Drives()[static_cast<std::size_t>(index)];
     const auto caption = m_drives.Labels()[static_cast<std::size_t>(index)];
-    const auto location = kDiscScheme + m_currentDiscRoot;
+    const auto root = m_currentDiscRoot;
+    const auto location = kDiscScheme + root;
     m_discWatcher.DiscStarted(drive);
     m_adding.Cancel();
     cmdStopClick();
@@ -85,8 +87,9 @@ void Player::PlayDisc(int index)
         m_playlist.List().SetSelectedItem(0);
     m_playlist.BuildSequentialOrder();
     ShowCaption();
-    m_currentItemPath = WithTrailingSeparator(m_currentDiscRoot, m_world.separator);
-    m_options = WithSnapshotFolder(m_options, m_settings.SnapshotPath, m_currentItemPath, m_world.separator);
+    m_currentItemPath = WithTrailingSeparator(root, m_world.separator);
+    m_discName = drive.label.value_or("").empty() ? "DVD" : *drive.label;
+    m_options = WithSnapshotFolder(m_options, m_settings.SnapshotPath, m_discName, m_world.separator);
     auto* const engine = m_host.VLCPlayer();
     if (engine != nullptr)
         engine->Add({ location, true }, m_options);

@@ -161,8 +161,8 @@ void Player::TakeSnapshot()
     // The path of the defaults names a place of another system; there, and for no path at all, the pictures go to
     // where users look for pictures.
     const auto& chosen = m_settings.SnapshotPath;
-    const auto folder = SnapshotFolder(
-        platform::IsAbsolutePath(chosen) ? chosen : platform::PicturesFolder(), m_currentItemPath, m_world.separator);
+    const auto folder = SnapshotFolder(platform::IsAbsolutePath(chosen) ? chosen : platform::PicturesFolder(),
+        IsDiscLoaded() ? m_discName : m_currentItemPath, m_world.separator);
     const auto pathOf = [&](const std::string& name) {
         return WithTrailingSeparator(folder, m_world.separator) + name;
     };

@@ -78,12 +78,6 @@ std::string DriveEnumerator::RootAt(int index) const
     return index >= 0 && at < m_roots.size() ? m_roots[at] : std::string();
 }
 
-std::string DriveEnumerator::VolumeAt(int index) const
-{
-    const auto at = static_cast<std::size_t>(index);
-    return index >= 0 && at < m_drives.size() ? m_drives[at].label.value_or("") : std::string();
-}
-
 bool DriveEnumerator::CanStart(int index) const
 {
     const auto at = static_cast<std::size_t>(index);

@@ -39,8 +39,6 @@ public:
     const std::vector<std::string>& Labels() const { return m_labels; }
     /// The name of the drive; empty when its volume could not be read.
     std::string RootAt(int index) const;
-    /// The volume label alone, empty when there is none.
-    std::string VolumeAt(int index) const;
     /// Whether the entry stands for a drive whose disc can be started.
     bool CanStart(int index) const;
     /// The drive that the entry's label names has a disc with a folder for video. A label with a "(" of its own names a
