@@ -288,7 +288,6 @@ private:
     };
 
     void EntryAdded();
-    void EnableListCommands();
     void PlayHistoryItem(int slot);
     bool BecomePlayer();
     void Publish();
