@@ -109,6 +109,7 @@ void Player::Unload()
         return;
     m_adding.Close();
     IgnoreFailure(WriteConfigurations());
+    m_world.holdOffSleep(false);
     m_host.RemoveVLCPlayer();
     m_ends.reset();
     m_world.endProcess();

@@ -13,6 +13,7 @@ void Player::cmdStopClick()
 {
     if (auto* const engine = m_host.VLCPlayer(); engine != nullptr && engine->ItemCount() > 0)
         engine->Stop();
+    m_world.holdOffSleep(false);
     ReleaseHeldButtons();
     EnableMediaControls(false);
     m_seekBar.SetProgress(0);
@@ -160,6 +161,7 @@ void Player::OnPositionTick()
         reading.hasVideoOutput = reading.state >= Engine::kPlaying && engine->HasVideoOutput();
     }
     const auto tick = ReadPosition(reading, m_mediaControlsEnabled);
+    m_world.holdOffSleep(m_settings.DisableScreenSaver != 0 && HoldsOffSleep(reading));
     if (tick.progress)
         m_seekBar.SetProgress(*tick.progress);
     m_world.screen.ShowPosition(tick, reading.length);

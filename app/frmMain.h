@@ -32,6 +32,9 @@ public:
     /// `programFolder`: with a trailing separator.
     explicit frmMain(const QString& programFolder);
 
+    /// Called whenever the window has been told of a new state or position.
+    std::function<void()> onStateShown = [] {};
+
     VideoFrame& Video() { return *m_video; }
     /// From now on the window works for this player.
     void Serve(Player& player);

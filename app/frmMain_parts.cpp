@@ -158,6 +158,7 @@ void frmMain::ShowPosition(const PositionTick& tick, double length)
     m_seek->ShowProgress();
     if (tick.showAudioLogo)
         m_video->ShowAudioLogo(*tick.showAudioLogo);
+    onStateShown();
 }
 
 void frmMain::ShowRate(const std::string& text)
@@ -183,6 +184,9 @@ void frmMain::StateChanged()
     m_volumeNumber->setText(QString::number(m_player->Host().Volume()));
     m_volume->update();
     update();
+    // Before the window is there the process may still be a messenger.
+    if (isVisible())
+        onStateShown();
 }
 
 void frmMain::ShowNote(const std::string& text)

@@ -1,4 +1,5 @@
 #include "app/InspectionThreads.h"
+#include "app/MediaRemote.h"
 #include "app/Player.h"
 #include "app/frmMain.h"
 #include "base/Paths.h"
@@ -6,8 +7,10 @@
 #include "inspect/DiskFiles.h"
 #include "inspect/QtServices.h"
 #include "platform/Folders.h"
+#include "platform/MediaControl.h"
 #include "platform/Power.h"
 #include "platform/Process.h"
+#include "platform/SleepInhibitor.h"
 #include "platform/TextFile.h"
 #include "playback/VideoFrame.h"
 #include "playback/VlcEngine.h"
@@ -85,6 +88,22 @@ void PreferX11()
         qputenv("QT_QPA_PLATFORM", "xcb");
 }
 
+/// The window and its pictures, for the desktop's media controls.
+MediaRemote::Window RemoteWindow(frmMain& window, const std::string& workingFolder)
+{
+    const auto raise = [&window] {
+        window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+        window.show();
+        window.raise();
+        window.activateWindow();
+    };
+    const auto saveArtwork = [workingFolder](std::uint64_t track, const Picture& picture) {
+        const auto path = workingFolder + "artwork-" + std::to_string(track) + ".png";
+        return !workingFolder.empty() && SavePictureFile(picture, path) ? path : std::string();
+    };
+    return { raise, [&window] { window.close(); }, [&window] { return window.isFullScreen(); }, saveArtwork };
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -105,6 +124,7 @@ int main(int argc, char** argv)
     const auto workingFolder = MakeFolderOfThisRun();
     const auto store = platform::StringStore::Open();
     const auto power = platform::Power::Open();
+    auto sleepInhibitor = platform::SleepInhibitor::Open();
 
     frmMain window(ToQString(programFolder));
     VlcEngines engines(window.Video(), workingFolder.empty() ? std::string() : workingFolder + "engine.log");
@@ -118,13 +138,21 @@ int main(int argc, char** argv)
     const auto endProcess = [&] {
         inspections.CancelAll();
         platform::RemoveFolder(workingFolder);
+        sleepInhibitor.reset();
         platform::EndProcess();
     };
     Player player({ window, engines, inspections, *store, *power, RealHandOver(), RealRandom(), &platform::PathExists,
-        endProcess, settingsFolder, separator });
+        endProcess, settingsFolder, separator, [&](bool held) { sleepInhibitor->Hold(held); } });
     inspections.onCompleted = [&](int ticket, Inspection result) {
         player.InspectionCompleted(ticket, std::move(result));
     };
+    MediaRemote remote(player, RemoteWindow(window, workingFolder));
+    const auto mediaControl = platform::MediaControl::Open([&](platform::MediaCommand command) {
+        QMetaObject::invokeMethod(
+            &application, [&, asked = std::move(command)] { remote.Do(asked); }, Qt::QueuedConnection);
+    });
+    if (mediaControl)
+        window.onStateShown = [&] { mediaControl->Publish(remote.Status()); };
     window.Serve(player);
     if (!player.Load(commandLine))
         endProcess();

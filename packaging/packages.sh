@@ -37,6 +37,8 @@ googletest              their sources, cross-built for Windows
 libxcb-xtest0-dev       the desktop tests press keys and buttons
 libxcb-keysyms1-dev     which key has which code
 dbus                    a session bus of the tests own
+playerctl               a client of the media controls
+systemd                 busctl, another one
 clang                   builds the fuzz targets
 libclang-rt-dev         libFuzzer and the sanitizers of clang
 g++-mingw-w64-x86-64-posix  builds for Windows

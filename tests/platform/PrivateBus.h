@@ -23,9 +23,27 @@ public:
             << "<busconfig><listen>" << Address() << "</listen><auth>EXTERNAL</auth>"
             << "<policy context='default'><allow send_destination='*'/><allow receive_sender='*'/><allow own='*'/>"
             << "</policy></busconfig>";
+        Start();
+    }
+    PrivateBus(const PrivateBus&) = delete;
+    ~PrivateBus() { Stop(); }
+
+    /// Ends the daemon and everybody's connection, and starts one at the same address.
+    void Restart()
+    {
+        Stop();
+        Start();
+    }
+
+    const std::string& Folder() const { return m_folder.Path(); }
+    std::string Address() const { return "unix:path=" + (m_folder / "bus"); }
+
+private:
+    void Start()
+    {
         std::array<int, 2> ready{};
         EXPECT_EQ(pipe2(ready.data(), O_CLOEXEC), 0);
-        const auto argument = "--config-file=" + configuration;
+        const auto argument = "--config-file=" + (m_folder / "bus.conf");
         m_daemon = fork();
         if (m_daemon == 0) {
             prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -40,17 +58,12 @@ public:
         EXPECT_EQ(read(ready[0], &first, 1), 1) << "dbus-daemon did not start";
         close(ready[0]);
     }
-    PrivateBus(const PrivateBus&) = delete;
-    ~PrivateBus()
+    void Stop()
     {
         kill(m_daemon, SIGKILL);
         waitpid(m_daemon, nullptr, 0);
     }
 
-    const std::string& Folder() const { return m_folder.Path(); }
-    std::string Address() const { return "unix:path=" + (m_folder / "bus"); }
-
-private:
     WorkingFolder m_folder;
     pid_t m_daemon = -1;
 };
