@@ -3,7 +3,6 @@
 
 #include <gmock/gmock.h>
 
-#include <cstdio>
 #include <functional>
 #include <sstream>
 
@@ -66,18 +65,6 @@ constexpr const char* kStandard = R"(
 .TrackMetadataChanged signal oa{sv} -
 .TrackRemoved signal o -
 )";
-
-/// What a program of the session prints, and "failed" when it fails.
-std::string OutputOf(const std::string& address, const std::string& command)
-{
-    const auto line = "DBUS_SESSION_BUS_ADDRESS='" + address + "' timeout 20 " + command + " 2>&1 || echo failed";
-    std::string text;
-    auto* const output = popen(line.c_str(), "r");
-    for (int character = std::fgetc(output); character != EOF; character = std::fgetc(output))
-        text += static_cast<char>(character);
-    pclose(output);
-    return text.substr(0, text.find_last_not_of('\n') + 1);
-}
 
 /// Hears the signals of every player on the bus.
 class Listener {
@@ -146,7 +133,7 @@ protected:
             std::vector{ status.track, MediaTrack{ 8, "Two", "/clips/two.mp4" } });
     }
 
-    std::string Call(const std::string& command) { return OutputOf(bus.Address(), command); }
+    std::string Call(const std::string& command) { return bus.OutputOf(command); }
     std::string Busctl(const std::string& command) { return Call("busctl --address=" + bus.Address() + " " + command); }
     void Publish(MprisControl& control)
     {

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <csignal>
+#include <cstdio>
 #include <fcntl.h>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -37,6 +38,18 @@ public:
 
     const std::string& Folder() const { return m_folder.Path(); }
     std::string Address() const { return "unix:path=" + (m_folder / "bus"); }
+
+    /// What a program of this session prints, and "failed" when it fails.
+    std::string OutputOf(const std::string& command) const
+    {
+        const auto line = "DBUS_SESSION_BUS_ADDRESS='" + Address() + "' timeout 20 " + command + " 2>&1 || echo failed";
+        std::string text;
+        auto* const output = popen(line.c_str(), "re");
+        for (int character = std::fgetc(output); character != EOF; character = std::fgetc(output))
+            text += static_cast<char>(character);
+        pclose(output);
+        return text.substr(0, text.find_last_not_of('\n') + 1);
+    }
 
 private:
     void Start()
