@@ -9,7 +9,7 @@ vlc-plugin-base         its readers, decoders and sound outputs
 vlc-plugin-video-output its picture outputs
 ffmpeg                  reads what is inside a file, makes thumbnails, the demo clip and the JPG pictures
 mpgtx                   reads MPEG program streams
-libsystemd0             speaks to the login manager; Qt brings it anyway
+libsystemd0             speaks to the login manager and the session; Qt brings it anyway
 fonts-inter             the typeface of the windows
 '
 packages_build='
@@ -21,8 +21,9 @@ pkg-config              finds the libraries
 qt6-base-dev            the windows
 libvlc-dev              the engine
 libxcb1-dev             window states that Qt has no call for
-libsystemd-dev          sd-bus: restart and power off
+libsystemd-dev          sd-bus: restart, power off, sleep, media keys
 nlohmann-json3-dev      prints what zentaro-inspect knows as JSON
+dpkg-dev                finds what a package depends on
 librsvg2-bin            draws the SVG sources of all pictures
 '
 packages_screenless='
@@ -37,6 +38,10 @@ googletest              their sources, cross-built for Windows
 libxcb-xtest0-dev       the desktop tests press keys and buttons
 libxcb-keysyms1-dev     which key has which code
 dbus                    a session bus of the tests own
+desktop-file-utils      checks the desktop entry
+appstream               checks the metadata of the package
+lintian                 checks the package
+libglib2.0-bin          opens files as a file manager does
 playerctl               a client of the media controls
 systemd                 busctl, another one
 clang                   builds the fuzz targets
