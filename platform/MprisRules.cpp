@@ -25,6 +25,9 @@ bool IsPlainInUri(char character)
 
 std::optional<std::string> WithoutEscapes(std::string_view text)
 {
+    // No path holds a zero byte, escaped or not.
+    if (text.find('\0') != std::string_view::npos)
+        return std::nullopt;
     std::string result;
     for (std::size_t at = 0; at < text.size(); ++at) {
         if (text[at] != '%') {
@@ -34,7 +37,6 @@ std::optional<std::string> WithoutEscapes(std::string_view text)
         unsigned value = 0;
         const auto digits = text.substr(at + 1, 2);
         const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value, 16);
-        // No path holds a zero byte.
         if (digits.size() != 2 || error != std::errc() || end != digits.data() + 2 || value == 0)
             return std::nullopt;
         result += static_cast<char>(value);
