@@ -56,7 +56,9 @@ int AppendMetadata(sd_bus_message* message, const MediaTrack& track, const Media
     if (track.id != 0) {
         AppendEntry(message, "mpris:trackid", "o", MprisTrackPath(track.id).c_str());
         AppendEntry(message, "xesam:title", "s", BusText(track.title).c_str());
-        AppendEntry(message, "xesam:url", "s", FileUri(track.path).c_str());
+        // A disc has a location that nobody else could open.
+        if (track.path.starts_with('/'))
+            AppendEntry(message, "xesam:url", "s", FileUri(track.path).c_str());
         const bool isLoaded = track.id == status.track.id;
         if (isLoaded && status.length > 0)
             AppendEntry(message, "mpris:length", "x", static_cast<std::int64_t>(status.length * kMicroseconds));
