@@ -1,6 +1,5 @@
 #include "platform/MediaControl_linux.h"
 
-#include "base/Paths.h"
 #include "platform/MprisRules.h"
 
 #include <QString>
@@ -8,7 +7,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstring>
 #include <unistd.h>
 #include <utility>
 
@@ -185,114 +183,112 @@ int OnGetTracksMetadata(sd_bus_message* call, void* data, sd_bus_error*)
     return result;
 }
 
-// What the properties of all three interfaces have in common.
-#define GETTER(name)                                                                                                   \
-    int name([[maybe_unused]] sd_bus* bus, [[maybe_unused]] const char* path, [[maybe_unused]] const char* interface,  \
-        [[maybe_unused]] const char* property, sd_bus_message* reply, [[maybe_unused]] void* data,                     \
-        [[maybe_unused]] sd_bus_error* error)
-#define SETTER(name)                                                                                                   \
-    int name([[maybe_unused]] sd_bus* bus, [[maybe_unused]] const char* path, [[maybe_unused]] const char* interface,  \
-        [[maybe_unused]] const char* property, sd_bus_message* value, void* data,                                      \
-        [[maybe_unused]] sd_bus_error* error)
+// The properties of all three interfaces: each is read from the status, and a few are written by a command.
+using Read = int (*)(sd_bus_message* reply, const MediaStatus& status);
+using Write = int (*)(sd_bus_message* value, const MprisControl& control, sd_bus_error* error);
 
-template <bool value> GETTER(GetFixed)
+template <Read read>
+int Get(sd_bus*, const char*, const char*, const char*, sd_bus_message* reply, void* data, sd_bus_error*)
 {
-    return sd_bus_message_append(reply, "b", static_cast<int>(value));
+    return read(reply, StatusOf(data));
 }
 
-template <bool (*read)(const MediaStatus&)> GETTER(GetFlag)
+template <Write write>
+int Set(sd_bus*, const char*, const char*, const char*, sd_bus_message* value, void* data, sd_bus_error* error)
 {
-    return sd_bus_message_append(reply, "b", static_cast<int>(read(StatusOf(data))));
+    return write(value, ControlOf(data), error);
 }
 
-GETTER(GetIdentity)
+template <bool (*is)(const MediaStatus&)> int ReadFlag(sd_bus_message* reply, const MediaStatus& status)
+{
+    return sd_bus_message_append(reply, "b", static_cast<int>(is(status)));
+}
+
+template <double MediaStatus::*number> int ReadNumber(sd_bus_message* reply, const MediaStatus& status)
+{
+    return sd_bus_message_append(reply, "d", status.*number);
+}
+
+int ReadIdentity(sd_bus_message* reply, const MediaStatus&)
 {
     return sd_bus_message_append(reply, "s", "Zentaro");
 }
 
-GETTER(GetDesktopEntry)
+int ReadDesktopEntry(sd_bus_message* reply, const MediaStatus&)
 {
     return sd_bus_message_append(reply, "s", "zentaro");
 }
 
-GETTER(GetUriSchemes)
+int ReadUriSchemes(sd_bus_message* reply, const MediaStatus&)
 {
     return AppendTexts(reply, std::array{ "file" });
 }
 
-GETTER(GetMimeTypes)
+int ReadMimeTypes(sd_bus_message* reply, const MediaStatus&)
 {
     return AppendTexts(reply,
-        std::array{ "audio/aac", "audio/mp4", "audio/mpeg", "audio/ogg", "audio/x-matroska", "audio/x-ms-wma",
-            "audio/x-wav", "video/3gpp", "video/3gpp2", "video/mp4", "video/mpeg", "video/ogg", "video/quicktime",
-            "video/x-flv", "video/x-matroska", "video/x-ms-asf", "video/x-ms-wmv", "video/x-msvideo",
-            "video/x-ogm+ogg" });
+        std::array{ "application/vnd.ms-asf", "audio/3gpp", "audio/3gpp2", "audio/aac", "audio/matroska", "audio/mp3",
+            "audio/mp4", "audio/mpeg", "audio/ogg", "audio/vnd.wave", "audio/wav", "audio/x-flac+ogg", "audio/x-m4a",
+            "audio/x-matroska", "audio/x-ms-wma", "audio/x-speex+ogg", "audio/x-vorbis+ogg", "audio/x-wav",
+            "video/3gpp", "video/3gpp2", "video/avi", "video/matroska", "video/mp4", "video/mpeg", "video/ogg",
+            "video/quicktime", "video/vnd.avi", "video/x-flv", "video/x-m4v", "video/x-matroska", "video/x-ms-asf",
+            "video/x-ms-wmv", "video/x-msvideo", "video/x-ogm", "video/x-ogm+ogg", "video/x-theora+ogg" });
 }
 
-GETTER(GetPlayback)
+int ReadPlayback(sd_bus_message* reply, const MediaStatus& status)
 {
-    return sd_bus_message_append(reply, "s", MprisName(StatusOf(data).playback).data());
+    return sd_bus_message_append(reply, "s", MprisName(status.playback).data());
 }
 
-GETTER(GetLoop)
+int ReadLoop(sd_bus_message* reply, const MediaStatus& status)
 {
-    return sd_bus_message_append(reply, "s", MprisName(StatusOf(data).loop).data());
+    return sd_bus_message_append(reply, "s", MprisName(status.loop).data());
 }
 
-GETTER(GetRate)
-{
-    return sd_bus_message_append(reply, "d", StatusOf(data).rate);
-}
-
-GETTER(GetSlowest)
+int ReadSlowest(sd_bus_message* reply, const MediaStatus&)
 {
     return sd_bus_message_append(reply, "d", kSlowest);
 }
 
-GETTER(GetFastest)
+int ReadFastest(sd_bus_message* reply, const MediaStatus&)
 {
     return sd_bus_message_append(reply, "d", kFastest);
 }
 
-GETTER(GetVolume)
+int ReadPosition(sd_bus_message* reply, const MediaStatus& status)
 {
-    return sd_bus_message_append(reply, "d", StatusOf(data).volume);
+    return sd_bus_message_append(reply, "x", MprisPosition(status, Clock::now()));
 }
 
-GETTER(GetPosition)
+int ReadMetadata(sd_bus_message* reply, const MediaStatus& status)
 {
-    return sd_bus_message_append(reply, "x", MprisPosition(StatusOf(data), Clock::now()));
+    return AppendMetadata(reply, status.track, status);
 }
 
-GETTER(GetMetadata)
+int ReadTracks(sd_bus_message* reply, const MediaStatus& status)
 {
-    return AppendMetadata(reply, StatusOf(data).track, StatusOf(data));
+    return AppendTrackPaths(reply, status.tracks);
 }
 
-GETTER(GetTracks)
-{
-    return AppendTrackPaths(reply, StatusOf(data).tracks);
-}
-
-template <Kind kind> SETTER(SetFlag)
+template <Kind kind> int WriteFlag(sd_bus_message* value, const MprisControl& control, sd_bus_error*)
 {
     int flag = 0;
     const int result = sd_bus_message_read(value, "b", &flag);
     if (result >= 0)
-        ControlOf(data).Command({ .kind = kind, .flag = flag != 0 });
+        control.Command({ .kind = kind, .flag = flag != 0 });
     return result;
 }
 
-template <Kind kind> SETTER(SetNumber)
+template <Kind kind> int WriteNumber(sd_bus_message* value, const MprisControl& control, sd_bus_error*)
 {
     double number = 0;
     const int result = sd_bus_message_read(value, "d", &number);
     if (result >= 0 && std::isfinite(number))
-        ControlOf(data).Command({ .kind = kind, .number = number });
+        control.Command({ .kind = kind, .number = number });
     return result;
 }
 
-SETTER(SetLoop)
+int WriteLoop(sd_bus_message* value, const MprisControl& control, sd_bus_error* error)
 {
     const char* text = nullptr;
     if (const int result = sd_bus_message_read(value, "s", &text); result < 0)
@@ -300,12 +296,14 @@ SETTER(SetLoop)
     const auto loop = MprisLoop(text);
     if (!loop)
         return sd_bus_error_set_const(error, SD_BUS_ERROR_INVALID_ARGS, "None, Track or Playlist");
-    ControlOf(data).Command({ .kind = Kind::SetLoop, .loop = *loop });
+    control.Command({ .kind = Kind::SetLoop, .loop = *loop });
     return 0;
 }
 
-#undef GETTER
-#undef SETTER
+bool Always(const MediaStatus&)
+{
+    return true;
+}
 
 bool IsFullScreen(const MediaStatus& status)
 {
@@ -324,16 +322,16 @@ const sd_bus_vtable kRootTable[] = {
     SD_BUS_VTABLE_START(0),
     SD_BUS_METHOD("Raise", "", "", &OnVerb<Kind::Raise>, SD_BUS_VTABLE_UNPRIVILEGED),
     SD_BUS_METHOD("Quit", "", "", &OnVerb<Kind::Quit>, SD_BUS_VTABLE_UNPRIVILEGED),
-    SD_BUS_PROPERTY("CanQuit", "b", &GetFixed<true>, 0, kTold),
-    SD_BUS_WRITABLE_PROPERTY("Fullscreen", "b", &GetFlag<&IsFullScreen>, &SetFlag<Kind::SetFullScreen>, 0,
-        kTold | SD_BUS_VTABLE_UNPRIVILEGED),
-    SD_BUS_PROPERTY("CanSetFullscreen", "b", &GetFixed<true>, 0, kTold),
-    SD_BUS_PROPERTY("CanRaise", "b", &GetFixed<true>, 0, kTold),
-    SD_BUS_PROPERTY("HasTrackList", "b", &GetFixed<true>, 0, kTold),
-    SD_BUS_PROPERTY("Identity", "s", &GetIdentity, 0, kTold),
-    SD_BUS_PROPERTY("DesktopEntry", "s", &GetDesktopEntry, 0, kTold),
-    SD_BUS_PROPERTY("SupportedUriSchemes", "as", &GetUriSchemes, 0, kTold),
-    SD_BUS_PROPERTY("SupportedMimeTypes", "as", &GetMimeTypes, 0, kTold),
+    SD_BUS_PROPERTY("CanQuit", "b", &Get<&ReadFlag<&Always>>, 0, kTold),
+    SD_BUS_WRITABLE_PROPERTY("Fullscreen", "b", &Get<&ReadFlag<&IsFullScreen>>, &Set<&WriteFlag<Kind::SetFullScreen>>,
+        0, kTold | SD_BUS_VTABLE_UNPRIVILEGED),
+    SD_BUS_PROPERTY("CanSetFullscreen", "b", &Get<&ReadFlag<&Always>>, 0, kTold),
+    SD_BUS_PROPERTY("CanRaise", "b", &Get<&ReadFlag<&Always>>, 0, kTold),
+    SD_BUS_PROPERTY("HasTrackList", "b", &Get<&ReadFlag<&Always>>, 0, kTold),
+    SD_BUS_PROPERTY("Identity", "s", &Get<&ReadIdentity>, 0, kTold),
+    SD_BUS_PROPERTY("DesktopEntry", "s", &Get<&ReadDesktopEntry>, 0, kTold),
+    SD_BUS_PROPERTY("SupportedUriSchemes", "as", &Get<&ReadUriSchemes>, 0, kTold),
+    SD_BUS_PROPERTY("SupportedMimeTypes", "as", &Get<&ReadMimeTypes>, 0, kTold),
     SD_BUS_VTABLE_END,
 };
 
@@ -350,23 +348,25 @@ const sd_bus_vtable kPlayerTable[] = {
         SD_BUS_VTABLE_UNPRIVILEGED),
     SD_BUS_METHOD_WITH_NAMES("OpenUri", "s", SD_BUS_PARAM(Uri), "", "", &OnOpenUri, SD_BUS_VTABLE_UNPRIVILEGED),
     SD_BUS_SIGNAL_WITH_NAMES("Seeked", "x", SD_BUS_PARAM(Position), 0),
-    SD_BUS_PROPERTY("PlaybackStatus", "s", &GetPlayback, 0, kTold),
-    SD_BUS_WRITABLE_PROPERTY("LoopStatus", "s", &GetLoop, &SetLoop, 0, kTold | SD_BUS_VTABLE_UNPRIVILEGED),
-    SD_BUS_WRITABLE_PROPERTY("Rate", "d", &GetRate, &SetNumber<Kind::SetRate>, 0, kTold | SD_BUS_VTABLE_UNPRIVILEGED),
+    SD_BUS_PROPERTY("PlaybackStatus", "s", &Get<&ReadPlayback>, 0, kTold),
     SD_BUS_WRITABLE_PROPERTY(
-        "Shuffle", "b", &GetFlag<&IsShuffled>, &SetFlag<Kind::SetShuffle>, 0, kTold | SD_BUS_VTABLE_UNPRIVILEGED),
-    SD_BUS_PROPERTY("Metadata", "a{sv}", &GetMetadata, 0, kTold),
-    SD_BUS_WRITABLE_PROPERTY(
-        "Volume", "d", &GetVolume, &SetNumber<Kind::SetVolume>, 0, kTold | SD_BUS_VTABLE_UNPRIVILEGED),
-    SD_BUS_PROPERTY("Position", "x", &GetPosition, 0, kUntold),
-    SD_BUS_PROPERTY("MinimumRate", "d", &GetSlowest, 0, kTold),
-    SD_BUS_PROPERTY("MaximumRate", "d", &GetFastest, 0, kTold),
-    SD_BUS_PROPERTY("CanGoNext", "b", &GetFlag<&CanStep>, 0, kTold),
-    SD_BUS_PROPERTY("CanGoPrevious", "b", &GetFlag<&CanStep>, 0, kTold),
-    SD_BUS_PROPERTY("CanPlay", "b", &GetFlag<&CanPlay>, 0, kTold),
-    SD_BUS_PROPERTY("CanPause", "b", &GetFlag<&CanPause>, 0, kTold),
-    SD_BUS_PROPERTY("CanSeek", "b", &GetFlag<&CanSeek>, 0, kTold),
-    SD_BUS_PROPERTY("CanControl", "b", &GetFixed<true>, 0, kUntold),
+        "LoopStatus", "s", &Get<&ReadLoop>, &Set<&WriteLoop>, 0, kTold | SD_BUS_VTABLE_UNPRIVILEGED),
+    SD_BUS_WRITABLE_PROPERTY("Rate", "d", &Get<&ReadNumber<&MediaStatus::rate>>, &Set<&WriteNumber<Kind::SetRate>>, 0,
+        kTold | SD_BUS_VTABLE_UNPRIVILEGED),
+    SD_BUS_WRITABLE_PROPERTY("Shuffle", "b", &Get<&ReadFlag<&IsShuffled>>, &Set<&WriteFlag<Kind::SetShuffle>>, 0,
+        kTold | SD_BUS_VTABLE_UNPRIVILEGED),
+    SD_BUS_PROPERTY("Metadata", "a{sv}", &Get<&ReadMetadata>, 0, kTold),
+    SD_BUS_WRITABLE_PROPERTY("Volume", "d", &Get<&ReadNumber<&MediaStatus::volume>>,
+        &Set<&WriteNumber<Kind::SetVolume>>, 0, kTold | SD_BUS_VTABLE_UNPRIVILEGED),
+    SD_BUS_PROPERTY("Position", "x", &Get<&ReadPosition>, 0, kUntold),
+    SD_BUS_PROPERTY("MinimumRate", "d", &Get<&ReadSlowest>, 0, kTold),
+    SD_BUS_PROPERTY("MaximumRate", "d", &Get<&ReadFastest>, 0, kTold),
+    SD_BUS_PROPERTY("CanGoNext", "b", &Get<&ReadFlag<&CanStep>>, 0, kTold),
+    SD_BUS_PROPERTY("CanGoPrevious", "b", &Get<&ReadFlag<&CanStep>>, 0, kTold),
+    SD_BUS_PROPERTY("CanPlay", "b", &Get<&ReadFlag<&CanPlay>>, 0, kTold),
+    SD_BUS_PROPERTY("CanPause", "b", &Get<&ReadFlag<&CanPause>>, 0, kTold),
+    SD_BUS_PROPERTY("CanSeek", "b", &Get<&ReadFlag<&CanSeek>>, 0, kTold),
+    SD_BUS_PROPERTY("CanControl", "b", &Get<&ReadFlag<&Always>>, 0, kUntold),
     SD_BUS_VTABLE_END,
 };
 
@@ -384,8 +384,8 @@ const sd_bus_vtable kTrackListTable[] = {
     SD_BUS_SIGNAL_WITH_NAMES("TrackAdded", "a{sv}o", SD_BUS_PARAM(Metadata) SD_BUS_PARAM(AfterTrack), 0),
     SD_BUS_SIGNAL_WITH_NAMES("TrackRemoved", "o", SD_BUS_PARAM(TrackId), 0),
     SD_BUS_SIGNAL_WITH_NAMES("TrackMetadataChanged", "oa{sv}", SD_BUS_PARAM(TrackId) SD_BUS_PARAM(Metadata), 0),
-    SD_BUS_PROPERTY("Tracks", "ao", &GetTracks, 0, SD_BUS_VTABLE_PROPERTY_EMITS_INVALIDATION),
-    SD_BUS_PROPERTY("CanEditTracks", "b", &GetFixed<true>, 0, kTold),
+    SD_BUS_PROPERTY("Tracks", "ao", &Get<&ReadTracks>, 0, SD_BUS_VTABLE_PROPERTY_EMITS_INVALIDATION),
+    SD_BUS_PROPERTY("CanEditTracks", "b", &Get<&ReadFlag<&Always>>, 0, kTold),
     SD_BUS_VTABLE_END,
 };
 
