@@ -23,8 +23,10 @@ libvlc-dev              the engine
 libxcb1-dev             window states that Qt has no call for
 libsystemd-dev          sd-bus: restart, power off, sleep, media keys
 nlohmann-json3-dev      prints what zentaro-inspect knows as JSON
-dpkg-dev                finds what a package depends on
 librsvg2-bin            draws the SVG sources of all pictures
+'
+packages_package='
+dpkg-dev                finds what the .deb depends on
 '
 packages_screenless='
 xvfb                    a display in memory

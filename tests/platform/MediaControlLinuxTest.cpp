@@ -272,7 +272,10 @@ TEST_F(MediaControlLinuxTest, ASecondPlayerHasANameOfItsOwnAndBothComeBackWithTh
 
 TEST(MediaControl, WithoutABusPublishingIsForNobodyAndWaitsForNobody)
 {
-    for (const auto* const address : { "", "nonsense:", "unix:path=/nonexistent" }) {
+    const WorkingFolder folder;
+    const DeafBus deaf(folder / "deaf");
+    for (const auto& address :
+        { std::string(), std::string("nonsense:"), std::string("unix:path=/nonexistent"), deaf.Address() }) {
         const auto start = std::chrono::steady_clock::now();
         {
             MprisControl control(address, [](const MediaCommand&) {});

@@ -9,6 +9,8 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -79,6 +81,29 @@ private:
 
     WorkingFolder m_folder;
     pid_t m_daemon = -1;
+};
+
+/// Where a bus should be, somebody listens who never says a word.
+class DeafBus {
+public:
+    /// `path`: a short one, of a file that is not there.
+    explicit DeafBus(std::string path)
+        : m_path(std::move(path))
+    {
+        sockaddr_un place{};
+        place.sun_family = AF_UNIX;
+        m_path.copy(place.sun_path, sizeof place.sun_path - 1);
+        EXPECT_EQ(bind(m_socket, reinterpret_cast<const sockaddr*>(&place), sizeof place), 0);
+        EXPECT_EQ(listen(m_socket, 1), 0);
+    }
+    DeafBus(const DeafBus&) = delete;
+    ~DeafBus() { close(m_socket); }
+
+    std::string Address() const { return "unix:path=" + m_path; }
+
+private:
+    std::string m_path;
+    int m_socket = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
 };
 
 } // namespace zentaro::platform

@@ -146,7 +146,10 @@ TEST_F(SleepInhibitorLinuxTest, ABusAndAServiceThatComeLaterAreAskedWhileItIsSti
 
 TEST(SleepInhibitor, WithoutABusNothingHappensAndNothingWaits)
 {
-    for (const auto* const address : { "", "nonsense:", "unix:path=/nonexistent" }) {
+    const WorkingFolder folder;
+    const DeafBus deaf(folder / "deaf");
+    for (const auto& address :
+        { std::string(), std::string("nonsense:"), std::string("unix:path=/nonexistent"), deaf.Address() }) {
         const auto start = std::chrono::steady_clock::now();
         {
             SessionSleepInhibitor inhibitor(address);
