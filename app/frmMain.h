@@ -34,8 +34,8 @@ public:
     /// `programFolder`: with a trailing separator.
     explicit frmMain(const QString& programFolder);
 
-    /// Called whenever the window has been told of a new state or position.
-    std::function<void()> onStateShown = [] {};
+    /// Called at every tick of a shown window.
+    std::function<void()> onPositionShown = [] {};
 
     VideoFrame& Video() { return *m_video; }
     /// From now on the window works for this player.

@@ -196,7 +196,7 @@ void frmMain::ShowPosition(const PositionTick& tick, double length)
     m_seek->ShowProgress();
     if (tick.showAudioLogo)
         m_video->ShowAudioLogo(*tick.showAudioLogo);
-    onStateShown();
+    onPositionShown();
 }
 
 void frmMain::ShowRate(const std::string& text)
@@ -225,9 +225,6 @@ void frmMain::StateChanged()
     m_volume->update();
     m_bar->update();
     update();
-    // Before the window is there the process may still be a messenger.
-    if (isVisible())
-        onStateShown();
 }
 
 QRect frmMain::NoteArea() const

@@ -20,6 +20,7 @@
 #include "shell/Style.h"
 
 #include <QApplication>
+#include <QTimer>
 
 #include <chrono>
 #include <optional>
@@ -29,6 +30,8 @@
 namespace {
 
 using namespace zentaro;
+
+constexpr auto kEngineDelay = std::chrono::milliseconds(100); // until the engine shows what it was told
 
 HandOverService RealHandOver()
 {
@@ -149,11 +152,15 @@ int main(int argc, char** argv)
     };
     MediaRemote remote(player, RemoteWindow(window, workingFolder));
     const auto mediaControl = platform::MediaControl::Open([&](platform::MediaCommand command) {
-        QMetaObject::invokeMethod(
-            &application, [&, asked = std::move(command)] { remote.Do(asked); }, Qt::QueuedConnection);
+        const auto obey = [&, asked = std::move(command)] {
+            remote.Do(asked);
+            // The desktop shows what it hears, and the next tick can be half a second away.
+            QTimer::singleShot(kEngineDelay, &window, [&] { window.onPositionShown(); });
+        };
+        QMetaObject::invokeMethod(&application, obey, Qt::QueuedConnection);
     });
     if (mediaControl)
-        window.onStateShown = [&] { mediaControl->Publish(remote.Status()); };
+        window.onPositionShown = [&] { mediaControl->Publish(remote.Status()); };
     window.Serve(player);
     if (!player.Load(commandLine))
         endProcess();
