@@ -135,7 +135,7 @@ void MediaRemote::Do(const MediaCommand& command)
     case MediaCommand::Kind::SetShuffle:
         return SetShuffle(command.flag);
     case MediaCommand::Kind::SetFullScreen:
-        return m_player.Host().SetFullScreen(command.flag);
+        return SetFullScreen(command.flag);
     case MediaCommand::Kind::OpenFile:
         return m_player.DropOnVideo({ command.path });
     case MediaCommand::Kind::AddFile:
@@ -203,6 +203,13 @@ void MediaRemote::SetShuffle(bool shuffle)
         m_player.PBShuffle();
     else
         m_orderedMode == kPlayNormal ? m_player.PBNormal() : m_player.PBCont();
+}
+
+void MediaRemote::SetFullScreen(bool fullScreen)
+{
+    // Without an item there is nothing to fill the screen with.
+    if (!fullScreen || Playback() != MediaPlayback::Stopped)
+        m_player.Host().SetFullScreen(fullScreen);
 }
 
 std::optional<int> MediaRemote::IndexOf(std::uint64_t track) const

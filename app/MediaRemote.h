@@ -34,6 +34,7 @@ private:
     void SetPosition(std::uint64_t track, double milliseconds);
     void SetRate(double rate);
     void SetShuffle(bool shuffle);
+    void SetFullScreen(bool fullScreen);
     /// Nothing when no entry has the number.
     std::optional<int> IndexOf(std::uint64_t track) const;
     void RemoveTrack(int index);

@@ -296,7 +296,10 @@ TEST_F(MediaRemoteTest, play_and_pause_say_what_is_wanted_and_never_toggle)
     EXPECT_EQ(Do({ .kind = Kind::PlayPause }).playback, Playback::Paused);
     EXPECT_EQ(Do({ .kind = Kind::PlayPause }).playback, Playback::Playing);
     EXPECT_EQ(Starts(), 1U); // went on, and did not begin again
+    EXPECT_TRUE(Do({ .kind = Kind::SetFullScreen, .flag = true }).fullScreen);
+    EXPECT_FALSE(Do({ .kind = Kind::SetFullScreen, .flag = false }).fullScreen);
     EXPECT_EQ(Do({ .kind = Kind::Stop }).playback, Playback::Stopped);
+    EXPECT_FALSE(Do({ .kind = Kind::SetFullScreen, .flag = true }).fullScreen);
     EXPECT_EQ(remote->Status().track.id, 0U);
     Do({ .kind = Kind::Pause });
     Do({ .kind = Kind::Stop });
