@@ -25,11 +25,11 @@ MediaLoop LoopOf(std::int32_t repeatMode)
     return repeatMode == kRepeatAll ? MediaLoop::Playlist : MediaLoop::None;
 }
 
-std::int32_t RepeatModeOf(MediaLoop loop)
+std::string_view CommandOf(MediaLoop loop)
 {
     if (loop == MediaLoop::Track)
-        return kRepeatSingle;
-    return loop == MediaLoop::Playlist ? kRepeatAll : kNoRepeat;
+        return "RMSingleRepeat";
+    return loop == MediaLoop::Playlist ? "RMRepeatAll" : "RMNoRepeat";
 }
 
 platform::MediaTrack TrackOf(const PlaylistEntry& entry)
@@ -117,11 +117,11 @@ void MediaRemote::Do(const MediaCommand& command)
     case MediaCommand::Kind::PlayPause:
         return Playback() == MediaPlayback::Playing ? m_player.CMDPauseClick() : Play();
     case MediaCommand::Kind::Stop:
-        return Playback() != MediaPlayback::Stopped ? m_player.cmdStopClick() : void();
+        return Playback() != MediaPlayback::Stopped ? m_player.RunCommand("Stop") : void();
     case MediaCommand::Kind::Next:
-        return m_player.cmdNextClick();
+        return m_player.RunCommand("Next");
     case MediaCommand::Kind::Previous:
-        return m_player.cmdPreviousClick();
+        return m_player.RunCommand("Previous");
     case MediaCommand::Kind::SeekBy:
         return SeekBy(command.number);
     case MediaCommand::Kind::SetPosition:
@@ -131,7 +131,7 @@ void MediaRemote::Do(const MediaCommand& command)
     case MediaCommand::Kind::SetVolume:
         return m_player.SetVolume(RoundHalfEven(std::clamp(command.number, 0.0, 1.0) * 100));
     case MediaCommand::Kind::SetLoop:
-        return m_player.SetRepeatMode(RepeatModeOf(command.loop));
+        return m_player.RunCommand(CommandOf(command.loop));
     case MediaCommand::Kind::SetShuffle:
         return SetShuffle(command.flag);
     case MediaCommand::Kind::SetFullScreen:
@@ -167,7 +167,7 @@ void MediaRemote::SeekBy(double milliseconds)
         return;
     const auto length = engine->Length();
     if (engine->Time() + milliseconds > length)
-        m_player.cmdNextClick();
+        m_player.RunCommand("Next");
     else
         m_player.SeekBy(RoundHalfEven(std::max(milliseconds, -length)));
 }
@@ -199,10 +199,8 @@ void MediaRemote::SetShuffle(bool shuffle)
 {
     if (shuffle == (m_player.Settings().PlayMode == kPlayShuffle))
         return; // a new order would be drawn
-    if (shuffle)
-        m_player.PBShuffle();
-    else
-        m_orderedMode == kPlayNormal ? m_player.PBNormal() : m_player.PBCont();
+    const auto* const ordered = m_orderedMode == kPlayNormal ? "PMNormal" : "PMContinuous";
+    m_player.RunCommand(shuffle ? "PMShuffle" : ordered);
 }
 
 void MediaRemote::SetFullScreen(bool fullScreen)
@@ -226,7 +224,7 @@ void MediaRemote::RemoveTrack(int index)
     auto& list = m_player.Entries().List();
     const int selected = list.SelectedItem();
     list.SetSelectedItem(index);
-    m_player.RemoveSelected();
+    m_player.RunCommand("Remove");
     if (selected != index)
         list.SetSelectedItem(selected > index ? selected - 1 : selected);
 }

@@ -1,11 +1,15 @@
+#include "app/Dialogs.h"
 #include "app/InspectionThreads.h"
 #include "app/MediaRemote.h"
 #include "app/Player.h"
 #include "app/frmMain.h"
+#include "assoc/IconPicture.h"
 #include "base/Paths.h"
 #include "inspect/ConsoleToolRunner.h"
 #include "inspect/DiskFiles.h"
 #include "inspect/QtServices.h"
+#include "platform/AssociationShell.h"
+#include "platform/FileIcon.h"
 #include "platform/Folders.h"
 #include "platform/MediaControl.h"
 #include "platform/Power.h"
@@ -145,8 +149,14 @@ int main(int argc, char** argv)
         sleepInhibitor.reset();
         platform::EndProcess();
     };
+    const auto programPath = platform::ShortProgramPath();
+    const auto shell = platform::AssociationShell::Open(programPath, programFolder);
+    constexpr int iconSide = 64; // px: sharp in a list of a scaled display, too
+    const AssociationService associations{ shell.get(), programPath, programFolder,
+        { &platform::ExtractIcon, [](const std::string& file) { return LoadIconPicture(file, iconSide); } },
+        [&](std::function<void()> work) { QTimer::singleShot(std::chrono::seconds(2), &window, std::move(work)); } };
     Player player({ window, engines, inspections, *store, *power, RealHandOver(), RealRandom(), &platform::PathExists,
-        endProcess, settingsFolder, separator, [&](bool held) { sleepInhibitor->Hold(held); } });
+        endProcess, settingsFolder, separator, associations, [&](bool held) { sleepInhibitor->Hold(held); } });
     inspections.onCompleted = [&](int ticket, Inspection result) {
         player.InspectionCompleted(ticket, std::move(result));
     };
@@ -161,6 +171,7 @@ int main(int argc, char** argv)
     });
     if (mediaControl)
         window.onPositionShown = [&] { mediaControl->Publish(remote.Status()); };
+    Dialogs dialogs(window, player, programFolder);
     window.Serve(player);
     if (!player.Load(commandLine))
         endProcess();

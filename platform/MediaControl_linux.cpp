@@ -1,12 +1,14 @@
 #include "platform/MediaControl_linux.h"
 
+#include "base/Paths.h"
+#include "platform/DesktopEntry.h"
 #include "platform/MprisRules.h"
 
 #include <QString>
 
 #include <algorithm>
-#include <array>
 #include <cmath>
+#include <set>
 #include <unistd.h>
 #include <utility>
 
@@ -63,16 +65,6 @@ int AppendMetadata(sd_bus_message* message, const MediaTrack& track, const Media
         if (isLoaded && !status.artwork.empty())
             AppendEntry(message, "mpris:artUrl", "s", FileUri(status.artwork).c_str());
     }
-    return sd_bus_message_close_container(message);
-}
-
-int AppendTexts(sd_bus_message* message, const auto& texts)
-{
-    const int result = sd_bus_message_open_container(message, 'a', "s");
-    if (result < 0)
-        return result;
-    for (const auto& text : texts)
-        sd_bus_message_append(message, "s", text);
     return sd_bus_message_close_container(message);
 }
 
@@ -221,18 +213,21 @@ int ReadDesktopEntry(sd_bus_message* reply, const MediaStatus&)
 
 int ReadUriSchemes(sd_bus_message* reply, const MediaStatus&)
 {
-    return AppendTexts(reply, std::array{ "file" });
+    return sd_bus_message_append(reply, "as", 1, "file");
 }
 
 int ReadMimeTypes(sd_bus_message* reply, const MediaStatus&)
 {
-    return AppendTexts(reply,
-        std::array{ "application/vnd.ms-asf", "audio/3gpp", "audio/3gpp2", "audio/aac", "audio/matroska", "audio/mp3",
-            "audio/mp4", "audio/mpeg", "audio/ogg", "audio/vnd.wave", "audio/wav", "audio/x-flac+ogg", "audio/x-m4a",
-            "audio/x-matroska", "audio/x-ms-wma", "audio/x-speex+ogg", "audio/x-vorbis+ogg", "audio/x-wav",
-            "video/3gpp", "video/3gpp2", "video/avi", "video/matroska", "video/mp4", "video/mpeg", "video/ogg",
-            "video/quicktime", "video/vnd.avi", "video/x-flv", "video/x-m4v", "video/x-matroska", "video/x-ms-asf",
-            "video/x-ms-wmv", "video/x-msvideo", "video/x-ogm", "video/x-ogm+ogg", "video/x-theora+ogg" });
+    std::set<std::string> types;
+    for (const auto extension : kMediaExtensions)
+        for (auto& type : MimeTypesOf("." + std::string(extension)))
+            types.insert(std::move(type));
+    const int result = sd_bus_message_open_container(reply, 'a', "s");
+    if (result < 0)
+        return result;
+    for (const auto& type : types)
+        sd_bus_message_append(reply, "s", type.c_str());
+    return sd_bus_message_close_container(reply);
 }
 
 int ReadPlayback(sd_bus_message* reply, const MediaStatus& status)

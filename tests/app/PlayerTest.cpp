@@ -25,6 +25,7 @@ public:
     void SetWindowPosition(int x, int y) override { log << "at " << x << "," << y << " "; }
     void SetTopmost(bool topmost) override { isTopmost = topmost; }
     void SetFullScreen(bool fullScreen) override { isFullScreen = fullScreen; }
+    bool IsFullScreen() const override { return isFullScreen; }
     void ShowCaption(const std::string& text) override { caption = text; }
     void FlashCaption() override { log << "flash "; }
     void CloseWindow() override { }
@@ -39,6 +40,12 @@ public:
     void ShowNote(const std::string& text) override { note = text; }
     void ShowPictureNote(const std::string& text, const std::string& file) override { note = text + "|" + file; }
     std::vector<std::string> AskForFiles(const std::string&, const std::string&) override { return chosen; }
+    void ShowOptions() override { log << "options " << isTopmost << " "; }
+    void ShowAbout() override { log << "about " << isTopmost << " "; }
+    void ShowHelp() override { log << "help "; }
+    void SetTrayShown(bool shown) override { hasTrayIcon = shown; }
+    void PopupMenu(const std::string& menu) override { log << "menu " << menu << " "; }
+    std::string AskForSubtitles() override { return {}; }
     void PumpMessages(int times) override { log << "pump " << times << " "; }
     void PumpUntil(const std::function<bool()>& done) override
     {
@@ -60,6 +67,7 @@ public:
     bool maximized = false;
     bool isTopmost = false;
     bool isFullScreen = false;
+    bool hasTrayIcon = false;
 };
 
 struct EngineTrace {
@@ -214,7 +222,7 @@ protected:
         screen.pump = [this] { return inspections.AnswerOne(*player); };
         player = std::make_unique<Player>(PlayerWorld{ screen, engines, inspections, store, power, handOver,
             [] { return 0.0; }, [](const std::string& path) { return path != "/clips/missing.avi"; },
-            [this] { ended = true; }, folder.string() + "/", '/', [this](bool held) { sleepHeldOff = held; } });
+            [this] { ended = true; }, folder.string() + "/", '/', {}, [this](bool held) { sleepHeldOff = held; } });
         isPlayer = player->Load(commandLine);
         return *player;
     }
