@@ -177,6 +177,8 @@ public:
             return false;
         if (!WriteEntries(Facts(types, owned))) {
             RevertDefaults();
+            if (before.empty())
+                BringFileInLine(DataPath(std::string("applications/") + kAddEntry), std::nullopt);
             return false;
         }
         return true;
