@@ -37,6 +37,10 @@ googletest              their sources, cross-built for Windows
 libxcb-xtest0-dev       the desktop tests press keys and buttons
 libxcb-keysyms1-dev     which key has which code
 dbus                    a session bus of the tests own
+xdg-utils               asks and changes which program opens a type of files
+desktop-file-utils      checks and collects desktop entries
+shared-mime-info        the types of files, and what adds to them
+libglib2.0-bin          asks and opens as a file manager does
 clang                   builds the fuzz targets
 libclang-rt-dev         libFuzzer and the sanitizers of clang
 g++-mingw-w64-x86-64-posix  builds for Windows

@@ -118,7 +118,7 @@ void SeekTrack::paintEvent(QPaintEvent*)
     painter.setPen(Qt::NoPen);
     const auto thickness = m_mediaControlsEnabled && underMouse() ? kUnderPointer : kSlim;
     QRectF track(0, (height() - thickness) / 2, width(), thickness);
-    painter.setBrush(style::kBase);
+    painter.setBrush(style::kTrack);
     painter.drawRoundedRect(track, thickness / 2, thickness / 2);
     track.setWidth(m_bar.FillWidth());
     painter.setBrush(style::kLight);

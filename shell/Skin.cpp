@@ -5,6 +5,7 @@
 #include <QImageReader>
 #include <QPainter>
 
+#include <algorithm>
 #include <atomic>
 #include <thread>
 
@@ -14,6 +15,7 @@ namespace {
 
 constexpr qsizetype kCopiesKiB = 64 * 1024; // a window that fills a 4K screen needs 36 MiB
 constexpr unsigned kMaximumThreads = 4;
+constexpr int kFaint = 64; // of 255: shadows and glows
 
 QImage Decoded(const QString& path)
 {
@@ -93,6 +95,22 @@ Rect Skin::Draw(QPainter& painter, SkinImage image, const Rect& rect)
     const auto target = toDevice.inverted().mapRect(QRectF(from, size));
     painter.drawImage(target, ScaledCopy(image, size));
     return rect;
+}
+
+double Skin::Middle(SkinImage image) const
+{
+    const auto& picture = m_images[static_cast<std::size_t>(image)];
+    const auto shows = [&](int row) {
+        const auto* const pixels = reinterpret_cast<const QRgb*>(picture.constScanLine(row));
+        return std::any_of(pixels, pixels + picture.width(), [](QRgb pixel) { return qAlpha(pixel) > kFaint; });
+    };
+    int top = 0;
+    int bottom = picture.height();
+    while (top < bottom && !shows(top))
+        ++top;
+    while (bottom > top && !shows(bottom - 1))
+        --bottom;
+    return top < bottom ? (top + bottom) / 2.0 / picture.height() : 0.5;
 }
 
 void Skin::DrawAll(QPainter& painter, const std::vector<SkinDraw>& draws)

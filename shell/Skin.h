@@ -31,6 +31,9 @@ public:
     /// The paint pass.
     void Paint(QPainter& painter, int width, int height, const SkinButtons& buttons);
 
+    /// The middle, as a share of the height, of what the picture shows in its place; halfway for an empty one.
+    double Middle(SkinImage image) const;
+
     /// What takes the pointer, where the passes drew it last.
     const SkinRects& Rects() const { return m_rects; }
 

@@ -2,6 +2,7 @@
 
 #include "shell/Style.h"
 
+#include <QCursor>
 #include <QPainter>
 
 namespace zentaro {
@@ -10,13 +11,18 @@ SkinButton::SkinButton(const QString& name, const QString& shortcut, QWidget* pa
     : QAbstractButton(parent)
 {
     setObjectName(name);
-    setAccessibleName(name);
-    setToolTip(shortcut.isEmpty() ? name : name + " (" + shortcut + ")");
+    SetName(name, shortcut);
     setCursor(Qt::ArrowCursor);
     // Keys go to the window; Tab still reaches the button.
     setFocusPolicy(Qt::TabFocus);
     // Repaints when the pointer comes and goes, and with it the window's picture below.
     setAttribute(Qt::WA_Hover);
+}
+
+void SkinButton::SetName(const QString& name, const QString& shortcut)
+{
+    setAccessibleName(name);
+    setToolTip(shortcut.isEmpty() ? name : name + " (" + shortcut + ")");
 }
 
 ButtonState SkinButton::State() const
@@ -25,7 +31,9 @@ ButtonState SkinButton::State() const
         return ButtonState::Disabled;
     if (isDown())
         return ButtonState::Press;
-    return underMouse() ? ButtonState::Over : ButtonState::Normal;
+    // A press keeps the pointer's leaving from the button until it is released.
+    const bool isUnderPointer = underMouse() && rect().contains(mapFromGlobal(QCursor::pos()));
+    return isUnderPointer ? ButtonState::Over : ButtonState::Normal;
 }
 
 void SkinButton::paintEvent(QPaintEvent*)

@@ -15,6 +15,7 @@ public:
     /// `name` is read out and, with the shortcut, shown as tooltip.
     SkinButton(const QString& name, const QString& shortcut, QWidget* parent);
 
+    void SetName(const QString& name, const QString& shortcut);
     ButtonState State() const;
 
 protected:
