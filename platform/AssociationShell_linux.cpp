@@ -315,7 +315,6 @@ private:
             fs::permissions(menu, fs::perms::owner_exec, fs::perm_options::add, ignored);
         }
         BringFileInLine(DataPath("nemo/actions/zentaro-add.nemo_action"), TextOf(facts, &AddNemoActionText));
-        BringFileInLine(DataPath("file-manager/actions/zentaro-add.desktop"), TextOf(facts, &AddActionText));
     }
 
     /// Names of files that the system may not know, and our icons: a type has that of its first extension.

@@ -130,13 +130,6 @@ std::string AddNemoActionText(const DesktopEntryFacts& facts)
         + "\nSelection=s\nQuote=double\nExtensions=" + names + "\n";
 }
 
-std::string AddActionText(const DesktopEntryFacts& facts)
-{
-    return std::string("[Desktop Entry]\nType=Action\nName=") + kAddName + "\nTooltip=" + kAddComment + "\nIcon="
-        + Escaped(facts.icon) + "\nProfiles=add;\n\n[X-Action-Profile add]\nMimeTypes=" + Joined(facts.mimeTypes)
-        + "\nExec=" + Command(facts, kAddArguments) + "\n";
-}
-
 std::string MimePackageText(const std::vector<MimeAddition>& additions)
 {
     std::string text = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
