@@ -24,6 +24,7 @@ std::int16_t ItemNumber(int index)
 
 Player::Player(PlayerWorld world)
     : m_world(std::move(world))
+    , m_history(m_world.store, m_commands, m_classic)
     , m_host(m_world.engines)
     , m_playlist(m_world.random)
     , m_adding(m_playlist, m_addingHost, m_world.inspections)
@@ -126,6 +127,7 @@ void Player::RemoveAll()
 void Player::SetPlayMode(std::int32_t mode)
 {
     m_settings.PlayMode = mode;
+    m_commands.CheckOnly(kPlayModeKeys, static_cast<std::size_t>(mode));
     m_playlist.BuildOrder(mode);
     m_world.screen.StateChanged();
 }
@@ -133,6 +135,7 @@ void Player::SetPlayMode(std::int32_t mode)
 void Player::SetRepeatMode(std::int32_t mode)
 {
     m_settings.RepeatMode = mode;
+    m_commands.CheckOnly(kRepeatModeKeys, static_cast<std::size_t>(mode));
     m_world.screen.StateChanged();
 }
 
@@ -143,15 +146,10 @@ void Player::CMDPlayClick()
         return;
     }
     m_failuresInRow = 0;
-    PlaySelected();
-}
-
-void Player::PlayPause()
-{
-    if (m_playlist.Count() == 0)
-        OpenFiles(false);
+    if (m_dvdMode)
+        PlayLoadedDisc();
     else
-        CMDPauseClick();
+        PlaySelected();
 }
 
 void Player::DockPlaylist(PlaylistDock position)
@@ -193,15 +191,20 @@ void Player::PlayItem(std::int16_t index, bool fullScreen)
     if (index < 0 || index >= m_playlist.Count())
         return;
     ReleaseHeldButtons();
+    ForgetDiscStart();
+    m_dvdMode = false;
     m_host.RemoveVLCPlayer();
     m_host.AddVLCPLayer();
     m_currentItemPath = m_playlist.PathAt(index);
     m_options = WithSnapshotFolder(m_options, m_settings.SnapshotPath, m_currentItemPath, m_world.separator);
     if (auto* const engine = m_host.VLCPlayer()) {
-        engine->Add({ m_currentItemPath, false }, m_options);
+        engine->Add({ m_currentItemPath, IsDiscLocation(m_currentItemPath) }, m_options);
         engine->Play();
     }
     ShowCaption();
+    // Which disc a drive holds is known to nobody later.
+    if (!IsDiscLocation(m_currentItemPath))
+        m_history.AddToHistory(m_currentItemPath, m_playlist.List().SelectedText());
     m_playlist.List().SetPlayingItem(index);
     m_playlist.List().ScrollToRow(index);
     EnableMediaControls(true);

@@ -25,8 +25,12 @@ bool Player::Load(const std::string& commandLine)
     platform::MarkPlayerRunning(kRunningMark);
     m_world.power.EnableShutdownPrivilege();
     LoadConfigurations();
+    m_history.LoadHistory();
     m_world.screen.ShowIdle();
-    m_playlist.BuildOrder(m_settings.PlayMode);
+    EnableMediaControls(false);
+    SetPlayMode(m_settings.PlayMode);
+    SetRepeatMode(m_settings.RepeatMode);
+    DoAfter(0);
     m_startup = ReadCommandLine(commandLine, m_world.fileExists);
     m_replaceOnOpen = m_startup.ReplaceOnOpen;
     if (!BecomePlayer())
@@ -113,6 +117,7 @@ void Player::Unload()
         ApplyAssociations();
     IgnoreFailure(WriteConfigurations());
     m_host.RemoveVLCPlayer();
+    m_world.screen.SetTrayShown(false);
     m_ends.reset();
     m_world.endProcess();
 }
@@ -170,6 +175,7 @@ void Player::SetLoadedOptions()
     if (settings.RememberLastPos != 0)
         m_world.screen.SetWindowPosition(settings.WindowLeft, settings.WindowTop);
     m_world.screen.SetTopmost(settings.AlwaysOnTop != 0);
+    m_world.screen.SetTrayShown(settings.ShowInTray != 0);
     if (m_mediaControlsEnabled)
         ShowCaption();
     if (m_world.screen.IsPlaylistVisible())

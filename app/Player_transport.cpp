@@ -18,6 +18,7 @@ void Player::CMDPauseClick()
 
 void Player::cmdStopClick()
 {
+    ForgetDiscStart();
     if (auto* const engine = m_host.VLCPlayer(); engine != nullptr && engine->ItemCount() > 0)
         engine->Stop();
     ReleaseHeldButtons();
@@ -114,6 +115,10 @@ void Player::ResetRate()
 void Player::ApplyRate(const RateChange& change)
 {
     SetEngineRate(change.engineRate);
+    if (change.increaseEnabled)
+        m_commands.SetEnabled("IncreaseSpeed", *change.increaseEnabled);
+    if (change.decreaseEnabled)
+        m_commands.SetEnabled("DecreaseSpeed", *change.decreaseEnabled);
     if (change.engineRate)
         ShowRateLabel(false);
     m_world.screen.StateChanged();
@@ -128,6 +133,7 @@ void Player::ShowRateLabel(bool isLoading)
 void Player::DoAfter(std::int16_t action)
 {
     m_afterPlay.DoAfter(action);
+    m_commands.CheckOnly(kAfterPlayKeys, m_afterPlay.MarkedItem());
     m_world.screen.StateChanged();
 }
 
@@ -155,8 +161,8 @@ void Player::TakeSnapshot()
     // The path of the defaults names a place of another system; there, and for no path at all, the pictures go to
     // where users look for pictures.
     const auto& chosen = m_settings.SnapshotPath;
-    const auto folder = SnapshotFolder(
-        platform::IsAbsolutePath(chosen) ? chosen : platform::PicturesFolder(), m_currentItemPath, m_world.separator);
+    const auto folder = SnapshotFolder(platform::IsAbsolutePath(chosen) ? chosen : platform::PicturesFolder(),
+        IsDiscLoaded() ? m_discName : m_currentItemPath, m_world.separator);
     const auto pathOf = [&](const std::string& name) {
         return WithTrailingSeparator(folder, m_world.separator) + name;
     };
@@ -176,10 +182,33 @@ void Player::NoteVideoOutput(bool hasVideoOutput)
         m_world.screen.StateChanged();
 }
 
+void Player::LoadSubtitleFile()
+{
+    const auto path = m_world.screen.AskForSubtitles();
+    // The item can have ended under the dialog.
+    auto* const engine = LoadedEngine();
+    if (path.empty() || engine == nullptr)
+        return;
+    if (!engine->AddSubtitleFile(path))
+        m_world.screen.ShowNote("The subtitles cannot be opened");
+}
+
+void Player::ToggleFullScreen()
+{
+    m_host.SetFullScreen(!m_world.screen.IsFullScreen());
+}
+
+void Player::LeaveFullScreen()
+{
+    if (m_world.screen.IsFullScreen())
+        m_host.SetFullScreen(false);
+}
+
 void Player::EnableMediaControls(bool enabled)
 {
     m_mediaControlsEnabled = enabled;
     m_hasVideoOutput = false;
+    m_commands.SetEnabled({ "Stop", "FullScreen", "IncreaseSpeed", "DecreaseSpeed", "ResetSpeed" }, enabled);
     if (!enabled)
         m_playlist.List().SetPlayingItem(FancyListState::kNone);
     m_world.screen.StateChanged();
@@ -187,6 +216,8 @@ void Player::EnableMediaControls(bool enabled)
 
 void Player::OnPositionTick()
 {
+    if (m_isStartingDisc)
+        return; // the word in place of the time stays until the disc plays
     EngineReading reading;
     if (auto* const engine = m_host.VLCPlayer(); engine != nullptr && engine->ItemCount() > 0) {
         reading.isLoaded = m_mediaControlsEnabled;
@@ -194,6 +225,7 @@ void Player::OnPositionTick()
         reading.position = engine->Position();
         reading.time = engine->Time();
         reading.length = engine->Length();
+        reading.isDisc = IsDiscLoaded();
         reading.hasVideoOutput = reading.state >= Engine::kPlaying && engine->HasVideoOutput();
     }
     NoteVideoOutput(reading.hasVideoOutput);
@@ -205,8 +237,13 @@ void Player::OnPositionTick()
     if (tick.hasEnded) {
         ReleaseHeldButtons();
         EnableMediaControls(false);
-        ItemEnded(tick.hasFailed);
+        if (IsDiscLoaded())
+            DiscEnded(tick.hasFailed);
+        else
+            ItemEnded(tick.hasFailed);
     }
+    if (!m_mediaControlsEnabled && !m_starting && m_adding.Progress().total == 0)
+        m_discWatcher.SwitchOn();
 }
 
 bool Player::IsRoundOfFailures() const

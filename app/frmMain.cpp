@@ -1,7 +1,7 @@
 #include "app/frmMain.h"
 
 #include "app/Player.h"
-#include "app/PlayerMenus.h"
+#include "app/VideoMenu.h"
 #include "platform/Folders.h"
 #include "platform/QuitRequest.h"
 #include "platform/Window.h"
@@ -10,6 +10,7 @@
 #include "playlist/FancyList.h"
 #include "playlist/OpenFiles.h"
 #include "shell/Caption.h"
+#include "shell/DigitLabel.h"
 #include "shell/FullScreenBar.h"
 #include "shell/QtGeometry.h"
 #include "shell/QtText.h"
@@ -20,6 +21,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QEventLoop>
 #include <QFileDialog>
 #include <QHelpEvent>
 #include <QLabel>
@@ -80,9 +82,9 @@ frmMain::frmMain(const QString& programFolder)
     , m_programFolder(programFolder)
     , m_content(new QSplitter(this))
     , m_video(new VideoFrame(programFolder + "Audio.JPG", m_content))
-    , m_time(new QLabel(this))
+    , m_time(new DigitLabel(this))
     , m_rate(new QLabel(this))
-    , m_volumeNumber(new QLabel(this))
+    , m_volumeNumber(new DigitLabel(this))
     , m_caption(kProgramName)
 {
     setObjectName("frmMain");
@@ -102,9 +104,7 @@ frmMain::frmMain(const QString& programFolder)
     m_rate->setObjectName("lblRate");
     m_rate->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_volumeNumber->setObjectName("lblVolume");
-    m_volumeNumber->setFont(style::TimeFont());
     m_time->setObjectName("lblTime");
-    m_time->setFont(style::TimeFont());
     m_progressDelay.setSingleShot(true);
     m_geometrySettled.setSingleShot(true);
     m_geometrySettled.setInterval(200ms);
@@ -113,6 +113,7 @@ frmMain::frmMain(const QString& programFolder)
     m_tmrMovie.setInterval(500ms);
     m_tmrRewind.setInterval(10ms);
     m_tmrRewind.setTimerType(Qt::PreciseTimer);
+    m_tmrCheckDVD.setInterval(1000ms);
     ShowIdle();
 }
 
@@ -151,10 +152,13 @@ void frmMain::ShowWindow()
         setGeometry(place);
     }
     KeepNormalGeometry();
+    // Else the first part that takes keys would have them.
+    setFocus();
     // Not earlier: a messenger that waits for its player ends at once. Not later: the first file can take long.
     platform::OnQuitRequest([this] { close(); });
     show();
     m_tmrMovie.start();
+    SetTrayShown(m_hasTrayIcon);
     // Window managers read the state of a shown window only.
     if (m_topmost)
         platform::SetTopmost(winId(), true);
@@ -162,11 +166,15 @@ void frmMain::ShowWindow()
 
 void frmMain::SetWindowSize(int width, int height)
 {
+    if (isMaximized() || m_fullScreen)
+        return;
     resize(QSize(width, height).boundedTo(screen()->availableSize()).expandedTo(minimumSize()));
 }
 
 void frmMain::SetWindowPosition(int left, int top)
 {
+    if (isMaximized() || m_fullScreen)
+        return;
     const auto pixels = [](int twips) { return qRound(twips / kTwipsPerPixel); };
     const auto place =
         MoveOntoScreen({ pixels(left), pixels(top), width(), height() }, ScreenAreas(&QScreen::availableGeometry));
@@ -211,11 +219,6 @@ void frmMain::SetFullScreen(bool fullScreen)
     }
 }
 
-void frmMain::LeaveFullScreen()
-{
-    m_player->Host().SetFullScreen(false);
-}
-
 void frmMain::FullScreenLeft()
 {
     m_player->Host().FullScreenLeft();
@@ -239,12 +242,15 @@ void frmMain::FlashCaption()
 
 void frmMain::ShowNotice(const Notice& notice)
 {
-    const auto icon = notice.icon == NoticeIcon::Information ? QMessageBox::Information : QMessageBox::Warning;
+    constexpr QMessageBox::Icon icons[] = { QMessageBox::Information, QMessageBox::Warning, QMessageBox::Critical };
+    const auto icon = icons[static_cast<int>(notice.icon)];
     auto text = ToQString(notice.text);
     // Breaking an endless name into lines takes minutes, and nobody reads it.
     if (text.size() > kLongestNotice)
         text = text.left(kLongestNotice / 2) + " ... " + text.right(kLongestNotice / 2);
-    QMessageBox box(icon, ToQString(notice.title), text, QMessageBox::Ok, this);
+    // Above a dialog that is open: below it nobody could answer the box.
+    auto* const dialog = QApplication::activeModalWidget();
+    QMessageBox box(icon, ToQString(notice.title), text, QMessageBox::Ok, dialog != nullptr ? dialog : this);
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
@@ -262,10 +268,23 @@ std::vector<std::string> frmMain::AskForFiles(const std::string& title, const st
     return OpenFileResults(paths, platform::PathSeparator());
 }
 
+std::string frmMain::AskForSubtitles()
+{
+    const QString filter = "Subtitles (*.srt *.sub *.ass *.ssa *.vtt *.idx *.smi *.txt *.mpl);;All files (*)";
+    return ToPath(QFileDialog::getOpenFileName(this, "Open Subtitles", {}, filter));
+}
+
 void frmMain::PumpMessages(int times)
 {
     for (int i = 0; i < times; ++i)
         QCoreApplication::processEvents();
+}
+
+void frmMain::PumpFor(std::chrono::milliseconds time)
+{
+    QEventLoop loop;
+    QTimer::singleShot(time, &loop, &QEventLoop::quit);
+    loop.exec();
 }
 
 void frmMain::PumpUntil(const std::function<bool()>& done)
@@ -403,6 +422,10 @@ void frmMain::changeEvent(QEvent* event)
 
 bool frmMain::event(QEvent* event)
 {
+    if (event->type() == QEvent::ShortcutOverride && FocusUsesKey(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
     if (event->type() == QEvent::ToolTip) {
         const auto* const help = static_cast<QHelpEvent*>(event);
         const bool isOnCaption = Layout().Caption().Contains(help->pos().x(), help->pos().y());
@@ -415,13 +438,15 @@ bool frmMain::event(QEvent* event)
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched != m_video)
+        return event->type() == QEvent::KeyPress && MoveSelection(*static_cast<QKeyEvent*>(event));
     switch (event->type()) {
     case QEvent::MouseButtonDblClick:
         if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
             m_player->Host().SetFullScreen(!m_fullScreen);
         return true;
     case QEvent::ContextMenu:
-        ShowPlayMenu(*this, *m_player, static_cast<QContextMenuEvent*>(event)->globalPos());
+        ShowVideoMenu(*this, *m_player, static_cast<QContextMenuEvent*>(event)->globalPos());
         return true;
     case QEvent::Enter:
         unsetCursor();
@@ -449,16 +474,6 @@ void frmMain::wheelEvent(QWheelEvent* event)
     // What the controls of full screen leave over belongs to the video around them.
     if (m_fullScreen)
         TurnVolume(event->angleDelta().y());
-}
-
-void frmMain::keyPressEvent(QKeyEvent* event)
-{
-    const bool leaves =
-        event->key() == Qt::Key_Escape || (event->key() == Qt::Key_F && event->modifiers() == Qt::NoModifier);
-    if (m_fullScreen && leaves)
-        LeaveFullScreen();
-    else
-        QWidget::keyPressEvent(event);
 }
 
 void frmMain::closeEvent(QCloseEvent* event)

@@ -10,7 +10,9 @@ vlc-plugin-video-output its picture outputs
 ffmpeg                  reads what is inside a file, makes thumbnails, the demo clip and the JPG pictures
 mpgtx                   reads MPEG program streams
 libsystemd0             speaks to the login manager; Qt brings it anyway
+libdvdread8             finds the video folder of a disc that is not mounted; the disc reader of the engine brings it anyway
 fonts-inter             the typeface of the windows
+xdg-utils               opens the help and web pages in the browser
 '
 packages_build='
 g++                     the compiler
@@ -21,9 +23,12 @@ pkg-config              finds the libraries
 qt6-base-dev            the windows
 libvlc-dev              the engine
 libxcb1-dev             window states that Qt has no call for
-libsystemd-dev          sd-bus: restart and power off
+libsystemd-dev          sd-bus: restart and power off, drives
+libdvdread-dev          reads the folders of a disc
 nlohmann-json3-dev      prints what zentaro-inspect knows as JSON
 librsvg2-bin            draws the SVG sources of all pictures
+icoutils                packs the icons of Windows
+fonts-inter             the letters on the icons
 '
 packages_screenless='
 xvfb                    a display in memory
@@ -41,10 +46,13 @@ xdg-utils               asks and changes which program opens a type of files
 desktop-file-utils      checks and collects desktop entries
 shared-mime-info        the types of files, and what adds to them
 libglib2.0-bin          asks and opens as a file manager does
+dvdauthor               makes a video DVD with a menu
+genisoimage             makes images of discs
 clang                   builds the fuzz targets
 libclang-rt-dev         libFuzzer and the sanitizers of clang
 g++-mingw-w64-x86-64-posix  builds for Windows
 binutils-mingw-w64-x86-64   its linker and resource compiler
+fp-utils                chmcmd, which compiles the help for Windows
 wine                    runs the Windows tests
 wine64                  its 64-bit half
 '

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace zentaro {
 
@@ -14,6 +15,21 @@ using EngineOptions = std::array<std::string, 9>;
 struct MediaLocation {
     std::string text;
     bool isLocation = false;
+};
+
+/// What a user presses in the menu of a disc.
+enum class DiscKey { Activate, Up, Down, Left, Right };
+
+/// A title of a disc or a chapter of a title.
+struct DiscPart {
+    std::string name;  ///< empty for most
+    double length = 0; ///< ms; 0 or below while unknown
+};
+
+/// A track of sound or subtitles; below 0 it stands for none.
+struct EngineTrack {
+    int id = -1;
+    std::string name;
 };
 
 /// The media engine of one item. Reads answer at once with the engine's present view; a call that the engine cannot
@@ -27,11 +43,32 @@ public:
     static constexpr int kEnded = 6;
     static constexpr int kFailed = 7;
 
+    /// The engine decides by the video.
+    static constexpr const char* kDeinterlaceAuto = "auto";
+
     virtual ~Engine() = default;
 
     // audio
     virtual void SetVolume(int percent) = 0; ///< 0 to 100
     virtual void SetMute(bool muted) = 0;
+
+    virtual std::vector<EngineTrack> AudioTracks() { return {}; }
+    virtual int AudioTrack() { return -1; }
+    virtual void SetAudioTrack(int /*id*/) { }
+
+    // video
+    virtual std::vector<EngineTrack> SubtitleTracks() { return {}; }
+    virtual int SubtitleTrack() { return -1; }
+    virtual void SetSubtitleTrack(int /*id*/) { }
+    /// Shows the subtitles of a file from now on; false when it cannot be opened.
+    virtual bool AddSubtitleFile(const std::string& /*path*/) { return false; }
+    /// Such as "16:9"; empty for the video's own.
+    virtual std::string AspectRatio() { return {}; }
+    virtual void SetAspectRatio(const std::string& /*ratio*/) { }
+    /// kDeinterlaceAuto until something else was chosen, empty while off, else the name of a filter.
+    virtual std::string Deinterlacing() { return kDeinterlaceAuto; }
+    /// Empty or the name of a filter; there is no way back to kDeinterlaceAuto.
+    virtual void SetDeinterlacing(const std::string& /*filter*/) { }
 
     // input
     virtual double Length() = 0;                   ///< ms; 0 or below while unknown
@@ -47,6 +84,15 @@ public:
     /// Writes the present picture, in the video's own size, to a new PNG file of that full path. False when there is no
     /// picture; a file that cannot be written is only missing afterwards.
     virtual bool TakeSnapshot(const std::string& file) = 0;
+
+    // discs; chapters also of files
+    virtual void Navigate(DiscKey key) = 0;
+    virtual std::vector<DiscPart> Titles() = 0;
+    virtual int Title() = 0; ///< index of the present one, below 0 when there is none
+    virtual void SetTitle(int index) = 0;
+    virtual std::vector<DiscPart> Chapters() = 0; ///< of the present title
+    virtual int Chapter() = 0;
+    virtual void SetChapter(int index) = 0;
 
     // playlist
     virtual void Add(const MediaLocation& location, const EngineOptions& options) = 0;

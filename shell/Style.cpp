@@ -1,12 +1,16 @@
 #include "shell/Style.h"
 
+#include "shell/WidgetStyle.h"
+
 #include <QApplication>
 #include <QPalette>
-#include <QStyleFactory>
+#include <QToolTip>
 
 namespace zentaro::style {
 
 namespace {
+
+constexpr QColor kListBase{ 0x1B, 0x1E, 0x24 };
 
 QFont TextFont()
 {
@@ -33,7 +37,15 @@ QPalette MakePalette()
     palette.setColor(QPalette::HighlightedText, kText);
     palette.setColor(QPalette::Link, kLight);
     for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText })
-        palette.setColor(QPalette::Disabled, role, kSecondText);
+        palette.setColor(QPalette::Disabled, role, kFaintText);
+    return palette;
+}
+
+/// A list lies deeper than the window, and its lines are hair-thin.
+QPalette ListPalette(QPalette palette)
+{
+    palette.setColor(QPalette::Window, kListBase);
+    palette.setColor(QPalette::Button, kRaised);
     return palette;
 }
 
@@ -41,16 +53,19 @@ QPalette MakePalette()
 
 void Apply(QApplication& application)
 {
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
-    QApplication::setPalette(MakePalette());
+    const auto palette = MakePalette();
+    QApplication::setStyle(new WidgetStyle);
+    QApplication::setPalette(palette);
+    QApplication::setPalette(ListPalette(palette), "zentaro::FancyList");
+    QToolTip::setPalette(palette);
     application.setFont(TextFont());
+    QToolTip::setFont(TextFont());
 }
 
 QFont TimeFont()
 {
-    // Inter shows tabular digits only through a font feature; the mono family has them by nature.
     auto font = TextFont();
-    font.setStyleHint(QFont::SansSerif);
+    font.setWeight(QFont::Medium);
     return font;
 }
 
