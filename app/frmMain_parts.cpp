@@ -43,8 +43,7 @@ constexpr auto kChangeTime = 1500ms;
 void frmMain::Serve(Player& player)
 {
     m_player = &player;
-    connect(&m_tmrMovie, &QTimer::timeout, this, [this] { m_player->OnPositionTick(); });
-    connect(&m_tmrRewind, &QTimer::timeout, this, [this] { m_player->OnRewindTick(); });
+    MakeTimers();
     MakeList();
     MakeSliders();
     MakeCovers();
@@ -69,6 +68,23 @@ void frmMain::Serve(Player& player)
     StateChanged();
     PlaceChildren();
     OrderFocus();
+}
+
+void frmMain::MakeTimers()
+{
+    const auto letWatch = [this] {
+        if (m_player->IsWatchingDiscs() != m_tmrCheckDVD.isActive())
+            m_player->IsWatchingDiscs() ? m_tmrCheckDVD.start() : m_tmrCheckDVD.stop();
+    };
+    connect(&m_tmrMovie, &QTimer::timeout, this, [this, letWatch] {
+        m_player->OnPositionTick();
+        letWatch();
+    });
+    connect(&m_tmrRewind, &QTimer::timeout, this, [this] { m_player->OnRewindTick(); });
+    connect(&m_tmrCheckDVD, &QTimer::timeout, this, [this, letWatch] {
+        letWatch();
+        m_player->OnDVDTick();
+    });
 }
 
 void frmMain::MakeButton(Button button, const QString& name, const QString& shortcut, void (Player::*command)())
@@ -199,6 +215,16 @@ void frmMain::ShowPosition(const PositionTick& tick, double length)
     m_seek->ShowProgress();
     if (tick.showAudioLogo)
         m_video->ShowAudioLogo(*tick.showAudioLogo);
+}
+
+void frmMain::ShowTimeText(const std::string& text)
+{
+    m_time->setText(ToQString(text));
+}
+
+void frmMain::FocusVideo()
+{
+    m_video->setFocus();
 }
 
 void frmMain::ShowRate(const std::string& text)
