@@ -136,18 +136,6 @@ void Player::DialogClosed()
     m_world.screen.SetTopmost(m_settings.AlwaysOnTop != 0);
 }
 
-void Player::mnuOpenDVD_Click()
-{
-    if (m_dvdMenu != nullptr)
-        m_dvdMenu->mnuOpenDVD_Click();
-}
-
-void Player::dvdsList_Click(int index)
-{
-    if (m_dvdMenu != nullptr)
-        m_dvdMenu->dvdsList_Click(index);
-}
-
 void Player::cmdDVDClick()
 {
     m_world.screen.PopupMenu("mnuOpenDVD");
