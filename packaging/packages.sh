@@ -10,6 +10,7 @@ vlc-plugin-video-output its picture outputs
 ffmpeg                  reads what is inside a file, makes thumbnails, the demo clip and the JPG pictures
 mpgtx                   reads MPEG program streams
 libsystemd0             speaks to the login manager and the session; Qt brings it anyway
+libdvdread8             finds the video folder of a disc that is not mounted; the disc reader of the engine brings it anyway
 fonts-inter             the typeface of the windows
 xdg-utils               opens the help and web pages in the browser
 '
@@ -22,7 +23,8 @@ pkg-config              finds the libraries
 qt6-base-dev            the windows
 libvlc-dev              the engine
 libxcb1-dev             window states that Qt has no call for
-libsystemd-dev          sd-bus: restart, power off, sleep, media keys
+libsystemd-dev          sd-bus: restart, power off, drives, sleep, media keys
+libdvdread-dev          reads the folders of a disc
 nlohmann-json3-dev      prints what zentaro-inspect knows as JSON
 librsvg2-bin            draws the SVG sources of all pictures
 icoutils                packs the icons of Windows
@@ -49,6 +51,8 @@ lintian                 checks the package
 libglib2.0-bin          opens files as a file manager does
 playerctl               a client of the media controls
 systemd                 busctl, another one
+dvdauthor               makes a video DVD with a menu
+genisoimage             makes images of discs
 clang                   builds the fuzz targets
 libclang-rt-dev         libFuzzer and the sanitizers of clang
 g++-mingw-w64-x86-64-posix  builds for Windows

@@ -2,6 +2,8 @@
 
 #include "shell/QtText.h"
 
+#include <QRegularExpression>
+
 namespace zentaro {
 
 namespace {
@@ -17,7 +19,9 @@ QString MenuCaption(const std::string& caption)
     text.remove('&');
     if (mark >= 0)
         text.insert(mark - ToQString(caption).left(mark).count('&'), '&');
-    return text;
+    // Blanks push a key to the right only in letters of one width; menus have a column for keys.
+    static const QRegularExpression padding(" {3,}");
+    return text.replace(padding, "\t");
 }
 
 QString MenuName(const std::string& name)

@@ -80,21 +80,22 @@ WindowLayout::Edges WindowLayout::EdgesAt(int x, int y) const
 Rect BarLayout::ButtonRect(Button button) const
 {
     const auto at = [](int left, int width) { return Rect{ left, 0, width, kHeight }; };
+    // Neighbours of the window stay neighbours: their plates fit together.
     switch (button) {
     case Button::Previous:
         return at(16, 29);
     case Button::Rewind:
-        return at(49, 30);
+        return at(45, 30);
     case Button::Stop:
-        return at(83, 36);
+        return at(87, 36);
     case Button::Play:
-        return at(125, 43);
+        return at(123, 43);
     case Button::Pause:
-        return at(174, 35);
+        return at(166, 35);
     case Button::FastForward:
         return at(213, 29);
     case Button::Next:
-        return at(246, 28);
+        return at(242, 28);
     case Button::SoundOn:
     case Button::SoundOff:
         return at(m_width - 222, 23);
