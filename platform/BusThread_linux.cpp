@@ -1,5 +1,7 @@
 #include "platform/BusThread_linux.h"
 
+#include "platform/SystemBus_linux.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -15,24 +17,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
+constexpr auto kPatience = 25s;
 constexpr auto kLongWait = 1h;
-
-struct CloseBus {
-    void operator()(sd_bus* bus) const { sd_bus_close_unref(bus); }
-};
-using Bus = std::unique_ptr<sd_bus, CloseBus>;
-
-/// Connecting goes on in sd_bus_process.
-Bus StartConnecting(const std::string& address)
-{
-    sd_bus* created = nullptr;
-    if (sd_bus_new(&created) < 0)
-        return nullptr;
-    Bus bus(created);
-    const bool isStarted = sd_bus_set_address(created, address.c_str()) >= 0 && sd_bus_set_bus_client(created, 1) >= 0
-        && sd_bus_start(created) >= 0;
-    return isStarted ? std::move(bus) : nullptr;
-}
 
 std::chrono::milliseconds UntilTimeout(sd_bus* bus, std::chrono::milliseconds limit)
 {
@@ -83,7 +69,7 @@ void BusThread::Wake()
 void BusThread::Run(const std::stop_token& stop)
 {
     while (!stop.stop_requested() && !m_address.empty()) {
-        if (const auto bus = StartConnecting(m_address)) {
+        if (const auto bus = ConnectToBus(m_address, kPatience)) {
             Serve(bus.get(), stop);
             m_client.Lost();
         }
