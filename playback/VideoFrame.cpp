@@ -187,8 +187,8 @@ void VideoFrame::ShowPointer(bool shown)
 
 void VideoFrame::moveEvent(QMoveEvent*)
 {
-    // Windows inside a frame that has none do not follow it.
-    for (auto* const part : std::initializer_list<QWidget*>{ m_surface, m_logo }) {
+    // Qt leaves the windows of its parts where they are when the frame alone moves and keeps its size.
+    for (const auto* const part : std::initializer_list<QWidget*>{ m_logo, m_surface }) {
         if (part != nullptr && part->windowHandle() != nullptr)
             part->windowHandle()->setPosition(part->mapTo(window(), QPoint()));
     }
