@@ -94,6 +94,8 @@ frmMain::frmMain(const QString& programFolder)
     m_rate->setObjectName("lblRate");
     m_rate->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_volumeNumber->setObjectName("lblVolume");
+    for (auto* const label : { m_rate, m_volumeNumber })
+        label->setForegroundRole(QPalette::PlaceholderText);
     m_time->setObjectName("lblTime");
     m_note->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_note->setTextFormat(Qt::PlainText);
@@ -278,8 +280,11 @@ SkinButtons frmMain::ButtonStates() const
 {
     SkinButtons buttons;
     buttons.states.fill(ButtonState::Disabled);
-    for (const auto& [button, widget] : m_buttons)
+    for (const auto& [button, widget] : m_buttons) {
         buttons.StateOf(button) = widget->State();
+        buttons.FadeOf(button) = widget->StateFade();
+    }
+    buttons.FadeOf(Button::SoundOff) = buttons.FadeOf(Button::SoundOn);
     buttons.StateOf(Button::SoundOff) = buttons.StateOf(Button::SoundOn);
     buttons.isMuted = m_player->Host().IsMuted();
     return buttons;

@@ -31,6 +31,20 @@ QImage Stretched(const QImage& image, const QSize& size)
     return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
+/// Where both are the same, the mixture is it, too: unlike one drawn over the other.
+QImage Mixed(const QImage& from, const QImage& to, double share)
+{
+    QImage mixed(to.size(), QImage::Format_ARGB32_Premultiplied);
+    mixed.fill(Qt::transparent);
+    QPainter painter(&mixed);
+    painter.setCompositionMode(QPainter::CompositionMode_Plus);
+    painter.setOpacity(1 - share);
+    painter.drawImage(0, 0, from);
+    painter.setOpacity(share);
+    painter.drawImage(0, 0, to);
+    return mixed;
+}
+
 } // namespace
 
 Skin::Skin()
@@ -70,6 +84,8 @@ Result<void> Skin::Load(const QString& folder)
 
 QImage Skin::ScaledCopy(SkinImage image, const QSize& size)
 {
+    if (m_images[static_cast<std::size_t>(image)].isNull())
+        return {};
     const CopyKey key{ image, size.width(), size.height() };
     if (const auto* const copy = m_copies.object(key))
         return *copy;
@@ -80,7 +96,12 @@ QImage Skin::ScaledCopy(SkinImage image, const QSize& size)
 
 Rect Skin::Draw(QPainter& painter, SkinImage image, const Rect& rect)
 {
-    if (rect.width <= 0 || rect.height <= 0 || m_images[static_cast<std::size_t>(image)].isNull())
+    return DrawPicture(painter, rect, [&](const QSize& size) { return ScaledCopy(image, size); });
+}
+
+Rect Skin::DrawPicture(QPainter& painter, const Rect& rect, const std::function<QImage(const QSize&)>& picture)
+{
+    if (rect.width <= 0 || rect.height <= 0)
         return rect;
     // Both edges are rounded to device pixels, so that neighbours meet without a gap at every scale factor.
     const auto& toDevice = painter.deviceTransform();
@@ -91,7 +112,8 @@ Rect Skin::Draw(QPainter& painter, SkinImage image, const Rect& rect)
     if (size.isEmpty())
         return rect;
     const auto target = toDevice.inverted().mapRect(QRectF(from, size));
-    painter.drawImage(target, ScaledCopy(image, size));
+    if (const auto image = picture(size); !image.isNull())
+        painter.drawImage(target, image);
     return rect;
 }
 
@@ -108,7 +130,18 @@ void Skin::DrawBackGround(QPainter& painter, int width, int height)
 
 void Skin::Paint(QPainter& painter, int width, int height, const SkinButtons& buttons)
 {
-    DrawAll(painter, PaintPass(width, height, buttons, m_rects));
+    for (const auto& [image, rect] : PaintPass(width, height, buttons, m_rects)) {
+        const auto number = static_cast<std::size_t>(image) - static_cast<std::size_t>(SkinImage::FirstButton);
+        const auto fade = image < SkinImage::FirstButton ? ButtonFade() : buttons.fades[number / kButtonStateCount];
+        if (fade.share >= 1) {
+            Draw(painter, image, rect);
+            continue;
+        }
+        const auto from = ButtonImage(static_cast<Button>(number / kButtonStateCount), fade.from);
+        DrawPicture(painter, rect, [&, to = image](const QSize& size) {
+            return Mixed(ScaledCopy(from, size), ScaledCopy(to, size), fade.share);
+        });
+    }
 }
 
 } // namespace zentaro

@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <array>
+#include <functional>
 
 class QPainter;
 
@@ -28,7 +29,7 @@ public:
 
     /// The background pass, for a client area of that size (logical px).
     void DrawBackGround(QPainter& painter, int width, int height);
-    /// The paint pass.
+    /// The paint pass. A button that changes its state shows a mixture of its two pictures.
     void Paint(QPainter& painter, int width, int height, const SkinButtons& buttons);
 
     /// What takes the pointer, where the passes drew it last.
@@ -46,6 +47,7 @@ private:
         return qHashMulti(seed, static_cast<int>(key.image), key.width, key.height);
     }
 
+    Rect DrawPicture(QPainter& painter, const Rect& rect, const std::function<QImage(const QSize&)>& picture);
     QImage ScaledCopy(SkinImage image, const QSize& size);
     void DrawAll(QPainter& painter, const std::vector<SkinDraw>& draws);
 

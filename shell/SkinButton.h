@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/Fade.h"
 #include "shell/SkinPasses.h"
 
 #include <QAbstractButton>
@@ -16,9 +17,17 @@ public:
     SkinButton(const QString& name, const QString& shortcut, QWidget* parent);
 
     ButtonState State() const;
+    /// From the state before, for a moment after each change.
+    ButtonFade StateFade() const { return { m_before, m_fade.Share() }; }
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    ButtonState m_before = ButtonState::Normal;
+    ButtonState m_now = ButtonState::Normal;
+    Fade m_fade{ *this, [this] { update(); } };
 };
 
 } // namespace zentaro

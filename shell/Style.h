@@ -12,6 +12,7 @@ inline constexpr QColor kBase{ 0x16, 0x18, 0x1D };
 inline constexpr QColor kBaseLight{ 0x23, 0x26, 0x2E };
 inline constexpr QColor kRaised{ 0x2C, 0x30, 0x38 };
 inline constexpr QColor kRaisedHigh{ 0x38, 0x3D, 0x47 };
+inline constexpr QColor kGroove{ 0x3A, 0x3F, 0x49 }; // what a slider runs in
 inline constexpr QColor kText{ 0xE8, 0xEA, 0xED };
 inline constexpr QColor kSecondText{ 0x9A, 0xA0, 0xA6 };
 inline constexpr QColor kFaintText{ 0x62, 0x68, 0x71 }; // of what cannot be used now

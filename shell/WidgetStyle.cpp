@@ -23,6 +23,7 @@ constexpr int kMenuRight = 30;      // px, for the arrow of a submenu
 constexpr int kMenuSeparator = 9;   // px
 constexpr int kScrollBar = 12;      // px
 constexpr int kShortestThumb = 28;  // px
+constexpr int kFieldHeight = 28;    // px
 constexpr int kSpinWidth = 20;      // px
 
 bool Has(const QStyleOption& option, QStyle::StateFlag flag)
@@ -348,6 +349,8 @@ int WidgetStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, con
         return 1;
     case PM_MenuVMargin:
         return 4;
+    case PM_HeaderMargin:
+        return 8;
     case PM_MenuHMargin:
     case PM_ScrollView_ScrollBarSpacing:
         return 0;
@@ -409,7 +412,7 @@ QSize WidgetStyle::sizeFromContents(
     if (type == CT_PushButton)
         return result.expandedTo({ 87, 30 });
     if (type == CT_LineEdit || type == CT_ComboBox || type == CT_SpinBox)
-        return result.expandedTo({ 0, 28 });
+        return { result.width() + 8, kFieldHeight };
     if (type == CT_ItemViewItem)
         return result.expandedTo({ 0, 24 });
     return result;
@@ -448,12 +451,31 @@ QRect WidgetStyle::subControlRect(
         case SC_SpinBoxDown:
             return { rect.right() - kSpinWidth, rect.top() + middle, kSpinWidth, rect.height() - middle - 1 };
         case SC_SpinBoxEditField:
-            return rect.adjusted(4, 1, -kSpinWidth - 1, -1);
+            return rect.adjusted(2, 1, -kSpinWidth - 1, -1);
         default:
             return rect;
         }
     }
-    return QProxyStyle::subControlRect(control, option, part, widget);
+    const auto place = QProxyStyle::subControlRect(control, option, part, widget);
+    if (control == CC_GroupBox && (part == SC_GroupBoxLabel || part == SC_GroupBoxCheckBox))
+        return place.translated(10, 5);
+    if (control == CC_GroupBox && part == SC_GroupBoxContents)
+        return place.adjusted(0, 5, 0, 0);
+    if (control == CC_ComboBox && part == SC_ComboBoxEditField)
+        return place.adjusted(4, 0, 0, 0);
+    return place;
+}
+
+QRect WidgetStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
+{
+    const auto place = QProxyStyle::subElementRect(element, option, widget);
+    return element == SE_LineEditContents ? place.adjusted(4, 0, -4, 0) : place;
+}
+
+QPixmap WidgetStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const
+{
+    // A selected line is no reason to dye its icon.
+    return mode == QIcon::Disabled ? QProxyStyle::generatedIconPixmap(mode, pixmap, option) : pixmap;
 }
 
 void WidgetStyle::drawPrimitive(
@@ -580,7 +602,7 @@ void WidgetStyle::drawControl(
         return;
     case CE_PushButtonLabel:
         if (const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
-            button != nullptr && Has(*button, State_Sunken)) {
+            button != nullptr && (Has(*button, State_Sunken) || Has(*button, State_On))) {
             auto warm = *button;
             warm.palette.setColor(QPalette::ButtonText, style::kLight);
             QProxyStyle::drawControl(element, &warm, painter, widget);
