@@ -31,17 +31,23 @@ QImage Stretched(const QImage& image, const QSize& size)
     return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
+QImage Thinned(const QImage& image, double share)
+{
+    QImage thinned(image.size(), QImage::Format_ARGB32_Premultiplied);
+    thinned.fill(Qt::transparent);
+    QPainter painter(&thinned);
+    painter.setOpacity(share);
+    painter.drawImage(0, 0, image);
+    return thinned;
+}
+
 /// Where both are the same, the mixture is it, too: unlike one drawn over the other.
 QImage Mixed(const QImage& from, const QImage& to, double share)
 {
-    QImage mixed(to.size(), QImage::Format_ARGB32_Premultiplied);
-    mixed.fill(Qt::transparent);
+    auto mixed = Thinned(from, 1 - share);
     QPainter painter(&mixed);
     painter.setCompositionMode(QPainter::CompositionMode_Plus);
-    painter.setOpacity(1 - share);
-    painter.drawImage(0, 0, from);
-    painter.setOpacity(share);
-    painter.drawImage(0, 0, to);
+    painter.drawImage(0, 0, Thinned(to, share));
     return mixed;
 }
 
