@@ -13,6 +13,7 @@ inline constexpr QColor kBaseLight{ 0x23, 0x26, 0x2E };
 inline constexpr QColor kRaised{ 0x2C, 0x30, 0x38 };
 inline constexpr QColor kRaisedHigh{ 0x38, 0x3D, 0x47 };
 inline constexpr QColor kGroove{ 0x3A, 0x3F, 0x49 }; // what a slider runs in
+inline constexpr QColor kHairline{ 0xFF, 0xFF, 0xFF, 0x14 };
 inline constexpr QColor kText{ 0xE8, 0xEA, 0xED };
 inline constexpr QColor kSecondText{ 0x9A, 0xA0, 0xA6 };
 inline constexpr QColor kFaintText{ 0x62, 0x68, 0x71 }; // of what cannot be used now
@@ -27,5 +28,7 @@ void Apply(QApplication& application);
 
 /// The font of times and numbers; `DigitLabel` gives its digits one width.
 QFont TimeFont();
+/// Of numbers that only accompany.
+QFont SmallFont();
 
 } // namespace zentaro::style
