@@ -119,6 +119,9 @@ public:
     void DoAfterFinishPlay();
     void cmdMuteClick();
     void cmdFulScreenClick();
+    /// Saves the present picture of the video in the item's snapshot folder and says so. Nothing without a video.
+    void TakeSnapshot();
+    bool CanTakeSnapshot() const { return m_mediaControlsEnabled && m_hasVideoOutput; }
     /// Shows or hides the list.
     void cmdPlayListClick();
     void cmdNextClick();
@@ -193,6 +196,7 @@ private:
     void ApplyRate(const RateChange& change);
     void SetEngineRate(std::optional<double> rate);
     void ShowRateLabel(bool isLoading);
+    void NoteVideoOutput(bool hasVideoOutput);
     bool IsRoundOfFailures() const;
     void EnableMediaControls(bool enabled);
     void ShowCaption();
@@ -218,6 +222,7 @@ private:
     bool m_starting = false;
     bool m_replaceOnOpen = true;
     bool m_mediaControlsEnabled = false;
+    bool m_hasVideoOutput = false;
     bool m_ended = false;
     int m_failuresInRow = 0; // items that ended without having played
 };

@@ -47,6 +47,8 @@ public:
     virtual void ShowNotice(const Notice& notice) = 0;
     /// Shows a short line in the window that goes by itself.
     virtual void ShowNote(const std::string& text) = 0;
+    /// As above, with a small copy of the picture in `file`; without one when `file` is empty.
+    virtual void ShowPictureNote(const std::string& text, const std::string& file) = 0;
     /// Asks for files, more than one at will. One text per folder, as ParseOpenFileResult reads it; none on cancel.
     virtual std::vector<std::string> AskForFiles(const std::string& title, const std::string& filter) = 0;
 

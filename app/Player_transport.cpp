@@ -1,5 +1,12 @@
 #include "app/Player.h"
 
+#include "base/Paths.h"
+#include "platform/Folders.h"
+#include "platform/TextFile.h"
+#include "playback/Snapshot.h"
+
+#include <utility>
+
 // What the player does with the item that is loaded, and at its end.
 namespace zentaro {
 
@@ -140,9 +147,39 @@ void Player::cmdFulScreenClick()
     m_host.SetFullScreen(true);
 }
 
+void Player::TakeSnapshot()
+{
+    auto* const engine = CanTakeSnapshot() ? m_host.VLCPlayer() : nullptr;
+    if (engine == nullptr)
+        return;
+    // The path of the defaults names a place of another system; there, and for no path at all, the pictures go to
+    // where users look for pictures.
+    const auto& chosen = m_settings.SnapshotPath;
+    const auto folder = SnapshotFolder(
+        platform::IsAbsolutePath(chosen) ? chosen : platform::PicturesFolder(), m_currentItemPath, m_world.separator);
+    const auto pathOf = [&](const std::string& name) {
+        return WithTrailingSeparator(folder, m_world.separator) + name;
+    };
+    const auto name = NextSnapshotName(m_settings.SnapshotPrefix, m_world.separator,
+        [&](const std::string& each) { return platform::PathExists(pathOf(each)); });
+    const bool isWritten = !name.empty() && platform::MakeFolder(folder) && engine->TakeSnapshot(pathOf(name))
+        && platform::PathExists(pathOf(name));
+    if (isWritten)
+        m_world.screen.ShowPictureNote("Saved " + name, m_settings.SnapshotPreview != 0 ? pathOf(name) : "");
+    else
+        m_world.screen.ShowNote("No snapshot could be saved in " + folder);
+}
+
+void Player::NoteVideoOutput(bool hasVideoOutput)
+{
+    if (std::exchange(m_hasVideoOutput, hasVideoOutput) != hasVideoOutput)
+        m_world.screen.StateChanged();
+}
+
 void Player::EnableMediaControls(bool enabled)
 {
     m_mediaControlsEnabled = enabled;
+    m_hasVideoOutput = false;
     if (!enabled)
         m_playlist.List().SetPlayingItem(FancyListState::kNone);
     m_world.screen.StateChanged();
@@ -159,6 +196,7 @@ void Player::OnPositionTick()
         reading.length = engine->Length();
         reading.hasVideoOutput = reading.state >= Engine::kPlaying && engine->HasVideoOutput();
     }
+    NoteVideoOutput(reading.hasVideoOutput);
     const auto tick = ReadPosition(reading, m_mediaControlsEnabled);
     if (tick.progress)
         m_seekBar.SetProgress(*tick.progress);

@@ -11,6 +11,7 @@
 #include "playlist/OpenFiles.h"
 #include "shell/Caption.h"
 #include "shell/DigitLabel.h"
+#include "shell/FullScreenBar.h"
 #include "shell/QtGeometry.h"
 #include "shell/QtText.h"
 #include "shell/SeekTrack.h"
@@ -65,6 +66,14 @@ Qt::CursorShape CursorFor(const WindowLayout::Edges& edges)
     return edges.Any() ? Qt::SizeVerCursor : Qt::ArrowCursor;
 }
 
+std::vector<Rect> ScreenAreas(QRect (QScreen::*area)() const)
+{
+    std::vector<Rect> areas;
+    for (const auto* const screen : QGuiApplication::screens())
+        areas.push_back(FromQt((screen->*area)()));
+    return areas;
+}
+
 } // namespace
 
 frmMain::frmMain(const QString& programFolder)
@@ -74,7 +83,6 @@ frmMain::frmMain(const QString& programFolder)
     , m_video(new VideoFrame(programFolder + "Audio.JPG", m_content))
     , m_time(new DigitLabel(this))
     , m_rate(new QLabel(this))
-    , m_note(new QLabel(this))
     , m_volumeNumber(new DigitLabel(this))
     , m_caption(kProgramName)
 {
@@ -89,7 +97,8 @@ frmMain::frmMain(const QString& programFolder)
     m_content->setHandleWidth(kSplitterWidth);
     m_video->installEventFilter(this);
     m_video->setAcceptDrops(true);
-    for (auto* const label : { m_time, m_rate, m_note, m_volumeNumber })
+    m_video->setFocusPolicy(Qt::ClickFocus);
+    for (auto* const label : { m_time, m_rate, m_volumeNumber })
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_rate->setObjectName("lblRate");
     m_rate->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -98,10 +107,6 @@ frmMain::frmMain(const QString& programFolder)
     for (auto* const label : { m_rate, m_volumeNumber })
         label->setForegroundRole(QPalette::PlaceholderText);
     m_time->setObjectName("lblTime");
-    m_note->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_note->setTextFormat(Qt::PlainText);
-    m_noteEnd.setSingleShot(true);
-    connect(&m_noteEnd, &QTimer::timeout, this, [this] { ShowNote({}); });
     m_progressDelay.setSingleShot(true);
     m_geometrySettled.setSingleShot(true);
     m_geometrySettled.setInterval(200ms);
@@ -139,9 +144,12 @@ void frmMain::ShowWindow()
     // The window can be used without its pictures; whoever looks for them finds the name.
     if (const auto loaded = m_skin.Load(m_programFolder + "images/"); !loaded)
         qWarning("%s", loaded.error().text.c_str());
+    if (QGuiApplication::platformName() == "offscreen")
+        qWarning("There is no display: the window is not seen, but files play. Ctrl+C ends the player.");
     if (!m_placed) {
-        auto place = geometry();
-        place.moveCenter(screen()->availableGeometry().center());
+        const auto room = screen()->availableGeometry();
+        QRect place({}, size().boundedTo(room.size()).expandedTo(minimumSize()));
+        place.moveCenter(room.center());
         setGeometry(place);
     }
     KeepNormalGeometry();
@@ -161,13 +169,9 @@ void frmMain::SetWindowSize(int width, int height)
 
 void frmMain::SetWindowPosition(int left, int top)
 {
-    std::vector<Rect> screens;
-    for (const auto* const each : QGuiApplication::screens()) {
-        const auto area = each->availableGeometry();
-        screens.push_back({ area.x(), area.y(), area.width(), area.height() });
-    }
     const auto pixels = [](int twips) { return qRound(twips / kTwipsPerPixel); };
-    const auto place = MoveOntoScreen({ pixels(left), pixels(top), width(), height() }, screens);
+    const auto place =
+        MoveOntoScreen({ pixels(left), pixels(top), width(), height() }, ScreenAreas(&QScreen::availableGeometry));
     setGeometry(ToQt(place));
     m_placed = true;
 }
@@ -179,6 +183,12 @@ void frmMain::SetTopmost(bool topmost)
         platform::SetTopmost(winId(), topmost);
 }
 
+QRect frmMain::FullScreenArea() const
+{
+    const auto screens = ScreenAreas(&QScreen::geometry);
+    return ToQt(ScreenOf(FromQt(geometry()), screens));
+}
+
 void frmMain::SetFullScreen(bool fullScreen)
 {
     if (fullScreen == m_fullScreen)
@@ -187,17 +197,33 @@ void frmMain::SetFullScreen(bool fullScreen)
         KeepNormalGeometry();
         m_fullScreen = true;
         m_wasMaximized = isMaximized();
+        const auto area = FullScreenArea();
         showFullScreen();
         // Without a window manager nobody else gives the window its size.
-        windowHandle()->setGeometry(screen()->geometry());
+        windowHandle()->setGeometry(area);
+        PlaceChildren();
+        m_video->setFocus();
+        m_bar->Begin();
     } else {
         m_fullScreen = false;
         m_wasMaximized ? showMaximized() : showNormal();
         if (!m_wasMaximized)
             setGeometry(m_normal);
-        m_player->Host().FullScreenLeft();
+        FullScreenLeft();
     }
+}
+
+void frmMain::LeaveFullScreen()
+{
+    m_player->Host().SetFullScreen(false);
+}
+
+void frmMain::FullScreenLeft()
+{
+    m_player->Host().FullScreenLeft();
+    m_bar->End();
     PlaceChildren();
+    OrderFocus();
 }
 
 void frmMain::ShowCaption(const std::string& text)
@@ -254,10 +280,9 @@ void frmMain::KeepNormalGeometry()
 {
     m_geometrySettled.stop();
     // The window manager has ways of its own out of full screen. On the way in it can tell of other states first.
-    if (m_fullScreen && !isFullScreen() && !isMinimized() && size() != screen()->size()) {
+    if (m_fullScreen && !isFullScreen() && !isMinimized() && size() != FullScreenArea().size()) {
         m_fullScreen = false;
-        m_player->Host().FullScreenLeft();
-        PlaceChildren();
+        FullScreenLeft();
     }
     if (isMaximized() || m_fullScreen || isMinimized())
         return;
@@ -376,8 +401,9 @@ void frmMain::dropEvent(QDropEvent* event)
 
 void frmMain::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::WindowStateChange) {
+    if (event->type() == QEvent::WindowStateChange && m_player != nullptr) {
         PlaceChildren();
+        m_buttons[Button::Maximize]->SetName(isMaximized() ? "Restore" : "Maximize", {});
         KeepNormalGeometrySoon();
     }
     if (event->type() == QEvent::ActivationChange && !isActiveWindow() && m_player != nullptr)
@@ -410,6 +436,12 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Enter:
         unsetCursor();
         break;
+    case QEvent::MouseMove:
+        m_bar->PointerSeen(static_cast<QMouseEvent*>(event)->globalPosition().toPoint());
+        break;
+    case QEvent::Wheel:
+        TurnVolume(static_cast<QWheelEvent*>(event)->angleDelta().y());
+        return true;
     case QEvent::DragEnter:
         dragEnterEvent(static_cast<QDragEnterEvent*>(event));
         return true;
@@ -422,10 +454,19 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event)
     return QWidget::eventFilter(watched, event);
 }
 
+void frmMain::wheelEvent(QWheelEvent* event)
+{
+    // What the controls of full screen leave over belongs to the video around them.
+    if (m_fullScreen)
+        TurnVolume(event->angleDelta().y());
+}
+
 void frmMain::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape && m_fullScreen)
-        m_player->Host().SetFullScreen(false);
+    const bool leaves =
+        event->key() == Qt::Key_Escape || (event->key() == Qt::Key_F && event->modifiers() == Qt::NoModifier);
+    if (m_fullScreen && leaves)
+        LeaveFullScreen();
     else
         QWidget::keyPressEvent(event);
 }

@@ -17,6 +17,8 @@ class QSplitter;
 namespace zentaro {
 
 class FancyList;
+class FullScreenBar;
+class NoteBox;
 class Player;
 class SeekTrack;
 class SkinButton;
@@ -57,6 +59,7 @@ public:
     void StateChanged() override;
     void ShowNotice(const Notice& notice) override;
     void ShowNote(const std::string& text) override;
+    void ShowPictureNote(const std::string& text, const std::string& file) override;
     std::vector<std::string> AskForFiles(const std::string& title, const std::string& filter) override;
     void PumpMessages(int times) override;
     void PumpUntil(const std::function<bool()>& done) override;
@@ -72,6 +75,7 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
@@ -82,12 +86,25 @@ private:
     /// Buttons that have nothing to do yet show as disabled.
     SkinButtons ButtonStates() const;
     void MakeButton(Button button, const QString& name, const QString& shortcut, void (Player::*command)());
-    void MakeTitleButton(Button button, const QString& name, void (frmMain::*command)());
+    void MakeTitleButton(Button button, const QString& name, const QString& shortcut, void (frmMain::*command)());
     void MakeHeldButton(Button button, const QString& name, void (Player::*press)(), void (Player::*release)());
     void MakeSliders();
     void MakeList();
+    /// The bar of full screen and the note, which lie over the video.
+    void MakeCovers();
+    /// In the order of their places.
+    void OrderFocus();
     void ToggleMaximized();
     void PlaceChildren();
+    void PlaceControls();
+    void TurnVolume(int eighths);
+    /// The video, else the list in its place.
+    QRect NoteArea() const;
+    /// All of the screen that shows most of the window.
+    QRect FullScreenArea() const;
+    void LeaveFullScreen();
+    /// What is to be done however full screen was left.
+    void FullScreenLeft();
     /// Notes the geometry unless the window is maximised, minimised or full screen.
     void KeepNormalGeometry();
     /// Later: the window system tells a new size before it tells the state that it belongs to.
@@ -104,13 +121,13 @@ private:
     FancyList* m_list = nullptr; // FancyList1
     QLabel* m_time;
     QLabel* m_rate;
-    QLabel* m_note;
     QLabel* m_volumeNumber;
     SeekTrack* m_seek = nullptr;
     VolumeKnob* m_volume = nullptr;
+    FullScreenBar* m_bar = nullptr;
+    NoteBox* m_note = nullptr;
     QTimer m_tmrMovie;
     QTimer m_tmrRewind;
-    QTimer m_noteEnd;
     QTimer m_progressDelay;
     QTimer m_geometrySettled;
     AddProgress m_progress;

@@ -5,12 +5,16 @@
 #include "playback/TimeText.h"
 #include "playback/VideoFrame.h"
 #include "playlist/FancyList.h"
+#include "shell/FullScreenBar.h"
+#include "shell/NoteBox.h"
 #include "shell/QtGeometry.h"
 #include "shell/QtText.h"
 #include "shell/SeekTrack.h"
 #include "shell/SkinButton.h"
 #include "shell/VolumeKnob.h"
 
+#include <QFile>
+#include <QImageReader>
 #include <QLabel>
 #include <QMimeData>
 #include <QSplitter>
@@ -30,6 +34,8 @@ constexpr double kListShare = 0.45; // of the content, until the splitter is mov
 constexpr int kListRoom = 280;      // px, at the most until then
 constexpr auto kProgressDelay = 700ms;
 constexpr int kPaneMinimum = 96; // px
+constexpr auto kNoteTime = 5s;
+constexpr auto kVolumeNoteTime = 1500ms;
 
 } // namespace
 
@@ -40,9 +46,10 @@ void frmMain::Serve(Player& player)
     connect(&m_tmrRewind, &QTimer::timeout, this, [this] { m_player->OnRewindTick(); });
     MakeList();
     MakeSliders();
-    MakeTitleButton(Button::Minimize, "Minimize", &frmMain::showMinimized);
-    MakeTitleButton(Button::Maximize, "Maximize", &frmMain::ToggleMaximized);
-    MakeTitleButton(Button::Close, "Close", &frmMain::CloseWindow);
+    MakeCovers();
+    MakeTitleButton(Button::Minimize, "Minimize", {}, &frmMain::showMinimized);
+    MakeTitleButton(Button::Maximize, "Maximize", {}, &frmMain::ToggleMaximized);
+    MakeTitleButton(Button::Close, "Close", "Ctrl+X", &frmMain::CloseWindow);
     MakeButton(Button::Play, "Play", "", &Player::CMDPlayClick);
     MakeButton(Button::Pause, "Pause", "Ctrl+P", &Player::CMDPauseClick);
     MakeButton(Button::Stop, "Stop", "Ctrl+S", &Player::cmdStopClick);
@@ -51,6 +58,7 @@ void frmMain::Serve(Player& player)
     MakeHeldButton(Button::Rewind, "Rewind", &Player::RewindPressed, &Player::RewindReleased);
     MakeHeldButton(Button::FastForward, "Fast forward", &Player::cmdffMouseDown, &Player::cmdffMouseUp);
     MakeButton(Button::FullScreen, "Full Screen", "Ctrl+F", &Player::cmdFulScreenClick);
+    MakeButton(Button::Snapshot, "Snapshot", "", &Player::TakeSnapshot);
     MakeButton(Button::PlayList, "Playlist", "", &Player::cmdPlayListClick);
     MakeButton(Button::SoundOn, "Mute", "", &Player::cmdMuteClick);
     auto* const open = m_buttons[Button::Open] = new SkinButton("Open Media File", "Ctrl+O", this);
@@ -58,6 +66,7 @@ void frmMain::Serve(Player& player)
     AddShortcuts(*this, *m_player);
     StateChanged();
     PlaceChildren();
+    OrderFocus();
 }
 
 void frmMain::MakeButton(Button button, const QString& name, const QString& shortcut, void (Player::*command)())
@@ -88,9 +97,38 @@ void frmMain::MakeSliders()
     connect(m_volume, &VolumeKnob::VolumeChosen, this, [this](int percent) { m_player->SetVolume(percent); });
 }
 
-void frmMain::MakeTitleButton(Button button, const QString& name, void (frmMain::*command)())
+void frmMain::MakeCovers()
 {
-    auto* const made = m_buttons[button] = new SkinButton(name, {}, this);
+    m_bar = new FullScreenBar(
+        m_skin, [this] { return ButtonStates(); }, this);
+    m_note = new NoteBox(this);
+    for (auto* const cover : std::initializer_list<QWidget*>{ m_bar, m_note })
+        LetCoverVideo(*cover);
+    connect(&m_bar->LeaveButton(), &SkinButton::clicked, this, [this] { LeaveFullScreen(); });
+    connect(m_bar, &FullScreenBar::PointerWanted, m_video, &VideoFrame::ShowPointer);
+}
+
+void frmMain::OrderFocus()
+{
+    QWidget* last = m_list;
+    const auto follow = [&](QWidget* next) { setTabOrder(std::exchange(last, next), next); };
+    const auto followButtons = [&](std::initializer_list<Button> buttons) {
+        for (const auto button : buttons) {
+            if (const auto at = m_buttons.find(button); at != m_buttons.end())
+                follow(at->second);
+        }
+    };
+    followButtons({ Button::Snapshot });
+    follow(m_seek);
+    followButtons({ Button::FullScreen, Button::Previous, Button::Rewind, Button::Stop, Button::Play, Button::Pause,
+        Button::FastForward, Button::Next, Button::PlayList, Button::Dvd, Button::Open, Button::SoundOn });
+    follow(m_volume);
+    followButtons({ Button::Minimize, Button::Maximize, Button::Close });
+}
+
+void frmMain::MakeTitleButton(Button button, const QString& name, const QString& shortcut, void (frmMain::*command)())
+{
+    auto* const made = m_buttons[button] = new SkinButton(name, shortcut, this);
     connect(made, &SkinButton::clicked, this, command);
 }
 
@@ -179,43 +217,91 @@ void frmMain::StateChanged()
     for (const auto button : { Button::Pause, Button::Stop, Button::Previous, Button::Next, Button::Rewind,
              Button::FastForward, Button::FullScreen })
         m_buttons[button]->setEnabled(isLoaded);
+    m_buttons[Button::Snapshot]->setEnabled(m_player->CanTakeSnapshot());
+    m_buttons[Button::SoundOn]->SetName(m_player->Host().IsMuted() ? "Unmute" : "Mute", {});
     m_seek->SetItem(isLoaded, 0);
     m_volumeNumber->setText(QString::number(m_player->Host().Volume()));
     m_volume->update();
+    m_bar->update();
     update();
+}
+
+QRect frmMain::NoteArea() const
+{
+    const auto* const covered = m_video->isVisible() ? static_cast<QWidget*>(m_video) : m_content;
+    return { covered->mapTo(this, QPoint()), covered->size() };
 }
 
 void frmMain::ShowNote(const std::string& text)
 {
-    m_note->setText(ToQString(text));
-    m_rate->setVisible(text.empty());
-    if (!text.empty())
-        m_noteEnd.start(5s);
+    m_note->Show(NoteArea(), ToQString(text), {}, kNoteTime);
+}
+
+void frmMain::ShowPictureNote(const std::string& text, const std::string& file)
+{
+    QImageReader reader(QFile::decodeName(file.c_str()));
+    const auto room = (QSizeF(NoteBox::kPictureRoom) * devicePixelRatio()).toSize();
+    reader.setScaledSize(reader.size().scaled(room, Qt::KeepAspectRatio));
+    m_note->Show(NoteArea(), ToQString(text), file.empty() ? QImage() : reader.read(), kNoteTime);
+}
+
+void frmMain::TurnVolume(int eighths)
+{
+    m_volume->Turn(eighths);
+    const auto& host = m_player->Host();
+    const auto* const muted = host.IsMuted() ? " (muted)" : "";
+    m_note->Show(NoteArea(), QString("Volume %1 %%2").arg(host.Volume()).arg(muted), {}, kVolumeNoteTime);
 }
 
 void frmMain::PlaceChildren()
 {
-    if (m_list != nullptr)
-        m_list->setVisible(!m_fullScreen && m_dock != PlaylistDock::Hidden);
-    if (m_fullScreen) {
-        m_video->setVisible(true);
-        m_content->setGeometry(rect());
+    if (m_player == nullptr)
+        return;
+    m_list->setVisible(!m_fullScreen && m_dock != PlaylistDock::Hidden);
+    m_video->setVisible(m_fullScreen || m_dock != PlaylistDock::Whole);
+    m_content->setGeometry(m_fullScreen ? rect() : ToQt(Layout().Content()));
+    if (m_fullScreen)
         m_content->raise();
+    PlaceControls();
+}
+
+void frmMain::PlaceControls()
+{
+    auto* const home = m_fullScreen ? static_cast<QWidget*>(m_bar) : this;
+    const auto place = [&](QWidget* control, const Rect& rect) {
+        if (control->parentWidget() != home) {
+            control->setParent(home);
+            control->show();
+        }
+        control->setGeometry(ToQt(rect));
+    };
+    const auto placeAll = [&](const auto& layout) {
+        place(m_time, layout.TimeLabel());
+        place(m_seek, layout.SeekTrack());
+        place(m_volume, layout.VolumeSlider());
+        place(m_volumeNumber, layout.VolumeNumber());
+    };
+    const auto layout = Layout();
+    if (m_fullScreen) {
+        const BarLayout bar(width());
+        m_bar->setGeometry(0, height() - BarLayout::kHeight, width(), BarLayout::kHeight);
+        m_bar->LeaveButton().setGeometry(ToQt(bar.ButtonRect(Button::FullScreen)));
+        placeAll(bar);
+        // The rest lies under the video, where no key may go either.
+        for (const auto& [button, widget] : m_buttons) {
+            const auto rect = button == Button::FullScreen ? Rect() : bar.ButtonRect(button);
+            widget->setVisible(rect.width > 0);
+            if (rect.width > 0)
+                place(widget, rect);
+        }
         return;
     }
-    m_video->setVisible(m_dock != PlaylistDock::Whole);
-    const auto layout = Layout();
-    m_content->setGeometry(ToQt(layout.Content()));
-    m_time->setGeometry(ToQt(layout.TimeLabel()));
+    placeAll(layout);
     m_rate->setGeometry(ToQt(layout.RateLabel()));
-    m_note->setGeometry(ToQt(layout.NoteLabel()));
-    m_volumeNumber->setGeometry(ToQt(layout.VolumeNumber()));
-    if (m_seek != nullptr) {
-        m_seek->setGeometry(ToQt(layout.SeekTrack()));
-        m_volume->setGeometry(ToQt(layout.VolumeSlider()));
+    for (const auto& [button, widget] : m_buttons) {
+        place(widget, layout.ButtonRect(button));
+        widget->setVisible(true);
     }
-    for (const auto& [button, widget] : m_buttons)
-        widget->setGeometry(ToQt(layout.ButtonRect(button)));
 }
 
 } // namespace zentaro

@@ -9,6 +9,7 @@
 #include "platform/Power.h"
 #include "platform/Process.h"
 #include "platform/TextFile.h"
+#include "platform/Window.h"
 #include "playback/VideoFrame.h"
 #include "playback/VlcEngine.h"
 #include "shell/Caption.h"
@@ -78,11 +79,11 @@ std::string MakeFolderOfThisRun()
     return folder.empty() ? folder : WithTrailingSeparator(std::move(folder), platform::PathSeparator());
 }
 
-/// The engine draws into X windows only, so a Wayland session with an X server beside it is used through that server.
-void PreferX11()
+void ChooseWindowSystem()
 {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && qEnvironmentVariableIsSet("DISPLAY"))
-        qputenv("QT_QPA_PLATFORM", "xcb");
+    const auto* const chosen = platform::WindowSystem();
+    if (*chosen != '\0' && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", chosen);
 }
 
 } // namespace
@@ -90,7 +91,7 @@ void PreferX11()
 int main(int argc, char** argv)
 {
     const auto commandLine = platform::CommandLineText({ argv + 1, argv + argc });
-    PreferX11();
+    ChooseWindowSystem();
     // Qt takes words of its own from the command line; all of ours belong to the file.
     int ownArgument = 1;
     QApplication application(ownArgument, argv);

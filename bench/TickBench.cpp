@@ -23,6 +23,7 @@ public:
     double Rate() override { return 1; }
     void SetRate(double) override { }
     bool HasVideoOutput() override { return true; }
+    bool TakeSnapshot(const std::string&) override { return false; }
     void Add(const MediaLocation&, const EngineOptions&) override { }
     void Play() override { }
     void TogglePause() override { }

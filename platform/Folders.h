@@ -28,6 +28,9 @@ std::string PicturesFolder();
 /// empty when none can be made. The caller removes it.
 std::string MakeWorkingFolder();
 
+/// Makes the folder, with those that it lies in, where it is missing; false when it is not there afterwards.
+bool MakeFolder(const std::string& folder);
+
 /// Removes the folder and all that is in it; a failure is ignored. An empty name and a root are left alone.
 void RemoveFolder(const std::string& folder);
 

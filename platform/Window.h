@@ -7,6 +7,9 @@ namespace zentaro::platform {
 /// A window's number in the window system; 0 for none.
 using NativeWindow = std::uintptr_t;
 
+/// Qt's name for the window system to be used; empty where Qt chooses well by itself. "offscreen" without a display.
+const char* WindowSystem();
+
 /// Keeps the (shown) window above all others, or no longer. Its place, size and focus stay.
 void SetTopmost(NativeWindow window, bool topmost);
 

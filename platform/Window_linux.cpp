@@ -57,6 +57,16 @@ void RequestState(NativeWindow window, std::uint32_t action, const char* state)
 
 } // namespace
 
+const char* WindowSystem()
+{
+    const Connection connection(xcb_connect(nullptr, nullptr));
+    // The engine draws into X windows only, so a Wayland session with an X server beside it is used through that.
+    if (xcb_connection_has_error(connection.get()) == 0)
+        return "xcb";
+    // Without any display Qt would abort; in memory a file can still be played or handed over.
+    return std::getenv("WAYLAND_DISPLAY") != nullptr ? "" : "offscreen";
+}
+
 void SetTopmost(NativeWindow window, bool topmost)
 {
     RequestState(window, topmost ? kAddState : kRemoveState, "_NET_WM_STATE_ABOVE");

@@ -4,6 +4,11 @@
 
 namespace zentaro::platform {
 
+const char* WindowSystem()
+{
+    return "";
+}
+
 void SetTopmost(NativeWindow window, bool topmost)
 {
     SetWindowPos(

@@ -43,6 +43,11 @@ public:
     virtual void SetRate(double rate) = 0;
     virtual bool HasVideoOutput() = 0;
 
+    // video
+    /// Writes the present picture, in the video's own size, to a new PNG file of that full path. False when there is no
+    /// picture; a file that cannot be written is only missing afterwards.
+    virtual bool TakeSnapshot(const std::string& file) = 0;
+
     // playlist
     virtual void Add(const MediaLocation& location, const EngineOptions& options) = 0;
     virtual void Play() = 0;

@@ -24,6 +24,16 @@ void MakeBlack(QWidget& widget)
 
 } // namespace
 
+void LetCoverVideo(QWidget& widget)
+{
+    if (!VideoSurface::TakesWindowNumber())
+        return;
+    // Without this all its siblings get windows, too, and nothing painted behind them shows through any more.
+    QCoreApplication::setAttribute(Qt::AA_DontCreateNativeWidgetSiblings);
+    widget.setAttribute(Qt::WA_DontCreateNativeAncestors);
+    widget.setAttribute(Qt::WA_NativeWindow);
+}
+
 PictureSink::PictureSink(QWidget& surface)
     : m_surface(&surface)
 {
@@ -68,12 +78,9 @@ VideoSurface::VideoSurface(QWidget* parent)
     // Qt paints the bars beside the picture; the engine's plain output leaves them alone.
     MakeBlack(*this);
     setMouseTracking(true);
-    if (TakesWindowNumber()) {
-        setAttribute(Qt::WA_DontCreateNativeAncestors);
-        setAttribute(Qt::WA_NativeWindow);
-    } else {
+    LetCoverVideo(*this);
+    if (!TakesWindowNumber())
         m_sink = std::make_shared<PictureSink>(*this);
-    }
 }
 
 VideoSurface::~VideoSurface()
@@ -105,9 +112,9 @@ VLCAudioLogo::VLCAudioLogo(QString picturePath, QWidget* parent)
     , m_picturePath(std::move(picturePath))
 {
     setObjectName("VLCAudioLogo");
-    // Beside the engine's window it gets one, too; the rest of the window must not follow.
-    setAttribute(Qt::WA_DontCreateNativeAncestors);
+    LetCoverVideo(*this);
     MakeBlack(*this);
+    setMouseTracking(true);
     hide();
 }
 
@@ -145,9 +152,9 @@ VideoSurface* VideoFrame::AddSurface()
 {
     m_surface = new VideoSurface(this);
     m_surface->setGeometry(rect());
+    m_surface->setCursor(m_pointer);
     m_surface->show();
-    if (m_logo->isVisible())
-        m_logo->raise();
+    KeepBelow();
     return m_surface;
 }
 
@@ -156,7 +163,25 @@ void VideoFrame::ShowAudioLogo(bool shown)
     if (shown == m_logo->isVisible())
         return;
     m_logo->setVisible(shown);
-    m_logo->raise();
+    KeepBelow();
+}
+
+void VideoFrame::KeepBelow()
+{
+    // A new window comes above all others, also above what covers the video.
+    m_logo->lower();
+    if (m_surface)
+        m_surface->lower();
+}
+
+void VideoFrame::ShowPointer(bool shown)
+{
+    m_pointer = shown ? Qt::ArrowCursor : Qt::BlankCursor;
+    // Windows of their own take none from a widget without one.
+    for (auto* const part : std::initializer_list<QWidget*>{ this, m_logo, m_surface }) {
+        if (part != nullptr)
+            part->setCursor(m_pointer);
+    }
 }
 
 void VideoFrame::resizeEvent(QResizeEvent*)

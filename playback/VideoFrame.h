@@ -35,6 +35,10 @@ private:
     QImage m_back;
 };
 
+/// Lets the widget lie over the engine's window, and nothing of it through: it gets a window of its own, opaque. To be
+/// called before the widget is first shown.
+void LetCoverVideo(QWidget& widget);
+
 /// The engine's control: the black area that one engine draws its video on.
 class VideoSurface : public QWidget {
     Q_OBJECT
@@ -80,13 +84,19 @@ public:
     /// A fresh surface over the whole frame. The caller removes it.
     VideoSurface* AddSurface();
     void ShowAudioLogo(bool shown);
+    /// Whether the pointer is seen over the video.
+    void ShowPointer(bool shown);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    /// The surface, the logo over it, and over both whatever else the window has.
+    void KeepBelow();
+
     QPointer<VideoSurface> m_surface;
     VLCAudioLogo* m_logo;
+    Qt::CursorShape m_pointer = Qt::ArrowCursor;
 };
 
 } // namespace zentaro

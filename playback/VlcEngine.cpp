@@ -172,6 +172,11 @@ public:
 
     bool HasVideoOutput() override { return m_player != nullptr && libvlc_media_player_has_vout(m_player) > 0; }
 
+    bool TakeSnapshot(const std::string& file) override
+    {
+        return m_player != nullptr && libvlc_video_take_snapshot(m_player, 0, file.c_str(), 0, 0) == 0;
+    }
+
     void Add(const MediaLocation& location, const EngineOptions& options) override
     {
         if (m_player != nullptr)

@@ -133,7 +133,7 @@ void SeekTrack::paintEvent(QPaintEvent*)
     painter.setPen(Qt::NoPen);
     const auto thickness = kSlim + (kUnderPointer - kSlim) * m_nearness.Share();
     QRectF track(0, (height() - thickness) / 2, width(), thickness);
-    painter.setBrush(style::kGroove);
+    painter.setBrush(style::kTrack);
     painter.drawRoundedRect(track, thickness / 2, thickness / 2);
     track.setWidth(m_bar.FillWidth());
     painter.setBrush(style::kLight);

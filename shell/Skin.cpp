@@ -5,6 +5,7 @@
 #include <QImageReader>
 #include <QPainter>
 
+#include <algorithm>
 #include <atomic>
 #include <thread>
 
@@ -14,6 +15,7 @@ namespace {
 
 constexpr qsizetype kCopiesKiB = 64 * 1024; // a window that fills a 4K screen needs 36 MiB
 constexpr unsigned kMaximumThreads = 4;
+constexpr int kFaint = 64; // of 255: shadows and glows
 
 QImage Decoded(const QString& path)
 {
@@ -123,6 +125,22 @@ Rect Skin::DrawPicture(QPainter& painter, const Rect& rect, const std::function<
     return rect;
 }
 
+double Skin::Middle(SkinImage image) const
+{
+    const auto& picture = m_images[static_cast<std::size_t>(image)];
+    const auto shows = [&](int row) {
+        const auto* const pixels = reinterpret_cast<const QRgb*>(picture.constScanLine(row));
+        return std::any_of(pixels, pixels + picture.width(), [](QRgb pixel) { return qAlpha(pixel) > kFaint; });
+    };
+    int top = 0;
+    int bottom = picture.height();
+    while (top < bottom && !shows(top))
+        ++top;
+    while (bottom > top && !shows(bottom - 1))
+        --bottom;
+    return top < bottom ? (top + bottom) / 2.0 / picture.height() : 0.5;
+}
+
 void Skin::DrawAll(QPainter& painter, const std::vector<SkinDraw>& draws)
 {
     for (const auto& draw : draws)
@@ -137,17 +155,22 @@ void Skin::DrawBackGround(QPainter& painter, int width, int height)
 void Skin::Paint(QPainter& painter, int width, int height, const SkinButtons& buttons)
 {
     for (const auto& [image, rect] : PaintPass(width, height, buttons, m_rects)) {
-        const auto number = static_cast<std::size_t>(image) - static_cast<std::size_t>(SkinImage::FirstButton);
-        const auto fade = image < SkinImage::FirstButton ? ButtonFade() : buttons.fades[number / kButtonStateCount];
-        if (fade.share >= 1) {
+        if (image < SkinImage::FirstButton)
             Draw(painter, image, rect);
-            continue;
-        }
-        const auto from = ButtonImage(static_cast<Button>(number / kButtonStateCount), fade.from);
-        DrawPicture(painter, rect, [&, to = image](const QSize& size) {
-            return Mixed(ScaledCopy(from, size), ScaledCopy(to, size), fade.share);
-        });
+        else
+            DrawButton(painter, ButtonOf(image), buttons, rect);
     }
+}
+
+Rect Skin::DrawButton(QPainter& painter, Button button, const SkinButtons& buttons, const Rect& rect)
+{
+    const auto image = ButtonImage(button, buttons.StateOf(button));
+    const auto& fade = buttons.FadeOf(button);
+    if (fade.share >= 1)
+        return Draw(painter, image, rect);
+    return DrawPicture(painter, rect, [&](const QSize& size) {
+        return Mixed(ScaledCopy(ButtonImage(button, fade.from), size), ScaledCopy(image, size), fade.share);
+    });
 }
 
 } // namespace zentaro

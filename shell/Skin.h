@@ -29,8 +29,14 @@ public:
 
     /// The background pass, for a client area of that size (logical px).
     void DrawBackGround(QPainter& painter, int width, int height);
-    /// The paint pass. A button that changes its state shows a mixture of its two pictures.
+    /// A button in its state; while that changes, a mixture of two pictures.
+    Rect DrawButton(QPainter& painter, Button button, const SkinButtons& buttons, const Rect& rect);
+
+    /// The paint pass.
     void Paint(QPainter& painter, int width, int height, const SkinButtons& buttons);
+
+    /// The middle, as a share of the height, of what the picture shows in its place; halfway for an empty one.
+    double Middle(SkinImage image) const;
 
     /// What takes the pointer, where the passes drew it last.
     const SkinRects& Rects() const { return m_rects; }

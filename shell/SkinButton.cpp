@@ -2,6 +2,7 @@
 
 #include "shell/Style.h"
 
+#include <QCursor>
 #include <QPainter>
 
 #include <utility>
@@ -12,8 +13,7 @@ SkinButton::SkinButton(const QString& name, const QString& shortcut, QWidget* pa
     : QAbstractButton(parent)
 {
     setObjectName(name);
-    setAccessibleName(name);
-    setToolTip(shortcut.isEmpty() ? name : name + " (" + shortcut + ")");
+    SetName(name, shortcut);
     setCursor(Qt::ArrowCursor);
     // Keys go to the window; Tab still reaches the button.
     setFocusPolicy(Qt::TabFocus);
@@ -32,13 +32,21 @@ bool SkinButton::event(QEvent* event)
     return isHandled;
 }
 
+void SkinButton::SetName(const QString& name, const QString& shortcut)
+{
+    setAccessibleName(name);
+    setToolTip(shortcut.isEmpty() ? name : name + " (" + shortcut + ")");
+}
+
 ButtonState SkinButton::State() const
 {
     if (!isEnabled())
         return ButtonState::Disabled;
     if (isDown())
         return ButtonState::Press;
-    return underMouse() ? ButtonState::Over : ButtonState::Normal;
+    // A press keeps the pointer's leaving from the button until it is released.
+    const bool isUnderPointer = underMouse() && rect().contains(mapFromGlobal(QCursor::pos()));
+    return isUnderPointer ? ButtonState::Over : ButtonState::Normal;
 }
 
 void SkinButton::paintEvent(QPaintEvent*)

@@ -16,6 +16,7 @@ public:
     /// `name` is read out and, with the shortcut, shown as tooltip.
     SkinButton(const QString& name, const QString& shortcut, QWidget* parent);
 
+    void SetName(const QString& name, const QString& shortcut);
     ButtonState State() const;
     /// From the state before, for a moment after each change.
     ButtonFade StateFade() const { return { m_before, m_fade.Share() }; }

@@ -23,6 +23,7 @@ VolumeKnob::VolumeKnob(VolumeSlider& slider, QWidget* parent)
 {
     setObjectName("ImgSlider");
     setAccessibleName("Volume");
+    setToolTip("Volume");
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
     setCursor(Qt::ArrowCursor);
@@ -53,8 +54,13 @@ void VolumeKnob::mouseMoveEvent(QMouseEvent* event)
 
 void VolumeKnob::wheelEvent(QWheelEvent* event)
 {
-    Choose(m_slider.Wheel(event->angleDelta().y()));
+    Turn(event->angleDelta().y());
     event->accept();
+}
+
+void VolumeKnob::Turn(int eighths)
+{
+    Choose(m_slider.Wheel(eighths));
 }
 
 void VolumeKnob::keyPressEvent(QKeyEvent* event)
@@ -74,7 +80,7 @@ void VolumeKnob::paintEvent(QPaintEvent*)
     painter.setPen(Qt::NoPen);
     const auto middle = height() / 2.0;
     const QRectF track(0, middle - kTrackHeight / 2, width(), kTrackHeight);
-    painter.setBrush(style::kGroove);
+    painter.setBrush(style::kTrack);
     painter.drawRoundedRect(track, kTrackHeight / 2, kTrackHeight / 2);
     const auto knobLeft = m_slider.KnobLeft();
     auto loud = track;

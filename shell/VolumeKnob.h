@@ -14,6 +14,9 @@ public:
     /// The slider must outlive the widget.
     VolumeKnob(VolumeSlider& slider, QWidget* parent);
 
+    /// The wheel was turned, here or over something that is part of the same volume; in eighths of a degree.
+    void Turn(int eighths);
+
 signals:
     /// 0 to 100.
     void VolumeChosen(int percent);

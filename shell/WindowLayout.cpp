@@ -2,6 +2,8 @@
 
 #include "base/Numbers.h"
 
+#include <algorithm>
+
 namespace zentaro {
 
 namespace {
@@ -75,22 +77,69 @@ WindowLayout::Edges WindowLayout::EdgesAt(int x, int y) const
     return edges;
 }
 
+Rect BarLayout::ButtonRect(Button button) const
+{
+    const auto at = [](int left, int width) { return Rect{ left, 0, width, kHeight }; };
+    // Pairs touch, and so do the two that stand at the round one: their pictures belong together.
+    switch (button) {
+    case Button::Previous:
+        return at(20, 29);
+    case Button::Rewind:
+        return at(49, 30);
+    case Button::Stop:
+        return at(91, 36);
+    case Button::Play:
+        return at(127, 43);
+    case Button::Pause:
+        return at(170, 35);
+    case Button::FastForward:
+        return at(219, 29);
+    case Button::Next:
+        return at(248, 28);
+    case Button::SoundOn:
+    case Button::SoundOff:
+        return at(m_width - 222, 23);
+    case Button::FullScreen:
+        return at(m_width - 46, 30);
+    default:
+        return {};
+    }
+}
+
+Rect BarLayout::PictureRect(Button button, double middle) const
+{
+    // As large as in the window, but for the round one, which would be higher than the bar.
+    const auto place = ButtonRect(button);
+    const auto inWindow = WindowLayout(m_width, WindowLayout::kFirstHeight).ButtonRect(button);
+    if (place.width <= 0)
+        return {};
+    const int height = RoundHalfEven(static_cast<double>(inWindow.height) * place.width / inWindow.width);
+    return { place.left, RoundHalfEven(kHeight / 2.0 - height * middle), place.width, height };
+}
+
+const Rect& ScreenOf(const Rect& window, std::span<const Rect> screens)
+{
+    const auto* best = &screens.front();
+    for (const auto& screen : screens) {
+        if (SharedArea(window, screen) > SharedArea(window, *best))
+            best = &screen;
+    }
+    return *best;
+}
+
 Rect MoveOntoScreen(Rect window, std::span<const Rect> screens)
 {
     if (screens.empty())
         return window;
     const Rect titleBar{ window.left, window.top, window.width, 2 * kGripHeight };
-    const Rect* best = &screens.front();
-    for (const auto& screen : screens) {
-        if (SharedArea(titleBar, screen) >= kGripWidth * kGripHeight)
-            return window;
-        if (SharedArea(window, screen) > SharedArea(window, *best))
-            best = &screen;
-    }
-    window.width = std::min(window.width, best->width);
-    window.height = std::min(window.height, best->height);
-    window.left = std::clamp(window.left, best->left, best->Right() - window.width);
-    window.top = std::clamp(window.top, best->top, best->Bottom() - window.height);
+    const auto showsGrip = [&](const Rect& screen) { return SharedArea(titleBar, screen) >= kGripWidth * kGripHeight; };
+    if (std::any_of(screens.begin(), screens.end(), showsGrip))
+        return window;
+    const auto& best = ScreenOf(window, screens);
+    window.width = std::min(window.width, best.width);
+    window.height = std::min(window.height, best.height);
+    window.left = std::clamp(window.left, best.left, best.Right() - window.width);
+    window.top = std::clamp(window.top, best.top, best.Bottom() - window.height);
     return window;
 }
 

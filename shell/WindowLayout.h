@@ -64,8 +64,6 @@ public:
     /// Right of the sound button.
     Rect VolumeSlider() const { return { m_width - 78, m_height - 27, 48, 20 }; }
     Rect VolumeNumber() const { return { m_width - 27, m_height - 27, 24, 20 }; }
-    /// A passing note, in place of the rate.
-    Rect NoteLabel() const { return { 170, PanelTop() + 12, m_width - 218, 22 }; }
 
     /// Which edges of the frameless window a pointer takes hold of.
     struct Edges {
@@ -84,6 +82,33 @@ private:
     int m_width;
     int m_height;
 };
+
+/// Where the controls lie in the bar of full screen, which is as wide as the screen.
+class BarLayout {
+public:
+    static constexpr int kHeight = 56;
+
+    explicit BarLayout(int width)
+        : m_width(width)
+    {
+    }
+
+    /// What takes the pointer; empty for a button that the bar does not have.
+    Rect ButtonRect(Button button) const;
+    /// The button's picture, where `middle` of its height, 0 to 1, lies in the middle of the bar: in their pictures the
+    /// signs stand at different heights.
+    Rect PictureRect(Button button, double middle) const;
+    Rect TimeLabel() const { return { 292, 17, 130, 22 }; }
+    Rect SeekTrack() const { return { 430, 20, m_width - 668, 16 }; }
+    Rect VolumeSlider() const { return { m_width - 192, 18, 96, 20 }; }
+    Rect VolumeNumber() const { return { m_width - 88, 18, 30, 20 }; }
+
+private:
+    int m_width;
+};
+
+/// The screen that the window shares most with; the first when it shares nothing. `screens` is not empty.
+const Rect& ScreenOf(const Rect& window, std::span<const Rect> screens);
 
 /// The window's rectangle, moved onto a screen when too little of it shows to take hold of it: onto the screen that it
 /// shares most with, else onto the first. Its size stays, unless it is larger than that screen.

@@ -112,46 +112,6 @@ protected:
     }
 };
 
-struct EndRule {
-    const char* name;
-    std::int32_t playMode;
-    std::int32_t repeatMode;
-    std::vector<std::string> played;
-    bool goesOn;
-};
-
-class TransportEnds : public Transport, public testing::WithParamInterface<EndRule> { };
-
-TEST_P(TransportEnds, ShortClipsEndOnceEachAndGoOnByTheModes)
-{
-    const auto& rule = GetParam();
-    StoreSettings([&](PlayerSettings& settings) {
-        settings.PlayMode = rule.playMode;
-        settings.RepeatMode = rule.repeatMode;
-    });
-    const TitleLog log(Screen());
-    auto player = ShowWith({ { "a.mp4", 0.3 }, { "b.mp4", 1.4 }, { "c.mp4", 1.6 } });
-    const auto stop = PlaceOf(player, Button::Stop);
-    const auto idle = Look(stop);
-    Click(player, Button::Play);
-    EXPECT_TRUE(WaitUntil([&] { return Played(log).size() >= rule.played.size(); }));
-    if (!rule.goesOn) {
-        EXPECT_TRUE(TakesLook(stop, idle));
-        std::this_thread::sleep_for(2s);
-        EXPECT_EQ(ShareThatDiffers(Look(stop), idle), 0);
-        EXPECT_EQ(Played(log).size(), rule.played.size());
-    }
-    auto played = Played(log);
-    played.resize(std::min(played.size(), rule.played.size()));
-    EXPECT_EQ(played, rule.played);
-    EXPECT_CLOSES_CLEANLY(player);
-}
-
-INSTANTIATE_TEST_SUITE_P(Modes, TransportEnds,
-    testing::Values(EndRule{ "normal", 0, 2, { "a" }, false }, EndRule{ "continuous", 1, 0, { "a", "b", "c" }, false },
-        EndRule{ "repeatAll", 1, 2, { "a", "b", "c", "a", "b" }, true }),
-    [](const auto& test) { return test.param.name; });
-
 TEST_F(Transport, APressOnTheTrackLandsThere)
 {
     constexpr double kLength = 20.4;
@@ -292,6 +252,12 @@ TEST_F(Transport, MuteAndVolumeShowWhatTheyAre)
     Screen().Wheel(middle, height, -2);
     EXPECT_TRUE(TakesLook(number, half));
     Screen().Wheel(middle, height, 20);
+    EXPECT_TRUE(TakesLook(number, full));
+    // On the video as on the slider.
+    const auto content = player.OnScreen(player.Layout().Content());
+    Screen().Wheel(content.Right() - 40, content.Bottom() - 40, -1);
+    EXPECT_TRUE(WaitUntil([&] { return ShareThatDiffers(Look(number), full) > 0; }));
+    Screen().Wheel(content.Right() - 40, content.Bottom() - 40, 1);
     EXPECT_TRUE(TakesLook(number, full));
     // The ends of the slider are dead.
     Click(slider.left + 1, height);

@@ -35,11 +35,34 @@ TEST_F(MainWindow, IsMovedByItsTitleBarAndResizedAtItsEdges)
     EXPECT_EQ(player.Place().width, before.width);
     EXPECT_EQ(player.Place().height, before.height);
 
-    before = player.Place();
-    Screen().Drag(before.Right() - 3, before.Bottom() - 3, before.Right() + 160, before.Bottom() + 90);
-    EXPECT_TRUE(WaitUntil(
-        [&] { return player.Place().width > before.width + 130 && player.Place().height > before.height + 60; }));
-    EXPECT_EQ(player.Place().left, before.left);
+    for (const int horizontal : { -1, 0, 1 }) {
+        for (const int vertical : { -1, 0, 1 }) {
+            if (horizontal == 0 && vertical == 0)
+                continue;
+            SCOPED_TRACE(std::to_string(horizontal) + ", " + std::to_string(vertical));
+            // The window manager finishes the drag before after the hand has.
+            std::this_thread::sleep_for(200ms);
+            before = player.Place();
+            const auto edge = [](int side, int start, int size) {
+                return side < 0 ? start + 3 : side > 0 ? start + size - 3 : start + size / 2;
+            };
+            const int x = edge(horizontal, before.left, before.width);
+            const int y = edge(vertical, before.top, before.height);
+            Screen().Drag(x, y, x + 60 * horizontal, y + 20 * vertical);
+            const auto grows = [](int side, int by, int drag) {
+                return side == 0 ? by == 0 : by > drag - 16 && by <= drag;
+            };
+            EXPECT_TRUE(WaitUntil([&] {
+                const auto now = player.Place();
+                return grows(horizontal, now.width - before.width, 60)
+                    && grows(vertical, now.height - before.height, 20);
+            }));
+            EXPECT_EQ(horizontal < 0 ? player.Place().Right() : player.Place().left,
+                horizontal < 0 ? before.Right() : before.left);
+            EXPECT_EQ(vertical < 0 ? player.Place().Bottom() : player.Place().top,
+                vertical < 0 ? before.Bottom() : before.top);
+        }
+    }
     EXPECT_TRUE(player.PictureMoves());
 
     before = player.Place();

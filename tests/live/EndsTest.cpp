@@ -25,10 +25,6 @@ protected:
         watch.played.clear();
         player.CMDPlayClick();
     }
-    bool RunUntilPlayed(std::size_t count)
-    {
-        return RunUntilAtRate([&] { return watch.played.size() >= count; });
-    }
     bool RunUntilIdle()
     {
         return RunUntilAtRate([&] { return !player.MediaControlsEnabled(); });
@@ -110,58 +106,6 @@ TEST_F(Ends, EveryKindOfFileEndsOnceAndIsFollowedByTheNext)
     }
     EXPECT_EQ(world.screen.notes, 0);
 }
-
-struct Mode {
-    const char* name;
-    std::int32_t play;
-    std::int32_t repeat;
-    std::size_t first;               ///< the entry that is played first
-    std::vector<std::size_t> played; ///< positions of the order after the first one
-    bool stops;
-};
-
-class EndsByMode : public Ends, public testing::WithParamInterface<Mode> { };
-
-TEST_P(EndsByMode, TheOrderAndTheRepeatModeSayWhatFollows)
-{
-    const auto& mode = GetParam();
-    std::vector<std::string> clips;
-    for (const double seconds : { 0.3, 1.4, 1.6 })
-        clips.push_back(Clips::Make("for-" + std::to_string(seconds) + ".mp4", seconds));
-    AddEntries(clips);
-    player.DoAfter(1);
-    player.Entries().List().SetSelectedItem(static_cast<int>(mode.first));
-    if (mode.play == kPlayNormal)
-        player.PBNormal();
-    else
-        mode.play == kPlayContinuous ? player.PBCont() : player.PBShuffle();
-    player.SetRepeatMode(mode.repeat);
-    std::vector<std::string> expected = { clips[mode.first] };
-    for (const auto position : mode.played)
-        expected.push_back(clips[static_cast<std::size_t>(player.Entries().Order().At(static_cast<int>(position)))]);
-    PlayAt(16);
-    if (mode.stops) {
-        EXPECT_TRUE(RunUntilIdle());
-        ExpectIdleStays();
-        EXPECT_EQ(world.power.restarts, 1);
-    } else {
-        if (mode.repeat == kRepeatSingle)
-            expected.assign(4, clips[mode.first]);
-        EXPECT_TRUE(RunUntilPlayed(expected.size()));
-        EXPECT_EQ(world.power.restarts, 0);
-    }
-    EXPECT_EQ(watch.played, expected);
-    EXPECT_EQ(watch.mostAlive, 1);
-}
-
-INSTANTIATE_TEST_SUITE_P(Modes, EndsByMode,
-    testing::Values(Mode{ "normal", kPlayNormal, kRepeatAll, 1, {}, true },
-        Mode{ "continuous", kPlayContinuous, kNoRepeat, 1, { 2 }, true },
-        Mode{ "continuousRepeated", kPlayContinuous, kRepeatAll, 1, { 2, 0, 1 }, false },
-        Mode{ "shuffle", kPlayShuffle, kNoRepeat, 0, { 1, 2 }, true },
-        Mode{ "shuffleRepeated", kPlayShuffle, kRepeatAll, 0, { 1, 2, 0, 1 }, false },
-        Mode{ "repeatOne", kPlayShuffle, kRepeatSingle, 2, {}, false }),
-    [](const auto& test) { return test.param.name; });
 
 } // namespace
 } // namespace zentaro::live

@@ -36,6 +36,7 @@ public:
     double Rate() override { return m_engine->Rate(); }
     void SetRate(double rate) override { m_engine->SetRate(m_watch.rate = rate); }
     bool HasVideoOutput() override { return m_engine->HasVideoOutput(); }
+    bool TakeSnapshot(const std::string& file) override { return m_engine->TakeSnapshot(file); }
     void Add(const MediaLocation& location, const EngineOptions& options) override
     {
         m_watch.played.push_back(location.text);

@@ -33,6 +33,7 @@ public:
     void StateChanged() override { }
     void ShowNotice(const Notice&) override { }
     void ShowNote(const std::string&) override { ++notes; }
+    void ShowPictureNote(const std::string&, const std::string&) override { ++notes; }
     std::vector<std::string> AskForFiles(const std::string&, const std::string&) override { return chosen; }
     void PumpMessages(int times) override
     {

@@ -1,4 +1,5 @@
 #include "playback/EngineOptions.h"
+#include "playback/Snapshot.h"
 
 #include <gtest/gtest.h>
 
@@ -25,4 +26,12 @@ TEST(EngineOptions, each_file_has_a_snapshot_folder_of_its_own)
 {
     EXPECT_EQ(WithSnapshotFolder({}, "D:\\Shots", "C:\\Music\\song one.mp3", '\\')[2],
         "snapshot-path=D:\\Shots\\song one.mp3 Images");
+    EXPECT_EQ(SnapshotFolder("D:\\Shots", "C:\\Music\\song one.mp3", '\\'), "D:\\Shots\\song one.mp3 Images");
+    EXPECT_EQ(SnapshotFolder("/", "/a/b.avi", '/'), "/b.avi Images");
+}
+
+TEST(Snapshot, names_end_where_five_digits_do)
+{
+    EXPECT_EQ(NextSnapshotName("x", '/', [](const std::string& name) { return name != "x99999.png"; }), "x99999.png");
+    EXPECT_EQ(NextSnapshotName("x", '/', [](const std::string&) { return true; }), "");
 }

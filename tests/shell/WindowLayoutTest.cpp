@@ -1,9 +1,11 @@
 #include "shell/WindowLayout.h"
 #include "shell/Caption.h"
+#include "shell/SkinPasses.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <vector>
 
 using namespace zentaro;
 using Edges = WindowLayout::Edges;
@@ -33,6 +35,30 @@ TEST(WindowLayout, a_window_off_every_screen_comes_back_and_one_that_shows_stays
     EXPECT_EQ(MoveOntoScreen({ 100, -100, 388, 515 }, screens), (Rect{ 100, 0, 388, 515 }));
     EXPECT_EQ(MoveOntoScreen({ 9000, 9000, 4000, 4000 }, screens), (Rect{ 0, 0, 1920, 1080 }));
     EXPECT_EQ(MoveOntoScreen(onSecond, {}), onSecond);
+}
+
+TEST(WindowLayout, full_screen_goes_to_the_screen_that_shows_most_of_the_window)
+{
+    const std::array<Rect, 2> screens{ Rect{ 0, 0, 1920, 1080 }, Rect{ -1280, 0, 1280, 1024 } };
+    EXPECT_EQ(ScreenOf({ -200, 100, 388, 515 }, screens), screens[1]);
+    EXPECT_EQ(ScreenOf({ -190, 100, 388, 515 }, screens), screens[0]);
+    EXPECT_EQ(ScreenOf({ 9000, 9000, 388, 515 }, screens), screens[0]);
+}
+
+TEST(BarLayout, the_controls_keep_apart_on_the_narrowest_screen)
+{
+    const BarLayout layout(800);
+    std::vector<Rect> parts{ layout.TimeLabel(), layout.SeekTrack(), layout.VolumeSlider(), layout.VolumeNumber() };
+    for (std::size_t i = 0; i < kButtonCount; ++i) {
+        const auto button = static_cast<Button>(i);
+        if (button != Button::SoundOff && layout.ButtonRect(button).width > 0)
+            parts.push_back(layout.ButtonRect(button));
+    }
+    for (const auto& part : parts) {
+        EXPECT_EQ(SharedArea(part, { 0, 0, 800, BarLayout::kHeight }), part.width * part.height);
+        for (const auto& other : parts)
+            EXPECT_TRUE(&part == &other || SharedArea(part, other) == 0);
+    }
 }
 
 TEST(Caption, follows_the_title_bar_mode)

@@ -1,0 +1,104 @@
+#include "shell/FullScreenBar.h"
+
+#include "shell/SkinButton.h"
+#include "shell/Style.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QPainter>
+
+#include <chrono>
+#include <utility>
+
+namespace zentaro {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kRest = 2s;
+
+} // namespace
+
+FullScreenBar::FullScreenBar(Skin& skin, std::function<SkinButtons()> states, QWidget* parent)
+    : QWidget(parent)
+    , m_skin(skin)
+    , m_states(std::move(states))
+    , m_leave(new SkinButton("Leave Full Screen", "Esc", this))
+{
+    setObjectName("FullScreenBar");
+    setAccessibleName("Full screen controls");
+    setCursor(Qt::ArrowCursor);
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(kRest);
+    connect(&m_rest, &QTimer::timeout, this, &FullScreenBar::Rest);
+    hide();
+}
+
+void FullScreenBar::Begin()
+{
+    m_serves = true;
+    m_pointer = QCursor::pos();
+    emit PointerWanted(false);
+}
+
+void FullScreenBar::End()
+{
+    m_serves = false;
+    m_rest.stop();
+    hide();
+    emit PointerWanted(true);
+}
+
+void FullScreenBar::PointerSeen(const QPoint& global)
+{
+    // Windows that come and go under a still pointer are told of it, too.
+    const bool moved = std::exchange(m_pointer, global) != global;
+    if (!m_serves || (!moved && !isVisible()))
+        return;
+    if (!isVisible()) {
+        show();
+        raise();
+        emit PointerWanted(true);
+    }
+    m_rest.start();
+}
+
+void FullScreenBar::Rest()
+{
+    const bool isUsed = rect().contains(mapFromGlobal(QCursor::pos())) || QApplication::mouseButtons() != Qt::NoButton;
+    if (isUsed) {
+        m_rest.start();
+        return;
+    }
+    // What is hidden must not keep the keys.
+    if (const auto* const focus = QApplication::focusWidget(); focus != nullptr && isAncestorOf(focus))
+        parentWidget()->setFocus();
+    hide();
+    m_pointer = QCursor::pos();
+    emit PointerWanted(false);
+}
+
+void FullScreenBar::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    QLinearGradient shade(0, 0, 0, height());
+    shade.setColorAt(0, style::kBaseLight);
+    shade.setColorAt(1, style::kBase);
+    painter.fillRect(rect(), shade);
+    painter.fillRect(0, 0, width(), 1, style::kHairline);
+    const BarLayout layout(width());
+    auto buttons = m_states();
+    buttons.StateOf(Button::FullScreen) = m_leave->State();
+    buttons.FadeOf(Button::FullScreen) = m_leave->StateFade();
+    const auto hidden = buttons.isMuted ? Button::SoundOn : Button::SoundOff;
+    for (std::size_t i = 0; i < kButtonCount; ++i) {
+        const auto button = static_cast<Button>(i);
+        if (button == hidden || layout.ButtonRect(button).width <= 0)
+            continue;
+        const auto middle = m_skin.Middle(ButtonImage(button, ButtonState::Normal));
+        m_skin.DrawButton(painter, button, buttons, layout.PictureRect(button, middle));
+    }
+}
+
+} // namespace zentaro

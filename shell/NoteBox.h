@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QImage>
+#include <QTimer>
+#include <QWidget>
+
+#include <chrono>
+
+namespace zentaro {
+
+/// A short text, with a small picture over it at will, that lies over the window's upper left corner for a while. A
+/// click sends it away.
+class NoteBox : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit NoteBox(QWidget* parent);
+
+    /// `area`: where it may lie, in pixels of its parent. The picture is shown at a share of its size that fits; a null
+    /// one is left out.
+    void Show(const QRect& area, const QString& text, const QImage& picture, std::chrono::milliseconds time);
+
+    /// The largest picture, in pixels.
+    static constexpr QSize kPictureRoom{ 176, 99 };
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private:
+    QString m_text;
+    QImage m_picture;
+    QSize m_pictureSize; // as shown
+    QTimer m_end;
+};
+
+} // namespace zentaro
