@@ -145,7 +145,7 @@ void SeekTrack::paintEvent(QPaintEvent*)
     if (hasFocus()) {
         painter.setPen(QPen(style::kLight, 1));
         painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), height() / 2.0, height() / 2.0);
     }
 }
 

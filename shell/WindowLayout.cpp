@@ -114,7 +114,8 @@ Rect BarLayout::PictureRect(Button button, double middle) const
     if (place.width <= 0)
         return {};
     const int height = RoundHalfEven(static_cast<double>(inWindow.height) * place.width / inWindow.width);
-    return { place.left, RoundHalfEven(kHeight / 2.0 - height * middle), place.width, height };
+    // Cut off, not rounded: middles lie on half pixels, and neighbours must not part by one.
+    return { place.left, static_cast<int>(kHeight / 2.0 - height * middle), place.width, height };
 }
 
 const Rect& ScreenOf(const Rect& window, std::span<const Rect> screens)
