@@ -24,11 +24,14 @@ std::int16_t ItemNumber(int index)
 
 Player::Player(PlayerWorld world)
     : m_world(std::move(world))
+    , m_history(m_world.store, m_commands, m_classic)
     , m_host(m_world.engines)
     , m_playlist(m_world.random)
     , m_adding(m_playlist, m_addingHost, m_world.inspections)
 {
     m_host.onFullScreen = [this](bool fullScreen) { m_world.screen.SetFullScreen(fullScreen); };
+    if (const auto& types = m_world.associations; types.shell)
+        m_modAssoc.emplace(m_world.store, *types.shell, types.programPath, types.programFolder, m_world.separator);
 }
 
 Player::~Player() = default;
@@ -124,6 +127,7 @@ void Player::RemoveAll()
 void Player::SetPlayMode(std::int32_t mode)
 {
     m_settings.PlayMode = mode;
+    m_commands.CheckOnly(kPlayModeKeys, static_cast<std::size_t>(mode));
     m_playlist.BuildOrder(mode);
     m_world.screen.StateChanged();
 }
@@ -131,6 +135,7 @@ void Player::SetPlayMode(std::int32_t mode)
 void Player::SetRepeatMode(std::int32_t mode)
 {
     m_settings.RepeatMode = mode;
+    m_commands.CheckOnly(kRepeatModeKeys, static_cast<std::size_t>(mode));
     m_world.screen.StateChanged();
 }
 
@@ -142,14 +147,6 @@ void Player::CMDPlayClick()
     }
     m_failuresInRow = 0;
     PlaySelected();
-}
-
-void Player::PlayPause()
-{
-    if (m_playlist.Count() == 0)
-        OpenFiles(false);
-    else
-        CMDPauseClick();
 }
 
 void Player::DockPlaylist(PlaylistDock position)
@@ -200,6 +197,7 @@ void Player::PlayItem(std::int16_t index, bool fullScreen)
         engine->Play();
     }
     ShowCaption();
+    m_history.AddToHistory(m_currentItemPath, m_playlist.List().SelectedText());
     m_playlist.List().SetPlayingItem(index);
     m_playlist.List().ScrollToRow(index);
     EnableMediaControls(true);

@@ -1,7 +1,10 @@
 #pragma once
 
+#include "app/History.h"
 #include "app/PlayerScreen.h"
 #include "app/StartUp.h"
+#include "assoc/ModAssoc.h"
+#include "assoc/ModIcons.h"
 #include "base/PlayerSettings.h"
 #include "inspect/Inspection.h"
 #include "platform/HandOver.h"
@@ -17,6 +20,10 @@
 #include "playback/VolumeSlider.h"
 #include "playlist/AddQueue.h"
 #include "playlist/Playlist.h"
+#include "shell/ClassicTree.h"
+#include "shell/CommandTree.h"
+#include "shell/DvdMenu.h"
+#include "shell/SettingsPages.h"
 
 #include <cstdint>
 #include <functional>
@@ -34,6 +41,22 @@ struct HandOverService {
     std::function<std::unique_ptr<platform::HandOverLock>()> lock;
 };
 
+/// Where types of files are given to this program.
+struct AssociationService {
+    platform::AssociationShell* shell = nullptr; ///< without one, types are left alone
+    std::string programPath;                     ///< as of platform::ShortProgramPath()
+    std::string programFolder;                   ///< with a trailing separator
+    ModIcons::Loaders icons;
+    /// Runs the work once a start has done all that the user waits for.
+    std::function<void(std::function<void()>)> later;
+};
+
+/// A row of the options list.
+struct AssociationChoice {
+    std::string listText;
+    Picture icon; ///< of the program that opens the type now
+};
+
 /// What a player needs from the world.
 struct PlayerWorld {
     PlayerScreen& screen;
@@ -47,6 +70,7 @@ struct PlayerWorld {
     std::function<void()> endProcess;
     std::string settingsFolder; ///< with a trailing separator
     char separator = '/';
+    AssociationService associations = {};
 };
 
 /// The 16-bit number by which an item is played; -1, which plays nothing, for an index that does not fit.
@@ -69,6 +93,29 @@ public:
     Result<void> WriteConfigurations();
     void SaveVLCOptions();
     void SetLoadedOptions();
+    /// Takes and releases types of files as the settings say; for start-up and when options have been chosen.
+    void ApplyAssociations();
+    /// The 24 rows, by index of the flags in the settings.
+    std::vector<AssociationChoice> AssociationChoices();
+
+    /// Does what the command of this key is for. A key that no item has, and an item that is disabled or hidden, do
+    /// nothing.
+    void RunCommand(std::string_view key);
+    /// From now on the DVD menus work. It must outlive the player.
+    void UseDvdMenu(DvdMenu& dvd) { m_dvdMenu = &dvd; }
+    void mnuOpenDVD_Click();
+    void dvdsList_Click(int index);
+    /// Shows the list of DVD drives.
+    void cmdDVDClick();
+    /// Asks for files to add; the commands on the list can be used when there is one.
+    void AddVideoFile();
+    /// Shows the options while the window is not held on top.
+    void ShowOptions();
+    /// Takes over what the options dialog holds, while it is open.
+    void CommitOptions(const SettingsPages& pages);
+    void ShowAbout();
+    void ShowHelp() { m_world.screen.ShowHelp(); }
+    void Exit() { m_world.screen.CloseWindow(); }
 
     /// Adds one file and, when `playNow`, plays it; returns when that is done, unless another file is just being taken
     /// into the list: then it follows that one. `playFlag` asks for full screen.
@@ -122,6 +169,11 @@ public:
     /// Saves the present picture of the video in the item's snapshot folder and says so. Nothing without a video.
     void TakeSnapshot();
     bool CanTakeSnapshot() const { return m_mediaControlsEnabled && m_hasVideoOutput; }
+    /// Asks for a file of subtitles and shows it with the video.
+    void LoadSubtitleFile();
+    /// By what the window shows.
+    void ToggleFullScreen();
+    void LeaveFullScreen();
     /// Shows or hides the list.
     void cmdPlayListClick();
     void cmdNextClick();
@@ -140,8 +192,14 @@ public:
     void WindowResized(int width, int height);
 
     const PlayerSettings& Settings() const { return m_settings; }
+    /// The commands by key: what they are called, what is enabled, checked and shown.
+    CommandTree& SmartMenuXP1() { return m_commands; }
+    /// The menus of the tray, the playlist and the DVD button.
+    ClassicTree& ClassicMenus() { return m_classic; }
     Playlist& Entries() { return m_playlist; }
     EngineHost& Host() { return m_host; }
+    /// Null while nothing is loaded.
+    Engine* LoadedEngine() const;
     const InspectionState& Inspected() const { return m_inspected; }
     bool MediaControlsEnabled() const { return m_mediaControlsEnabled; }
     SeekBar& Seeking() { return m_seekBar; }
@@ -165,7 +223,7 @@ private:
             m_player.PlayItem(ItemNumber(index), playFlag);
         }
         std::int32_t PlayMode() const override { return m_player.m_settings.PlayMode; }
-        void EntryAdded() override { m_player.m_world.screen.StateChanged(); }
+        void EntryAdded() override { m_player.EntryAdded(); }
         void InspectionTaken(const Inspection& inspection) override
         {
             m_player.m_inspected.TakeOver(
@@ -180,6 +238,9 @@ private:
         Player& m_player;
     };
 
+    void EntryAdded();
+    void EnableListCommands();
+    void PlayHistoryItem(int slot);
     bool BecomePlayer();
     void Publish();
     /// The ticket of the file while there is one.
@@ -192,7 +253,6 @@ private:
     void StepTo(std::optional<int> index);
     void PlaySelected();
     void ItemEnded(bool failed);
-    Engine* LoadedEngine() const;
     void ApplyRate(const RateChange& change);
     void SetEngineRate(std::optional<double> rate);
     void ShowRateLabel(bool isLoading);
@@ -201,11 +261,18 @@ private:
     void EnableMediaControls(bool enabled);
     void ShowCaption();
     PlaylistDock StoredDock() const;
+    void ApplyAssociationsLater();
     std::string ConfigPath() const;
 
     PlayerWorld m_world;
     PlayerSettings m_settings;
+    std::optional<ModAssoc> m_modAssoc;
+    bool m_associationsPending = false;
     EngineOptions m_options;
+    CommandTree m_commands;
+    ClassicTree m_classic;
+    History m_history;
+    DvdMenu* m_dvdMenu = nullptr;
     EngineHost m_host;
     Playlist m_playlist;
     Adding m_addingHost{ *this };
@@ -224,7 +291,8 @@ private:
     bool m_mediaControlsEnabled = false;
     bool m_hasVideoOutput = false;
     bool m_ended = false;
-    int m_failuresInRow = 0; // items that ended without having played
+    bool m_selectsFirstAdded = false; // files of "AddVideoFile" are on their way
+    int m_failuresInRow = 0;          // items that ended without having played
 };
 
 } // namespace zentaro

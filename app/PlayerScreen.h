@@ -28,6 +28,7 @@ public:
     virtual void SetWindowPosition(int left, int top) = 0; ///< twips
     virtual void SetTopmost(bool topmost) = 0;
     virtual void SetFullScreen(bool fullScreen) = 0;
+    virtual bool IsFullScreen() const = 0;
     /// The whole text; the window shortens it to its width.
     virtual void ShowCaption(const std::string& text) = 0;
     virtual void FlashCaption() = 0;
@@ -51,6 +52,20 @@ public:
     virtual void ShowPictureNote(const std::string& text, const std::string& file) = 0;
     /// Asks for files, more than one at will. One text per folder, as ParseOpenFileResult reads it; none on cancel.
     virtual std::vector<std::string> AskForFiles(const std::string& title, const std::string& filter) = 0;
+
+    // Dialogs: they return when they are closed.
+    virtual void ShowOptions() = 0;
+    virtual void ShowAbout() = 0;
+    /// Opens the help pages; says so when they are missing.
+    virtual void ShowHelp() = 0;
+
+    /// Shows or removes the icon in the notification area, where there is one.
+    virtual void SetTrayShown(bool shown) = 0;
+    /// Pops a menu of the classic tree up, by its control's name, near what it belongs to.
+    virtual void PopupMenu(const std::string& menu) = 0;
+
+    /// Asks for one file of subtitles; empty on cancel.
+    virtual std::string AskForSubtitles() = 0;
 
     /// Lets waiting window messages be handled that many times.
     virtual void PumpMessages(int times) = 0;

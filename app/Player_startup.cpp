@@ -25,8 +25,12 @@ bool Player::Load(const std::string& commandLine)
     platform::MarkPlayerRunning(kRunningMark);
     m_world.power.EnableShutdownPrivilege();
     LoadConfigurations();
+    m_history.LoadHistory();
     m_world.screen.ShowIdle();
-    m_playlist.BuildOrder(m_settings.PlayMode);
+    EnableMediaControls(false);
+    SetPlayMode(m_settings.PlayMode);
+    SetRepeatMode(m_settings.RepeatMode);
+    DoAfter(0);
     m_startup = ReadCommandLine(commandLine, m_world.fileExists);
     m_replaceOnOpen = m_startup.ReplaceOnOpen;
     if (!BecomePlayer())
@@ -38,6 +42,7 @@ bool Player::Load(const std::string& commandLine)
     m_world.screen.ShowWindow();
     if (opening)
         WaitForFile(*opening);
+    ApplyAssociationsLater();
     m_starting = false;
     return true;
 }
@@ -108,8 +113,11 @@ void Player::Unload()
     if (std::exchange(m_ended, true))
         return;
     m_adding.Close();
+    if (m_associationsPending)
+        ApplyAssociations();
     IgnoreFailure(WriteConfigurations());
     m_host.RemoveVLCPlayer();
+    m_world.screen.SetTrayShown(false);
     m_ends.reset();
     m_world.endProcess();
 }
@@ -167,10 +175,43 @@ void Player::SetLoadedOptions()
     if (settings.RememberLastPos != 0)
         m_world.screen.SetWindowPosition(settings.WindowLeft, settings.WindowTop);
     m_world.screen.SetTopmost(settings.AlwaysOnTop != 0);
+    m_world.screen.SetTrayShown(settings.ShowInTray != 0);
     if (m_mediaControlsEnabled)
         ShowCaption();
     if (m_world.screen.IsPlaylistVisible())
         m_world.screen.SetPlaylistPosition(StoredDock());
+}
+
+void Player::ApplyAssociationsLater()
+{
+    if (!m_modAssoc || !m_world.associations.later)
+        return;
+    m_associationsPending = true;
+    m_world.associations.later([this] {
+        if (m_associationsPending)
+            ApplyAssociations();
+    });
+}
+
+void Player::ApplyAssociations()
+{
+    m_associationsPending = false;
+    if (m_modAssoc)
+        m_modAssoc->ApplyAssociations(m_settings.Associations);
+}
+
+std::vector<AssociationChoice> Player::AssociationChoices()
+{
+    const auto& service = m_world.associations;
+    if (m_modAssoc)
+        m_modAssoc->AdoptLiveOwners();
+    const ModIcons icons(m_world.store, service.icons, service.programFolder, m_world.separator);
+    std::vector<AssociationChoice> choices;
+    for (int i = 0; i < kAssociationCount; ++i) {
+        const auto row = AssociationRowAt(i, m_world.separator);
+        choices.push_back({ row.listText, service.icons.loadPicture ? icons.OwnerIcon(row.extension) : Picture() });
+    }
+    return choices;
 }
 
 PlaylistDock Player::StoredDock() const

@@ -114,6 +114,10 @@ void Player::ResetRate()
 void Player::ApplyRate(const RateChange& change)
 {
     SetEngineRate(change.engineRate);
+    if (change.increaseEnabled)
+        m_commands.SetEnabled("IncreaseSpeed", *change.increaseEnabled);
+    if (change.decreaseEnabled)
+        m_commands.SetEnabled("DecreaseSpeed", *change.decreaseEnabled);
     if (change.engineRate)
         ShowRateLabel(false);
     m_world.screen.StateChanged();
@@ -128,6 +132,7 @@ void Player::ShowRateLabel(bool isLoading)
 void Player::DoAfter(std::int16_t action)
 {
     m_afterPlay.DoAfter(action);
+    m_commands.CheckOnly(kAfterPlayKeys, m_afterPlay.MarkedItem());
     m_world.screen.StateChanged();
 }
 
@@ -176,10 +181,33 @@ void Player::NoteVideoOutput(bool hasVideoOutput)
         m_world.screen.StateChanged();
 }
 
+void Player::LoadSubtitleFile()
+{
+    const auto path = m_world.screen.AskForSubtitles();
+    // The item can have ended under the dialog.
+    auto* const engine = LoadedEngine();
+    if (path.empty() || engine == nullptr)
+        return;
+    if (!engine->AddSubtitleFile(path))
+        m_world.screen.ShowNote("The subtitles cannot be opened");
+}
+
+void Player::ToggleFullScreen()
+{
+    m_host.SetFullScreen(!m_world.screen.IsFullScreen());
+}
+
+void Player::LeaveFullScreen()
+{
+    if (m_world.screen.IsFullScreen())
+        m_host.SetFullScreen(false);
+}
+
 void Player::EnableMediaControls(bool enabled)
 {
     m_mediaControlsEnabled = enabled;
     m_hasVideoOutput = false;
+    m_commands.SetEnabled({ "Stop", "FullScreen", "IncreaseSpeed", "DecreaseSpeed", "ResetSpeed" }, enabled);
     if (!enabled)
         m_playlist.List().SetPlayingItem(FancyListState::kNone);
     m_world.screen.StateChanged();

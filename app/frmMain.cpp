@@ -1,7 +1,7 @@
 #include "app/frmMain.h"
 
 #include "app/Player.h"
-#include "app/PlayerMenus.h"
+#include "app/VideoMenu.h"
 #include "platform/Folders.h"
 #include "platform/QuitRequest.h"
 #include "platform/Window.h"
@@ -153,10 +153,13 @@ void frmMain::ShowWindow()
         setGeometry(place);
     }
     KeepNormalGeometry();
+    // Else the first part that takes keys would have them.
+    setFocus();
     // Not earlier: a messenger that waits for its player ends at once. Not later: the first file can take long.
     platform::OnQuitRequest([this] { close(); });
     show();
     m_tmrMovie.start();
+    SetTrayShown(m_hasTrayIcon);
     // Window managers read the state of a shown window only.
     if (m_topmost)
         platform::SetTopmost(winId(), true);
@@ -164,11 +167,15 @@ void frmMain::ShowWindow()
 
 void frmMain::SetWindowSize(int width, int height)
 {
+    if (isMaximized() || m_fullScreen)
+        return;
     resize(QSize(width, height).boundedTo(screen()->availableSize()).expandedTo(minimumSize()));
 }
 
 void frmMain::SetWindowPosition(int left, int top)
 {
+    if (isMaximized() || m_fullScreen)
+        return;
     const auto pixels = [](int twips) { return qRound(twips / kTwipsPerPixel); };
     const auto place =
         MoveOntoScreen({ pixels(left), pixels(top), width(), height() }, ScreenAreas(&QScreen::availableGeometry));
@@ -213,11 +220,6 @@ void frmMain::SetFullScreen(bool fullScreen)
     }
 }
 
-void frmMain::LeaveFullScreen()
-{
-    m_player->Host().SetFullScreen(false);
-}
-
 void frmMain::FullScreenLeft()
 {
     m_player->Host().FullScreenLeft();
@@ -246,7 +248,9 @@ void frmMain::ShowNotice(const Notice& notice)
     // Breaking an endless name into lines takes minutes, and nobody reads it.
     if (text.size() > kLongestNotice)
         text = text.left(kLongestNotice / 2) + " ... " + text.right(kLongestNotice / 2);
-    QMessageBox box(icon, ToQString(notice.title), text, QMessageBox::Ok, this);
+    // Above a dialog that is open: below it nobody could answer the box.
+    auto* const dialog = QApplication::activeModalWidget();
+    QMessageBox box(icon, ToQString(notice.title), text, QMessageBox::Ok, dialog != nullptr ? dialog : this);
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }
@@ -262,6 +266,12 @@ std::vector<std::string> frmMain::AskForFiles(const std::string& title, const st
     for (const auto& name : QFileDialog::getOpenFileNames(this, ToQString(title), {}, filters.join(";;")))
         paths.push_back(ToPath(name));
     return OpenFileResults(paths, platform::PathSeparator());
+}
+
+std::string frmMain::AskForSubtitles()
+{
+    const QString filter = "Subtitles (*.srt *.sub *.ass *.ssa *.vtt *.idx *.smi *.txt *.mpl);;All files (*)";
+    return ToPath(QFileDialog::getOpenFileName(this, "Open Subtitles", {}, filter));
 }
 
 void frmMain::PumpMessages(int times)
@@ -413,6 +423,10 @@ void frmMain::changeEvent(QEvent* event)
 
 bool frmMain::event(QEvent* event)
 {
+    if (event->type() == QEvent::ShortcutOverride && FocusUsesKey(*static_cast<QKeyEvent*>(event))) {
+        event->accept();
+        return true;
+    }
     if (event->type() == QEvent::ToolTip) {
         const auto* const help = static_cast<QHelpEvent*>(event);
         const bool isOnCaption = Layout().Caption().Contains(help->pos().x(), help->pos().y());
@@ -425,13 +439,15 @@ bool frmMain::event(QEvent* event)
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched != m_video)
+        return event->type() == QEvent::KeyPress && MoveSelection(*static_cast<QKeyEvent*>(event));
     switch (event->type()) {
     case QEvent::MouseButtonDblClick:
         if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
             m_player->Host().SetFullScreen(!m_fullScreen);
         return true;
     case QEvent::ContextMenu:
-        ShowPlayMenu(*this, *m_player, static_cast<QContextMenuEvent*>(event)->globalPos());
+        ShowVideoMenu(*this, *m_player, static_cast<QContextMenuEvent*>(event)->globalPos());
         return true;
     case QEvent::Enter:
         unsetCursor();
@@ -459,16 +475,6 @@ void frmMain::wheelEvent(QWheelEvent* event)
     // What the controls of full screen leave over belongs to the video around them.
     if (m_fullScreen)
         TurnVolume(event->angleDelta().y());
-}
-
-void frmMain::keyPressEvent(QKeyEvent* event)
-{
-    const bool leaves =
-        event->key() == Qt::Key_Escape || (event->key() == Qt::Key_F && event->modifiers() == Qt::NoModifier);
-    if (m_fullScreen && leaves)
-        LeaveFullScreen();
-    else
-        QWidget::keyPressEvent(event);
 }
 
 void frmMain::closeEvent(QCloseEvent* event)

@@ -4,15 +4,18 @@
 #include "shell/Skin.h"
 #include "shell/WindowLayout.h"
 
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
+#include <functional>
 #include <map>
 #include <optional>
 
 class QLabel;
 class QMimeData;
 class QSplitter;
+class QSystemTrayIcon;
 
 namespace zentaro {
 
@@ -21,9 +24,11 @@ class FullScreenBar;
 class NoteBox;
 class Player;
 class SeekTrack;
+class MenuStrip;
 class SkinButton;
 class VideoFrame;
 class VolumeKnob;
+class frmMenu;
 
 /// The main window: frameless, moved and resized by the system on the user's behalf. It shows the player's state and
 /// forwards what the user does; it decides nothing.
@@ -35,6 +40,11 @@ public:
     explicit frmMain(const QString& programFolder);
 
     VideoFrame& Video() { return *m_video; }
+    Skin& Pictures() { return m_skin; }
+    /// The dialogs are made by whoever made the window.
+    std::function<void()> onShowOptions;
+    std::function<void()> onShowAbout;
+    std::function<void()> onShowHelp;
     /// From now on the window works for this player.
     void Serve(Player& player);
 
@@ -48,6 +58,7 @@ public:
     void SetWindowPosition(int left, int top) override;
     void SetTopmost(bool topmost) override;
     void SetFullScreen(bool fullScreen) override;
+    bool IsFullScreen() const override { return m_fullScreen; }
     void ShowCaption(const std::string& text) override;
     void FlashCaption() override;
     void SetPlaylistPosition(PlaylistDock position) override;
@@ -61,6 +72,12 @@ public:
     void ShowNote(const std::string& text) override;
     void ShowPictureNote(const std::string& text, const std::string& file) override;
     std::vector<std::string> AskForFiles(const std::string& title, const std::string& filter) override;
+    void ShowOptions() override;
+    void ShowAbout() override;
+    void ShowHelp() override;
+    void SetTrayShown(bool shown) override;
+    void PopupMenu(const std::string& menu) override;
+    std::string AskForSubtitles() override;
     void PumpMessages(int times) override;
     void PumpUntil(const std::function<bool()>& done) override;
 
@@ -76,7 +93,6 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -94,6 +110,14 @@ private:
     void MakeCovers();
     /// In the order of their places.
     void OrderFocus();
+    /// The menu strip and the keys of the commands and of PlayerKeys.
+    void MakeMenus();
+    /// Whether what has the focus uses the key itself.
+    bool FocusUsesKey(const QKeyEvent& event) const;
+    /// The list has no keys of its own: the window moves its selection. False for other keys.
+    bool MoveSelection(const QKeyEvent& event);
+    /// Made on first use.
+    frmMenu& ClassicMenus();
     void ToggleMaximized();
     void PlaceChildren();
     void PlaceControls();
@@ -102,7 +126,6 @@ private:
     QRect NoteArea() const;
     /// All of the screen that shows most of the window.
     QRect FullScreenArea() const;
-    void LeaveFullScreen();
     /// What is to be done however full screen was left.
     void FullScreenLeft();
     /// Notes the geometry unless the window is maximised, minimised or full screen.
@@ -126,6 +149,9 @@ private:
     VolumeKnob* m_volume = nullptr;
     FullScreenBar* m_bar = nullptr;
     NoteBox* m_note = nullptr;
+    MenuStrip* m_strip = nullptr;
+    frmMenu* m_menus = nullptr;
+    QPointer<QSystemTrayIcon> m_tray;
     QTimer m_tmrMovie;
     QTimer m_tmrRewind;
     QTimer m_progressDelay;
@@ -140,6 +166,7 @@ private:
     bool m_fullScreen = false;
     bool m_wasMaximized = false; // before full screen
     bool m_topmost = false;
+    bool m_hasTrayIcon = false; // as the settings want it
     bool m_placed = false;
 };
 

@@ -1,11 +1,12 @@
 #include "app/frmMain.h"
 
 #include "app/Player.h"
-#include "app/PlayerMenus.h"
+#include "app/frmMenu.h"
 #include "playback/TimeText.h"
 #include "playback/VideoFrame.h"
 #include "playlist/FancyList.h"
 #include "shell/FullScreenBar.h"
+#include "shell/MenuStrip.h"
 #include "shell/NoteBox.h"
 #include "shell/QtGeometry.h"
 #include "shell/QtText.h"
@@ -60,10 +61,11 @@ void frmMain::Serve(Player& player)
     MakeButton(Button::FullScreen, "Full Screen", "Ctrl+F", &Player::cmdFulScreenClick);
     MakeButton(Button::Snapshot, "Snapshot", "", &Player::TakeSnapshot);
     MakeButton(Button::PlayList, "Playlist", "", &Player::cmdPlayListClick);
+    MakeButton(Button::Dvd, "DVD", "", &Player::cmdDVDClick);
     MakeButton(Button::SoundOn, "Mute", "", &Player::cmdMuteClick);
     auto* const open = m_buttons[Button::Open] = new SkinButton("Open Media File", "Ctrl+O", this);
     connect(open, &SkinButton::clicked, this, [this] { m_player->OpenFiles(false); });
-    AddShortcuts(*this, *m_player);
+    MakeMenus();
     StateChanged();
     PlaceChildren();
     OrderFocus();
@@ -104,7 +106,7 @@ void frmMain::MakeCovers()
     m_note = new NoteBox(this);
     for (auto* const cover : std::initializer_list<QWidget*>{ m_bar, m_note })
         LetCoverVideo(*cover);
-    connect(&m_bar->LeaveButton(), &SkinButton::clicked, this, [this] { LeaveFullScreen(); });
+    connect(&m_bar->LeaveButton(), &SkinButton::clicked, this, [this] { m_player->LeaveFullScreen(); });
     connect(m_bar, &FullScreenBar::PointerWanted, m_video, &VideoFrame::ShowPointer);
 }
 
@@ -140,13 +142,14 @@ void frmMain::MakeList()
     state.SetItemHeight(80);
     m_list = new FancyList(state, m_content);
     m_list->setObjectName("FancyList1");
+    m_list->installEventFilter(this);
     m_list->setMinimumSize(kPaneMinimum, kPaneMinimum);
     m_video->setMinimumSize(kPaneMinimum, kPaneMinimum);
     connect(m_list, &FancyList::Click, this, [this] { m_player->ListClicked(); });
     connect(m_list, &FancyList::DblClick, this, [this] { m_player->ListDoubleClicked(); });
     connect(m_list, &FancyList::MouseDown, this, [this](Qt::MouseButton button, Qt::KeyboardModifiers, int x, int y) {
         if (button == Qt::RightButton)
-            ShowListMenu(*this, *m_player, m_list->mapToGlobal(QPoint(x, y)));
+            ClassicMenus().Popup("mnuPlayListmenu", m_list->mapToGlobal(QPoint(x, y)));
     });
     connect(m_list, &FancyList::CancelAdding, this, [this] { m_player->CancelAdding(); });
     connect(m_list, &FancyList::OLEDragDrop, this, [this](const QMimeData* dropped) {
@@ -297,6 +300,7 @@ void frmMain::PlaceControls()
         return;
     }
     placeAll(layout);
+    m_strip->setGeometry(ToQt(layout.MenuStrip()));
     m_rate->setGeometry(ToQt(layout.RateLabel()));
     for (const auto& [button, widget] : m_buttons) {
         place(widget, layout.ButtonRect(button));

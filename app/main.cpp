@@ -1,10 +1,14 @@
+#include "app/Dialogs.h"
 #include "app/InspectionThreads.h"
 #include "app/Player.h"
 #include "app/frmMain.h"
+#include "assoc/IconPicture.h"
 #include "base/Paths.h"
 #include "inspect/ConsoleToolRunner.h"
 #include "inspect/DiskFiles.h"
 #include "inspect/QtServices.h"
+#include "platform/AssociationShell.h"
+#include "platform/FileIcon.h"
 #include "platform/Folders.h"
 #include "platform/Power.h"
 #include "platform/Process.h"
@@ -17,6 +21,7 @@
 #include "shell/Style.h"
 
 #include <QApplication>
+#include <QTimer>
 
 #include <chrono>
 #include <optional>
@@ -121,11 +126,18 @@ int main(int argc, char** argv)
         platform::RemoveFolder(workingFolder);
         platform::EndProcess();
     };
+    const auto programPath = platform::ShortProgramPath();
+    const auto shell = platform::AssociationShell::Open(programPath, programFolder);
+    constexpr int iconSide = 64; // px: sharp in a list of a scaled display, too
+    const AssociationService associations{ shell.get(), programPath, programFolder,
+        { &platform::ExtractIcon, [](const std::string& file) { return LoadIconPicture(file, iconSide); } },
+        [&](std::function<void()> work) { QTimer::singleShot(std::chrono::seconds(2), &window, std::move(work)); } };
     Player player({ window, engines, inspections, *store, *power, RealHandOver(), RealRandom(), &platform::PathExists,
-        endProcess, settingsFolder, separator });
+        endProcess, settingsFolder, separator, associations });
     inspections.onCompleted = [&](int ticket, Inspection result) {
         player.InspectionCompleted(ticket, std::move(result));
     };
+    Dialogs dialogs(window, player, programFolder);
     window.Serve(player);
     if (!player.Load(commandLine))
         endProcess();

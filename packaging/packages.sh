@@ -11,6 +11,7 @@ ffmpeg                  reads what is inside a file, makes thumbnails, the demo 
 mpgtx                   reads MPEG program streams
 libsystemd0             speaks to the login manager; Qt brings it anyway
 fonts-inter             the typeface of the windows
+xdg-utils               opens the help and web pages in the browser
 '
 packages_build='
 g++                     the compiler
@@ -43,6 +44,7 @@ clang                   builds the fuzz targets
 libclang-rt-dev         libFuzzer and the sanitizers of clang
 g++-mingw-w64-x86-64-posix  builds for Windows
 binutils-mingw-w64-x86-64   its linker and resource compiler
+fp-utils                chmcmd, which compiles the help for Windows
 wine                    runs the Windows tests
 wine64                  its 64-bit half
 '

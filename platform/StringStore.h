@@ -24,6 +24,13 @@ public:
     /// A missing value is success.
     virtual Result<void> Delete(Root root, const std::string& key, const std::string& name) = 0;
 
+    /// Until CommitBatch() or DropBatch(), a store of files collects changes and shows them to this object alone; a
+    /// change that could not be written fails at once all the same. The registry, where a change costs nothing, takes
+    /// each one as it comes.
+    virtual void BeginBatch() { }
+    virtual Result<void> CommitBatch() { return {}; }
+    virtual void DropBatch() { }
+
     static std::unique_ptr<StringStore> Open();
 };
 

@@ -6,12 +6,16 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <QMap>
 #include <QSettings>
 #include <QStandardPaths>
 
 #include <fcntl.h>
 #include <filesystem>
+#include <map>
+#include <optional>
 #include <system_error>
+#include <utility>
 
 namespace zentaro::platform {
 namespace {
@@ -44,14 +48,16 @@ public:
 
     std::string Read(Root root, const std::string& key, const std::string& name, const std::string& fallback) override
     {
-        const QSettings file(PathOf(root), QSettings::IniFormat);
-        const auto value = file.value(QString::fromStdString(StoreFileName(key, name)));
+        const auto place = QString::fromStdString(StoreFileName(key, name));
+        const auto value = m_batch ? InBatch(root, place) : QSettings(PathOf(root), QSettings::IniFormat).value(place);
         return value.isValid() ? FromVariant(value) : fallback;
     }
 
     Result<void> Write(Root root, const std::string& key, const std::string& name, const std::string& text) override
     {
         const auto place = QString::fromStdString(StoreFileName(key, name));
+        if (m_batch)
+            return Collect(root, place, ToVariant(text));
         // A write waits for the disk, and every start writes again what its associations consist of.
         const auto stored = QSettings(PathOf(root), QSettings::IniFormat).value(place);
         if (stored.isValid() && FromVariant(stored) == text)
@@ -62,18 +68,77 @@ public:
     Result<void> Delete(Root root, const std::string& key, const std::string& name) override
     {
         const auto place = QString::fromStdString(StoreFileName(key, name));
+        if (m_batch)
+            return InBatch(root, place).isValid() ? Collect(root, place, QVariant()) : Result<void>();
         if (!QSettings(PathOf(root), QSettings::IniFormat).contains(place))
             return {};
-        // Not remove(): that would take the keys below along.
         return Change(root, [&](QSettings& file) { RemoveOnly(file, place); });
     }
 
+    void BeginBatch() override
+    {
+        m_batch.emplace();
+        for (const auto root : { Root::ClassesRoot, Root::CurrentUser }) {
+            auto& collected = (*m_batch)[root];
+            const QSettings file(PathOf(root), QSettings::IniFormat);
+            for (const auto& place : file.allKeys())
+                collected.stored.insert(place, file.value(place));
+        }
+    }
+
+    Result<void> CommitBatch() override
+    {
+        const auto batch = std::exchange(m_batch, std::nullopt);
+        // Types before what the user has chosen for them: a batch cut off between the two can be done again.
+        for (const auto root : { Root::ClassesRoot, Root::CurrentUser }) {
+            if (!batch || batch->at(root).changes.isEmpty())
+                continue;
+            const auto& changes = batch->at(root).changes;
+            auto done = Change(root, [&](QSettings& file) {
+                for (auto it = changes.cbegin(); it != changes.cend(); ++it) {
+                    if (it.value().isValid())
+                        file.setValue(it.key(), it.value());
+                    else
+                        RemoveOnly(file, it.key());
+                }
+            });
+            if (!done)
+                return done;
+        }
+        return {};
+    }
+
+    void DropBatch() override { m_batch.reset(); }
+
 private:
+    struct Collected {
+        QMap<QString, QVariant> stored;
+        QMap<QString, QVariant> changes; // an invalid value: removed
+        std::optional<Result<void>> writable;
+    };
+
+    QVariant InBatch(Root root, const QString& place) const
+    {
+        const auto& collected = m_batch->at(root);
+        return collected.changes.value(place, collected.stored.value(place));
+    }
+
+    Result<void> Collect(Root root, const QString& place, const QVariant& value)
+    {
+        auto& collected = m_batch->at(root);
+        if (!collected.writable)
+            collected.writable = Writable(root, OpenFolder());
+        if (*collected.writable)
+            collected.changes.insert(place, value);
+        return *collected.writable;
+    }
+
     QString PathOf(Root root) const
     {
         return m_folder + (root == Root::CurrentUser ? "/CurrentUser.ini" : "/ClassesRoot.ini");
     }
 
+    /// Not remove(): that would take the keys below along.
     static void RemoveOnly(QSettings& file, const QString& place)
     {
         QMap<QString, QVariant> below;
@@ -91,10 +156,8 @@ private:
         const auto folder = OpenFolder();
         LockWithin(folder.Number(), std::chrono::seconds(2));
         const auto path = PathOf(root);
-        // Asked first: QSettings would keep a change that it could not write, and show it to later reads.
-        if (faccessat(folder.Number(), ".", W_OK, AT_EACCESS) != 0
-            || !QSettings(path, QSettings::IniFormat).isWritable())
-            return Unwritable(path, QSettings::AccessError);
+        if (auto writable = Writable(root, folder); !writable)
+            return writable;
         const auto before = QFileInfo(path).lastModified();
         auto status = TryChange(path, edit);
         // A damaged file has been written anew from what was readable; a second time tells whether that worked.
@@ -104,6 +167,16 @@ private:
         if (status == QSettings::NoError)
             return {};
         return Unwritable(path, status);
+    }
+
+    /// Asked first: QSettings would keep a change that it could not write, and show it to later reads.
+    Result<void> Writable(Root root, const FileDescriptor& folder) const
+    {
+        const auto path = PathOf(root);
+        if (faccessat(folder.Number(), ".", W_OK, AT_EACCESS) == 0
+            && QSettings(path, QSettings::IniFormat).isWritable())
+            return {};
+        return Unwritable(path, QSettings::AccessError);
     }
 
     static Error Unwritable(const QString& path, QSettings::Status status)
@@ -138,6 +211,7 @@ private:
     }
 
     QString m_folder;
+    std::optional<std::map<Root, Collected>> m_batch;
 };
 
 } // namespace

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace zentaro {
 
@@ -14,6 +15,12 @@ using EngineOptions = std::array<std::string, 9>;
 struct MediaLocation {
     std::string text;
     bool isLocation = false;
+};
+
+/// A track of sound or subtitles; below 0 it stands for none.
+struct EngineTrack {
+    int id = -1;
+    std::string name;
 };
 
 /// The media engine of one item. Reads answer at once with the engine's present view; a call that the engine cannot
@@ -27,11 +34,32 @@ public:
     static constexpr int kEnded = 6;
     static constexpr int kFailed = 7;
 
+    /// The engine decides by the video.
+    static constexpr const char* kDeinterlaceAuto = "auto";
+
     virtual ~Engine() = default;
 
     // audio
     virtual void SetVolume(int percent) = 0; ///< 0 to 100
     virtual void SetMute(bool muted) = 0;
+
+    virtual std::vector<EngineTrack> AudioTracks() { return {}; }
+    virtual int AudioTrack() { return -1; }
+    virtual void SetAudioTrack(int /*id*/) { }
+
+    // video
+    virtual std::vector<EngineTrack> SubtitleTracks() { return {}; }
+    virtual int SubtitleTrack() { return -1; }
+    virtual void SetSubtitleTrack(int /*id*/) { }
+    /// Shows the subtitles of a file from now on; false when it cannot be opened.
+    virtual bool AddSubtitleFile(const std::string& /*path*/) { return false; }
+    /// Such as "16:9"; empty for the video's own.
+    virtual std::string AspectRatio() { return {}; }
+    virtual void SetAspectRatio(const std::string& /*ratio*/) { }
+    /// kDeinterlaceAuto until something else was chosen, empty while off, else the name of a filter.
+    virtual std::string Deinterlacing() { return kDeinterlaceAuto; }
+    /// Empty or the name of a filter; there is no way back to kDeinterlaceAuto.
+    virtual void SetDeinterlacing(const std::string& /*filter*/) { }
 
     // input
     virtual double Length() = 0;                   ///< ms; 0 or below while unknown

@@ -139,6 +139,58 @@ public:
             libvlc_audio_set_mute(m_player, muted);
     }
 
+    std::vector<EngineTrack> AudioTracks() override { return Tracks(&libvlc_audio_get_track_description); }
+    int AudioTrack() override { return m_player ? libvlc_audio_get_track(m_player) : -1; }
+    void SetAudioTrack(int id) override
+    {
+        if (m_player != nullptr)
+            libvlc_audio_set_track(m_player, id);
+    }
+
+    std::vector<EngineTrack> SubtitleTracks() override { return Tracks(&libvlc_video_get_spu_description); }
+    int SubtitleTrack() override { return m_player ? libvlc_video_get_spu(m_player) : -1; }
+    void SetSubtitleTrack(int id) override
+    {
+        if (m_player != nullptr)
+            libvlc_video_set_spu(m_player, id);
+    }
+
+    bool AddSubtitleFile(const std::string& path) override
+    {
+        if (m_player == nullptr)
+            return false;
+        auto* const media = libvlc_media_new_path(m_instance.get(), path.c_str());
+        auto* const address = media != nullptr ? libvlc_media_get_mrl(media) : nullptr;
+        const bool isAdded = address != nullptr
+            && libvlc_media_player_add_slave(m_player, libvlc_media_slave_type_subtitle, address, true) == 0;
+        libvlc_free(address);
+        if (media != nullptr)
+            libvlc_media_release(media);
+        return isAdded;
+    }
+
+    std::string AspectRatio() override
+    {
+        auto* const text = m_player != nullptr ? libvlc_video_get_aspect_ratio(m_player) : nullptr;
+        std::string ratio = text != nullptr ? text : "";
+        libvlc_free(text);
+        return ratio;
+    }
+    void SetAspectRatio(const std::string& ratio) override
+    {
+        if (m_player != nullptr)
+            libvlc_video_set_aspect_ratio(m_player, ratio.empty() ? nullptr : ratio.c_str());
+    }
+
+    std::string Deinterlacing() override { return m_deinterlacing; }
+    void SetDeinterlacing(const std::string& filter) override
+    {
+        // The library cannot be asked.
+        m_deinterlacing = filter;
+        if (m_player != nullptr)
+            libvlc_video_set_deinterlace(m_player, filter.empty() ? nullptr : filter.c_str());
+    }
+
     double Length() override { return static_cast<double>(m_player ? libvlc_media_player_get_length(m_player) : -1); }
     double Time() override { return static_cast<double>(m_player ? libvlc_media_player_get_time(m_player) : -1); }
 
@@ -232,6 +284,17 @@ public:
 private:
     static void OnFailed(const libvlc_event_t*, void* engine) { static_cast<VlcEngine*>(engine)->m_failed = true; }
 
+    std::vector<EngineTrack> Tracks(libvlc_track_description_t* (*describe)(libvlc_media_player_t*)) const
+    {
+        std::vector<EngineTrack> tracks;
+        auto* const first = m_player != nullptr ? describe(m_player) : nullptr;
+        for (const auto* each = first; each != nullptr; each = each->p_next)
+            tracks.push_back({ each->i_id, each->psz_name != nullptr ? each->psz_name : "" });
+        if (first != nullptr)
+            libvlc_track_description_list_release(first);
+        return tracks;
+    }
+
     /// Everything that a player must know before it plays.
     void Prepare()
     {
@@ -266,6 +329,7 @@ private:
     VlcEngines::Instance m_instance;
     libvlc_media_player_t* m_player = nullptr;
     std::atomic<bool> m_failed = false;
+    std::string m_deinterlacing = kDeinterlaceAuto;
     int m_volume = 100;
     bool m_muted = false;
 };

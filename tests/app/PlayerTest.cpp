@@ -24,6 +24,7 @@ public:
     void SetWindowPosition(int x, int y) override { log << "at " << x << "," << y << " "; }
     void SetTopmost(bool topmost) override { isTopmost = topmost; }
     void SetFullScreen(bool fullScreen) override { isFullScreen = fullScreen; }
+    bool IsFullScreen() const override { return isFullScreen; }
     void ShowCaption(const std::string& text) override { caption = text; }
     void FlashCaption() override { log << "flash "; }
     void CloseWindow() override { }
@@ -38,6 +39,12 @@ public:
     void ShowNote(const std::string& text) override { note = text; }
     void ShowPictureNote(const std::string& text, const std::string& file) override { note = text + "|" + file; }
     std::vector<std::string> AskForFiles(const std::string&, const std::string&) override { return chosen; }
+    void ShowOptions() override { log << "options " << isTopmost << " "; }
+    void ShowAbout() override { log << "about " << isTopmost << " "; }
+    void ShowHelp() override { log << "help "; }
+    void SetTrayShown(bool shown) override { hasTrayIcon = shown; }
+    void PopupMenu(const std::string& menu) override { log << "menu " << menu << " "; }
+    std::string AskForSubtitles() override { return {}; }
     void PumpMessages(int times) override { log << "pump " << times << " "; }
     void PumpUntil(const std::function<bool()>& done) override
     {
@@ -59,6 +66,7 @@ public:
     bool maximized = false;
     bool isTopmost = false;
     bool isFullScreen = false;
+    bool hasTrayIcon = false;
 };
 
 struct EngineTrace {

@@ -22,6 +22,7 @@ public:
     void SetWindowPosition(int, int) override { }
     void SetTopmost(bool) override { }
     void SetFullScreen(bool) override { }
+    bool IsFullScreen() const override { return false; }
     void ShowCaption(const std::string&) override { }
     void FlashCaption() override { }
     void SetPlaylistPosition(PlaylistDock) override { }
@@ -35,6 +36,12 @@ public:
     void ShowNote(const std::string&) override { ++notes; }
     void ShowPictureNote(const std::string&, const std::string&) override { ++notes; }
     std::vector<std::string> AskForFiles(const std::string&, const std::string&) override { return chosen; }
+    void ShowOptions() override { }
+    void ShowAbout() override { }
+    void ShowHelp() override { }
+    void SetTrayShown(bool) override { }
+    void PopupMenu(const std::string&) override { }
+    std::string AskForSubtitles() override { return {}; }
     void PumpMessages(int times) override
     {
         for (int i = 0; pump && i < times; ++i)

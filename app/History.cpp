@@ -1,0 +1,88 @@
+#include "app/History.h"
+
+#include <algorithm>
+
+namespace zentaro {
+
+namespace {
+
+constexpr auto kRoot = platform::StringStore::Root::CurrentUser;
+constexpr const char* kPathsKey = "Software\\Quorvane\\Zentaro\\RecentFileNames";
+constexpr const char* kTitlesKey = "Software\\Quorvane\\Zentaro\\RecentFileTitles";
+constexpr int kFull = 10; // entries, from which on they shift
+
+} // namespace
+
+History::History(platform::StringStore& store, CommandTree& commands, ClassicTree& classic)
+    : m_store(store)
+    , m_commands(commands)
+    , m_classic(classic)
+{
+}
+
+std::int16_t History::CountHistory()
+{
+    std::int16_t count = 0;
+    while (count < kFull && !Read(kPathsKey, count).empty())
+        ++count;
+    return count;
+}
+
+void History::LoadHistory()
+{
+    const int count = CountHistory();
+    for (int slot = 0; slot < count; ++slot)
+        Fill(slot, Read(kTitlesKey, slot), Read(kPathsKey, slot));
+}
+
+void History::AddToHistory(const std::string& path, const std::string& title)
+{
+    const int count = CountHistory();
+    if (std::ranges::find(m_paths, path) != m_paths.end())
+        return;
+    const bool isEmpty = m_commands.Find(HistoryKey(0))->caption == kNoHistory;
+    if (!isEmpty && count >= kFull) {
+        ShiftDown(path, title);
+        return;
+    }
+    const int slot = isEmpty ? 0 : count;
+    Fill(slot, title, path);
+    Write(slot, path, title);
+}
+
+void History::ShiftDown(const std::string& path, const std::string& title)
+{
+    for (int slot = 0; slot < kFull; ++slot) {
+        Fill(slot, m_classic.Find("mnuRecent", slot + 1)->caption, PathAt(slot + 1));
+        // The new file's name into every value, on purpose: the next start shows the first file and nine times this
+        // one.
+        Write(slot + 1, path, title);
+    }
+    Fill(kFull, title, path);
+}
+
+void History::Fill(int slot, const std::string& caption, const std::string& path)
+{
+    const auto key = HistoryKey(slot);
+    m_paths[static_cast<std::size_t>(slot)] = path;
+    m_commands.SetCaption(key, caption);
+    m_commands.SetEnabled(key, true);
+    m_commands.SetVisible(key, !caption.empty());
+    m_classic.SetCaption("mnuRecent", slot, caption);
+    m_classic.SetTag("mnuRecent", slot, path);
+    m_classic.SetEnabled("mnuRecent", slot, true);
+    m_classic.SetVisible("mnuRecent", slot, !caption.empty());
+}
+
+std::string History::Read(const char* key, int slot)
+{
+    return m_store.Read(kRoot, key, std::to_string(slot), {});
+}
+
+void History::Write(int slot, const std::string& path, const std::string& title)
+{
+    IgnoreFailure(m_store.Write(kRoot, kPathsKey, std::to_string(slot), path));
+    IgnoreFailure(m_store.Write(kRoot, kTitlesKey, std::to_string(slot), title));
+}
+
+} // namespace zentaro

@@ -1,0 +1,74 @@
+#include "app/VideoChoices.h"
+
+#include "app/Player.h"
+
+#include <utility>
+
+namespace zentaro {
+
+namespace {
+
+using Named = std::pair<const char*, const char*>; // caption and the engine's word
+
+constexpr Named kAspectRatios[] = { { "As in the file", "" }, { "16:9", "16:9" }, { "4:3", "4:3" },
+    { "16:10", "16:10" }, { "5:4", "5:4" }, { "1:1", "1:1" }, { "1.85:1", "185:100" }, { "2.21:1", "221:100" },
+    { "2.35:1", "235:100" }, { "2.39:1", "239:100" } };
+constexpr Named kFilters[] = { { "Off", "" }, { "Blend", "blend" }, { "Linear", "linear" }, { "Yadif", "yadif" },
+    { "Yadif, full rate", "yadif2x" } };
+constexpr const char* kDocks[] = { "Left", "Right", "Top", "Bottom", "Whole Window" };
+
+std::vector<VideoChoice> TrackChoices(
+    Player& player, const std::vector<EngineTrack>& tracks, int present, void (Engine::*choose)(int))
+{
+    std::vector<VideoChoice> choices;
+    for (const auto& track : tracks) {
+        choices.push_back({ track.id < 0 ? "Off" : track.name, track.id == present, [&player, choose, id = track.id] {
+                               if (auto* const engine = player.LoadedEngine())
+                                   (engine->*choose)(id);
+                           } });
+    }
+    return choices;
+}
+
+template <std::size_t Count>
+std::vector<VideoChoice> NamedChoices(
+    Player& player, const Named (&rows)[Count], const std::string& present, void (Engine::*choose)(const std::string&))
+{
+    std::vector<VideoChoice> choices;
+    for (const auto& [caption, word] : rows) {
+        choices.push_back({ caption, present == word, [&player, choose, word = word] {
+                               if (auto* const engine = player.LoadedEngine())
+                                   (engine->*choose)(word);
+                           } });
+    }
+    return choices;
+}
+
+} // namespace
+
+VideoChoices ReadVideoChoices(Player& player)
+{
+    VideoChoices choices;
+    for (int dock = 0; dock < static_cast<int>(std::size(kDocks)); ++dock) {
+        choices.docking.push_back({ kDocks[dock], player.Settings().PlaylistPosition == dock,
+            [&player, dock] { player.DockPlaylist(static_cast<PlaylistDock>(dock)); } });
+    }
+    auto* const engine = player.LoadedEngine();
+    if (engine == nullptr)
+        return choices;
+    choices.audioTracks = TrackChoices(player, engine->AudioTracks(), engine->AudioTrack(), &Engine::SetAudioTrack);
+    choices.hasVideo = engine->HasVideoOutput();
+    if (!choices.hasVideo)
+        return choices;
+    choices.subtitles =
+        TrackChoices(player, engine->SubtitleTracks(), engine->SubtitleTrack(), &Engine::SetSubtitleTrack);
+    choices.aspectRatios = NamedChoices(player, kAspectRatios, engine->AspectRatio(), &Engine::SetAspectRatio);
+    const auto filter = engine->Deinterlacing();
+    choices.deinterlacing = NamedChoices(player, kFilters, filter, &Engine::SetDeinterlacing);
+    // It is the engine's own choice until another is made.
+    if (filter == Engine::kDeinterlaceAuto)
+        choices.deinterlacing.insert(choices.deinterlacing.begin(), { "Automatic", true, [] {} });
+    return choices;
+}
+
+} // namespace zentaro

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace zentaro {
+
+class Player;
+
+/// One entry of a menu of which one is in force.
+struct VideoChoice {
+    std::string caption;
+    bool isChecked = false;
+    std::function<void()> choose;
+};
+
+/// What the video's own menu offers for the item that is loaded; empty where there is nothing to choose.
+struct VideoChoices {
+    std::vector<VideoChoice> audioTracks;
+    std::vector<VideoChoice> subtitles;
+    std::vector<VideoChoice> aspectRatios;
+    std::vector<VideoChoice> deinterlacing;
+    std::vector<VideoChoice> docking; ///< of the playlist
+    bool hasVideo = false;
+};
+
+/// As things are now. Choosing later is harmless: an engine that is gone is not asked.
+VideoChoices ReadVideoChoices(Player& player);
+
+} // namespace zentaro

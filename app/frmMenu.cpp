@@ -1,0 +1,89 @@
+#include "app/frmMenu.h"
+
+#include "app/ClassicHandlers.h"
+#include "app/Player.h"
+#include "shell/MenuText.h"
+
+#include <QMenu>
+#include <QTimer>
+
+namespace zentaro {
+
+frmMenu::frmMenu(Player& player, QWidget* owner)
+    : QObject(owner)
+    , m_player(player)
+    , m_owner(owner)
+{
+    Rebuild();
+    m_player.ClassicMenus().onChange = [this] { Rebuild(); };
+}
+
+frmMenu::~frmMenu()
+{
+    m_player.ClassicMenus().onChange = nullptr;
+}
+
+QMenu* frmMenu::Menu(const std::string& name) const
+{
+    const auto at = m_menus.find(name);
+    return at == m_menus.end() ? nullptr : at->second;
+}
+
+void frmMenu::Popup(const std::string& name, const QPoint& at)
+{
+    if (auto* const menu = Menu(name))
+        menu->popup(at);
+}
+
+// Adds what is new, takes away what is gone and shows the rest as it is now.
+void frmMenu::Rebuild()
+{
+    auto& tree = m_player.ClassicMenus();
+    for (auto at = m_actions.begin(); at != m_actions.end();) {
+        if (tree.Find(at->first.first, at->first.second) != nullptr) {
+            ++at;
+            continue;
+        }
+        delete at->second;
+        at = m_actions.erase(at);
+    }
+    for (const auto& item : tree.Items()) {
+        auto& action = m_actions[{ item.name, item.index }];
+        if (action != nullptr) {
+            Show(*action, item);
+            continue;
+        }
+        auto* const parent = Menu(item.parent);
+        if (tree.IsMenu(item)) {
+            auto* const menu = m_menus[item.name] = new QMenu(m_owner);
+            connect(menu, &QMenu::aboutToShow, this, [this, name = item.name] { OpenClassicMenu(m_player, name); });
+            action = menu->menuAction();
+        } else {
+            action = new QAction(this);
+            action->setSeparator(item.isSeparator);
+            connect(action, &QAction::triggered, this, [this, name = item.name, index = item.index] {
+                // Later: the menu is to be gone before a box comes.
+                QTimer::singleShot(0, this, [this, name, index] {
+                    if (const auto* const clicked = m_player.ClassicMenus().Find(name, index))
+                        ClickClassicItem(m_player, *clicked);
+                    // A checkable action has changed its mark by itself.
+                    Rebuild();
+                });
+            });
+        }
+        if (parent != nullptr)
+            parent->addAction(action);
+        Show(*action, item);
+    }
+}
+
+void frmMenu::Show(QAction& action, const ClassicItem& item) const
+{
+    action.setText(ClassicTree::IsSlot(item) && item.enabled ? MenuName(item.caption) : MenuCaption(item.caption));
+    action.setEnabled(item.enabled);
+    action.setVisible(item.visible);
+    action.setCheckable(item.checked);
+    action.setChecked(item.checked);
+}
+
+} // namespace zentaro

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QObject>
+
+#include <map>
+#include <memory>
+#include <string>
+
+class QAction;
+class QMenu;
+class QPoint;
+class QWidget;
+
+namespace zentaro {
+
+class Player;
+struct ClassicItem;
+
+/// The classic menus on the screen. There is no window: only its menus are popped up.
+class frmMenu : public QObject {
+    Q_OBJECT
+
+public:
+    frmMenu(Player& player, QWidget* owner);
+    ~frmMenu() override;
+
+    /// By the control's name; null when it is no menu.
+    QMenu* Menu(const std::string& name) const;
+    /// `at`: a place on the screen. Returns at once.
+    void Popup(const std::string& name, const QPoint& at);
+
+private:
+    void Rebuild();
+    void Show(QAction& action, const ClassicItem& item) const;
+
+    Player& m_player;
+    QWidget* m_owner;
+    std::map<std::string, QMenu*> m_menus;
+    std::map<std::pair<std::string, int>, QAction*> m_actions;
+};
+
+} // namespace zentaro

@@ -1,0 +1,10 @@
+#include "platform/FileIcon.h"
+
+namespace zentaro::platform {
+
+Picture ExtractIcon(const std::string&, std::int32_t)
+{
+    return {};
+}
+
+} // namespace zentaro::platform

@@ -1,0 +1,90 @@
+#include "platform/FileIcon.h"
+
+#include <algorithm>
+#include <memory>
+#include <shellapi.h>
+#include <type_traits>
+#include <utility>
+#include <vector>
+#include <windows.h>
+
+namespace zentaro::platform {
+namespace {
+
+struct CloseIcon {
+    void operator()(HICON icon) const { DestroyIcon(icon); }
+};
+struct CloseContext {
+    void operator()(HDC context) const { DeleteDC(context); }
+};
+struct CloseBitmap {
+    void operator()(HBITMAP bitmap) const { DeleteObject(bitmap); }
+};
+template <class Handle, class Close> using Owned = std::unique_ptr<std::remove_pointer_t<Handle>, Close>;
+
+std::string Expanded(const std::string& path)
+{
+    std::string text(32'768, '\0');
+    const auto size = ExpandEnvironmentStringsA(path.c_str(), text.data(), static_cast<DWORD>(text.size()));
+    return size == 0 || size > text.size() ? path : text.substr(0, size - 1);
+}
+
+/// Draws the icon over that colour.
+std::vector<std::uint32_t> DrawnOver(HICON icon, int width, int height, std::uint32_t colour)
+{
+    BITMAPINFO info{};
+    info.bmiHeader = { sizeof info.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0 };
+    void* bits = nullptr;
+    const Owned<HDC, CloseContext> context(CreateCompatibleDC(nullptr));
+    const Owned<HBITMAP, CloseBitmap> bitmap(CreateDIBSection(context.get(), &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    if (!context || !bitmap)
+        return {};
+    const auto count = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+    auto* const first = static_cast<std::uint32_t*>(bits);
+    std::fill(first, first + count, colour);
+    const auto previous = SelectObject(context.get(), bitmap.get());
+    DrawIconEx(context.get(), 0, 0, icon, width, height, 0, nullptr, DI_NORMAL);
+    GdiFlush();
+    std::vector<std::uint32_t> pixels(first, first + count);
+    SelectObject(context.get(), previous);
+    return pixels;
+}
+
+/// A pixel from what it became over black and over white: the less the two differ, the less it lets through.
+std::uint32_t Pixel(std::uint32_t overBlack, std::uint32_t overWhite)
+{
+    const auto green = [](std::uint32_t pixel) { return (pixel >> 8) & 0xFF; };
+    const auto difference = green(overWhite) > green(overBlack) ? green(overWhite) - green(overBlack) : 0;
+    const auto alpha = 255 - difference;
+    std::uint32_t pixel = alpha << 24;
+    for (int shift = 0; shift <= 16 && alpha > 0; shift += 8) {
+        const auto part = ((overBlack >> shift) & 0xFF) * 255 / alpha;
+        pixel |= std::min<std::uint32_t>(part, 255) << shift;
+    }
+    return pixel;
+}
+
+} // namespace
+
+Picture ExtractIcon(const std::string& file, std::int32_t index)
+{
+    // This index asks for the number of icons.
+    if (index == -1)
+        return {};
+    const auto icon = ExtractIconA(GetModuleHandleA(nullptr), Expanded(file).c_str(), static_cast<UINT>(index));
+    // 1: the file holds no icons at all.
+    if (reinterpret_cast<std::uintptr_t>(icon) <= 1)
+        return {};
+    const Owned<HICON, CloseIcon> owned(icon);
+    const int width = GetSystemMetrics(SM_CXICON);
+    const int height = GetSystemMetrics(SM_CYICON);
+    auto pixels = DrawnOver(icon, width, height, 0);
+    const auto overWhite = DrawnOver(icon, width, height, 0xFFFFFF);
+    if (pixels.size() != overWhite.size())
+        return {};
+    for (std::size_t i = 0; i < pixels.size(); ++i)
+        pixels[i] = Pixel(pixels[i], overWhite[i]);
+    return Picture(width, height, std::move(pixels));
+}
+
+} // namespace zentaro::platform

@@ -1,0 +1,51 @@
+#include "shell/MenuStrip.h"
+
+#include "shell/Style.h"
+
+#include <QMenu>
+#include <QPainter>
+
+namespace zentaro {
+
+namespace {
+
+constexpr int kItemHeight = 20;     // px
+constexpr double kCornerRadius = 4; // px
+
+} // namespace
+
+MenuStrip::MenuStrip(QWidget* parent)
+    : QMenuBar(parent)
+{
+    setObjectName("SmartMenuXP1");
+    setAccessibleName("Menu");
+    // Menu bars of the desktop's own would take it out of the window.
+    setNativeMenuBar(false);
+    setCursor(Qt::ArrowCursor);
+}
+
+void MenuStrip::OpenFirst()
+{
+    setActiveAction(actions().value(0));
+}
+
+void MenuStrip::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (auto* const action : actions()) {
+        QRect place = actionGeometry(action);
+        place.setTop((height() - kItemHeight) / 2);
+        place.setHeight(kItemHeight);
+        const bool isOpen = action->menu() != nullptr && action->menu()->isVisible();
+        if (isOpen || action == activeAction()) {
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(isOpen ? style::kSelection : style::kRaised);
+            painter.drawRoundedRect(place, kCornerRadius, kCornerRadius);
+        }
+        painter.setPen(isOpen ? style::kLight : style::kText);
+        painter.drawText(place, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine, action->text());
+    }
+}
+
+} // namespace zentaro

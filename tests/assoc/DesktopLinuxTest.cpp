@@ -1,0 +1,294 @@
+#include "assoc/ModAssoc.h"
+#include "platform/DesktopEntry.h"
+#include "platform/TextFile.h"
+#include "tests/platform/PrivateUser.h"
+
+#include <fstream>
+#include <map>
+#include <set>
+#include <sys/stat.h>
+#include <thread>
+
+namespace zentaro {
+namespace {
+
+namespace fs = std::filesystem;
+using platform::ReadTextFile;
+
+/// A desktop of the test's own, with two other players, as the common tools see it.
+class DesktopOfUser : public platform::PrivateUser {
+protected:
+    DesktopOfUser()
+    {
+        for (const auto& [name, value] :
+            std::map<std::string, std::string>{ { "XDG_CONFIG_HOME", config }, { "XDG_CONFIG_DIRS", folder / "etc" },
+                { "XDG_DATA_DIRS", folder / "system" }, { "XDG_CURRENT_DESKTOP", "X-Generic" } })
+            setenv(name.c_str(), value.c_str(), 1);
+        fs::create_directories(folder / "system/applications");
+        fs::create_directory(config);
+        fs::create_symlink("/usr/share/mime", folder / "system/mime");
+        // "other" opens everything by what it is made for, "second" only what it is told to.
+        std::string all;
+        for (const auto& name : TypeNames())
+            all += name + ";";
+        Save(folder / "system/applications/other.desktop", PlayerEntry("Other") + "MimeType=" + all + "\n");
+        Save(folder / "system/applications/second.desktop", PlayerEntry("Second"));
+        Run("update-desktop-database " + folder / "system/applications");
+        // Its folder holds everything that a command line could stumble over.
+        fs::create_directory(programFolder);
+        Save(program, "#!/bin/sh\nprintf '%s\\n' \"$#\" \"$@\" >>\"" + folder / "started" + "\"\n");
+        fs::permissions(program, fs::perms::owner_all);
+    }
+
+    static std::string PlayerEntry(const std::string& name)
+    {
+        return "[Desktop Entry]\nType=Application\nName=" + name + "\nExec=true %f\nIcon=" + name + "\n";
+    }
+    static std::set<std::string> TypeNames()
+    {
+        std::set<std::string> names;
+        for (const auto extension : kMediaExtensions)
+            names.insert(TypeOf(extension));
+        return names;
+    }
+    static std::string TypeOf(std::string_view extension)
+    {
+        return platform::MimeTypesOf("." + std::string(extension)).front();
+    }
+    static void Save(const std::string& path, const std::string& text) { std::ofstream(path) << text; }
+    static std::string Load(const std::string& path) { return ReadTextFile(path, 1'000'000).value_or("missing"); }
+
+    static std::string Run(const std::string& command)
+    {
+        std::string output;
+        auto* const pipe = popen((command + " 2>&1").c_str(), "r");
+        for (int c = 0; (c = fgetc(pipe)) != EOF;)
+            output += static_cast<char>(c);
+        pclose(pipe);
+        return output.substr(0, output.find_last_not_of('\n') + 1);
+    }
+    static std::string Default(std::string_view extension)
+    {
+        return Run("xdg-mime query default " + TypeOf(extension));
+    }
+
+    static AssociationFlags Flags(const std::set<std::string_view>& extensions)
+    {
+        AssociationFlags flags{};
+        for (std::size_t i = 0; i < flags.size(); ++i)
+            flags[i] = extensions.contains(kMediaExtensions[i]) ? 1 : 0;
+        return flags;
+    }
+    static AssociationFlags All() { return Flags({ kMediaExtensions.begin(), kMediaExtensions.end() }); }
+
+    /// A start of the player.
+    void Start(const AssociationFlags& flags) const
+    {
+        const auto store = platform::StringStore::Open();
+        const auto path = platform::ExecQuoted(program);
+        const auto shell = platform::AssociationShell::Open(path, programFolder + "/");
+        ModAssoc(*store, *shell, path, programFolder + "/", '/').ApplyAssociations(flags);
+    }
+
+    /// All files of the user with their time, but for what the system's tools make of them in their own time.
+    std::map<std::string, std::string> Files() const
+    {
+        std::map<std::string, std::string> files;
+        for (const auto* top : { "XDG_DATA_HOME", "config" }) {
+            for (const auto& file : fs::recursive_directory_iterator(folder / top)) {
+                const auto name = file.path().string();
+                if (file.is_regular_file()
+                    && (name.find("/mime/") == std::string::npos || name.ends_with("zentaro.xml")))
+                    files[name] = std::to_string(file.last_write_time().time_since_epoch().count());
+            }
+        }
+        return files;
+    }
+
+    bool Eventually(const std::function<bool()>& holds) const
+    {
+        for (int i = 0; i < 100 && !holds(); ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+        return holds();
+    }
+
+    std::string config = folder / "config";
+    std::string defaults = config + "/mimeapps.list";
+    std::string applications = folder / "XDG_DATA_HOME/applications/";
+    std::string programFolder = folder / "My $Player`s 100% \\ \"Folder\"";
+    std::string program = programFolder + "/zentaro";
+};
+
+TEST_F(DesktopOfUser, all_types_are_taken_kept_and_given_back)
+{
+    const std::string mine = "# mine\n[Default Applications]\nvideo/x-matroska=second.desktop;other.desktop;\n";
+    Save(defaults, mine);
+    Start(All());
+    for (const auto extension : kMediaExtensions)
+        EXPECT_EQ(Default(extension), "zentaro.desktop") << extension;
+    EXPECT_NE(Run("gio mime video/mpeg").find("zentaro.desktop\n"), std::string::npos);
+    EXPECT_NE(Run("gio mime video/mpeg").find("zentaro-add.desktop"), std::string::npos);
+    EXPECT_EQ(
+        Run("desktop-file-validate " + applications + "zentaro.desktop " + applications + "zentaro-add.desktop"), "");
+    EXPECT_TRUE(Eventually([&] { return Run("xdg-mime query filetype " + folder / "x.hdmov") != ""; }));
+
+    const auto files = Files();
+    Start(All());
+    EXPECT_EQ(Files(), files);
+
+    // Somebody else takes a type; the next start takes it again, and in the end that one has it.
+    Run("xdg-mime default second.desktop video/mp4");
+    Start(All());
+    EXPECT_EQ(Default("mp4"), "zentaro.desktop");
+    Start({});
+    for (const auto extension : kMediaExtensions) {
+        const bool changed = extension == "mkv" || extension == "mp4" || extension == "m4v";
+        EXPECT_EQ(Default(extension), changed ? "second.desktop" : "other.desktop") << extension;
+    }
+    EXPECT_TRUE(Load(defaults).starts_with(mine.substr(0, 31)));
+    EXPECT_NE(Load(defaults).find("video/x-matroska=second.desktop;other.desktop;"), std::string::npos);
+    EXPECT_EQ(Load(defaults).find("zentaro"), std::string::npos);
+    for (const auto& [name, time] : Files())
+        EXPECT_EQ(name.find("zentaro-add"), std::string::npos) << name;
+}
+
+TEST_F(DesktopOfUser, extensions_of_one_type_count_together)
+{
+    Start(Flags({ "mpe" }));
+    const auto taken = Files();
+    Start(Flags({ "mpe" }));
+    EXPECT_EQ(Files(), taken);
+    EXPECT_EQ(Default("mpg"), "zentaro.desktop");
+    Start(Flags({ "mpeg" }));
+    EXPECT_EQ(Default("mpg"), "zentaro.desktop");
+    EXPECT_EQ(Default("mp4"), "other.desktop");
+    // A choice made while it is released, or that was never ours to give back, stays.
+    Run("xdg-mime default second.desktop video/mpeg");
+    Run("xdg-mime default zentaro.desktop audio/mpeg");
+    Start({});
+    EXPECT_EQ(Default("mpg"), "second.desktop");
+    EXPECT_NE(Load(defaults).find("audio/mpeg=zentaro.desktop"), std::string::npos);
+}
+
+TEST_F(DesktopOfUser, an_owner_that_was_written_over_comes_back)
+{
+    Run("xdg-mime default second.desktop video/x-flv");
+    Start(Flags({ "flv" }));
+    // As a settings page does it that knows only one program per type.
+    Run("xdg-mime default zentaro.desktop video/x-flv");
+    Start({});
+    EXPECT_EQ(Default("flv"), "second.desktop");
+}
+
+TEST_F(DesktopOfUser, each_file_starts_the_program_with_the_name_and_the_word_behind_it)
+{
+    Start(Flags({ "mkv" }));
+    const auto film = folder / "My film, \"100%\" $x *Add.mkv";
+    const auto other = folder / "b.mkv";
+    Save(film, "");
+    Save(other, "");
+    Run("gio launch " + applications + "zentaro-add.desktop '" + film + "' " + other);
+    const auto wanted = [&](const std::string& a, const std::string& b) {
+        return "2\n" + a + "\n*Add\n2\n" + b + "\n*Add\n";
+    };
+    EXPECT_TRUE(Eventually([&] { return Load(folder / "started").size() == wanted(film, other).size(); }));
+    const auto started = Load(folder / "started");
+    EXPECT_TRUE(started == wanted(film, other) || started == wanted(other, film)) << started;
+}
+
+TEST_F(DesktopOfUser, icons_and_file_manager_menus_come_and_go_with_the_types)
+{
+    for (const auto* name : { "png/48/mpe.png", "png/48/mkv.png", "svg/mpe.svg" }) {
+        fs::create_directories(fs::path(programFolder + "/icons/" + name).parent_path());
+        Save(programFolder + "/icons/" + name, name);
+    }
+    const auto data = folder / "XDG_DATA_HOME/";
+    const auto icon = data + "icons/hicolor/48x48/mimetypes/zentaro-";
+    Start(Flags({ "mpe", "mpeg", "mkv", "avi" }));
+    EXPECT_EQ(Load(icon + "mpe.png"), "png/48/mpe.png");
+    EXPECT_EQ(Load(data + "icons/hicolor/scalable/mimetypes/zentaro-mpe.svg"), "svg/mpe.svg");
+    EXPECT_FALSE(fs::exists(icon + "avi.png"));
+    EXPECT_TRUE(
+        Eventually([&] { return Load(data + "mime/icons").find("video/mpeg:zentaro-mpe") != std::string::npos; }));
+    const auto menu = data + "kio/servicemenus/zentaro-add.desktop";
+    EXPECT_NE(fs::status(menu).permissions() & fs::perms::owner_exec, fs::perms::none);
+    EXPECT_NE(Load(menu).find("%f \"*Add\"\n"), std::string::npos);
+    Start(Flags({ "mkv" }));
+    EXPECT_FALSE(fs::exists(icon + "mpe.png"));
+    EXPECT_TRUE(fs::exists(icon + "mkv.png"));
+    Start({});
+    for (const auto& [name, time] : Files())
+        EXPECT_TRUE(name.ends_with(".ini") || name.ends_with(".cache") || name == defaults) << name;
+}
+
+TEST_F(DesktopOfUser, a_file_of_defaults_in_any_state_loses_nothing)
+{
+    const std::string damaged = "junk\n=\n[\n[Default Applications\r\n[Default Applications]\r\nvideo/x-flv = "
+                                "second.desktop\r\nvideo/x-flv=other.desktop\n\xFF\xFE;;\n[Default Applications]";
+    Save(folder / "elsewhere", damaged);
+    fs::create_symlink("../elsewhere", defaults);
+    Start(Flags({ "flv", "mkv" }));
+    EXPECT_EQ(Default("flv") + Default("mkv"), "zentaro.desktopzentaro.desktop");
+    EXPECT_TRUE(fs::is_symlink(defaults));
+    Start({});
+    EXPECT_EQ(Default("mkv"), "other.desktop");
+    EXPECT_EQ(Load(folder / "elsewhere").find("zentaro"), std::string::npos);
+    EXPECT_TRUE(Load(defaults).starts_with("junk\n=\n[\n[Default Applications\r\n[Default Applications]\r\n"));
+    EXPECT_NE(Load(defaults).find("\xFF\xFE;;\n"), std::string::npos);
+
+    fs::remove(defaults);
+    fs::remove_all(config);
+    Start(Flags({ "flv" }));
+    EXPECT_EQ(Default("flv"), "zentaro.desktop");
+}
+
+TEST_F(DesktopOfUser, what_must_not_be_written_leaves_all_as_it_is)
+{
+    const auto before = Files();
+    fs::create_directory(defaults);
+    Start(All());
+    EXPECT_EQ(Files(), before);
+    fs::remove(defaults);
+    fs::create_symlink("nowhere/else", defaults);
+    Start(All());
+    EXPECT_EQ(Files(), before);
+    fs::remove(defaults);
+    if (geteuid() == 0)
+        GTEST_SKIP() << "every file is writable to the administrator";
+    Save(defaults, "[Default Applications]\n");
+    const auto readOnly = Files();
+    fs::permissions(defaults, fs::perms::owner_read);
+    Start(All());
+    EXPECT_EQ(Files(), readOnly);
+    EXPECT_EQ(Default("flv"), "other.desktop");
+    // Nowhere to put the entries: the file of defaults says again what it said.
+    fs::permissions(defaults, fs::perms::owner_all);
+    fs::permissions(folder / "XDG_DATA_HOME", fs::perms::owner_read | fs::perms::owner_exec);
+    Start(All());
+    fs::permissions(folder / "XDG_DATA_HOME", fs::perms::owner_all);
+    EXPECT_EQ(Load(defaults), "[Default Applications]\n");
+}
+
+TEST_F(DesktopOfUser, the_desktops_own_file_of_defaults_does_not_stand_in_the_way)
+{
+    setenv("XDG_CURRENT_DESKTOP", "Unusual:GNOME", 1);
+    Save(config + "/gnome-mimeapps.list", "[Default Applications]\nvideo/x-flv=second.desktop\n");
+    Start(Flags({ "flv" }));
+    EXPECT_EQ(Default("flv"), "zentaro.desktop");
+    Start({});
+    EXPECT_EQ(Default("flv"), "second.desktop");
+    EXPECT_EQ(Load(config + "/gnome-mimeapps.list"), "[Default Applications]\nvideo/x-flv=second.desktop;\n");
+}
+
+TEST_F(DesktopOfUser, works_without_any_of_the_tools)
+{
+    const std::string path = getenv("PATH");
+    setenv("PATH", folder.Path().c_str(), 1);
+    Start(Flags({ "flv" }));
+    setenv("PATH", path.c_str(), 1);
+    EXPECT_EQ(Default("flv"), "zentaro.desktop");
+    EXPECT_NE(Run("gio mime video/x-flv").find("zentaro-add.desktop"), std::string::npos);
+}
+
+} // namespace
+} // namespace zentaro
