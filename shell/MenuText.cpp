@@ -17,6 +17,8 @@ QString MenuCaption(const std::string& caption)
     text.remove('&');
     if (mark >= 0)
         text.insert(mark - ToQString(caption).left(mark).count('&'), '&');
+    if (const auto gap = text.indexOf("  "); gap >= 0)
+        text = text.left(gap) + '\t' + text.mid(gap).trimmed();
     return text;
 }
 

@@ -318,6 +318,85 @@ QIcon MessageIcon(QStyle::StandardPixmap picture)
     return QIcon(pixmap);
 }
 
+/// What the toolkit's own dialogs show on buttons and before files, on a field of 24 by 24; nothing for other signs.
+QPainterPath DialogSign(QStyle::StandardPixmap picture)
+{
+    QPainterPath path;
+    const auto line = [&](std::initializer_list<QPointF> points) { path.addPolygon(QPolygonF(points)); };
+    const auto folder = [&] {
+        line({ { 3.5, 18.5 }, { 3.5, 5.5 }, { 9.5, 5.5 }, { 11.5, 8 }, { 20.5, 8 }, { 20.5, 18.5 }, { 3.5, 18.5 } });
+    };
+    switch (picture) {
+    case QStyle::SP_ArrowLeft:
+    case QStyle::SP_ArrowBack:
+    case QStyle::SP_FileDialogBack:
+        line({ { 14.5, 6 }, { 8.5, 12 }, { 14.5, 18 } });
+        break;
+    case QStyle::SP_ArrowRight:
+    case QStyle::SP_ArrowForward:
+        line({ { 9.5, 6 }, { 15.5, 12 }, { 9.5, 18 } });
+        break;
+    case QStyle::SP_FileDialogToParent:
+        line({ { 6.5, 11 }, { 12, 5.5 }, { 17.5, 11 } });
+        line({ { 12, 5.5 }, { 12, 18.5 } });
+        break;
+    case QStyle::SP_FileDialogNewFolder:
+        folder();
+        line({ { 12, 10.5 }, { 12, 16 } });
+        line({ { 9.25, 13.25 }, { 14.75, 13.25 } });
+        break;
+    case QStyle::SP_FileDialogDetailedView:
+        for (const double y : { 6.5, 12.0, 17.5 })
+            line({ { 4.5, y }, { 19.5, y } });
+        break;
+    case QStyle::SP_FileDialogListView:
+        for (const double y : { 5.0, 14.0 }) {
+            path.addRoundedRect(5, y, 5, 5, 1, 1);
+            path.addRoundedRect(14, y, 5, 5, 1, 1);
+        }
+        break;
+    case QStyle::SP_DirIcon:
+    case QStyle::SP_DirClosedIcon:
+    case QStyle::SP_DirOpenIcon:
+    case QStyle::SP_DirHomeIcon:
+    case QStyle::SP_DirLinkIcon:
+        folder();
+        break;
+    case QStyle::SP_FileIcon:
+    case QStyle::SP_FileLinkIcon:
+        line({ { 6, 3.5 }, { 13.5, 3.5 }, { 18, 8 }, { 18, 20.5 }, { 6, 20.5 }, { 6, 3.5 } });
+        line({ { 13.5, 3.5 }, { 13.5, 8 }, { 18, 8 } });
+        break;
+    case QStyle::SP_ComputerIcon:
+    case QStyle::SP_DesktopIcon:
+        path.addRoundedRect(3.5, 4.5, 17, 11.5, 1.5, 1.5);
+        line({ { 8, 19.5 }, { 16, 19.5 } });
+        break;
+    case QStyle::SP_DriveHDIcon:
+    case QStyle::SP_DriveNetIcon:
+    case QStyle::SP_DriveCDIcon:
+        path.addRoundedRect(3.5, 8.5, 17, 7.5, 1.5, 1.5);
+        line({ { 16.5, 12.25 }, { 17, 12.25 } });
+        break;
+    default:
+        break;
+    }
+    return path;
+}
+
+QIcon DialogIcon(const QPainterPath& sign)
+{
+    constexpr int kSize = 24;
+    constexpr int kDensity = 4;
+    QPixmap pixmap(kSize * kDensity, kSize * kDensity);
+    pixmap.setDevicePixelRatio(kDensity);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    const Brushwork work(painter, QPen(style::kText, 1.75, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin), Qt::NoBrush);
+    painter.drawPath(sign);
+    return QIcon(pixmap);
+}
+
 } // namespace
 
 WidgetStyle::WidgetStyle()
@@ -592,6 +671,8 @@ void WidgetStyle::drawControl(
                 item->text);
         }
         return;
+    case CE_SizeGrip:
+        return; // edges and corners take the hand everywhere
     case CE_MenuBarEmptyArea:
     case CE_MenuEmptyArea:
         return;
@@ -688,8 +769,10 @@ QIcon WidgetStyle::standardIcon(StandardPixmap picture, const QStyleOption* opti
     case SP_MessageBoxQuestion:
         return MessageIcon(picture);
     default:
-        return QProxyStyle::standardIcon(picture, option, widget);
+        break;
     }
+    const auto sign = DialogSign(picture);
+    return sign.isEmpty() ? QProxyStyle::standardIcon(picture, option, widget) : DialogIcon(sign);
 }
 
 } // namespace zentaro
