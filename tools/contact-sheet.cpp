@@ -142,10 +142,9 @@ void AddScreenshots(Sheet& sheet, const QString& folder)
     const QDir shots(folder);
     for (const auto& name : shots.entryList({ "*.png" })) {
         const QImage shot(shots.filePath(name));
-        sheet.Add(shot.width() > kWidth - 2 * kMargin
-                ? shot.scaledToWidth(kWidth - 2 * kMargin, Qt::SmoothTransformation)
-                : shot,
-            name.chopped(4));
+        constexpr int kWidest = (kWidth - 2 * kMargin - kGap) / 2;
+        sheet.Add(
+            shot.width() > kWidest ? shot.scaledToWidth(kWidest, Qt::SmoothTransformation) : shot, name.chopped(4));
     }
 }
 
