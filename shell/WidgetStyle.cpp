@@ -268,7 +268,7 @@ void DrawSlider(QPainter& painter, const QStyleOptionSlider& slider, const QRect
                        : QRectF(groove.left(), groove.center().y() - 2, groove.width(), 4);
     auto filled = groove;
     isUpright ? filled.setTop(handle.center().y()) : filled.setRight(handle.center().x());
-    const Brushwork work(painter, Qt::NoPen, style::kBase);
+    const Brushwork work(painter, Qt::NoPen, style::kTrack);
     painter.drawRoundedRect(groove, 2, 2);
     painter.setBrush(IsEnabled(slider) ? style::kLight : White(0.2));
     painter.drawRoundedRect(filled, 2, 2);
@@ -280,7 +280,7 @@ void DrawSlider(QPainter& painter, const QStyleOptionSlider& slider, const QRect
 void DrawProgress(QPainter& painter, const QStyleOptionProgressBar& bar)
 {
     const QRectF groove(bar.rect.left(), bar.rect.center().y() - 2, bar.rect.width(), 4);
-    const Brushwork work(painter, Qt::NoPen, style::kBase);
+    const Brushwork work(painter, Qt::NoPen, style::kTrack);
     painter.drawRoundedRect(groove, 2, 2);
     const double done =
         bar.maximum > bar.minimum ? (bar.progress - bar.minimum) / static_cast<double>(bar.maximum - bar.minimum) : 0.0;
