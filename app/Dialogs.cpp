@@ -43,21 +43,42 @@ Dialogs::Dialogs(frmMain& window, Player& player, std::string programFolder)
     window.onShowHelp = [this] { ShowHelp(); };
 }
 
+bool Dialogs::IsOneOpen()
+{
+    if (m_dialog)
+        m_dialog->activateWindow();
+    return m_dialog;
+}
+
+void Dialogs::Open(QDialog* dialog)
+{
+    m_dialog = dialog;
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(dialog, &QDialog::finished, &m_window, [this] { m_player.DialogClosed(); });
+    // No loop of its own: it would hold up what it was opened in, such as a file that is just being loaded.
+    dialog->setModal(true);
+    dialog->show();
+}
+
 void Dialogs::ShowOptions()
 {
-    frmSettings dialog(
+    if (IsOneOpen())
+        return;
+    auto* const options = new frmSettings(
         PagesOf(m_player.Settings()), Rows(m_player.AssociationChoices()), m_window.Pictures(), &m_window);
-    QObject::connect(&dialog, &frmSettings::Commit, &m_window,
+    QObject::connect(options, &frmSettings::Commit, &m_window,
         [this](const SettingsPages& pages) { m_player.CommitOptions(pages); });
-    dialog.exec();
+    Open(options);
 }
 
 void Dialogs::ShowAbout()
 {
-    frmAbout dialog(m_window.Pictures(), &m_window);
+    if (IsOneOpen())
+        return;
+    auto* const about = new frmAbout(m_window.Pictures(), &m_window);
     QObject::connect(
-        &dialog, &frmAbout::LinkChosen, &m_window, [this](const QString& address) { OpenPage(ToText(address)); });
-    dialog.exec();
+        about, &frmAbout::LinkChosen, &m_window, [this](const QString& address) { OpenPage(ToText(address)); });
+    Open(about);
 }
 
 void Dialogs::ShowHelp()

@@ -146,7 +146,10 @@ void Player::CMDPlayClick()
         return;
     }
     m_failuresInRow = 0;
-    PlaySelected();
+    if (m_dvdMode)
+        PlayLoadedDisc();
+    else
+        PlaySelected();
 }
 
 void Player::DockPlaylist(PlaylistDock position)
@@ -188,16 +191,20 @@ void Player::PlayItem(std::int16_t index, bool fullScreen)
     if (index < 0 || index >= m_playlist.Count())
         return;
     ReleaseHeldButtons();
+    ForgetDiscStart();
+    m_dvdMode = false;
     m_host.RemoveVLCPlayer();
     m_host.AddVLCPLayer();
     m_currentItemPath = m_playlist.PathAt(index);
     m_options = WithSnapshotFolder(m_options, m_settings.SnapshotPath, m_currentItemPath, m_world.separator);
     if (auto* const engine = m_host.VLCPlayer()) {
-        engine->Add({ m_currentItemPath, false }, m_options);
+        engine->Add({ m_currentItemPath, IsDiscLocation(m_currentItemPath) }, m_options);
         engine->Play();
     }
     ShowCaption();
-    m_history.AddToHistory(m_currentItemPath, m_playlist.List().SelectedText());
+    // Which disc a drive holds is known to nobody later.
+    if (!IsDiscLocation(m_currentItemPath))
+        m_history.AddToHistory(m_currentItemPath, m_playlist.List().SelectedText());
     m_playlist.List().SetPlayingItem(index);
     m_playlist.List().ScrollToRow(index);
     EnableMediaControls(true);

@@ -7,10 +7,13 @@
 #include "assoc/ModIcons.h"
 #include "base/PlayerSettings.h"
 #include "inspect/Inspection.h"
+#include "platform/Drives.h"
 #include "platform/HandOver.h"
 #include "platform/Power.h"
 #include "platform/StringStore.h"
 #include "playback/AfterPlay.h"
+#include "playback/DiscParts.h"
+#include "playback/DriveEnumerator.h"
 #include "playback/EngineHost.h"
 #include "playback/EngineOptions.h"
 #include "playback/HeldButtons.h"
@@ -22,7 +25,6 @@
 #include "playlist/Playlist.h"
 #include "shell/ClassicTree.h"
 #include "shell/CommandTree.h"
-#include "shell/DvdMenu.h"
 #include "shell/SettingsPages.h"
 
 #include <cstdint>
@@ -71,6 +73,10 @@ struct PlayerWorld {
     std::string settingsFolder; ///< with a trailing separator
     char separator = '/';
     AssociationService associations = {};
+    /// The answer comes back through Player::DrivesFound, soon or after many seconds.
+    std::function<void()> askForDrives = [] {};
+    /// What the list shows for a disc.
+    std::function<Picture()> readDiscPicture = [] { return Picture(); };
 };
 
 /// The 16-bit number by which an item is played; -1, which plays nothing, for an index that does not fit.
@@ -101,19 +107,17 @@ public:
     /// Does what the command of this key is for. A key that no item has, and an item that is disabled or hidden, do
     /// nothing.
     void RunCommand(std::string_view key);
-    /// From now on the DVD menus work. It must outlive the player.
-    void UseDvdMenu(DvdMenu& dvd) { m_dvdMenu = &dvd; }
-    void mnuOpenDVD_Click();
-    void dvdsList_Click(int index);
     /// Shows the list of DVD drives.
     void cmdDVDClick();
     /// Asks for files to add; the commands on the list can be used when there is one.
     void AddVideoFile();
-    /// Shows the options while the window is not held on top.
+    /// Shows the options; the window is not held on top until they are closed.
     void ShowOptions();
     /// Takes over what the options dialog holds, while it is open.
     void CommitOptions(const SettingsPages& pages);
     void ShowAbout();
+    /// The options or the about box have been closed.
+    void DialogClosed();
     void ShowHelp() { m_world.screen.ShowHelp(); }
     void Exit() { m_world.screen.CloseWindow(); }
 
@@ -186,6 +190,21 @@ public:
     /// The position timer's tick, every 500 ms.
     void OnPositionTick();
 
+    /// Asks for the drives, so that the menus come to list them: before they are shown, and by the watcher.
+    void mnuOpenDVD_Click() { m_world.askForDrives(); }
+    void DrivesFound(std::vector<platform::OpticalDrive> drives);
+    /// Replaces the playlist with the disc of that entry of the classic menu, and plays it.
+    void dvdsList_Click(int index);
+    /// The watcher's timer is to run, every 1000 ms.
+    bool IsWatchingDiscs() const { return m_discWatcher.IsOn(); }
+    void OnDVDTick();
+    /// False while no menu of a disc is shown: then the key means what it means elsewhere.
+    bool NavigateDisc(DiscKey key);
+    PartChoice Titles() const;
+    PartChoice Chapters() const;
+    void SetTitle(int index);
+    void SetChapter(int index);
+
     /// A text has come from a later start.
     void ReceiveText(const std::string& text);
     /// The window has a new size in logical pixels, by the user's hand or by the settings.
@@ -206,6 +225,7 @@ public:
     VolumeSlider& Loudness() { return m_volumeSlider; }
     const PlaybackRate& Rate() const { return m_rate; }
     const AfterPlay& AfterPlaying() const { return m_afterPlay; }
+    const DriveEnumerator& Drives() const { return m_drives; }
     bool IsRewinding() const { return m_held.IsRewinding(); }
 
 private:
@@ -238,6 +258,33 @@ private:
         Player& m_player;
     };
 
+    /// The DVD entries of both menu trees.
+    class DiscEntries : public DvdMenus {
+    public:
+        explicit DiscEntries(Player& player)
+            : m_player(player)
+        {
+        }
+        void SetCaption(const std::string& key, const std::string& caption) override
+        {
+            m_player.m_commands.SetCaption(key, caption);
+        }
+        void SetEnabled(const std::string& key, bool enabled) override { m_player.m_commands.SetEnabled(key, enabled); }
+        void SetVisible(const std::string& key, bool visible) override { m_player.m_commands.SetVisible(key, visible); }
+        int ClassicCount() const override { return m_player.m_classic.Count(kName); }
+        void SetFirstClassic(const std::string& caption, bool enabled) override
+        {
+            m_player.m_classic.SetCaption(kName, 0, caption);
+            m_player.m_classic.SetEnabled(kName, 0, enabled);
+        }
+        void LoadClassic(const std::string& caption) override { m_player.m_classic.Load(kName, caption); }
+        void UnloadLastClassic() override { m_player.m_classic.UnloadLast(kName); }
+
+    private:
+        static constexpr const char* kName = "dvdsList";
+        Player& m_player;
+    };
+
     void EntryAdded();
     void EnableListCommands();
     void PlayHistoryItem(int slot);
@@ -258,6 +305,16 @@ private:
     void ShowRateLabel(bool isLoading);
     void NoteVideoOutput(bool hasVideoOutput);
     bool IsRoundOfFailures() const;
+    bool IsDiscLoaded() const;
+    static bool IsDiscLocation(const std::string& path);
+    void StartNewDiscs();
+    void PlayDisc(int index);
+    /// False when the disc is not to be played any more.
+    bool WaitBeforeDisc();
+    void ForgetDiscStart();
+    void PlayLoadedDisc();
+    void DiscEnded(bool failed);
+    void DiscFailed();
     void EnableMediaControls(bool enabled);
     void ShowCaption();
     PlaylistDock StoredDock() const;
@@ -272,7 +329,6 @@ private:
     CommandTree m_commands;
     ClassicTree m_classic;
     History m_history;
-    DvdMenu* m_dvdMenu = nullptr;
     EngineHost m_host;
     Playlist m_playlist;
     Adding m_addingHost{ *this };
@@ -286,6 +342,14 @@ private:
     PlaybackRate m_rate;
     HeldButtons m_held;
     AfterPlay m_afterPlay;
+    DiscEntries m_discEntries{ *this };
+    DriveEnumerator m_drives{ m_discEntries };
+    DiscWatcher m_discWatcher;
+    std::string m_currentDiscRoot;
+    std::string m_discName; // for the folder of its snapshots
+    bool m_dvdMode = false; // the engine was given a disc that the drive list names
+    bool m_isStartingDisc = false;
+    int m_discStarts = 0;
     bool m_starting = false;
     bool m_replaceOnOpen = true;
     bool m_mediaControlsEnabled = false;

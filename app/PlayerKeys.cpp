@@ -17,6 +17,7 @@ constexpr std::string_view kArrows[] = { "Left", "Right" };
 constexpr std::string_view kShiftArrows[] = { "Shift+Left", "Shift+Right" };
 constexpr std::string_view kUpDown[] = { "Up", "Down" };
 constexpr std::string_view kMute[] = { "M" };
+constexpr std::string_view kSnapshot[] = { "S" };
 constexpr std::string_view kFullScreen[] = { "F" };
 constexpr std::string_view kEscape[] = { "Esc" };
 constexpr std::string_view kEnter[] = { "Return", "Enter" };
@@ -33,14 +34,20 @@ constexpr int Direction(int index)
 constexpr std::array kTable{
     PlayerKey{ "Space", kSpace, "Play or pause",
         [](Player& player, int) { player.MediaControlsEnabled() ? player.CMDPauseClick() : player.CMDPlayClick(); } },
-    PlayerKey{ "Left, Right", kArrows, "5 seconds back or forward",
-        [](Player& player, int index) { player.SeekBy(Direction(index) * kStep); } },
+    PlayerKey{ "Left, Right", kArrows, "5 seconds back or forward; in the menu of a disc, the button beside",
+        [](Player& player, int index) {
+            if (!player.NavigateDisc(index == 0 ? DiscKey::Left : DiscKey::Right))
+                player.SeekBy(Direction(index) * kStep);
+        } },
     PlayerKey{ "Shift+Left, Shift+Right", kShiftArrows, "30 seconds back or forward",
         [](Player& player, int index) { player.SeekBy(Direction(index) * kLongStep); } },
     PlayerKey{ "0 to 9", kDigits, "Jump to that tenth of the item",
         [](Player& player, int index) { player.Seek(index / 10.0); } },
-    PlayerKey{ "Up, Down", kUpDown, "Louder or quieter; in the playlist, the entry above or below",
+    PlayerKey{ "Up, Down", kUpDown,
+        "Louder or quieter; in the playlist, the entry above or below, and so in the menu of a disc",
         [](Player& player, int index) {
+            if (player.NavigateDisc(index == 0 ? DiscKey::Up : DiscKey::Down))
+                return;
             if (const auto volume = player.Loudness().StepBy(-Direction(index) * kVolumeStep))
                 player.SetVolume(*volume);
         } },
@@ -48,10 +55,11 @@ constexpr std::array kTable{
     PlayerKey{ "[, ]", kBrackets, "Slower or faster",
         [](Player& player, int index) { player.RunCommand(index == 0 ? "DecreaseSpeed" : "IncreaseSpeed"); } },
     PlayerKey{ "F", kFullScreen, "Full screen on or off", [](Player& player, int) { player.ToggleFullScreen(); } },
+    PlayerKey{ "S", kSnapshot, "Save a snapshot of the video", [](Player& player, int) { player.TakeSnapshot(); } },
     PlayerKey{ "Esc", kEscape, "Leave full screen", [](Player& player, int) { player.LeaveFullScreen(); } },
-    PlayerKey{ "Enter", kEnter, "Play the selected entry",
+    PlayerKey{ "Enter", kEnter, "Play the selected entry; in the menu of a disc, press the button",
         [](Player& player, int) {
-            if (player.Entries().SelectedEntry() != nullptr)
+            if (!player.NavigateDisc(DiscKey::Activate) && player.Entries().SelectedEntry() != nullptr)
                 player.CMDPlayClick();
         } },
     PlayerKey{ "Delete", kDelete, "Remove the selected entry from the playlist",

@@ -5,6 +5,7 @@
 #include "playlist/AddQueue.h"
 #include "shell/WindowLayout.h"
 
+#include <chrono>
 #include <functional>
 #include <string>
 #include <vector>
@@ -38,11 +39,16 @@ public:
     virtual void ShowAddProgress(const AddProgress& progress) = 0;
     /// `length` of the item in ms, 0 or below while unknown. The seek bar has its new fill already.
     virtual void ShowPosition(const PositionTick& tick, double length) = 0;
+    /// A word in place of the time, until the time is shown again.
+    virtual void ShowTimeText(const std::string& text) = 0;
     virtual void ShowRate(const std::string& text) = 0;
     /// Back to what is shown while nothing is loaded: time, bar, rate, audio logo.
     virtual void ShowIdle() = 0;
     /// The check marks, enabled commands and buttons are to be worked out anew.
     virtual void StateChanged() = 0;
+
+    /// Keys go to the video from now on.
+    virtual void FocusVideo() = 0;
 
     /// Shows a box and returns when it is closed.
     virtual void ShowNotice(const Notice& notice) = 0;
@@ -53,7 +59,7 @@ public:
     /// Asks for files, more than one at will. One text per folder, as ParseOpenFileResult reads it; none on cancel.
     virtual std::vector<std::string> AskForFiles(const std::string& title, const std::string& filter) = 0;
 
-    // Dialogs: they return when they are closed.
+    // Dialogs: these return at once; Player::DialogClosed() follows.
     virtual void ShowOptions() = 0;
     virtual void ShowAbout() = 0;
     /// Opens the help pages; says so when they are missing.
@@ -69,6 +75,8 @@ public:
 
     /// Lets waiting window messages be handled that many times.
     virtual void PumpMessages(int times) = 0;
+    /// Handles window messages for that long.
+    virtual void PumpFor(std::chrono::milliseconds time) = 0;
     /// Handles window messages until `done`.
     virtual void PumpUntil(const std::function<bool()>& done) = 0;
 };

@@ -112,7 +112,6 @@ void Player::ShowOptions()
 {
     m_world.screen.SetTopmost(false);
     m_world.screen.ShowOptions();
-    m_world.screen.SetTopmost(m_settings.AlwaysOnTop != 0);
 }
 
 void Player::CommitOptions(const SettingsPages& pages)
@@ -130,19 +129,11 @@ void Player::ShowAbout()
 {
     m_world.screen.SetTopmost(false);
     m_world.screen.ShowAbout();
+}
+
+void Player::DialogClosed()
+{
     m_world.screen.SetTopmost(m_settings.AlwaysOnTop != 0);
-}
-
-void Player::mnuOpenDVD_Click()
-{
-    if (m_dvdMenu != nullptr)
-        m_dvdMenu->mnuOpenDVD_Click();
-}
-
-void Player::dvdsList_Click(int index)
-{
-    if (m_dvdMenu != nullptr)
-        m_dvdMenu->dvdsList_Click(index);
 }
 
 void Player::cmdDVDClick()

@@ -18,6 +18,7 @@ void Player::CMDPauseClick()
 
 void Player::cmdStopClick()
 {
+    ForgetDiscStart();
     if (auto* const engine = m_host.VLCPlayer(); engine != nullptr && engine->ItemCount() > 0)
         engine->Stop();
     ReleaseHeldButtons();
@@ -160,8 +161,8 @@ void Player::TakeSnapshot()
     // The path of the defaults names a place of another system; there, and for no path at all, the pictures go to
     // where users look for pictures.
     const auto& chosen = m_settings.SnapshotPath;
-    const auto folder = SnapshotFolder(
-        platform::IsAbsolutePath(chosen) ? chosen : platform::PicturesFolder(), m_currentItemPath, m_world.separator);
+    const auto folder = SnapshotFolder(platform::IsAbsolutePath(chosen) ? chosen : platform::PicturesFolder(),
+        IsDiscLoaded() ? m_discName : m_currentItemPath, m_world.separator);
     const auto pathOf = [&](const std::string& name) {
         return WithTrailingSeparator(folder, m_world.separator) + name;
     };
@@ -215,6 +216,8 @@ void Player::EnableMediaControls(bool enabled)
 
 void Player::OnPositionTick()
 {
+    if (m_isStartingDisc)
+        return; // the word in place of the time stays until the disc plays
     EngineReading reading;
     if (auto* const engine = m_host.VLCPlayer(); engine != nullptr && engine->ItemCount() > 0) {
         reading.isLoaded = m_mediaControlsEnabled;
@@ -222,6 +225,7 @@ void Player::OnPositionTick()
         reading.position = engine->Position();
         reading.time = engine->Time();
         reading.length = engine->Length();
+        reading.isDisc = IsDiscLoaded();
         reading.hasVideoOutput = reading.state >= Engine::kPlaying && engine->HasVideoOutput();
     }
     NoteVideoOutput(reading.hasVideoOutput);
@@ -233,8 +237,13 @@ void Player::OnPositionTick()
     if (tick.hasEnded) {
         ReleaseHeldButtons();
         EnableMediaControls(false);
-        ItemEnded(tick.hasFailed);
+        if (IsDiscLoaded())
+            DiscEnded(tick.hasFailed);
+        else
+            ItemEnded(tick.hasFailed);
     }
+    if (!m_mediaControlsEnabled && !m_starting && m_adding.Progress().total == 0)
+        m_discWatcher.SwitchOn();
 }
 
 bool Player::IsRoundOfFailures() const

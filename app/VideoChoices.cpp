@@ -30,6 +30,15 @@ std::vector<VideoChoice> TrackChoices(
     return choices;
 }
 
+std::vector<VideoChoice> PartChoices(Player& player, const PartChoice& parts, void (Player::*choose)(int))
+{
+    std::vector<VideoChoice> choices;
+    for (int i = 0; i < static_cast<int>(parts.captions.size()); ++i)
+        choices.push_back({ parts.captions[static_cast<std::size_t>(i)], i == parts.present,
+            [&player, choose, i] { (player.*choose)(i); } });
+    return choices;
+}
+
 template <std::size_t Count>
 std::vector<VideoChoice> NamedChoices(
     Player& player, const Named (&rows)[Count], const std::string& present, void (Engine::*choose)(const std::string&))
@@ -57,6 +66,8 @@ VideoChoices ReadVideoChoices(Player& player)
     if (engine == nullptr)
         return choices;
     choices.audioTracks = TrackChoices(player, engine->AudioTracks(), engine->AudioTrack(), &Engine::SetAudioTrack);
+    choices.titles = PartChoices(player, player.Titles(), &Player::SetTitle);
+    choices.chapters = PartChoices(player, player.Chapters(), &Player::SetChapter);
     choices.hasVideo = engine->HasVideoOutput();
     if (!choices.hasVideo)
         return choices;

@@ -21,6 +21,8 @@ struct VideoChoices {
     std::vector<VideoChoice> subtitles;
     std::vector<VideoChoice> aspectRatios;
     std::vector<VideoChoice> deinterlacing;
+    std::vector<VideoChoice> titles; ///< of a disc
+    std::vector<VideoChoice> chapters;
     std::vector<VideoChoice> docking; ///< of the playlist
     bool hasVideo = false;
 };

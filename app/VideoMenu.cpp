@@ -43,6 +43,10 @@ void ShowVideoMenu(QWidget& window, Player& player, const QPoint& at)
     if (!choices.subtitles.empty())
         subtitles->addSeparator();
     add(subtitles, "&Load File...", choices.hasVideo, &Player::LoadSubtitleFile);
+    if (choices.titles.size() > 1)
+        AddChoices(*menu, "&Title", choices.titles);
+    if (choices.chapters.size() > 1)
+        AddChoices(*menu, "&Chapter", choices.chapters);
     menu->addSeparator();
     AddChoices(*menu, "As&pect Ratio", choices.aspectRatios);
     AddChoices(*menu, "&Deinterlace", choices.deinterlacing);

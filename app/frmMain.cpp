@@ -21,6 +21,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QEventLoop>
 #include <QFileDialog>
 #include <QHelpEvent>
 #include <QLabel>
@@ -115,6 +116,7 @@ frmMain::frmMain(const QString& programFolder)
     m_tmrMovie.setInterval(500ms);
     m_tmrRewind.setInterval(10ms);
     m_tmrRewind.setTimerType(Qt::PreciseTimer);
+    m_tmrCheckDVD.setInterval(1000ms);
     ShowIdle();
 }
 
@@ -243,7 +245,8 @@ void frmMain::FlashCaption()
 
 void frmMain::ShowNotice(const Notice& notice)
 {
-    const auto icon = notice.icon == NoticeIcon::Information ? QMessageBox::Information : QMessageBox::Warning;
+    constexpr QMessageBox::Icon icons[] = { QMessageBox::Information, QMessageBox::Warning, QMessageBox::Critical };
+    const auto icon = icons[static_cast<int>(notice.icon)];
     auto text = ToQString(notice.text);
     // Breaking an endless name into lines takes minutes, and nobody reads it.
     if (text.size() > kLongestNotice)
@@ -278,6 +281,13 @@ void frmMain::PumpMessages(int times)
 {
     for (int i = 0; i < times; ++i)
         QCoreApplication::processEvents();
+}
+
+void frmMain::PumpFor(std::chrono::milliseconds time)
+{
+    QEventLoop loop;
+    QTimer::singleShot(time, &loop, &QEventLoop::quit);
+    loop.exec();
 }
 
 void frmMain::PumpUntil(const std::function<bool()>& done)

@@ -65,9 +65,11 @@ public:
     bool IsPlaylistVisible() const override;
     void ShowAddProgress(const AddProgress& progress) override;
     void ShowPosition(const PositionTick& tick, double length) override;
+    void ShowTimeText(const std::string& text) override;
     void ShowRate(const std::string& text) override;
     void ShowIdle() override;
     void StateChanged() override;
+    void FocusVideo() override;
     void ShowNotice(const Notice& notice) override;
     void ShowNote(const std::string& text) override;
     void ShowPictureNote(const std::string& text, const std::string& file) override;
@@ -79,6 +81,7 @@ public:
     void PopupMenu(const std::string& menu) override;
     std::string AskForSubtitles() override;
     void PumpMessages(int times) override;
+    void PumpFor(std::chrono::milliseconds time) override;
     void PumpUntil(const std::function<bool()>& done) override;
 
 protected:
@@ -105,6 +108,7 @@ private:
     void MakeTitleButton(Button button, const QString& name, const QString& shortcut, void (frmMain::*command)());
     void MakeHeldButton(Button button, const QString& name, void (Player::*press)(), void (Player::*release)());
     void MakeSliders();
+    void MakeTimers();
     void MakeList();
     /// The bar of full screen and the note, which lie over the video.
     void MakeCovers();
@@ -122,6 +126,9 @@ private:
     void PlaceChildren();
     void PlaceControls();
     void TurnVolume(int eighths);
+    QString VolumeText() const;
+    /// Keys change volume and rate in full screen, too, where nothing else shows them.
+    void NoteChanges();
     /// The video, else the list in its place.
     QRect NoteArea() const;
     /// All of the screen that shows most of the window.
@@ -154,11 +161,14 @@ private:
     QPointer<QSystemTrayIcon> m_tray;
     QTimer m_tmrMovie;
     QTimer m_tmrRewind;
+    QTimer m_tmrCheckDVD;
     QTimer m_progressDelay;
     QTimer m_geometrySettled;
     AddProgress m_progress;
     std::map<Button, SkinButton*> m_buttons;
     QString m_caption;
+    QString m_shownVolume;
+    QString m_shownRate;
     QRect m_normal;                   // geometry while neither maximised nor full screen, in logical pixels
     std::optional<QPoint> m_dragFrom; // where the left button went down on something that can be dragged
     PlaylistDock m_dock = PlaylistDock::Left;

@@ -132,8 +132,7 @@ void frmMain::PopupMenu(const std::string& menu)
         return;
     }
     const auto* const button = m_buttons[Button::Dvd];
-    auto* const drives = ClassicMenus().Menu(menu);
-    ClassicMenus().Popup(menu, button->mapToGlobal(QPoint(0, -drives->sizeHint().height())));
+    ClassicMenus().PopupAbove(menu, button->mapToGlobal(QPoint()));
 }
 
 } // namespace zentaro

@@ -36,22 +36,21 @@ constexpr int kListRoom = 280;      // px, at the most until then
 constexpr auto kProgressDelay = 700ms;
 constexpr int kPaneMinimum = 96; // px
 constexpr auto kNoteTime = 5s;
-constexpr auto kVolumeNoteTime = 1500ms;
+constexpr auto kChangeTime = 1500ms;
 
 } // namespace
 
 void frmMain::Serve(Player& player)
 {
     m_player = &player;
-    connect(&m_tmrMovie, &QTimer::timeout, this, [this] { m_player->OnPositionTick(); });
-    connect(&m_tmrRewind, &QTimer::timeout, this, [this] { m_player->OnRewindTick(); });
+    MakeTimers();
     MakeList();
     MakeSliders();
     MakeCovers();
     MakeTitleButton(Button::Minimize, "Minimize", {}, &frmMain::showMinimized);
     MakeTitleButton(Button::Maximize, "Maximize", {}, &frmMain::ToggleMaximized);
     MakeTitleButton(Button::Close, "Close", "Ctrl+X", &frmMain::CloseWindow);
-    MakeButton(Button::Play, "Play", "", &Player::CMDPlayClick);
+    MakeButton(Button::Play, "Play", "Space", &Player::CMDPlayClick);
     MakeButton(Button::Pause, "Pause", "Ctrl+P", &Player::CMDPauseClick);
     MakeButton(Button::Stop, "Stop", "Ctrl+S", &Player::cmdStopClick);
     MakeButton(Button::Previous, "Previous", "PgUp", &Player::cmdPreviousClick);
@@ -59,16 +58,33 @@ void frmMain::Serve(Player& player)
     MakeHeldButton(Button::Rewind, "Rewind", &Player::RewindPressed, &Player::RewindReleased);
     MakeHeldButton(Button::FastForward, "Fast forward", &Player::cmdffMouseDown, &Player::cmdffMouseUp);
     MakeButton(Button::FullScreen, "Full Screen", "Ctrl+F", &Player::cmdFulScreenClick);
-    MakeButton(Button::Snapshot, "Snapshot", "", &Player::TakeSnapshot);
+    MakeButton(Button::Snapshot, "Snapshot", "S", &Player::TakeSnapshot);
     MakeButton(Button::PlayList, "Playlist", "", &Player::cmdPlayListClick);
     MakeButton(Button::Dvd, "DVD", "", &Player::cmdDVDClick);
-    MakeButton(Button::SoundOn, "Mute", "", &Player::cmdMuteClick);
+    MakeButton(Button::SoundOn, "Mute", "M", &Player::cmdMuteClick);
     auto* const open = m_buttons[Button::Open] = new SkinButton("Open Media File", "Ctrl+O", this);
     connect(open, &SkinButton::clicked, this, [this] { m_player->OpenFiles(false); });
     MakeMenus();
     StateChanged();
     PlaceChildren();
     OrderFocus();
+}
+
+void frmMain::MakeTimers()
+{
+    const auto letWatch = [this] {
+        if (m_player->IsWatchingDiscs() != m_tmrCheckDVD.isActive())
+            m_player->IsWatchingDiscs() ? m_tmrCheckDVD.start() : m_tmrCheckDVD.stop();
+    };
+    connect(&m_tmrMovie, &QTimer::timeout, this, [this, letWatch] {
+        m_player->OnPositionTick();
+        letWatch();
+    });
+    connect(&m_tmrRewind, &QTimer::timeout, this, [this] { m_player->OnRewindTick(); });
+    connect(&m_tmrCheckDVD, &QTimer::timeout, this, [this, letWatch] {
+        letWatch();
+        m_player->OnDVDTick();
+    });
 }
 
 void frmMain::MakeButton(Button button, const QString& name, const QString& shortcut, void (Player::*command)())
@@ -201,6 +217,16 @@ void frmMain::ShowPosition(const PositionTick& tick, double length)
         m_video->ShowAudioLogo(*tick.showAudioLogo);
 }
 
+void frmMain::ShowTimeText(const std::string& text)
+{
+    m_time->setText(ToQString(text));
+}
+
+void frmMain::FocusVideo()
+{
+    m_video->setFocus();
+}
+
 void frmMain::ShowRate(const std::string& text)
 {
     m_rate->setText(ToQString(text));
@@ -221,12 +247,13 @@ void frmMain::StateChanged()
              Button::FastForward, Button::FullScreen })
         m_buttons[button]->setEnabled(isLoaded);
     m_buttons[Button::Snapshot]->setEnabled(m_player->CanTakeSnapshot());
-    m_buttons[Button::SoundOn]->SetName(m_player->Host().IsMuted() ? "Unmute" : "Mute", {});
+    m_buttons[Button::SoundOn]->SetName(m_player->Host().IsMuted() ? "Unmute" : "Mute", "M");
     m_seek->SetItem(isLoaded, 0);
     m_volumeNumber->setText(QString::number(m_player->Host().Volume()));
     m_volume->update();
     m_bar->update();
     update();
+    NoteChanges();
 }
 
 QRect frmMain::NoteArea() const
@@ -251,9 +278,23 @@ void frmMain::ShowPictureNote(const std::string& text, const std::string& file)
 void frmMain::TurnVolume(int eighths)
 {
     m_volume->Turn(eighths);
+    m_note->Show(NoteArea(), VolumeText(), {}, kChangeTime);
+}
+
+QString frmMain::VolumeText() const
+{
     const auto& host = m_player->Host();
-    const auto* const muted = host.IsMuted() ? " (muted)" : "";
-    m_note->Show(NoteArea(), QString("Volume %1 %%2").arg(host.Volume()).arg(muted), {}, kVolumeNoteTime);
+    return QString("Volume %1 %").arg(host.Volume()) + (host.IsMuted() ? " (muted)" : "");
+}
+
+void frmMain::NoteChanges()
+{
+    const auto volume = VolumeText();
+    const auto rate = ToQString(RateLabelText(m_player->Rate().Value()));
+    const bool isVolumeNew = std::exchange(m_shownVolume, volume) != volume;
+    const bool isRateNew = std::exchange(m_shownRate, rate) != rate;
+    if (m_fullScreen && !m_bar->isVisible() && (isVolumeNew || isRateNew))
+        m_note->Show(NoteArea(), isVolumeNew ? volume : rate, {}, kChangeTime);
 }
 
 void frmMain::PlaceChildren()
@@ -263,8 +304,10 @@ void frmMain::PlaceChildren()
     m_list->setVisible(!m_fullScreen && m_dock != PlaylistDock::Hidden);
     m_video->setVisible(m_fullScreen || m_dock != PlaylistDock::Whole);
     m_content->setGeometry(m_fullScreen ? rect() : ToQt(Layout().Content()));
-    if (m_fullScreen)
-        m_content->raise();
+    if (m_fullScreen) {
+        for (auto* const part : std::initializer_list<QWidget*>{ m_content, m_bar, m_note })
+            part->raise();
+    }
     PlaceControls();
 }
 

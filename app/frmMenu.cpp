@@ -35,6 +35,20 @@ void frmMenu::Popup(const std::string& name, const QPoint& at)
         menu->popup(at);
 }
 
+void frmMenu::PopupAbove(const std::string& name, const QPoint& at)
+{
+    m_above = Menu(name);
+    m_aboveAt = at;
+    if (m_above)
+        m_above->popup(at - QPoint(0, m_above->sizeHint().height()));
+}
+
+void frmMenu::KeepAbove()
+{
+    if (m_above && m_above->isVisible())
+        m_above->move(m_aboveAt - QPoint(0, m_above->sizeHint().height()));
+}
+
 // Adds what is new, takes away what is gone and shows the rest as it is now.
 void frmMenu::Rebuild()
 {
@@ -75,6 +89,7 @@ void frmMenu::Rebuild()
             parent->addAction(action);
         Show(*action, item);
     }
+    KeepAbove();
 }
 
 void frmMenu::Show(QAction& action, const ClassicItem& item) const

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QObject>
+#include <QPoint>
+#include <QPointer>
 
 #include <map>
 #include <memory>
@@ -8,7 +10,6 @@
 
 class QAction;
 class QMenu;
-class QPoint;
 class QWidget;
 
 namespace zentaro {
@@ -28,14 +29,19 @@ public:
     QMenu* Menu(const std::string& name) const;
     /// `at`: a place on the screen. Returns at once.
     void Popup(const std::string& name, const QPoint& at);
+    /// Stands on `at`, also when entries come while it is open.
+    void PopupAbove(const std::string& name, const QPoint& at);
 
 private:
     void Rebuild();
+    void KeepAbove();
     void Show(QAction& action, const ClassicItem& item) const;
 
     Player& m_player;
     QWidget* m_owner;
     std::map<std::string, QMenu*> m_menus;
+    QPointer<QMenu> m_above;
+    QPoint m_aboveAt;
     std::map<std::pair<std::string, int>, QAction*> m_actions;
 };
 

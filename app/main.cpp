@@ -1,4 +1,5 @@
 #include "app/Dialogs.h"
+#include "app/DriveQueries.h"
 #include "app/InspectionThreads.h"
 #include "app/Player.h"
 #include "app/frmMain.h"
@@ -118,9 +119,11 @@ int main(int argc, char** argv)
     const auto inspectionContext = [&]() -> const InspectionContext& {
         return (base ? *base : base.emplace(programFolder)).context;
     };
-    InspectionThreads inspections(inspectionContext, workingFolder, [&](std::function<void()> work) {
+    const auto onWindowThread = [&](std::function<void()> work) {
         QMetaObject::invokeMethod(&application, std::move(work), Qt::QueuedConnection);
-    });
+    };
+    InspectionThreads inspections(inspectionContext, workingFolder, onWindowThread);
+    DriveQueries drives(platform::Drives::Open(), onWindowThread);
     const auto endProcess = [&] {
         inspections.CancelAll();
         platform::RemoveFolder(workingFolder);
@@ -133,7 +136,9 @@ int main(int argc, char** argv)
         { &platform::ExtractIcon, [](const std::string& file) { return LoadIconPicture(file, iconSide); } },
         [&](std::function<void()> work) { QTimer::singleShot(std::chrono::seconds(2), &window, std::move(work)); } };
     Player player({ window, engines, inspections, *store, *power, RealHandOver(), RealRandom(), &platform::PathExists,
-        endProcess, settingsFolder, separator, associations });
+        endProcess, settingsFolder, separator, associations, [&] { drives.Ask(); },
+        [&] { return DecodePictureFile(programFolder + "DVD.jpg"); } });
+    drives.onFound = [&](auto found) { player.DrivesFound(std::move(found)); };
     inspections.onCompleted = [&](int ticket, Inspection result) {
         player.InspectionCompleted(ticket, std::move(result));
     };

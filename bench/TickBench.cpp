@@ -23,6 +23,13 @@ public:
     double Rate() override { return 1; }
     void SetRate(double) override { }
     bool HasVideoOutput() override { return true; }
+    void Navigate(DiscKey) override { }
+    std::vector<DiscPart> Titles() override { return {}; }
+    int Title() override { return -1; }
+    void SetTitle(int) override { }
+    std::vector<DiscPart> Chapters() override { return {}; }
+    int Chapter() override { return -1; }
+    void SetChapter(int) override { }
     bool TakeSnapshot(const std::string&) override { return false; }
     void Add(const MediaLocation&, const EngineOptions&) override { }
     void Play() override { }

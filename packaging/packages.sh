@@ -10,6 +10,7 @@ vlc-plugin-video-output its picture outputs
 ffmpeg                  reads what is inside a file, makes thumbnails, the demo clip and the JPG pictures
 mpgtx                   reads MPEG program streams
 libsystemd0             speaks to the login manager; Qt brings it anyway
+libdvdread8             finds the video folder of a disc that is not mounted; the disc reader of the engine brings it anyway
 fonts-inter             the typeface of the windows
 xdg-utils               opens the help and web pages in the browser
 '
@@ -22,7 +23,8 @@ pkg-config              finds the libraries
 qt6-base-dev            the windows
 libvlc-dev              the engine
 libxcb1-dev             window states that Qt has no call for
-libsystemd-dev          sd-bus: restart and power off
+libsystemd-dev          sd-bus: restart and power off, drives
+libdvdread-dev          reads the folders of a disc
 nlohmann-json3-dev      prints what zentaro-inspect knows as JSON
 librsvg2-bin            draws the SVG sources of all pictures
 icoutils                packs the icons of Windows
@@ -40,6 +42,8 @@ googletest              their sources, cross-built for Windows
 libxcb-xtest0-dev       the desktop tests press keys and buttons
 libxcb-keysyms1-dev     which key has which code
 dbus                    a session bus of the tests own
+dvdauthor               makes a video DVD with a menu
+genisoimage             makes images of discs
 clang                   builds the fuzz targets
 libclang-rt-dev         libFuzzer and the sanitizers of clang
 g++-mingw-w64-x86-64-posix  builds for Windows

@@ -1,7 +1,7 @@
 #include "platform/Power_linux.h"
 
-#include <cstdlib>
-#include <memory>
+#include "platform/SystemBus_linux.h"
+
 #include <systemd/sd-bus.h>
 #include <utility>
 
@@ -15,25 +15,6 @@ constexpr auto kPatience = 2min;
 constexpr std::chrono::microseconds kLookForStop = 20ms;
 constexpr int kMayAskForPassword = 1;
 
-struct CloseBus {
-    void operator()(sd_bus* bus) const { sd_bus_close_unref(bus); }
-};
-/// A connection of its own that goes with the value: the login manager drops a question whose asker has left.
-using Bus = std::unique_ptr<sd_bus, CloseBus>;
-
-/// Connecting goes on in sd_bus_process, so that nothing here waits for a bus that hangs.
-Bus StartConnecting(const std::string& address, std::chrono::microseconds patience)
-{
-    sd_bus* created = nullptr;
-    if (sd_bus_new(&created) < 0)
-        return nullptr;
-    Bus bus(created);
-    const bool isStarted = sd_bus_set_address(created, address.c_str()) >= 0 && sd_bus_set_bus_client(created, 1) >= 0
-        && sd_bus_set_method_call_timeout(created, static_cast<std::uint64_t>(patience.count())) >= 0
-        && sd_bus_start(created) >= 0;
-    return isStarted ? std::move(bus) : nullptr;
-}
-
 int OnAnswer(sd_bus_message*, void* isAnswered, sd_bus_error*)
 {
     *static_cast<bool*>(isAnswered) = true;
@@ -41,12 +22,6 @@ int OnAnswer(sd_bus_message*, void* isAnswered, sd_bus_error*)
 }
 
 } // namespace
-
-std::string SystemBusAddress()
-{
-    const char* const address = std::getenv("DBUS_SYSTEM_BUS_ADDRESS");
-    return address != nullptr && *address != '\0' ? address : "unix:path=/run/dbus/system_bus_socket";
-}
 
 LoginManagerPower::LoginManagerPower(std::string busAddress, std::chrono::milliseconds patience)
     : m_busAddress(std::move(busAddress))
@@ -70,7 +45,7 @@ Result<void> LoginManagerPower::Ask(const char* method)
 void LoginManagerPower::Call(const char* method, const std::stop_token& stop) const
 {
     const auto end = std::chrono::steady_clock::now() + m_patience;
-    const auto bus = StartConnecting(m_busAddress, m_patience);
+    const auto bus = ConnectToBus(m_busAddress, m_patience);
     bool isAnswered = false;
     if (!bus
         || sd_bus_call_method_async(bus.get(), nullptr, "org.freedesktop.login1", "/org/freedesktop/login1",

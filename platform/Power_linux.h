@@ -9,9 +9,6 @@
 
 namespace zentaro::platform {
 
-/// Where the system's message bus listens: DBUS_SYSTEM_BUS_ADDRESS, else the usual place.
-std::string SystemBusAddress();
-
 /// Power over the login manager (org.freedesktop.login1) of the bus at an address. The bus is first spoken to when
 /// something is asked; a thread waits for the answer, so that the window goes on.
 class LoginManagerPower : public Power {

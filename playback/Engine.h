@@ -17,6 +17,15 @@ struct MediaLocation {
     bool isLocation = false;
 };
 
+/// What a user presses in the menu of a disc.
+enum class DiscKey { Activate, Up, Down, Left, Right };
+
+/// A title of a disc or a chapter of a title.
+struct DiscPart {
+    std::string name;  ///< empty for most
+    double length = 0; ///< ms; 0 or below while unknown
+};
+
 /// A track of sound or subtitles; below 0 it stands for none.
 struct EngineTrack {
     int id = -1;
@@ -75,6 +84,15 @@ public:
     /// Writes the present picture, in the video's own size, to a new PNG file of that full path. False when there is no
     /// picture; a file that cannot be written is only missing afterwards.
     virtual bool TakeSnapshot(const std::string& file) = 0;
+
+    // discs; chapters also of files
+    virtual void Navigate(DiscKey key) = 0;
+    virtual std::vector<DiscPart> Titles() = 0;
+    virtual int Title() = 0; ///< index of the present one, below 0 when there is none
+    virtual void SetTitle(int index) = 0;
+    virtual std::vector<DiscPart> Chapters() = 0; ///< of the present title
+    virtual int Chapter() = 0;
+    virtual void SetChapter(int index) = 0;
 
     // playlist
     virtual void Add(const MediaLocation& location, const EngineOptions& options) = 0;

@@ -60,7 +60,7 @@ std::optional<double> SeekBar::JumpTo(double fraction, bool mediaControlsEnabled
 {
     if (!mediaControlsEnabled)
         return std::nullopt;
-    // Asked of no track: in full screen there is none, and the keys go on.
+    // Asked of no track: where none is shown the keys go on.
     const double position = std::clamp(fraction, 0.0, 1.0);
     m_fillWidth = position * m_trackWidth;
     return position;

@@ -279,10 +279,63 @@ public:
             m_surface->update();
     }
 
+    void Navigate(DiscKey key) override
+    {
+        constexpr unsigned kKeys[] = { libvlc_navigate_activate, libvlc_navigate_up, libvlc_navigate_down,
+            libvlc_navigate_left, libvlc_navigate_right };
+        if (m_player != nullptr)
+            libvlc_media_player_navigate(m_player, kKeys[static_cast<int>(key)]);
+    }
+
+    std::vector<DiscPart> Titles() override
+    {
+        libvlc_title_description_t** all = nullptr;
+        const int count = m_player ? libvlc_media_player_get_full_title_descriptions(m_player, &all) : 0;
+        const auto parts = PartsOf(all, count);
+        if (all != nullptr)
+            libvlc_title_descriptions_release(all, static_cast<unsigned>(std::max(count, 0)));
+        return parts;
+    }
+
+    int Title() override { return m_player ? libvlc_media_player_get_title(m_player) : -1; }
+
+    void SetTitle(int index) override
+    {
+        if (m_player != nullptr)
+            libvlc_media_player_set_title(m_player, index);
+    }
+
+    std::vector<DiscPart> Chapters() override
+    {
+        libvlc_chapter_description_t** all = nullptr;
+        const int count = m_player ? libvlc_media_player_get_full_chapter_descriptions(m_player, -1, &all) : 0;
+        const auto parts = PartsOf(all, count);
+        if (all != nullptr)
+            libvlc_chapter_descriptions_release(all, static_cast<unsigned>(std::max(count, 0)));
+        return parts;
+    }
+
+    int Chapter() override { return m_player ? libvlc_media_player_get_chapter(m_player) : -1; }
+
+    void SetChapter(int index) override
+    {
+        if (m_player != nullptr)
+            libvlc_media_player_set_chapter(m_player, index);
+    }
+
     int ItemCount() override { return m_player != nullptr ? 1 : 0; }
 
 private:
     static void OnFailed(const libvlc_event_t*, void* engine) { static_cast<VlcEngine*>(engine)->m_failed = true; }
+
+    template <typename Description> static std::vector<DiscPart> PartsOf(Description* const* all, int count)
+    {
+        std::vector<DiscPart> parts;
+        for (int i = 0; i < count; ++i)
+            parts.push_back(
+                { all[i]->psz_name != nullptr ? all[i]->psz_name : "", static_cast<double>(all[i]->i_duration) });
+        return parts;
+    }
 
     std::vector<EngineTrack> Tracks(libvlc_track_description_t* (*describe)(libvlc_media_player_t*)) const
     {

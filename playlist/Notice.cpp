@@ -1,5 +1,7 @@
 #include "playlist/Notice.h"
 
+#include <algorithm>
+
 namespace zentaro {
 
 Notice GatherNotices(const std::vector<Notice>& notices)
@@ -9,8 +11,7 @@ Notice GatherNotices(const std::vector<Notice>& notices)
         all.text += "\r\n\r\n" + notices[i].text;
         if (notices[i].title != all.title)
             all.title = Notice().title;
-        if (notices[i].icon == NoticeIcon::Exclamation)
-            all.icon = NoticeIcon::Exclamation;
+        all.icon = std::max(all.icon, notices[i].icon);
     }
     return all;
 }

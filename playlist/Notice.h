@@ -5,7 +5,8 @@
 
 namespace zentaro {
 
-enum class NoticeIcon { Information, Exclamation };
+/// The gravest last.
+enum class NoticeIcon { Information, Exclamation, Critical };
 
 /// The content of one message box. Lines end in CR LF.
 struct Notice {

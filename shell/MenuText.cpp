@@ -2,6 +2,8 @@
 
 #include "shell/QtText.h"
 
+#include <QRegularExpression>
+
 namespace zentaro {
 
 namespace {
@@ -17,9 +19,9 @@ QString MenuCaption(const std::string& caption)
     text.remove('&');
     if (mark >= 0)
         text.insert(mark - ToQString(caption).left(mark).count('&'), '&');
-    if (const auto gap = text.indexOf("  "); gap >= 0)
-        text = text.left(gap) + '\t' + text.mid(gap).trimmed();
-    return text;
+    // Blanks push a key to the right only in letters of one width; menus have a column for keys.
+    static const QRegularExpression padding(" {3,}");
+    return text.replace(padding, "\t");
 }
 
 QString MenuName(const std::string& name)

@@ -11,10 +11,12 @@ namespace zentaro {
 
 namespace {
 
-constexpr int kDistance = 12; // px, from the area's edges
-constexpr int kPadding = 10;  // px
-constexpr int kGap = 8;       // px, between picture and text
-constexpr int kMark = 3;      // px, the light at the left edge
+constexpr int kDistance = 12;     // px, from the area's edges
+constexpr int kPadding = 10;      // px
+constexpr int kGap = 8;           // px, between picture and text
+constexpr int kMark = 3;          // px, the light at the left edge
+constexpr int kLargeArea = 900;   // px wide
+constexpr int kLargeLetters = 18; // px
 
 } // namespace
 
@@ -30,6 +32,11 @@ NoteBox::NoteBox(QWidget* parent)
 
 void NoteBox::Show(const QRect& area, const QString& text, const QImage& picture, std::chrono::milliseconds time)
 {
+    // Read from afar where the video is large.
+    auto letters = parentWidget()->font();
+    if (area.width() >= kLargeArea)
+        letters.setPixelSize(kLargeLetters);
+    setFont(letters);
     const int frame = 2 * kPadding + kMark;
     const int widest = std::max(area.width() - 2 * kDistance - frame, 0);
     m_text = text;

@@ -27,6 +27,7 @@ SeekTrack::SeekTrack(SeekBar& bar, QWidget* parent)
     : QWidget(parent)
     , m_bar(bar)
 {
+    SliderAccessible::Install();
     setObjectName("IMGProgressBack");
     setAccessibleName("Position");
     setMouseTracking(true);
@@ -45,6 +46,16 @@ void SeekTrack::SetItem(bool mediaControlsEnabled, double length)
 void SeekTrack::ShowProgress()
 {
     update();
+}
+
+double SeekTrack::Value() const
+{
+    return m_bar.TrackWidth() > 0 ? m_bar.FillWidth() / m_bar.TrackWidth() * 100 : 0;
+}
+
+void SeekTrack::ChooseValue(double value)
+{
+    Choose(m_bar.JumpTo(value / 100, m_mediaControlsEnabled));
 }
 
 void SeekTrack::Choose(std::optional<double> position)

@@ -2,6 +2,7 @@
 
 #include "playback/SeekBar.h"
 #include "shell/Fade.h"
+#include "shell/SliderAccessible.h"
 
 #include <QWidget>
 
@@ -9,7 +10,7 @@ namespace zentaro {
 
 /// The seek bar on the screen: a track with the played part over its left end. Painted slimmer than it takes the
 /// pointer.
-class SeekTrack : public QWidget {
+class SeekTrack : public QWidget, public SliderFace {
     Q_OBJECT
 
 public:
@@ -20,6 +21,9 @@ public:
     void SetItem(bool mediaControlsEnabled, double length);
     /// The bar has changed by itself.
     void ShowProgress();
+
+    double Value() const override;
+    void ChooseValue(double value) override;
 
 signals:
     /// The engine is to go to this position, 0.0 to 1.0.

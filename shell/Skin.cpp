@@ -15,7 +15,7 @@ namespace {
 
 constexpr qsizetype kCopiesKiB = 64 * 1024; // a window that fills a 4K screen needs 36 MiB
 constexpr unsigned kMaximumThreads = 4;
-constexpr int kFaint = 64; // of 255: shadows and glows
+constexpr int kFaint = 128; // of 255: shadows and glows
 
 QImage Decoded(const QString& path)
 {

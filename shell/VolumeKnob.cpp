@@ -1,5 +1,6 @@
 #include "shell/VolumeKnob.h"
 
+#include "base/Numbers.h"
 #include "shell/Style.h"
 
 #include <QKeyEvent>
@@ -21,6 +22,7 @@ VolumeKnob::VolumeKnob(VolumeSlider& slider, QWidget* parent)
     : QWidget(parent)
     , m_slider(slider)
 {
+    SliderAccessible::Install();
     setObjectName("ImgSlider");
     setAccessibleName("Volume");
     setToolTip("Volume");
@@ -35,6 +37,8 @@ void VolumeKnob::Choose(std::optional<int> percent)
         return;
     update();
     emit VolumeChosen(*percent);
+    QAccessibleValueChangeEvent change(this, *percent);
+    QAccessible::updateAccessibility(&change);
 }
 
 void VolumeKnob::resizeEvent(QResizeEvent*)
@@ -56,6 +60,11 @@ void VolumeKnob::wheelEvent(QWheelEvent* event)
 {
     Turn(event->angleDelta().y());
     event->accept();
+}
+
+void VolumeKnob::ChooseValue(double value)
+{
+    Choose(m_slider.StepBy(RoundHalfEven(value) - m_slider.Volume()));
 }
 
 void VolumeKnob::Turn(int eighths)

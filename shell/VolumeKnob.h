@@ -1,13 +1,14 @@
 #pragma once
 
 #include "playback/VolumeSlider.h"
+#include "shell/SliderAccessible.h"
 
 #include <QWidget>
 
 namespace zentaro {
 
 /// The volume slider on the screen.
-class VolumeKnob : public QWidget {
+class VolumeKnob : public QWidget, public SliderFace {
     Q_OBJECT
 
 public:
@@ -16,6 +17,9 @@ public:
 
     /// The wheel was turned, here or over something that is part of the same volume; in eighths of a degree.
     void Turn(int eighths);
+
+    double Value() const override { return m_slider.Volume(); }
+    void ChooseValue(double value) override;
 
 signals:
     /// 0 to 100.

@@ -80,22 +80,22 @@ WindowLayout::Edges WindowLayout::EdgesAt(int x, int y) const
 Rect BarLayout::ButtonRect(Button button) const
 {
     const auto at = [](int left, int width) { return Rect{ left, 0, width, kHeight }; };
-    // Pairs touch, and so do the two that stand at the round one: their pictures belong together.
+    // Neighbours of the window stay neighbours: their plates fit together.
     switch (button) {
     case Button::Previous:
-        return at(20, 29);
+        return at(16, 29);
     case Button::Rewind:
-        return at(49, 30);
+        return at(45, 30);
     case Button::Stop:
-        return at(91, 36);
+        return at(87, 36);
     case Button::Play:
-        return at(127, 43);
+        return at(123, 43);
     case Button::Pause:
-        return at(170, 35);
+        return at(166, 35);
     case Button::FastForward:
-        return at(219, 29);
+        return at(213, 29);
     case Button::Next:
-        return at(248, 28);
+        return at(242, 28);
     case Button::SoundOn:
     case Button::SoundOff:
         return at(m_width - 222, 23);
@@ -114,8 +114,7 @@ Rect BarLayout::PictureRect(Button button, double middle) const
     if (place.width <= 0)
         return {};
     const int height = RoundHalfEven(static_cast<double>(inWindow.height) * place.width / inWindow.width);
-    // Cut off, not rounded: middles lie on half pixels, and neighbours must not part by one.
-    return { place.left, static_cast<int>(kHeight / 2.0 - height * middle), place.width, height };
+    return { place.left, RoundHalfEven(kHeight / 2.0 - height * middle), place.width, height };
 }
 
 const Rect& ScreenOf(const Rect& window, std::span<const Rect> screens)

@@ -16,6 +16,7 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -40,6 +41,16 @@ public:
     {
         setTabBar(new SkinTabBar(skin, this));
         setDocumentMode(true);
+        // The keys that a tab widget knows already, as shortcuts: a box with choices keeps them to itself otherwise.
+        TurnPages(QKeySequence::NextChild, 1);
+        TurnPages(QKeySequence::PreviousChild, -1);
+    }
+
+private:
+    void TurnPages(QKeySequence::StandardKey keys, int by)
+    {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this,
+            [this, by] { setCurrentIndex((currentIndex() + by + count()) % count()); });
     }
 };
 
@@ -98,6 +109,8 @@ QWidget* frmSettings::MakePlayerPage()
     for (int mode = 0; mode < names.size(); ++mode) {
         auto* const button = new QRadioButton(names[mode]);
         button->setChecked(mode == m_pages.titleBarMode);
+        // Tab stops at the choice that holds; Qt sees to that only once the group has had the focus.
+        button->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
         button->setAccessibleDescription(tr("What the caption shows"));
         modes->addButton(button, mode);
         left->addWidget(button);

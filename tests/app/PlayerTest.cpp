@@ -1,4 +1,5 @@
 #include "app/Player.h"
+#include "app/ClassicHandlers.h"
 #include "platform/TextFile.h"
 
 #include <gtest/gtest.h>
@@ -27,14 +28,16 @@ public:
     bool IsFullScreen() const override { return isFullScreen; }
     void ShowCaption(const std::string& text) override { caption = text; }
     void FlashCaption() override { log << "flash "; }
-    void CloseWindow() override { }
+    void CloseWindow() override { isClosed = true; }
     void ShowIdle() override { }
     void SetPlaylistPosition(PlaylistDock position) override { dock = position; }
     bool IsPlaylistVisible() const override { return dock != PlaylistDock::Hidden; }
     void ShowAddProgress(const AddProgress&) override { }
     void ShowPosition(const PositionTick& tick, double) override { timeText = tick.timeText; }
+    void ShowTimeText(const std::string& text) override { timeText = text; }
     void ShowRate(const std::string& text) override { rateText = text; }
     void StateChanged() override { }
+    void FocusVideo() override { }
     void ShowNotice(const Notice& notice) override { boxes.push_back(notice.title + ": " + notice.text); }
     void ShowNote(const std::string& text) override { note = text; }
     void ShowPictureNote(const std::string& text, const std::string& file) override { note = text + "|" + file; }
@@ -46,6 +49,12 @@ public:
     void PopupMenu(const std::string& menu) override { log << "menu " << menu << " "; }
     std::string AskForSubtitles() override { return {}; }
     void PumpMessages(int times) override { log << "pump " << times << " "; }
+    void PumpFor(std::chrono::milliseconds time) override
+    {
+        log << "for " << time.count() << " ";
+        if (auto meanwhile = std::exchange(whilePumping, {}))
+            meanwhile();
+    }
     void PumpUntil(const std::function<bool()>& done) override
     {
         while (!done() && pump())
@@ -54,6 +63,7 @@ public:
     }
 
     std::function<bool()> pump;
+    std::function<void()> whilePumping;
     PlaylistDock dock = PlaylistDock::Hidden;
     std::string timeText;
     std::string rateText;
@@ -67,12 +77,16 @@ public:
     bool isTopmost = false;
     bool isFullScreen = false;
     bool hasTrayIcon = false;
+    bool isClosed = false;
 };
 
 struct EngineTrace {
     int alive = 0;
     int mostAlive = 0;
-    std::vector<std::string> played;
+    std::vector<std::string> played; ///< a location in brackets
+    int plays = 0;
+    std::vector<DiscKey> keys;
+    int title = 0;
     EngineOptions options;
     int volume = -1;
     bool muted = false;
@@ -109,11 +123,21 @@ public:
     }
     void Add(const MediaLocation& location, const EngineOptions& options) override
     {
-        m_trace.played.push_back(location.text);
+        m_trace.played.push_back(location.isLocation ? "<" + location.text + ">" : location.text);
         m_trace.options = options;
     }
-    void Play() override { }
-    void TogglePause() override { }
+    void Play() override { ++m_trace.plays; }
+    void Navigate(DiscKey key) override { m_trace.keys.push_back(key); }
+    std::vector<DiscPart> Titles() override { return {}; }
+    int Title() override { return m_trace.title; }
+    void SetTitle(int) override { }
+    std::vector<DiscPart> Chapters() override { return {}; }
+    int Chapter() override { return -1; }
+    void SetChapter(int) override { }
+    void TogglePause() override
+    {
+        m_trace.state = m_trace.state == Engine::kPaused ? Engine::kPlaying : Engine::kPaused;
+    }
     void Stop() override { ++m_trace.stops; }
     int ItemCount() override { return 1; }
 
@@ -221,7 +245,7 @@ protected:
         screen.pump = [this] { return inspections.AnswerOne(*player); };
         player = std::make_unique<Player>(PlayerWorld{ screen, engines, inspections, store, power, handOver,
             [] { return 0.0; }, [](const std::string& path) { return path != "/clips/missing.avi"; },
-            [this] { ended = true; }, folder.string() + "/", '/' });
+            [this] { ended = true; }, folder.string() + "/", '/', {}, [this] { ++driveQuestions; } });
         isPlayer = player->Load(commandLine);
         return *player;
     }
@@ -246,6 +270,21 @@ protected:
         player->OnPositionTick();
         engines.trace.state = Engine::kPlaying;
     }
+    /// The drives answer, after a tick that lets the watcher see to them.
+    void TickAndFind(const std::vector<platform::OpticalDrive>& drives)
+    {
+        player->OnPositionTick();
+        player->DrivesFound(drives);
+    }
+    bool IsEnabled(const char* key) { return player->SmartMenuXP1().Find(key)->enabled; }
+    /// Which of a group's items are checked.
+    std::string Checked(std::span<const std::string_view> keys)
+    {
+        std::string checked;
+        for (const auto key : keys)
+            checked += player->SmartMenuXP1().Find(key)->checked ? std::string(key) + " " : "";
+        return checked;
+    }
     const std::string& LastPlayed() const { return engines.trace.played.back(); }
 
     fs::path folder;
@@ -258,6 +297,7 @@ protected:
     std::vector<std::string> sent;
     bool otherPlayerLives = false;
     bool sendSucceeds = true;
+    int driveQuestions = 0;
     bool isPlayer = false;
     bool ended = false;
 };
@@ -521,6 +561,315 @@ TEST_F(PlayerTest, closing_while_files_are_added_ends_the_waiting)
     EXPECT_TRUE(ended);
     EXPECT_EQ(player->Entries().Count(), 1);
     EXPECT_EQ(engines.trace.alive, 0);
+}
+
+namespace {
+
+platform::OpticalDrive Disc(const std::string& name, const std::string& label)
+{
+    return { name, label, true, label };
+}
+
+} // namespace
+
+TEST_F(PlayerTest, a_disc_replaces_the_list_and_plays_by_its_root_after_half_a_second)
+{
+    StartWithEntries(2, kPlayContinuous, kRepeatAll);
+    player->DrivesFound({ Disc("/dev/sr0", "MOVIE") });
+    EXPECT_EQ(LastPlayed(), "/a.avi"); // while something plays the answer only fills the menus
+    screen.whilePumping = [&] {
+        player->OnPositionTick();
+        EXPECT_EQ(screen.timeText, "LOADING...");
+        EXPECT_EQ(engines.trace.plays, 1);
+    };
+    player->dvdsList_Click(0);
+    EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr0>");
+    EXPECT_EQ(engines.trace.plays, 2);
+    EXPECT_NE(screen.log.str().find("for 500 "), std::string::npos);
+    ASSERT_EQ(player->Entries().Count(), 1);
+    const auto* const entry = player->Entries().EntryAt(0);
+    EXPECT_EQ(
+        entry->Title + "|" + entry->FullPath + "|" + entry->MediaInfo, "MOVIE (/dev/sr0)|dvd:///dev/sr0|Video DVD");
+    EXPECT_EQ(player->Entries().List().SelectedItem(), 0);
+    EXPECT_EQ(screen.caption, "Zentaro - (dvd:///dev/sr0)");
+    EXPECT_TRUE(player->NavigateDisc(DiscKey::Down));
+    engines.trace.title = 1; // no menu any more
+    EXPECT_FALSE(player->NavigateDisc(DiscKey::Down));
+    EXPECT_EQ(engines.trace.keys, std::vector{ DiscKey::Down });
+}
+
+TEST_F(PlayerTest, a_disc_ends_by_the_engines_word_alone_and_nothing_follows)
+{
+    StartWithEntries(1, kPlayNormal, kNoRepeat);
+    player->DoAfter(1);
+    player->DrivesFound({ Disc("/dev/sr0", "MOVIE") });
+    player->dvdsList_Click(0);
+    engines.trace.time = engines.trace.length = 4'800; // a menu waits
+    player->OnPositionTick();
+    EXPECT_TRUE(player->MediaControlsEnabled());
+    EndItem();
+    EXPECT_FALSE(player->MediaControlsEnabled());
+    EXPECT_FALSE(player->NavigateDisc(DiscKey::Down));
+    EXPECT_EQ(power.requests, "");
+    const auto engineCount = engines.trace.played.size();
+    player->CMDPlayClick(); // the same engine goes on with the disc
+    EXPECT_EQ(engines.trace.played.size(), engineCount);
+    EXPECT_TRUE(player->MediaControlsEnabled());
+    // From the list it plays in an engine of its own, and is a disc all the same.
+    player->PlayItem(0, false);
+    EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr0>");
+    engines.trace.time = engines.trace.length = 4'800;
+    player->OnPositionTick();
+    EXPECT_TRUE(player->MediaControlsEnabled());
+    player->LoadThumb("", "/b.avi", false, true);
+    player->OnPositionTick();
+    EXPECT_FALSE(player->MediaControlsEnabled());
+    EXPECT_EQ(power.requests, "restart ");
+}
+
+TEST_F(PlayerTest, what_happens_while_a_disc_is_awaited_holds)
+{
+    StartWithEntries(1, kPlayNormal, kNoRepeat);
+    player->DrivesFound({ Disc("/dev/sr0", "MOVIE"), Disc("/dev/sr1", "OTHER") });
+    screen.whilePumping = [&] { player->cmdStopClick(); };
+    player->dvdsList_Click(0);
+    EXPECT_FALSE(player->MediaControlsEnabled());
+    screen.whilePumping = [&] { player->LoadThumb("", "/b.avi", false, true); };
+    player->dvdsList_Click(0);
+    EXPECT_EQ(LastPlayed(), "/b.avi");
+    screen.whilePumping = [&] { player->dvdsList_Click(1); };
+    player->dvdsList_Click(0);
+    EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr1>");
+    EXPECT_TRUE(player->MediaControlsEnabled());
+    screen.whilePumping = [&] { player->RemoveAll(); };
+    player->dvdsList_Click(0);
+    screen.whilePumping = [&] { player->Unload(); };
+    player->dvdsList_Click(0);
+    EXPECT_FALSE(player->MediaControlsEnabled());
+}
+
+TEST_F(PlayerTest, a_disc_that_cannot_be_played_is_said_and_an_empty_drive_does_nothing)
+{
+    StartWithEntries(1, kPlayNormal, kNoRepeat);
+    player->dvdsList_Click(0);
+    player->DrivesFound({ { "/dev/sr0", {}, false, {} }, { "/dev/sr1", "DATA", false, {} } });
+    player->dvdsList_Click(0);
+    player->dvdsList_Click(7);
+    EXPECT_EQ(player->Entries().Count(), 1);
+    EXPECT_EQ(LastPlayed(), "/a.avi");
+    player->dvdsList_Click(1);
+    engines.trace.state = Engine::kFailed;
+    player->OnPositionTick();
+    EXPECT_EQ(screen.boxes, std::vector<std::string>{ "Zentaro: Please insert a valid DVD." });
+    EXPECT_EQ(screen.timeText, "");
+}
+
+TEST_F(PlayerTest, the_watcher_starts_each_video_disc_once_while_nothing_plays)
+{
+    const auto movie = Disc("/dev/sr0", "MOVIE");
+    Start();
+    player->OnDVDTick();
+    EXPECT_EQ(driveQuestions, 0);
+    player->DrivesFound({ movie });
+    EXPECT_TRUE(engines.trace.played.empty()); // not before the first tick
+    player->OnPositionTick();
+    player->OnDVDTick();
+    EXPECT_EQ(driveQuestions, 1);
+    player->DrivesFound({ { "/dev/sr0", "DATA", false, {} } });
+    EXPECT_TRUE(engines.trace.played.empty());
+    player->DrivesFound({ movie });
+    EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr0>");
+    EXPECT_FALSE(player->IsWatchingDiscs());
+    player->cmdStopClick();
+    TickAndFind({ movie });
+    EXPECT_TRUE(player->IsWatchingDiscs());
+    EXPECT_EQ(engines.trace.played.size(), 1U); // stopped, and still in the drive
+    TickAndFind({ { "/dev/sr0", {}, false, {} } });
+    TickAndFind({ movie, Disc("/dev/sr1", "OTHER") });
+    EXPECT_EQ(engines.trace.played.size(), 3U); // the second replaces the first
+    EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr1>");
+}
+
+TEST_F(PlayerTest, commands_by_key_move_playback_and_modes)
+{
+    auto& loaded = StartWithEntries(3, kPlayContinuous, kRepeatAll);
+    EXPECT_EQ(Checked(kPlayModeKeys), "PMContinuous ");
+    EXPECT_EQ(Checked(kRepeatModeKeys), "RMRepeatAll ");
+    EXPECT_EQ(Checked(kAfterPlayKeys), "Donothing ");
+    loaded.RunCommand("Next");
+    EXPECT_EQ(LastPlayed(), "/b.avi");
+    loaded.RunCommand("Previous");
+    EXPECT_EQ(LastPlayed(), "/a.avi");
+    loaded.RunCommand("PlayPause");
+    EXPECT_EQ(engines.trace.state, Engine::kPaused);
+    loaded.RunCommand("FullScreen");
+    EXPECT_TRUE(screen.isFullScreen);
+    for (const double rate : { 2, 4, 8, 16 }) {
+        loaded.RunCommand("IncreaseSpeed");
+        EXPECT_EQ(engines.trace.rateSet, rate);
+    }
+    EXPECT_FALSE(IsEnabled("IncreaseSpeed"));
+    loaded.RunCommand("DecreaseSpeed");
+    EXPECT_EQ(engines.trace.rateSet, 8);
+    EXPECT_TRUE(IsEnabled("IncreaseSpeed"));
+    loaded.RunCommand("ResetSpeed");
+    EXPECT_EQ(engines.trace.rateSet, 1);
+    for (const auto& [keys, value] : { std::pair(kPlayModeKeys, &PlayerSettings::PlayMode),
+             std::pair(kRepeatModeKeys, &PlayerSettings::RepeatMode) }) {
+        for (std::size_t i = keys.size(); i-- > 0;) {
+            loaded.RunCommand(keys[i]);
+            EXPECT_EQ(loaded.Settings().*value, static_cast<std::int32_t>(i));
+            EXPECT_EQ(Checked(keys), std::string(keys[i]) + " ");
+        }
+    }
+    for (std::size_t i = kAfterPlayKeys.size(); i-- > 0;) {
+        loaded.RunCommand(kAfterPlayKeys[i]);
+        EXPECT_EQ(loaded.AfterPlaying().AfterPlayAction(), static_cast<std::int16_t>(i));
+        EXPECT_EQ(Checked(kAfterPlayKeys), std::string(kAfterPlayKeys[i]) + " ");
+    }
+    loaded.RunCommand("Stop");
+    for (const auto* const key : { "Stop", "FullScreen", "IncreaseSpeed", "DecreaseSpeed", "ResetSpeed" })
+        EXPECT_FALSE(IsEnabled(key)) << key;
+    EXPECT_FALSE(screen.isClosed);
+    loaded.RunCommand("Exit");
+    EXPECT_TRUE(screen.isClosed);
+}
+
+TEST_F(PlayerTest, commands_on_the_list_come_and_go_with_its_entries)
+{
+    auto& loaded = StartWithEntries(2, kPlayNormal, kNoRepeat);
+    loaded.RunCommand("Remove");
+    EXPECT_TRUE(IsEnabled("RemoveAll"));
+    loaded.Entries().List().SetSelectedItem(0);
+    loaded.RunCommand("Remove");
+    EXPECT_EQ(loaded.Entries().Count(), 0);
+    EXPECT_TRUE(IsEnabled("Remove"));
+    for (const auto* const key : { "RemoveAll", "Next", "Previous" })
+        EXPECT_FALSE(IsEnabled(key)) << key;
+
+    loaded.cmdStopClick();
+    loaded.RunCommand("PlayPause"); // the dialog is cancelled
+    EXPECT_TRUE(IsEnabled("Stop"));
+
+    const auto played = engines.trace.played.size();
+    screen.chosen = { std::string("/clips\0c.avi\0d.avi", 18) };
+    loaded.Entries().List().Clear();
+    loaded.RunCommand("AddVideoFile");
+    EXPECT_FALSE(IsEnabled("Next"));
+    while (inspections.AnswerOne(loaded))
+        ;
+    EXPECT_EQ(loaded.Entries().List().SelectedItem(), 0);
+    EXPECT_EQ(engines.trace.played.size(), played);
+    for (const auto* const key : { "Remove", "RemoveAll", "Next", "Previous" })
+        EXPECT_TRUE(IsEnabled(key)) << key;
+    loaded.RunCommand("RemoveAll");
+    EXPECT_EQ(loaded.Entries().Count(), 0);
+    EXPECT_FALSE(IsEnabled("RemoveAll"));
+
+    loaded.RunCommand("OpenFile");
+    while (inspections.AnswerOne(loaded))
+        ;
+    EXPECT_EQ(LastPlayed(), "/clips/c.avi");
+}
+
+TEST_F(PlayerTest, dialogs_are_never_under_a_window_that_stays_on_top)
+{
+    auto settings = DefaultSettings("/", {});
+    settings.AlwaysOnTop = settings.ShowInTray = -1;
+    WriteConfig(FormatConfigurations(settings));
+    Start();
+    EXPECT_TRUE(screen.isTopmost && screen.hasTrayIcon);
+    screen.log.str({});
+    for (const auto* const key : { "Options", "About", "HelpTopics" })
+        player->RunCommand(key);
+    EXPECT_EQ(screen.log.str(), "options 0 about 0 help ");
+    player->DialogClosed();
+    EXPECT_TRUE(screen.isTopmost);
+    player->Unload();
+    EXPECT_FALSE(screen.hasTrayIcon);
+}
+
+TEST_F(PlayerTest, keys_without_a_command_do_nothing)
+{
+    auto& loaded = StartWithEntries(1, kPlayNormal, kNoRepeat);
+    loaded.RunCommand("Stop");
+    screen.log.str({});
+    for (const auto* const key : { "", "exit", "Exit ", "File", "AfterPlay", "DVDList", "DVDList0", "DVDList1",
+             "History", "History1", "History10", "History11", "Stop", "FullScreen" })
+        loaded.RunCommand(key);
+    EXPECT_EQ(screen.log.str(), "");
+    EXPECT_TRUE(screen.boxes.empty());
+    EXPECT_FALSE(screen.isClosed || screen.isFullScreen);
+    EXPECT_EQ(engines.trace.played.size(), 1u);
+}
+
+TEST_F(PlayerTest, what_was_played_can_be_played_again_after_a_restart)
+{
+    Start();
+    player->LoadThumb("A & a", "/a.avi", false, true);
+    player->LoadThumb("B", "/b.avi", false, true);
+    Start();
+    engines.trace.played.clear();
+    EXPECT_TRUE(IsEnabled("History0"));
+    player->RunCommand("History1");
+    EXPECT_EQ(player->Entries().EntryAt(0)->Title, "B");
+    ClickClassicItem(*player, *player->ClassicMenus().Find("mnuRecent", 0));
+    EXPECT_EQ(player->Entries().EntryAt(1)->Title, "A & a");
+    // One that is in the list already plays the list's last entry.
+    player->RunCommand("History1");
+    EXPECT_EQ(engines.trace.played, (std::vector<std::string>{ "/b.avi", "/a.avi", "/a.avi" }));
+    EXPECT_EQ(screen.boxes.size(), 1u);
+}
+
+TEST_F(PlayerTest, classic_menus_do_the_same_and_take_the_states_when_they_open)
+{
+    auto& loaded = StartWithEntries(3, kPlayNormal, kNoRepeat);
+    auto& menus = loaded.ClassicMenus();
+    const auto click = [&](const char* name, int index = 0) { ClickClassicItem(loaded, *menus.Find(name, index)); };
+    click("mnuNext");
+    EXPECT_EQ(LastPlayed(), "/b.avi");
+    click("mnuPrev");
+    EXPECT_EQ(LastPlayed(), "/a.avi");
+    click("mnufullscreen");
+    EXPECT_TRUE(screen.isFullScreen);
+    click("mnuPBShuffle");
+    click("mnuRMRepeatAll");
+    click("mnuAfterPlaying", 2);
+    EXPECT_EQ(loaded.AfterPlaying().AfterPlayAction(), 2);
+    EXPECT_EQ(Checked(kPlayModeKeys) + Checked(kRepeatModeKeys) + Checked(kAfterPlayKeys),
+        "PMShuffle RMRepeatAll RestartTheComputer ");
+
+    loaded.RunCommand("PMContinuous");
+    loaded.RunCommand("RMSingleRepeat");
+    loaded.RunCommand("ExitZentaro");
+    for (const auto* const menu : { "mnuPlayBackMenu", "mnuPlayListmenu", "mnuAfterMenu" })
+        OpenClassicMenu(loaded, menu);
+    std::string checked;
+    for (const auto& item : menus.Items())
+        checked += item.checked ? item.name + std::to_string(item.index) + " " : "";
+    EXPECT_EQ(checked, "mnuPBCont0 mnuRMSingleRepeat0 mnuAfterPlaying1 ");
+    EXPECT_TRUE(menus.Find("mnuincspeed")->enabled && menus.Find("mnustop")->enabled);
+
+    click("mnustop");
+    EXPECT_FALSE(loaded.MediaControlsEnabled());
+    click("mnuplay");
+    EXPECT_TRUE(loaded.MediaControlsEnabled());
+    click("mnuPlayListRemove");
+    EXPECT_EQ(loaded.Entries().Count(), 2);
+    click("mnuPlayListRemoveAll");
+    loaded.cmdStopClick();
+    for (const auto* const menu : { "mnuPlayBackMenu", "mnuPlayListmenu" })
+        OpenClassicMenu(loaded, menu);
+    for (const auto* const name :
+        { "mnuincspeed", "mnudecSpeed", "mnuresSpeed", "mnustop", "mnuNext", "mnuPrev", "mnuPlayListRemoveAll" })
+        EXPECT_FALSE(menus.Find(name)->enabled) << name;
+    click("dvdsList");
+    click("mnuplay"); // an empty list asks for files
+    screen.chosen = { "/clips/new.avi" };
+    click("mnuplay");
+    while (inspections.AnswerOne(loaded))
+        ;
+    EXPECT_EQ(LastPlayed(), "/clips/new.avi");
 }
 
 TEST_F(PlayerTest, a_snapshot_takes_the_next_free_name_in_the_folder_of_its_file)

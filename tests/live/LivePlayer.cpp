@@ -36,6 +36,13 @@ public:
     double Rate() override { return m_engine->Rate(); }
     void SetRate(double rate) override { m_engine->SetRate(m_watch.rate = rate); }
     bool HasVideoOutput() override { return m_engine->HasVideoOutput(); }
+    void Navigate(DiscKey key) override { m_engine->Navigate(key); }
+    std::vector<DiscPart> Titles() override { return m_engine->Titles(); }
+    int Title() override { return m_engine->Title(); }
+    void SetTitle(int index) override { m_engine->SetTitle(index); }
+    std::vector<DiscPart> Chapters() override { return m_engine->Chapters(); }
+    int Chapter() override { return m_engine->Chapter(); }
+    void SetChapter(int index) override { m_engine->SetChapter(index); }
     bool TakeSnapshot(const std::string& file) override { return m_engine->TakeSnapshot(file); }
     void Add(const MediaLocation& location, const EngineOptions& options) override
     {

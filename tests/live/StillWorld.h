@@ -29,10 +29,12 @@ public:
     bool IsPlaylistVisible() const override { return false; }
     void ShowAddProgress(const AddProgress&) override { }
     void ShowPosition(const PositionTick&, double) override { }
+    void ShowTimeText(const std::string&) override { }
     void ShowRate(const std::string&) override { }
     void ShowIdle() override { }
     void StateChanged() override { }
-    void ShowNotice(const Notice&) override { }
+    void FocusVideo() override { }
+    void ShowNotice(const Notice&) override { ++boxes; }
     void ShowNote(const std::string&) override { ++notes; }
     void ShowPictureNote(const std::string&, const std::string&) override { ++notes; }
     std::vector<std::string> AskForFiles(const std::string&, const std::string&) override { return chosen; }
@@ -47,6 +49,11 @@ public:
         for (int i = 0; pump && i < times; ++i)
             pump();
     }
+    void PumpFor(std::chrono::milliseconds time) override
+    {
+        const auto end = std::chrono::steady_clock::now() + time;
+        PumpUntil([&] { return std::chrono::steady_clock::now() >= end; });
+    }
     void PumpUntil(const std::function<bool()>& done) override
     {
         while (!done() && pump)
@@ -57,6 +64,7 @@ public:
     std::vector<std::string> chosen;
     int closes = 0;
     int notes = 0;
+    int boxes = 0;
 };
 
 /// Every file is good, and at once.
@@ -114,12 +122,14 @@ public:
 class StillWorld {
 public:
     StillWorld(EngineFactory& engines, const std::string& folder, RandomSource random, PlayerScreen* shown = nullptr)
-        : player({ shown != nullptr ? *shown : screen, engines, inspections, store, power, NobodyElse(),
-            std::move(random), [](const std::string&) { return true; }, [] {}, folder, '/' })
+        : player(
+            { shown != nullptr ? *shown : screen, engines, inspections, store, power, NobodyElse(), std::move(random),
+                [](const std::string&) { return true; }, [] {}, folder, '/', {}, [this] { askForDrives(); } })
     {
         inspections.player = &player;
     }
 
+    std::function<void()> askForDrives = [] {};
     StillScreen screen;
     InstantInspections inspections;
     MemoryStore store;

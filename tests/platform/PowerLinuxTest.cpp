@@ -1,4 +1,5 @@
 #include "platform/Power_linux.h"
+#include "platform/SystemBus_linux.h"
 #include "tests/platform/PrivateBus.h"
 
 #include <QCoreApplication>

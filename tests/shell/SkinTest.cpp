@@ -1,9 +1,12 @@
 #include "shell/Skin.h"
 #include "shell/QtText.h"
+#include "shell/SeekTrack.h"
+#include "shell/VolumeKnob.h"
 #include "tests/shell/SkinTable.h"
 
+#include <QAccessible>
+#include <QApplication>
 #include <QDir>
-#include <QGuiApplication>
 #include <QPainter>
 #include <QTemporaryDir>
 
@@ -180,13 +183,40 @@ TEST(Skin, the_first_bad_file_ends_the_load_and_the_rest_draws_nothing)
     }
 }
 
+TEST(Sliders, are_sliders_to_a_screen_reader)
+{
+    SeekBar bar;
+    SeekTrack track(bar, nullptr);
+    track.resize(200, 16);
+    bar.SetTrackWidth(200);
+    bar.SetProgress(40);
+    VolumeSlider slider;
+    VolumeKnob knob(slider, nullptr);
+    double position = -1;
+    int volume = -1;
+    QObject::connect(&track, &SeekTrack::PositionChosen, [&](double chosen) { position = chosen; });
+    QObject::connect(&knob, &VolumeKnob::VolumeChosen, [&](int chosen) { volume = chosen; });
+
+    auto* const face = QAccessible::queryAccessibleInterface(&track);
+    EXPECT_EQ(face->role(), QAccessible::Slider);
+    EXPECT_EQ(face->valueInterface()->currentValue(), 40);
+    face->valueInterface()->setCurrentValue(75);
+    EXPECT_EQ(position, -1); // nothing is loaded
+    track.SetItem(true, 1000);
+    face->valueInterface()->setCurrentValue(75);
+    EXPECT_EQ(position, 0.75);
+    QAccessible::queryAccessibleInterface(&knob)->valueInterface()->setCurrentValue(30);
+    EXPECT_EQ(volume, 30);
+    EXPECT_EQ(slider.Volume(), 30);
+}
+
 } // namespace
 } // namespace zentaro
 
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
+    const QApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -1,0 +1,35 @@
+#include "app/DriveQueries.h"
+
+#include <thread>
+#include <utility>
+
+namespace zentaro {
+
+DriveQueries::DriveQueries(std::shared_ptr<platform::Drives> drives, Post post)
+    : m_drives(std::move(drives))
+    , m_post(std::move(post))
+    , m_alive(std::make_shared<DriveQueries*>(this))
+{
+}
+
+void DriveQueries::Ask()
+{
+    if (std::exchange(m_isAsking, true))
+        return;
+    const auto work = [drives = m_drives, post = m_post, alive = std::weak_ptr(m_alive)] {
+        post([alive, found = drives->Find()] {
+            if (const auto self = alive.lock())
+                (*self)->Answered(found);
+        });
+    };
+    std::thread(work).detach();
+}
+
+void DriveQueries::Answered(std::vector<platform::OpticalDrive> drives)
+{
+    m_isAsking = false;
+    if (onFound)
+        onFound(std::move(drives));
+}
+
+} // namespace zentaro

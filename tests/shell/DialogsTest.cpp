@@ -1,0 +1,69 @@
+#include "shell/frmAbout.h"
+#include "shell/frmSettings.h"
+
+#include <QAccessible>
+#include <QApplication>
+#include <QTabWidget>
+#include <QtTest/QTest>
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace zentaro {
+namespace {
+
+/// What Tab reaches, by the names that are read out. Fails where there is none.
+std::set<std::string> ReachedByTab(QWidget& dialog)
+{
+    std::set<std::string> reached;
+    for (int i = 0; i < 40; ++i) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        auto* const control = QAccessible::queryAccessibleInterface(QApplication::focusWidget());
+        const auto labels = control->relations(QAccessible::Label);
+        const auto* const named = labels.empty() ? control : labels.front().first;
+        const auto name = named->text(QAccessible::Name).toStdString();
+        EXPECT_TRUE(!name.empty() || control->role() == QAccessible::PageTabList) << dialog.windowTitle().toStdString();
+        reached.insert(name);
+    }
+    return reached;
+}
+
+TEST(DialogsTest, EveryOptionIsReachedByTabAndReadOut)
+{
+    Skin skin;
+    frmSettings dialog({}, std::vector<FileTypeRow>(24), skin, nullptr);
+    dialog.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    auto* const tabs = dialog.findChild<QTabWidget*>();
+    using Names = std::set<std::string>;
+    const Names onPages[] = {
+        { "Always on top", "Icon in the tray", "Remember the position", "Remember the size", "the full path",
+            "Keep History of recently Opened files.", "Launch Files in Fullscreen.",
+            "Use new player for each media file played.", "Disable the screen saver", "Docked at:", "OK", "Cancel" },
+        { "File types", "All file types", "Audio", "Video", "Matroska", "MPEG", "Ogg", "QuickTime", "Windows" },
+        { "Folder:", "Browse...", "Prefix:", "Show a small preview in the window" },
+    };
+    for (int page = 0; page < 3; ++page) {
+        tabs->setCurrentIndex(page);
+        tabs->tabBar()->setFocus();
+        const auto reached = ReachedByTab(dialog);
+        for (const auto& name : onPages[page])
+            EXPECT_TRUE(reached.contains(name)) << name;
+    }
+    frmAbout about(skin, nullptr);
+    about.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&about));
+    EXPECT_EQ(ReachedByTab(about), (Names{ "OK", "The web page of VLC" }));
+}
+
+} // namespace
+} // namespace zentaro
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    testing::InitGoogleTest(&argc, argv);
+    QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
