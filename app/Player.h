@@ -77,6 +77,8 @@ struct PlayerWorld {
     std::function<void()> askForDrives = [] {};
     /// What the list shows for a disc.
     std::function<Picture()> readDiscPicture = [] { return Picture(); };
+    /// Holds the screen saver and sleep off, or lets them come again. Told at every tick.
+    std::function<void(bool held)> holdOffSleep = [](bool) {};
 };
 
 /// The 16-bit number by which an item is played; -1, which plays nothing, for an index that does not fit.

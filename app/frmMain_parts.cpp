@@ -215,6 +215,7 @@ void frmMain::ShowPosition(const PositionTick& tick, double length)
     m_seek->ShowProgress();
     if (tick.showAudioLogo)
         m_video->ShowAudioLogo(*tick.showAudioLogo);
+    onPositionShown();
 }
 
 void frmMain::ShowTimeText(const std::string& text)

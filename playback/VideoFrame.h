@@ -88,7 +88,9 @@ public:
     void ShowPointer(bool shown);
 
 protected:
+    void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     /// The surface, the logo over it, and over both whatever else the window has.
