@@ -156,7 +156,7 @@ int main(int argc, char** argv)
     const auto shell = platform::AssociationShell::Open(programPath, programFolder);
     constexpr int iconSide = 64; // px: sharp in a list of a scaled display, too
     const AssociationService associations{ shell.get(), programPath, programFolder,
-        { &platform::ExtractIcon, [](const std::string& file) { return LoadIconPicture(file, iconSide); } },
+        { &platform::IconInFile, [](const std::string& file) { return LoadIconPicture(file, iconSide); } },
         [&](std::function<void()> work) { QTimer::singleShot(std::chrono::seconds(2), &window, std::move(work)); } };
     Player player({ window, engines, inspections, *store, *power, RealHandOver(), RealRandom(), &platform::PathExists,
         endProcess, settingsFolder, separator, associations, [&] { drives.Ask(); },

@@ -9,7 +9,7 @@ vlc-plugin-base         its readers, decoders and sound outputs
 vlc-plugin-video-output its picture outputs
 ffmpeg                  reads what is inside a file, makes thumbnails, the demo clip and the JPG pictures
 mpgtx                   reads MPEG program streams
-libsystemd0             speaks to the login manager and the session; Qt brings it anyway
+libsystemd0             speaks to the login manager, the disk service and the session; Qt brings it anyway
 libdvdread8             finds the video folder of a disc that is not mounted; the disc reader of the engine brings it anyway
 fonts-inter             the typeface of the windows
 xdg-utils               opens the help and web pages in the browser
@@ -45,14 +45,18 @@ googletest              their sources, cross-built for Windows
 libxcb-xtest0-dev       the desktop tests press keys and buttons
 libxcb-keysyms1-dev     which key has which code
 dbus                    a session bus of the tests own
+xdg-utils               asks and changes which program opens a type of files
+desktop-file-utils      checks and collects desktop entries
+shared-mime-info        the types of files, and what adds to them
+libglib2.0-bin          asks and opens as a file manager does
+dvdauthor               makes a video DVD with a menu
+genisoimage             makes images of discs
 desktop-file-utils      checks the desktop entry
 appstream               checks the metadata of the package
 lintian                 checks the package
 libglib2.0-bin          opens files as a file manager does
 playerctl               a client of the media controls
 systemd                 busctl, another one
-dvdauthor               makes a video DVD with a menu
-genisoimage             makes images of discs
 clang                   builds the fuzz targets
 libclang-rt-dev         libFuzzer and the sanitizers of clang
 g++-mingw-w64-x86-64-posix  builds for Windows

@@ -212,6 +212,23 @@ public:
     std::string requests;
 };
 
+class FakeAssociations : public platform::AssociationShell {
+public:
+    bool Refresh() override { return true; }
+    std::optional<platform::LiveOwner> CurrentOwner(const std::string&) override
+    {
+        return platform::LiveOwner{ false, "other.desktop", "" };
+    }
+    void AssociationsChanged() override { }
+    bool BringInLine(const std::vector<platform::AssociatedType>& types) override
+    {
+        ours =
+            static_cast<int>(std::count_if(types.begin(), types.end(), [](const auto& type) { return type.isOurs; }));
+        return true;
+    }
+    int ours = -1;
+};
+
 class FakeEnds : public platform::HandOverEnds {
 public:
     std::string CommandHandle() const override { return "4711"; }
@@ -250,8 +267,9 @@ protected:
         screen.pump = [this] { return inspections.AnswerOne(*player); };
         player = std::make_unique<Player>(PlayerWorld{ screen, engines, inspections, store, power, handOver,
             [] { return 0.0; }, [](const std::string& path) { return path != "/clips/missing.avi"; },
-            [this] { ended = true; }, folder.string() + "/", '/', {}, [this] { ++driveQuestions; },
-            [] { return Picture(); }, [this](bool held) { sleepHeldOff = held; } });
+            [this] { ended = true; }, folder.string() + "/", '/',
+            { &associations, "zentaro", "/program/", {}, [this](std::function<void()> work) { later = work; } },
+            [this] { ++driveQuestions; }, [] { return Picture(); }, [this](bool held) { sleepHeldOff = held; } });
         isPlayer = player->Load(commandLine);
         return *player;
     }
@@ -299,6 +317,8 @@ protected:
     FakeInspections inspections;
     FakeStore store;
     FakePower power;
+    FakeAssociations associations;
+    std::function<void()> later;
     std::unique_ptr<Player> player;
     std::vector<std::string> sent;
     bool sleepHeldOff = false;
@@ -457,6 +477,38 @@ TEST_F(PlayerTest, the_first_start_publishes_its_handles_and_makes_the_settings_
     EXPECT_EQ(store.values[kProbeKey], "4712");
     EXPECT_EQ(ConfigText(), FormatConfigurations(player->Settings()));
     EXPECT_TRUE(engines.trace.played.empty());
+}
+
+TEST_F(PlayerTest, types_are_taken_once_the_start_is_over_or_when_it_ends)
+{
+    auto settings = DefaultSettings("/", {});
+    settings.Associations[20] = -1;
+    WriteConfig(FormatConfigurations(settings));
+    Start("/clips/a.avi");
+    EXPECT_EQ(associations.ours, -1);
+    later();
+    EXPECT_EQ(associations.ours, 1);
+    EXPECT_EQ(store.values[".avi:"] + store.values[".avi:OldAss"], "Zentaro.aviother.desktop");
+    const auto choices = player->AssociationChoices();
+    ASSERT_EQ(choices.size(), 24U);
+    EXPECT_EQ(choices[4].listText, "Mp3 Format Sound(*.mp3)");
+    associations.ours = -1;
+    player->Unload();
+    EXPECT_EQ(associations.ours, -1);
+
+    Start("/clips/a.avi");
+    player->Unload();
+    EXPECT_EQ(associations.ours, 1);
+    associations.ours = -1;
+    later();
+    EXPECT_EQ(associations.ours, -1);
+
+    const auto before = store.values;
+    otherPlayerLives = true;
+    later = nullptr;
+    Start("/clips/a.avi");
+    EXPECT_FALSE(later);
+    EXPECT_EQ(store.values, before);
 }
 
 TEST_F(PlayerTest, a_messenger_shows_and_publishes_nothing)
