@@ -104,6 +104,9 @@ frmMain::frmMain(const QString& programFolder)
     m_rate->setObjectName("lblRate");
     m_rate->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_volumeNumber->setObjectName("lblVolume");
+    m_volumeNumber->setFont(style::SmallFont());
+    for (auto* const label : { m_rate, m_volumeNumber })
+        label->setForegroundRole(QPalette::PlaceholderText);
     m_time->setObjectName("lblTime");
     m_progressDelay.setSingleShot(true);
     m_geometrySettled.setSingleShot(true);
@@ -323,8 +326,11 @@ SkinButtons frmMain::ButtonStates() const
 {
     SkinButtons buttons;
     buttons.states.fill(ButtonState::Disabled);
-    for (const auto& [button, widget] : m_buttons)
+    for (const auto& [button, widget] : m_buttons) {
         buttons.StateOf(button) = widget->State();
+        buttons.FadeOf(button) = widget->StateFade();
+    }
+    buttons.FadeOf(Button::SoundOff) = buttons.FadeOf(Button::SoundOn);
     buttons.StateOf(Button::SoundOff) = buttons.StateOf(Button::SoundOn);
     buttons.isMuted = m_player->Host().IsMuted();
     return buttons;
@@ -336,6 +342,11 @@ void frmMain::paintEvent(QPaintEvent*)
     m_skin.Paint(painter, width(), height(), ButtonStates());
     const auto caption = ToQt(Layout().Caption());
     const auto line = QString(m_caption).replace('\n', ' ');
+    if (!isMaximized()) {
+        // A hair of light keeps the window's edge on a dark desktop.
+        painter.setPen(style::kHairline);
+        painter.drawRect(0, 0, width() - 1, height() - 1);
+    }
     painter.setPen(style::kText);
     painter.setFont(font());
     painter.drawText(caption, Qt::AlignVCenter | Qt::TextSingleLine,

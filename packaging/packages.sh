@@ -45,16 +45,13 @@ googletest              their sources, cross-built for Windows
 libxcb-xtest0-dev       the desktop tests press keys and buttons
 libxcb-keysyms1-dev     which key has which code
 dbus                    a session bus of the tests own
-xdg-utils               asks and changes which program opens a type of files
 desktop-file-utils      checks and collects desktop entries
 shared-mime-info        the types of files, and what adds to them
 libglib2.0-bin          asks and opens as a file manager does
 dvdauthor               makes a video DVD with a menu
 genisoimage             makes images of discs
-desktop-file-utils      checks the desktop entry
 appstream               checks the metadata of the package
 lintian                 checks the package
-libglib2.0-bin          opens files as a file manager does
 playerctl               a client of the media controls
 systemd                 busctl, another one
 clang                   builds the fuzz targets

@@ -23,6 +23,21 @@ void MakeBlack(QWidget& widget)
     widget.setAutoFillBackground(true);
 }
 
+constexpr int kMarkRadius = 30; // px
+constexpr int kHintGap = 14;    // px, between the mark and the words under it
+
+/// The play button's outline, hardly lighter than the dark around it.
+void PaintIdleMark(QPainter& painter, const QPointF& middle)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(0x26, 0x29, 0x30), 2));
+    painter.drawEllipse(middle, kMarkRadius, kMarkRadius);
+    painter.setPen(QPen(QColor(0x2C, 0x30, 0x38), 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(QColor(0x2C, 0x30, 0x38));
+    const QPolygonF triangle{ { -5.5, -10 }, { 11, 0 }, { -5.5, 10 } };
+    painter.drawPolygon(triangle.translated(middle));
+}
+
 } // namespace
 
 void LetCoverVideo(QWidget& widget)
@@ -192,6 +207,19 @@ void VideoFrame::moveEvent(QMoveEvent*)
         if (part != nullptr && part->windowHandle() != nullptr)
             part->windowHandle()->setPosition(part->mapTo(window(), QPoint()));
     }
+}
+
+void VideoFrame::paintEvent(QPaintEvent*)
+{
+    if (m_surface)
+        return;
+    QPainter painter(this);
+    const QPointF middle = QRectF(rect()).center();
+    PaintIdleMark(painter, middle);
+    const auto hint = fontMetrics().elidedText("Drop files here to play them", Qt::ElideRight, width());
+    const QRectF line(0, middle.y() + kMarkRadius + kHintGap, width(), fontMetrics().height());
+    painter.setPen(QColor(0x7C, 0x82, 0x8A));
+    painter.drawText(line, Qt::AlignCenter, hint);
 }
 
 void VideoFrame::resizeEvent(QResizeEvent*)

@@ -90,6 +90,7 @@ public:
 protected:
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     /// The surface, the logo over it, and over both whatever else the window has.

@@ -90,13 +90,14 @@ void FullScreenBar::paintEvent(QPaintEvent*)
     const BarLayout layout(width());
     auto buttons = m_states();
     buttons.StateOf(Button::FullScreen) = m_leave->State();
+    buttons.FadeOf(Button::FullScreen) = m_leave->StateFade();
     const auto hidden = buttons.isMuted ? Button::SoundOn : Button::SoundOff;
     for (std::size_t i = 0; i < kButtonCount; ++i) {
         const auto button = static_cast<Button>(i);
         if (button == hidden || layout.ButtonRect(button).width <= 0)
             continue;
         const auto middle = m_skin.Middle(ButtonImage(button, ButtonState::Normal));
-        m_skin.Draw(painter, ButtonImage(button, buttons.StateOf(button)), layout.PictureRect(button, middle));
+        m_skin.DrawButton(painter, button, buttons, layout.PictureRect(button, middle));
     }
 }
 

@@ -8,12 +8,16 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include <algorithm>
+#include <utility>
+
 namespace zentaro {
 
 namespace {
 
 constexpr double kSlim = 4;         // px
 constexpr double kUnderPointer = 6; // px
+constexpr double kKnobRadius = 6;   // px
 constexpr int kKeyStep = 5000;      // ms
 constexpr int kLongKeyStep = 30000; // ms
 
@@ -36,6 +40,7 @@ void SeekTrack::SetItem(bool mediaControlsEnabled, double length)
 {
     m_mediaControlsEnabled = mediaControlsEnabled;
     m_length = length;
+    FollowHand();
 }
 
 void SeekTrack::ShowProgress()
@@ -70,10 +75,20 @@ void SeekTrack::ShowTimeAt(const QPoint& global, double x)
         QToolTip::showText(global, ToQString(time), this);
 }
 
+void SeekTrack::FollowHand()
+{
+    const bool isNear = m_mediaControlsEnabled && (underMouse() || hasFocus());
+    if (std::exchange(m_isNear, isNear) != isNear)
+        m_nearness.Go(m_nearness.Share(), isNear ? 1 : 0);
+}
+
 bool SeekTrack::event(QEvent* event)
 {
-    if (event->type() != QEvent::ToolTip)
-        return QWidget::event(event);
+    if (event->type() != QEvent::ToolTip) {
+        const bool isHandled = QWidget::event(event);
+        FollowHand();
+        return isHandled;
+    }
     const auto* const help = static_cast<QHelpEvent*>(event);
     ShowTimeAt(help->globalPos(), help->pos().x());
     return true;
@@ -127,17 +142,21 @@ void SeekTrack::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    const auto thickness = m_mediaControlsEnabled && underMouse() ? kUnderPointer : kSlim;
+    const auto thickness = kSlim + (kUnderPointer - kSlim) * m_nearness.Share();
     QRectF track(0, (height() - thickness) / 2, width(), thickness);
     painter.setBrush(style::kTrack);
     painter.drawRoundedRect(track, thickness / 2, thickness / 2);
     track.setWidth(m_bar.FillWidth());
     painter.setBrush(style::kLight);
     painter.drawRoundedRect(track, thickness / 2, thickness / 2);
+    painter.setBrush(style::kLightHigh);
+    const auto end = std::clamp(m_bar.FillWidth(), kKnobRadius, std::max(kKnobRadius, width() - kKnobRadius));
+    const auto radius = kKnobRadius * m_nearness.Share();
+    painter.drawEllipse(QPointF(end, height() / 2.0), radius, radius);
     if (hasFocus()) {
         painter.setPen(QPen(style::kLight, 1));
         painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), height() / 2.0, height() / 2.0);
     }
 }
 

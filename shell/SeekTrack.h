@@ -1,6 +1,7 @@
 #pragma once
 
 #include "playback/SeekBar.h"
+#include "shell/Fade.h"
 #include "shell/SliderAccessible.h"
 
 #include <QWidget>
@@ -39,12 +40,15 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    void FollowHand();
     void Choose(std::optional<double> position);
     void ShowTimeAt(const QPoint& global, double x);
 
     SeekBar& m_bar;
     double m_length = 0;
     bool m_mediaControlsEnabled = false;
+    bool m_isNear = false;
+    Fade m_nearness{ *this, [this] { update(); } };
     bool m_heldOnFill = false; // the button went down on the played part
 };
 

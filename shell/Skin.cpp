@@ -33,6 +33,26 @@ QImage Stretched(const QImage& image, const QSize& size)
     return image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
+QImage Thinned(const QImage& image, double share)
+{
+    QImage thinned(image.size(), QImage::Format_ARGB32_Premultiplied);
+    thinned.fill(Qt::transparent);
+    QPainter painter(&thinned);
+    painter.setOpacity(share);
+    painter.drawImage(0, 0, image);
+    return thinned;
+}
+
+/// Where both are the same, the mixture is it, too: unlike one drawn over the other.
+QImage Mixed(const QImage& from, const QImage& to, double share)
+{
+    auto mixed = Thinned(from, 1 - share);
+    QPainter painter(&mixed);
+    painter.setCompositionMode(QPainter::CompositionMode_Plus);
+    painter.drawImage(0, 0, Thinned(to, share));
+    return mixed;
+}
+
 } // namespace
 
 Skin::Skin()
@@ -72,6 +92,8 @@ Result<void> Skin::Load(const QString& folder)
 
 QImage Skin::ScaledCopy(SkinImage image, const QSize& size)
 {
+    if (m_images[static_cast<std::size_t>(image)].isNull())
+        return {};
     const CopyKey key{ image, size.width(), size.height() };
     if (const auto* const copy = m_copies.object(key))
         return *copy;
@@ -82,7 +104,12 @@ QImage Skin::ScaledCopy(SkinImage image, const QSize& size)
 
 Rect Skin::Draw(QPainter& painter, SkinImage image, const Rect& rect)
 {
-    if (rect.width <= 0 || rect.height <= 0 || m_images[static_cast<std::size_t>(image)].isNull())
+    return DrawPicture(painter, rect, [&](const QSize& size) { return ScaledCopy(image, size); });
+}
+
+Rect Skin::DrawPicture(QPainter& painter, const Rect& rect, const std::function<QImage(const QSize&)>& picture)
+{
+    if (rect.width <= 0 || rect.height <= 0)
         return rect;
     // Both edges are rounded to device pixels, so that neighbours meet without a gap at every scale factor.
     const auto& toDevice = painter.deviceTransform();
@@ -93,7 +120,8 @@ Rect Skin::Draw(QPainter& painter, SkinImage image, const Rect& rect)
     if (size.isEmpty())
         return rect;
     const auto target = toDevice.inverted().mapRect(QRectF(from, size));
-    painter.drawImage(target, ScaledCopy(image, size));
+    if (const auto image = picture(size); !image.isNull())
+        painter.drawImage(target, image);
     return rect;
 }
 
@@ -126,7 +154,23 @@ void Skin::DrawBackGround(QPainter& painter, int width, int height)
 
 void Skin::Paint(QPainter& painter, int width, int height, const SkinButtons& buttons)
 {
-    DrawAll(painter, PaintPass(width, height, buttons, m_rects));
+    for (const auto& [image, rect] : PaintPass(width, height, buttons, m_rects)) {
+        if (image < SkinImage::FirstButton)
+            Draw(painter, image, rect);
+        else
+            DrawButton(painter, ButtonOf(image), buttons, rect);
+    }
+}
+
+Rect Skin::DrawButton(QPainter& painter, Button button, const SkinButtons& buttons, const Rect& rect)
+{
+    const auto image = ButtonImage(button, buttons.StateOf(button));
+    const auto& fade = buttons.FadeOf(button);
+    if (fade.share >= 1)
+        return Draw(painter, image, rect);
+    return DrawPicture(painter, rect, [&](const QSize& size) {
+        return Mixed(ScaledCopy(ButtonImage(button, fade.from), size), ScaledCopy(image, size), fade.share);
+    });
 }
 
 } // namespace zentaro

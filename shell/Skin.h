@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <array>
+#include <functional>
 
 class QPainter;
 
@@ -28,6 +29,9 @@ public:
 
     /// The background pass, for a client area of that size (logical px).
     void DrawBackGround(QPainter& painter, int width, int height);
+    /// A button in its state; while that changes, a mixture of two pictures.
+    Rect DrawButton(QPainter& painter, Button button, const SkinButtons& buttons, const Rect& rect);
+
     /// The paint pass.
     void Paint(QPainter& painter, int width, int height, const SkinButtons& buttons);
 
@@ -49,6 +53,7 @@ private:
         return qHashMulti(seed, static_cast<int>(key.image), key.width, key.height);
     }
 
+    Rect DrawPicture(QPainter& painter, const Rect& rect, const std::function<QImage(const QSize&)>& picture);
     QImage ScaledCopy(SkinImage image, const QSize& size);
     void DrawAll(QPainter& painter, const std::vector<SkinDraw>& draws);
 

@@ -5,6 +5,8 @@
 #include <QCursor>
 #include <QPainter>
 
+#include <utility>
+
 namespace zentaro {
 
 SkinButton::SkinButton(const QString& name, const QString& shortcut, QWidget* parent)
@@ -17,6 +19,17 @@ SkinButton::SkinButton(const QString& name, const QString& shortcut, QWidget* pa
     setFocusPolicy(Qt::TabFocus);
     // Repaints when the pointer comes and goes, and with it the window's picture below.
     setAttribute(Qt::WA_Hover);
+    m_fade.Go(1, 1);
+}
+
+bool SkinButton::event(QEvent* event)
+{
+    const bool isHandled = QAbstractButton::event(event);
+    if (const auto state = State(); state != m_now) {
+        m_before = std::exchange(m_now, state);
+        m_fade.Go(0, 1);
+    }
+    return isHandled;
 }
 
 void SkinButton::SetName(const QString& name, const QString& shortcut)
@@ -42,8 +55,8 @@ void SkinButton::paintEvent(QPaintEvent*)
         return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(style::kLight, 1));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+    painter.setPen(QPen(style::kLight, 1.5));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 6, 6);
 }
 
 } // namespace zentaro

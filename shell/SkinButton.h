@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/Fade.h"
 #include "shell/SkinPasses.h"
 
 #include <QAbstractButton>
@@ -17,9 +18,17 @@ public:
 
     void SetName(const QString& name, const QString& shortcut);
     ButtonState State() const;
+    /// From the state before, for a moment after each change.
+    ButtonFade StateFade() const { return { m_before, m_fade.Share() }; }
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    ButtonState m_before = ButtonState::Normal;
+    ButtonState m_now = ButtonState::Normal;
+    Fade m_fade{ *this, [this] { update(); } };
 };
 
 } // namespace zentaro

@@ -52,6 +52,13 @@ constexpr SkinImage ButtonImage(Button button, ButtonState state)
         + static_cast<std::size_t>(button) * kButtonStateCount + static_cast<std::size_t>(state));
 }
 
+/// The button that an image from `FirstButton` on belongs to.
+constexpr Button ButtonOf(SkinImage image)
+{
+    return static_cast<Button>(
+        (static_cast<std::size_t>(image) - static_cast<std::size_t>(SkinImage::FirstButton)) / kButtonStateCount);
+}
+
 /// An image and its file, below the skin's folder.
 struct SkinFile {
     SkinImage image;
@@ -61,13 +68,22 @@ struct SkinFile {
 /// Every image once, in the order in which they are loaded.
 std::vector<SkinFile> SkinLoadOrder();
 
+/// A button on its way from another state: how much of the present one shows already, 0 to 1.
+struct ButtonFade {
+    ButtonState from = ButtonState::Normal;
+    double share = 1;
+};
+
 /// What the paint pass draws the buttons from.
 struct SkinButtons {
     std::array<ButtonState, kButtonCount> states{};
+    std::array<ButtonFade, kButtonCount> fades{};
     bool isMuted = false;
 
     ButtonState& StateOf(Button button) { return states[static_cast<std::size_t>(button)]; }
     ButtonState StateOf(Button button) const { return states[static_cast<std::size_t>(button)]; }
+    ButtonFade& FadeOf(Button button) { return fades[static_cast<std::size_t>(button)]; }
+    const ButtonFade& FadeOf(Button button) const { return fades[static_cast<std::size_t>(button)]; }
 };
 
 /// An image and the rectangle (px) that it is stretched into. Sizes below 1 draw nothing.

@@ -69,4 +69,11 @@ QFont TimeFont()
     return font;
 }
 
+QFont SmallFont()
+{
+    auto font = TextFont();
+    font.setPixelSize(12);
+    return font;
+}
+
 } // namespace zentaro::style

@@ -94,9 +94,11 @@ void VolumeKnob::paintEvent(QPaintEvent*)
     const auto knobLeft = m_slider.KnobLeft();
     auto loud = track;
     loud.setWidth(knobLeft + kKnobWidth / 2);
-    painter.setBrush(style::kLight);
+    // The warm light is the seek track's; here it only answers the hand.
+    const bool isLit = underMouse() || hasFocus();
+    painter.setBrush(isLit ? style::kLight : style::kSecondText);
     painter.drawRoundedRect(loud, kTrackHeight / 2, kTrackHeight / 2);
-    painter.setBrush(underMouse() || hasFocus() ? style::kLight : style::kText);
+    painter.setBrush(isLit ? style::kLightHigh : style::kText);
     painter.drawRoundedRect(QRectF(knobLeft, middle - kKnobHeight / 2, kKnobWidth, kKnobHeight), 2.5, 2.5);
 }
 

@@ -23,6 +23,7 @@ constexpr int kMenuRight = 30;      // px, for the arrow of a submenu
 constexpr int kMenuSeparator = 9;   // px
 constexpr int kScrollBar = 12;      // px
 constexpr int kShortestThumb = 28;  // px
+constexpr int kFieldHeight = 28;    // px
 constexpr int kSpinWidth = 20;      // px
 
 bool Has(const QStyleOption& option, QStyle::StateFlag flag)
@@ -267,7 +268,7 @@ void DrawSlider(QPainter& painter, const QStyleOptionSlider& slider, const QRect
                        : QRectF(groove.left(), groove.center().y() - 2, groove.width(), 4);
     auto filled = groove;
     isUpright ? filled.setTop(handle.center().y()) : filled.setRight(handle.center().x());
-    const Brushwork work(painter, Qt::NoPen, style::kBase);
+    const Brushwork work(painter, Qt::NoPen, style::kTrack);
     painter.drawRoundedRect(groove, 2, 2);
     painter.setBrush(IsEnabled(slider) ? style::kLight : White(0.2));
     painter.drawRoundedRect(filled, 2, 2);
@@ -279,7 +280,7 @@ void DrawSlider(QPainter& painter, const QStyleOptionSlider& slider, const QRect
 void DrawProgress(QPainter& painter, const QStyleOptionProgressBar& bar)
 {
     const QRectF groove(bar.rect.left(), bar.rect.center().y() - 2, bar.rect.width(), 4);
-    const Brushwork work(painter, Qt::NoPen, style::kBase);
+    const Brushwork work(painter, Qt::NoPen, style::kTrack);
     painter.drawRoundedRect(groove, 2, 2);
     const double done =
         bar.maximum > bar.minimum ? (bar.progress - bar.minimum) / static_cast<double>(bar.maximum - bar.minimum) : 0.0;
@@ -317,6 +318,85 @@ QIcon MessageIcon(QStyle::StandardPixmap picture)
     return QIcon(pixmap);
 }
 
+/// What the toolkit's own dialogs show on buttons and before files, on a field of 24 by 24; nothing for other signs.
+QPainterPath DialogSign(QStyle::StandardPixmap picture)
+{
+    QPainterPath path;
+    const auto line = [&](std::initializer_list<QPointF> points) { path.addPolygon(QPolygonF(points)); };
+    const auto folder = [&] {
+        line({ { 3.5, 18.5 }, { 3.5, 5.5 }, { 9.5, 5.5 }, { 11.5, 8 }, { 20.5, 8 }, { 20.5, 18.5 }, { 3.5, 18.5 } });
+    };
+    switch (picture) {
+    case QStyle::SP_ArrowLeft:
+    case QStyle::SP_ArrowBack:
+    case QStyle::SP_FileDialogBack:
+        line({ { 14.5, 6 }, { 8.5, 12 }, { 14.5, 18 } });
+        break;
+    case QStyle::SP_ArrowRight:
+    case QStyle::SP_ArrowForward:
+        line({ { 9.5, 6 }, { 15.5, 12 }, { 9.5, 18 } });
+        break;
+    case QStyle::SP_FileDialogToParent:
+        line({ { 6.5, 11 }, { 12, 5.5 }, { 17.5, 11 } });
+        line({ { 12, 5.5 }, { 12, 18.5 } });
+        break;
+    case QStyle::SP_FileDialogNewFolder:
+        folder();
+        line({ { 12, 10.5 }, { 12, 16 } });
+        line({ { 9.25, 13.25 }, { 14.75, 13.25 } });
+        break;
+    case QStyle::SP_FileDialogDetailedView:
+        for (const double y : { 6.5, 12.0, 17.5 })
+            line({ { 4.5, y }, { 19.5, y } });
+        break;
+    case QStyle::SP_FileDialogListView:
+        for (const double y : { 5.0, 14.0 }) {
+            path.addRoundedRect(5, y, 5, 5, 1, 1);
+            path.addRoundedRect(14, y, 5, 5, 1, 1);
+        }
+        break;
+    case QStyle::SP_DirIcon:
+    case QStyle::SP_DirClosedIcon:
+    case QStyle::SP_DirOpenIcon:
+    case QStyle::SP_DirHomeIcon:
+    case QStyle::SP_DirLinkIcon:
+        folder();
+        break;
+    case QStyle::SP_FileIcon:
+    case QStyle::SP_FileLinkIcon:
+        line({ { 6, 3.5 }, { 13.5, 3.5 }, { 18, 8 }, { 18, 20.5 }, { 6, 20.5 }, { 6, 3.5 } });
+        line({ { 13.5, 3.5 }, { 13.5, 8 }, { 18, 8 } });
+        break;
+    case QStyle::SP_ComputerIcon:
+    case QStyle::SP_DesktopIcon:
+        path.addRoundedRect(3.5, 4.5, 17, 11.5, 1.5, 1.5);
+        line({ { 8, 19.5 }, { 16, 19.5 } });
+        break;
+    case QStyle::SP_DriveHDIcon:
+    case QStyle::SP_DriveNetIcon:
+    case QStyle::SP_DriveCDIcon:
+        path.addRoundedRect(3.5, 8.5, 17, 7.5, 1.5, 1.5);
+        line({ { 16.5, 12.25 }, { 17, 12.25 } });
+        break;
+    default:
+        break;
+    }
+    return path;
+}
+
+QIcon DialogIcon(const QPainterPath& sign)
+{
+    constexpr int kSize = 24;
+    constexpr int kDensity = 4;
+    QPixmap pixmap(kSize * kDensity, kSize * kDensity);
+    pixmap.setDevicePixelRatio(kDensity);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    const Brushwork work(painter, QPen(style::kText, 1.75, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin), Qt::NoBrush);
+    painter.drawPath(sign);
+    return QIcon(pixmap);
+}
+
 } // namespace
 
 WidgetStyle::WidgetStyle()
@@ -348,6 +428,8 @@ int WidgetStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, con
         return 1;
     case PM_MenuVMargin:
         return 4;
+    case PM_HeaderMargin:
+        return 8;
     case PM_MenuHMargin:
     case PM_ScrollView_ScrollBarSpacing:
         return 0;
@@ -409,7 +491,7 @@ QSize WidgetStyle::sizeFromContents(
     if (type == CT_PushButton)
         return result.expandedTo({ 87, 30 });
     if (type == CT_LineEdit || type == CT_ComboBox || type == CT_SpinBox)
-        return result.expandedTo({ 0, 28 });
+        return { result.width() + 8, kFieldHeight };
     if (type == CT_ItemViewItem)
         return result.expandedTo({ 0, 24 });
     return result;
@@ -448,12 +530,31 @@ QRect WidgetStyle::subControlRect(
         case SC_SpinBoxDown:
             return { rect.right() - kSpinWidth, rect.top() + middle, kSpinWidth, rect.height() - middle - 1 };
         case SC_SpinBoxEditField:
-            return rect.adjusted(4, 1, -kSpinWidth - 1, -1);
+            return rect.adjusted(2, 1, -kSpinWidth - 1, -1);
         default:
             return rect;
         }
     }
-    return QProxyStyle::subControlRect(control, option, part, widget);
+    const auto place = QProxyStyle::subControlRect(control, option, part, widget);
+    if (control == CC_GroupBox && (part == SC_GroupBoxLabel || part == SC_GroupBoxCheckBox))
+        return place.translated(10, 5);
+    if (control == CC_GroupBox && part == SC_GroupBoxContents)
+        return place.adjusted(0, 5, 0, 0);
+    if (control == CC_ComboBox && part == SC_ComboBoxEditField)
+        return place.adjusted(4, 0, 0, 0);
+    return place;
+}
+
+QRect WidgetStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
+{
+    const auto place = QProxyStyle::subElementRect(element, option, widget);
+    return element == SE_LineEditContents ? place.adjusted(4, 0, -4, 0) : place;
+}
+
+QPixmap WidgetStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const
+{
+    // A selected line is no reason to dye its icon.
+    return mode == QIcon::Disabled ? QProxyStyle::generatedIconPixmap(mode, pixmap, option) : pixmap;
 }
 
 void WidgetStyle::drawPrimitive(
@@ -570,6 +671,8 @@ void WidgetStyle::drawControl(
                 item->text);
         }
         return;
+    case CE_SizeGrip:
+        return; // edges and corners take the hand everywhere
     case CE_MenuBarEmptyArea:
     case CE_MenuEmptyArea:
         return;
@@ -580,7 +683,7 @@ void WidgetStyle::drawControl(
         return;
     case CE_PushButtonLabel:
         if (const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
-            button != nullptr && Has(*button, State_Sunken)) {
+            button != nullptr && (Has(*button, State_Sunken) || Has(*button, State_On))) {
             auto warm = *button;
             warm.palette.setColor(QPalette::ButtonText, style::kLight);
             QProxyStyle::drawControl(element, &warm, painter, widget);
@@ -666,8 +769,10 @@ QIcon WidgetStyle::standardIcon(StandardPixmap picture, const QStyleOption* opti
     case SP_MessageBoxQuestion:
         return MessageIcon(picture);
     default:
-        return QProxyStyle::standardIcon(picture, option, widget);
+        break;
     }
+    const auto sign = DialogSign(picture);
+    return sign.isEmpty() ? QProxyStyle::standardIcon(picture, option, widget) : DialogIcon(sign);
 }
 
 } // namespace zentaro

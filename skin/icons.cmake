@@ -66,8 +66,8 @@ function(zentaro_letters word result)
   set(${result} "${path}" PARENT_SCOPE)
 endfunction()
 
-set(sign_of_sound "<path d='M80 88v16M104 70v52M128 50v92M152 74v44M176 90v12' stroke-width='13' fill='none' transform='translate(0 -2)'/>")
-set(sign_of_picture "<path d='M106 58v68l56 -34z' stroke-width='16'/>")
+set(sign_of_sound "<path d='M80 80v14M104 64v46M128 48v78M152 67v40M176 81v12' stroke-width='13' fill='none'/>")
+set(sign_of_picture "<path d='M108 53v68l56 -34z' stroke-width='16'/>")
 
 # zentaro_type_icons(family kind word...): `kind` is what such a file holds, sound or picture.
 function(zentaro_type_icons family kind)

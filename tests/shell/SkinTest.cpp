@@ -12,8 +12,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <map>
 #include <set>
 
 namespace zentaro {
@@ -110,6 +108,25 @@ TEST(Skin, every_pixel_belongs_to_the_image_that_lies_on_top)
     }
 }
 
+TEST(Skin, a_fade_begins_and_ends_with_the_pictures_themselves)
+{
+    const FlatSkin flat;
+    Skin skin;
+    ASSERT_TRUE(skin.Load(flat.folder));
+    auto buttons = MixedButtons();
+    buttons.StateOf(Button::Play) = ButtonState::Over;
+    const auto shot = [&](double share) {
+        buttons.FadeOf(Button::Play) = { ButtonState::Press, share };
+        return PaintedWindow(skin, kTestSizes[0], buttons).pixelColor(200, 450);
+    };
+    const QColor from = flat.Color(ButtonImage(Button::Play, ButtonState::Press));
+    const QColor to = flat.Color(ButtonImage(Button::Play, ButtonState::Over));
+    EXPECT_EQ(shot(0), from);
+    EXPECT_EQ(shot(1), to);
+    EXPECT_NEAR(shot(0.5).green(), (from.green() + to.green()) / 2, 1);
+    EXPECT_NEAR(shot(0.5).blue(), (from.blue() + to.blue()) / 2, 1);
+}
+
 TEST(Skin, neighbours_meet_without_a_gap_at_a_broken_scale_factor)
 {
     const FlatSkin flat;
@@ -164,59 +181,6 @@ TEST(Skin, the_first_bad_file_ends_the_load_and_the_rest_draws_nothing)
         EXPECT_TRUE(loaded.error().text.ends_with("/BGCC.jpg")) << loaded.error().text;
         EXPECT_EQ(PaintedWindow(skin, size, {}), flat.Expected(table, size.width, size.height));
     }
-}
-
-/// A button's picture over the panel's colour, in one size for all.
-QImage Look(const QString& file)
-{
-    const QImage image(QCoreApplication::applicationDirPath() + "/../bin/images/" + file);
-    EXPECT_FALSE(image.isNull()) << ToText(file);
-    QImage look(48, 48, QImage::Format_RGB32);
-    look.fill(QColor(0x23, 0x26, 0x2E));
-    QPainter painter(&look);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(look.rect(), image);
-    return look;
-}
-
-/// How much two looks differ, as the share of pixels that the eye can tell apart, in percent.
-double Difference(const QImage& a, const QImage& b)
-{
-    constexpr int kVisible = 12;
-    int count = 0;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x)
-            count += std::abs(qGray(a.pixel(x, y)) - qGray(b.pixel(x, y))) >= kVisible;
-    }
-    return 100.0 * count / (a.width() * a.height());
-}
-
-TEST(SkinPictures, are_all_there)
-{
-    Skin skin;
-    const auto loaded = skin.Load(QCoreApplication::applicationDirPath() + "/../bin/images/");
-    EXPECT_TRUE(loaded) << loaded.error().text;
-}
-
-TEST(SkinPictures, no_two_of_a_button_s_states_and_no_two_buttons_look_alike)
-{
-    std::vector<std::pair<std::string, QImage>> normal;
-    std::map<std::string, std::vector<QImage>> states;
-    for (const auto& [image, name] : SkinLoadOrder()) {
-        const auto slash = name.find('/');
-        if (slash == std::string::npos)
-            continue;
-        const auto look = Look(ToQString(name));
-        for (const auto& other : states[name.substr(slash)])
-            EXPECT_GE(Difference(look, other), 2) << name;
-        states[name.substr(slash)].push_back(look);
-        if (name.starts_with("Normal/")) {
-            for (const auto& [otherName, other] : normal)
-                EXPECT_GE(Difference(look, other), 2) << name << " and " << otherName;
-            normal.emplace_back(name, look);
-        }
-    }
-    EXPECT_EQ(states.size(), kButtonCount);
 }
 
 TEST(Sliders, are_sliders_to_a_screen_reader)
