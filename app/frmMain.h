@@ -127,6 +127,7 @@ private:
     frmMenu& ClassicMenus();
     void ToggleMaximized();
     void PlaceChildren();
+    void ShareContent();
     void PlaceControls();
     void TurnVolume(int eighths);
     QString VolumeText() const;
@@ -176,6 +177,7 @@ private:
     std::optional<QPoint> m_dragFrom; // where the left button went down on something that can be dragged
     PlaylistDock m_dock = PlaylistDock::Left;
     PlaylistDock m_splitFor = PlaylistDock::Hidden; // the docking that the splitter stands for
+    bool m_isSplitByHand = false;                   // until then the list has its usual share
     bool m_fullScreen = false;
     bool m_wasMaximized = false; // before full screen
     bool m_topmost = false;

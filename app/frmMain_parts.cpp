@@ -160,6 +160,7 @@ void frmMain::MakeList()
     m_list->setObjectName("FancyList1");
     m_list->installEventFilter(this);
     m_list->setMinimumSize(kPaneMinimum, kPaneMinimum);
+    connect(m_content, &QSplitter::splitterMoved, this, [this] { m_isSplitByHand = true; });
     m_video->setMinimumSize(kPaneMinimum, kPaneMinimum);
     connect(m_list, &FancyList::Click, this, [this] { m_player->ListClicked(); });
     connect(m_list, &FancyList::DblClick, this, [this] { m_player->ListDoubleClicked(); });
@@ -190,15 +191,21 @@ void frmMain::SetPlaylistPosition(PlaylistDock position)
         m_content->insertWidget(isListFirst ? 0 : 1, m_list);
         m_content->setStretchFactor(m_content->indexOf(m_video), 1);
         m_content->setStretchFactor(m_content->indexOf(m_list), 0);
-        const auto content = Layout().Content();
-        const auto room = isStacked ? content.height : content.width;
-        const auto listRoom = std::min(static_cast<int>(room * kListShare), kListRoom);
-        m_content->setSizes(isListFirst ? QList{ listRoom, room - listRoom } : QList{ room - listRoom, listRoom });
+        m_isSplitByHand = false;
     }
     // What is hidden must not keep the keys, nor hand them to the next part.
     if (position == PlaylistDock::Hidden && m_list->hasFocus())
         setFocus();
     PlaceChildren();
+}
+
+void frmMain::ShareContent()
+{
+    const auto content = Layout().Content();
+    const auto room = m_content->orientation() == Qt::Vertical ? content.height : content.width;
+    const auto listRoom = std::min(static_cast<int>(room * kListShare), kListRoom);
+    const bool isListFirst = m_content->indexOf(m_list) == 0;
+    m_content->setSizes(isListFirst ? QList{ listRoom, room - listRoom } : QList{ room - listRoom, listRoom });
 }
 
 void frmMain::ShowAddProgress(const AddProgress& progress)
@@ -308,6 +315,8 @@ void frmMain::PlaceChildren()
     m_list->setVisible(!m_fullScreen && m_dock != PlaylistDock::Hidden);
     m_video->setVisible(m_fullScreen || m_dock != PlaylistDock::Whole);
     m_content->setGeometry(m_fullScreen ? rect() : ToQt(Layout().Content()));
+    if (!m_fullScreen && !m_isSplitByHand && m_dock < PlaylistDock::Whole)
+        ShareContent();
     if (m_fullScreen) {
         for (auto* const part : std::initializer_list<QWidget*>{ m_content, m_bar, m_note })
             part->raise();

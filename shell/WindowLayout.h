@@ -62,8 +62,8 @@ public:
     Rect RateLabel() const { return { TimeLabel().Right(), PanelTop() + 12, m_width - 48 - TimeLabel().Right(), 22 }; }
     Rect SeekTrack() const { return { 45, PanelTop() + 38, m_width - 93, 16 }; }
     /// Right of the sound button.
-    Rect VolumeSlider() const { return { m_width - 78, m_height - 27, 48, 20 }; }
-    Rect VolumeNumber() const { return { m_width - 27, m_height - 27, 24, 20 }; }
+    Rect VolumeSlider() const { return { m_width - 78, m_height - 27, 44, 20 }; }
+    Rect VolumeNumber() const { return { m_width - 30, m_height - 27, 24, 20 }; }
 
     /// Which edges of the frameless window a pointer takes hold of.
     struct Edges {
