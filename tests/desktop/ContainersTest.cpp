@@ -1,5 +1,6 @@
 #include "tests/desktop/PlayerDesk.h"
 
+#include <algorithm>
 #include <csignal>
 #include <filesystem>
 
@@ -37,9 +38,9 @@ TEST_F(Playing, EveryContainerMovesItsPictureOrShowsTheLogoWhileTheClockRuns)
     EXPECT_CLOSES_CLEANLY(player);
 }
 
-TEST_F(Playing, WorksWithoutAnyDisplay)
+TEST_F(Playing, WorksWithoutAnyDisplayAndSaysSo)
 {
-    const std::map<std::string, std::string> offscreen = { { "QT_QPA_PLATFORM", "offscreen" }, { "DISPLAY", "" } };
+    const std::map<std::string, std::string> offscreen = { { "DISPLAY", "" } };
     const auto first = CopyOf(Clips::Make("clip.mp4"), "first.mp4");
     const auto second = CopyOf(Clips::Make("clip.mp4"), "second.mp4");
     auto player = Start({ first }, {}, offscreen);
@@ -50,7 +51,10 @@ TEST_F(Playing, WorksWithoutAnyDisplay)
     EXPECT_FALSE(Reads(player, first));
     player.Signal(SIGTERM);
     EXPECT_EQ(player.WaitForEnd(), 0);
-    EXPECT_EQ(player.ErrorText(), "");
+    const auto said = player.ErrorText();
+    EXPECT_TRUE(said.starts_with("There is no display")) << said;
+    EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1) << said;
+    EXPECT_EQ(StoredSettings().WindowWidth, WindowLayout::kFirstWidth);
 }
 
 } // namespace

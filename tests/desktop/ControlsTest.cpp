@@ -260,18 +260,5 @@ TEST_F(Controls, TheBarOfFullScreenComesWithThePointerAndRestsWithIt)
     EXPECT_CLOSES_CLEANLY(player);
 }
 
-TEST_F(Controls, WithoutADisplayThePlayerSaysSoAndTakesFiles)
-{
-    const std::map<std::string, std::string> blind = { { "DISPLAY", "" } };
-    auto player = Start({ Clips::Make("clip.mp4") }, {}, blind);
-    EXPECT_TRUE(WaitUntil([&] { return player.ErrorText().starts_with("There is no display"); }));
-    auto second = Start({ CopyOf(Clips::Make("clip.mp4"), "second.mp4") }, {}, blind);
-    EXPECT_EQ(second.WaitForEnd(), 0);
-    EXPECT_EQ(second.ErrorText(), "");
-    player.Signal(SIGTERM);
-    EXPECT_EQ(player.WaitForEnd(), 0);
-    EXPECT_EQ(StoredSettings().WindowWidth, WindowLayout::kFirstWidth);
-}
-
 } // namespace
 } // namespace zentaro::desktop
