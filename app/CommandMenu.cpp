@@ -78,6 +78,8 @@ QAction* CommandMenu::MakeItem(const CommandItem& item)
     if (item.shortcutKey != 0) {
         const auto modifier = item.shortcutModifier == kControlModifier ? Qt::ControlModifier : Qt::NoModifier;
         action->setShortcut(QKeyCombination(modifier, static_cast<Qt::Key>(QtKey(item.shortcutKey))));
+        // A key that rests on the keyboard must not toggle on and on.
+        action->setAutoRepeat(false);
         m_window->addAction(action);
     }
     return action;

@@ -77,6 +77,8 @@ struct PlayerWorld {
     std::function<void()> askForDrives = [] {};
     /// What the list shows for a disc.
     std::function<Picture()> readDiscPicture = [] { return Picture(); };
+    /// Holds the screen saver and sleep off, or lets them come again. Told at every tick.
+    std::function<void(bool held)> holdOffSleep = [](bool) {};
 };
 
 /// The 16-bit number by which an item is played; -1, which plays nothing, for an index that does not fit.
@@ -142,6 +144,8 @@ public:
     /// Plays a playlist entry in a fresh engine; an index outside the list does nothing.
     void PlayItem(std::int16_t index, bool fullScreen);
     void CMDPlayClick();
+    /// Pauses, goes on, or plays the selected entry where nothing is loaded.
+    void PlayOrPause();
     /// Pauses or goes on; asks for files while the list is empty.
     void PlayPause();
     /// The list lies there from now on, also after a restart.
@@ -286,7 +290,6 @@ private:
     };
 
     void EntryAdded();
-    void EnableListCommands();
     void PlayHistoryItem(int slot);
     bool BecomePlayer();
     void Publish();

@@ -32,15 +32,15 @@ constexpr int Direction(int index)
 }
 
 constexpr std::array kTable{
-    PlayerKey{ "Space", kSpace, "Play or pause",
-        [](Player& player, int) { player.MediaControlsEnabled() ? player.CMDPauseClick() : player.CMDPlayClick(); } },
+    PlayerKey{ "Space", kSpace, "Play or pause", [](Player& player, int) { player.PlayOrPause(); } },
     PlayerKey{ "Left, Right", kArrows, "5 seconds back or forward; in the menu of a disc, the button beside",
         [](Player& player, int index) {
             if (!player.NavigateDisc(index == 0 ? DiscKey::Left : DiscKey::Right))
                 player.SeekBy(Direction(index) * kStep);
-        } },
+        },
+        true },
     PlayerKey{ "Shift+Left, Shift+Right", kShiftArrows, "30 seconds back or forward",
-        [](Player& player, int index) { player.SeekBy(Direction(index) * kLongStep); } },
+        [](Player& player, int index) { player.SeekBy(Direction(index) * kLongStep); }, true },
     PlayerKey{ "0 to 9", kDigits, "Jump to that tenth of the item",
         [](Player& player, int index) { player.Seek(index / 10.0); } },
     PlayerKey{ "Up, Down", kUpDown,
@@ -50,7 +50,8 @@ constexpr std::array kTable{
                 return;
             if (const auto volume = player.Loudness().StepBy(-Direction(index) * kVolumeStep))
                 player.SetVolume(*volume);
-        } },
+        },
+        true },
     PlayerKey{ "M", kMute, "Mute", [](Player& player, int) { player.cmdMuteClick(); } },
     PlayerKey{ "[, ]", kBrackets, "Slower or faster",
         [](Player& player, int index) { player.RunCommand(index == 0 ? "DecreaseSpeed" : "IncreaseSpeed"); } },

@@ -13,6 +13,7 @@ struct PlayerKey {
     std::span<const std::string_view> keys; ///< names of single keys such as "Shift+Left"
     std::string_view what;                  ///< what they do, a few words
     void (*run)(Player& player, int index); ///< `index`: which of the keys was pressed
+    bool repeats = false;                   ///< again and again while it is held
 };
 
 /// In the order in which help lists them.

@@ -81,6 +81,18 @@ void Player::PlayHistoryItem(int slot)
     LoadThumb(caption, path, false, true);
 }
 
+void Player::PlayOrPause()
+{
+    if (m_mediaControlsEnabled) {
+        CMDPauseClick();
+        return;
+    }
+    // A removal can leave the selection behind the last entry.
+    if (m_playlist.Count() > 0 && m_playlist.SelectedEntry() == nullptr)
+        m_playlist.List().SetSelectedItem(m_playlist.Count() - 1);
+    CMDPlayClick();
+}
+
 void Player::PlayPause()
 {
     if (m_playlist.Count() > 0) {

@@ -116,6 +116,7 @@ void Player::Unload()
     if (m_associationsPending)
         ApplyAssociations();
     IgnoreFailure(WriteConfigurations());
+    m_world.holdOffSleep(false);
     m_host.RemoveVLCPlayer();
     m_world.screen.SetTrayShown(false);
     m_ends.reset();

@@ -21,6 +21,7 @@ void Player::cmdStopClick()
     ForgetDiscStart();
     if (auto* const engine = m_host.VLCPlayer(); engine != nullptr && engine->ItemCount() > 0)
         engine->Stop();
+    m_world.holdOffSleep(false);
     ReleaseHeldButtons();
     EnableMediaControls(false);
     m_seekBar.SetProgress(0);
@@ -230,6 +231,7 @@ void Player::OnPositionTick()
     }
     NoteVideoOutput(reading.hasVideoOutput);
     const auto tick = ReadPosition(reading, m_mediaControlsEnabled);
+    m_world.holdOffSleep(m_settings.DisableScreenSaver != 0 && HoldsOffSleep(reading));
     if (tick.progress)
         m_seekBar.SetProgress(*tick.progress);
     m_world.screen.ShowPosition(tick, reading.length);

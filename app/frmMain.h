@@ -39,6 +39,9 @@ public:
     /// `programFolder`: with a trailing separator.
     explicit frmMain(const QString& programFolder);
 
+    /// Called at every tick of a shown window.
+    std::function<void()> onPositionShown = [] {};
+
     VideoFrame& Video() { return *m_video; }
     Skin& Pictures() { return m_skin; }
     /// The dialogs are made by whoever made the window.

@@ -30,7 +30,9 @@ void frmMain::MakeMenus()
     for (const auto& row : PlayerKeys()) {
         for (std::size_t i = 0; i < row.keys.size(); ++i) {
             const QKeySequence keys(ToQString(std::string(row.keys[i])));
-            connect(new QShortcut(keys, this), &QShortcut::activated, this,
+            auto* const shortcut = new QShortcut(keys, this);
+            shortcut->setAutoRepeat(row.repeats);
+            connect(shortcut, &QShortcut::activated, this,
                 [this, &row, index = static_cast<int>(i)] { row.run(*m_player, index); });
         }
     }

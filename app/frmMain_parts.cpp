@@ -193,6 +193,9 @@ void frmMain::SetPlaylistPosition(PlaylistDock position)
         m_content->setStretchFactor(m_content->indexOf(m_list), 0);
         m_isSplitByHand = false;
     }
+    // What is hidden must not keep the keys, nor hand them to the next part.
+    if (position == PlaylistDock::Hidden && m_list->hasFocus())
+        setFocus();
     PlaceChildren();
 }
 
@@ -222,6 +225,7 @@ void frmMain::ShowPosition(const PositionTick& tick, double length)
     m_seek->ShowProgress();
     if (tick.showAudioLogo)
         m_video->ShowAudioLogo(*tick.showAudioLogo);
+    onPositionShown();
 }
 
 void frmMain::ShowTimeText(const std::string& text)

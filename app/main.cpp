@@ -1,6 +1,7 @@
 #include "app/Dialogs.h"
 #include "app/DriveQueries.h"
 #include "app/InspectionThreads.h"
+#include "app/MediaRemote.h"
 #include "app/Player.h"
 #include "app/frmMain.h"
 #include "assoc/IconPicture.h"
@@ -11,8 +12,10 @@
 #include "platform/AssociationShell.h"
 #include "platform/FileIcon.h"
 #include "platform/Folders.h"
+#include "platform/MediaControl.h"
 #include "platform/Power.h"
 #include "platform/Process.h"
+#include "platform/SleepInhibitor.h"
 #include "platform/TextFile.h"
 #include "platform/Window.h"
 #include "playback/VideoFrame.h"
@@ -32,6 +35,8 @@
 namespace {
 
 using namespace zentaro;
+
+constexpr auto kEngineDelay = std::chrono::milliseconds(100); // until the engine shows what it was told
 
 HandOverService RealHandOver()
 {
@@ -92,6 +97,22 @@ void ChooseWindowSystem()
         qputenv("QT_QPA_PLATFORM", chosen);
 }
 
+/// The window and its pictures, for the desktop's media controls.
+MediaRemote::Window RemoteWindow(frmMain& window, const std::string& workingFolder)
+{
+    const auto raise = [&window] {
+        window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+        window.show();
+        window.raise();
+        window.activateWindow();
+    };
+    const auto saveArtwork = [workingFolder](std::uint64_t track, const Picture& picture) {
+        const auto path = workingFolder + "artwork-" + std::to_string(track) + ".png";
+        return !workingFolder.empty() && SavePictureFile(picture, path) ? path : std::string();
+    };
+    return { raise, [&window] { window.close(); }, [&window] { return window.isFullScreen(); }, saveArtwork };
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -112,6 +133,7 @@ int main(int argc, char** argv)
     const auto workingFolder = MakeFolderOfThisRun();
     const auto store = platform::StringStore::Open();
     const auto power = platform::Power::Open();
+    auto sleepInhibitor = platform::SleepInhibitor::Open();
 
     frmMain window(ToQString(programFolder));
     VlcEngines engines(window.Video(), workingFolder.empty() ? std::string() : workingFolder + "engine.log");
@@ -127,21 +149,33 @@ int main(int argc, char** argv)
     const auto endProcess = [&] {
         inspections.CancelAll();
         platform::RemoveFolder(workingFolder);
+        sleepInhibitor.reset();
         platform::EndProcess();
     };
     const auto programPath = platform::ShortProgramPath();
     const auto shell = platform::AssociationShell::Open(programPath, programFolder);
     constexpr int iconSide = 64; // px: sharp in a list of a scaled display, too
     const AssociationService associations{ shell.get(), programPath, programFolder,
-        { &platform::ExtractIcon, [](const std::string& file) { return LoadIconPicture(file, iconSide); } },
+        { &platform::IconInFile, [](const std::string& file) { return LoadIconPicture(file, iconSide); } },
         [&](std::function<void()> work) { QTimer::singleShot(std::chrono::seconds(2), &window, std::move(work)); } };
     Player player({ window, engines, inspections, *store, *power, RealHandOver(), RealRandom(), &platform::PathExists,
         endProcess, settingsFolder, separator, associations, [&] { drives.Ask(); },
-        [&] { return DecodePictureFile(programFolder + "DVD.jpg"); } });
+        [&] { return DecodePictureFile(programFolder + "DVD.jpg"); }, [&](bool held) { sleepInhibitor->Hold(held); } });
     drives.onFound = [&](auto found) { player.DrivesFound(std::move(found)); };
     inspections.onCompleted = [&](int ticket, Inspection result) {
         player.InspectionCompleted(ticket, std::move(result));
     };
+    MediaRemote remote(player, RemoteWindow(window, workingFolder));
+    const auto mediaControl = platform::MediaControl::Open([&](platform::MediaCommand command) {
+        const auto obey = [&, asked = std::move(command)] {
+            remote.Do(asked);
+            // The desktop shows what it hears, and the next tick can be half a second away.
+            QTimer::singleShot(kEngineDelay, &window, [&] { window.onPositionShown(); });
+        };
+        QMetaObject::invokeMethod(&application, obey, Qt::QueuedConnection);
+    });
+    if (mediaControl)
+        window.onPositionShown = [&] { mediaControl->Publish(remote.Status()); };
     Dialogs dialogs(window, player, programFolder);
     window.Serve(player);
     if (!player.Load(commandLine))

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QDateTime>
+#include <QFile>
 #include <QImage>
 #include <QLocale>
 
@@ -28,6 +29,13 @@ Picture DecodePictureFile(const std::string& path)
         pixels.insert(pixels.end(), line, line + image.width());
     }
     return Picture(image.width(), image.height(), std::move(pixels));
+}
+
+bool SavePictureFile(const Picture& picture, const std::string& path)
+{
+    const QImage image(reinterpret_cast<const uchar*>(picture.Pixels()), picture.Width(), picture.Height(),
+        picture.Width() * static_cast<int>(sizeof(QRgb)), QImage::Format_ARGB32);
+    return image.save(QFile::decodeName(path.c_str()), "PNG");
 }
 
 std::string LocalDateText(std::int64_t seconds)

@@ -9,7 +9,7 @@ vlc-plugin-base         its readers, decoders and sound outputs
 vlc-plugin-video-output its picture outputs
 ffmpeg                  reads what is inside a file, makes thumbnails, the demo clip and the JPG pictures
 mpgtx                   reads MPEG program streams
-libsystemd0             speaks to the login manager; Qt brings it anyway
+libsystemd0             speaks to the login manager, the disk service and the session; Qt brings it anyway
 libdvdread8             finds the video folder of a disc that is not mounted; the disc reader of the engine brings it anyway
 fonts-inter             the typeface of the windows
 xdg-utils               opens the help and web pages in the browser
@@ -23,12 +23,15 @@ pkg-config              finds the libraries
 qt6-base-dev            the windows
 libvlc-dev              the engine
 libxcb1-dev             window states that Qt has no call for
-libsystemd-dev          sd-bus: restart and power off, drives
+libsystemd-dev          sd-bus: restart, power off, drives, sleep, media keys
 libdvdread-dev          reads the folders of a disc
 nlohmann-json3-dev      prints what zentaro-inspect knows as JSON
 librsvg2-bin            draws the SVG sources of all pictures
 icoutils                packs the icons of Windows
 fonts-inter             the letters on the icons
+'
+packages_package='
+dpkg-dev                finds what the .deb depends on
 '
 packages_screenless='
 xvfb                    a display in memory
@@ -42,8 +45,15 @@ googletest              their sources, cross-built for Windows
 libxcb-xtest0-dev       the desktop tests press keys and buttons
 libxcb-keysyms1-dev     which key has which code
 dbus                    a session bus of the tests own
+desktop-file-utils      checks and collects desktop entries
+shared-mime-info        the types of files, and what adds to them
+libglib2.0-bin          asks and opens as a file manager does
 dvdauthor               makes a video DVD with a menu
 genisoimage             makes images of discs
+appstream               checks the metadata of the package
+lintian                 checks the package
+playerctl               a client of the media controls
+systemd                 busctl, another one
 clang                   builds the fuzz targets
 libclang-rt-dev         libFuzzer and the sanitizers of clang
 g++-mingw-w64-x86-64-posix  builds for Windows

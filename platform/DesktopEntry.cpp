@@ -98,16 +98,18 @@ std::string ExecQuoted(const std::string& path)
 std::string OpenEntryText(const DesktopEntryFacts& facts)
 {
     return "[Desktop Entry]\nType=Application\nVersion=1.0\nName=Zentaro\nGenericName=Media Player\n"
-           "Comment=Play audio and video files\nExec="
+           "Comment=Play films and music\nKeywords=video;film;movie;audio;music;sound;playlist;\nExec="
         + Command(facts, "%f") + "\nIcon=" + Escaped(facts.icon)
-        + "\nTerminal=false\nCategories=AudioVideo;Audio;Video;Player;\nMimeType=" + Joined(facts.mimeTypes) + "\n";
+        + "\nTerminal=false\nStartupNotify=false\nStartupWMClass=Quorvane Zentaro\n"
+          "Categories=AudioVideo;Audio;Video;Player;Qt;\nMimeType="
+        + Joined(facts.mimeTypes) + "\n";
 }
 
 std::string AddEntryText(const DesktopEntryFacts& facts)
 {
     return std::string("[Desktop Entry]\nType=Application\nVersion=1.0\nName=") + kAddName + "\nComment=" + kAddComment
         + "\nExec=" + Command(facts, kAddArguments) + "\nIcon=" + Escaped(facts.icon)
-        + "\nTerminal=false\nNoDisplay=true\nMimeType=" + Joined(facts.mimeTypes) + "\n";
+        + "\nTerminal=false\nStartupNotify=false\nNoDisplay=true\nMimeType=" + Joined(facts.mimeTypes) + "\n";
 }
 
 std::string AddServiceMenuText(const DesktopEntryFacts& facts)
@@ -126,13 +128,6 @@ std::string AddNemoActionText(const DesktopEntryFacts& facts)
     return std::string("[Nemo Action]\nActive=true\nName=") + kAddName + "\nComment=" + kAddComment
         + "\nExec=" + Command(facts, "%F \"*Add\"") + "\nIcon-Name=" + Escaped(facts.icon)
         + "\nSelection=s\nQuote=double\nExtensions=" + names + "\n";
-}
-
-std::string AddActionText(const DesktopEntryFacts& facts)
-{
-    return std::string("[Desktop Entry]\nType=Action\nName=") + kAddName + "\nTooltip=" + kAddComment + "\nIcon="
-        + Escaped(facts.icon) + "\nProfiles=add;\n\n[X-Action-Profile add]\nMimeTypes=" + Joined(facts.mimeTypes)
-        + "\nExec=" + Command(facts, kAddArguments) + "\n";
 }
 
 std::string MimePackageText(const std::vector<MimeAddition>& additions)

@@ -32,8 +32,6 @@ std::string AddEntryText(const DesktopEntryFacts& facts);
 std::string AddServiceMenuText(const DesktopEntryFacts& facts);
 /// The same for Nemo.
 std::string AddNemoActionText(const DesktopEntryFacts& facts);
-/// The same for file managers with actions of the common kind, such as PCManFM and Caja.
-std::string AddActionText(const DesktopEntryFacts& facts);
 
 /// A type as our addition to the user's MIME database knows it.
 struct MimeAddition {

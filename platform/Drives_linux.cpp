@@ -41,6 +41,12 @@ std::string ReadText(sd_bus_message* message)
     return sd_bus_message_read_basic(message, SD_BUS_TYPE_STRING, &text) > 0 ? text : "";
 }
 
+std::string ReadPath(sd_bus_message* message)
+{
+    const char* path = nullptr;
+    return sd_bus_message_read_basic(message, SD_BUS_TYPE_OBJECT_PATH, &path) > 0 ? path : "";
+}
+
 /// File names are bytes with a NUL at the end.
 std::string ReadBytes(sd_bus_message* message)
 {
@@ -79,9 +85,7 @@ Value ReadValue(sd_bus_message* message)
     if (name == "s") {
         value = ReadText(message);
     } else if (name == "o") {
-        const char* path = nullptr;
-        sd_bus_message_read_basic(message, SD_BUS_TYPE_OBJECT_PATH, &path);
-        value = std::string(path);
+        value = ReadPath(message);
     } else if (name == "ay") {
         value = ReadBytes(message);
     } else if (name == "t") {
@@ -129,8 +133,7 @@ std::map<std::string, Properties> ReadObjects(sd_bus_message* message)
 {
     std::map<std::string, Properties> objects;
     ForEachEntry(message, "oa{sa{sv}}", [&] {
-        const char* path = nullptr;
-        sd_bus_message_read_basic(message, SD_BUS_TYPE_OBJECT_PATH, &path);
+        const auto path = ReadPath(message);
         objects[path] = ReadObject(message);
     });
     return objects;
@@ -190,6 +193,24 @@ const Properties& Named(const std::map<std::string, Properties>& objects, const 
     return at != objects.end() ? at->second : none;
 }
 
+OpticalDrive ReadDrive(const Properties& block, const Properties& drive)
+{
+    OpticalDrive read{ Get<std::string>(block, "Block.Device"), {}, false, {} };
+    if (Get<std::string>(block, "Block.IdUsage") != "filesystem")
+        return read;
+    read.label = Get<std::string>(block, "Block.IdLabel");
+    read.disc = Get<std::string>(block, "Block.IdUUID") + " "
+        + std::to_string(Get<std::uint64_t>(drive, "Drive.TimeMediaDetected"));
+    return read;
+}
+
+/// Empty while the disc is not mounted.
+std::string MountPoint(const Properties& block)
+{
+    const auto all = Get<Texts>(block, "Filesystem.MountPoints");
+    return all.empty() ? std::string() : all.front();
+}
+
 } // namespace
 
 DiskServiceDrives::DiskServiceDrives(std::string busAddress, std::chrono::milliseconds patience)
@@ -210,34 +231,30 @@ std::vector<OpticalDrive> DiskServiceDrives::Find()
     const Message message(answer);
     const auto objects = ReadObjects(answer);
     std::vector<OpticalDrive> drives;
-    std::map<std::string, bool> hasVideoFolder;
+    Answers answers;
     for (const auto& [path, block] : objects) {
         const auto& drive = Named(objects, Get<std::string>(block, "Block.Drive"));
         if (!IsOptical(drive) || block.contains("Partition"))
             continue;
-        OpticalDrive found{ Get<std::string>(block, "Block.Device"), {}, false, {} };
-        if (Get<std::string>(block, "Block.IdUsage") == "filesystem") {
-            const auto mountPoints = Get<Texts>(block, "Filesystem.MountPoints");
-            const auto mountPoint = mountPoints.empty() ? std::string() : mountPoints.front();
-            found.label = Get<std::string>(block, "Block.IdLabel");
-            found.disc = Get<std::string>(block, "Block.IdUUID") + " "
-                + std::to_string(Get<std::uint64_t>(drive, "Drive.TimeMediaDetected"));
-            const auto question = found.name + " " + found.disc + " " + mountPoint;
-            const auto known = m_hasVideoFolder.find(question);
-            if (known != m_hasVideoFolder.end())
-                found.hasVideoFolder = known->second;
-            else
-                found.hasVideoFolder = mountPoint.empty() ? IsVideoFolderOn(found.name) : IsVideoFolderIn(mountPoint);
-            hasVideoFolder[question] = found.hasVideoFolder;
-        }
-        drives.push_back(std::move(found));
+        drives.push_back(ReadDrive(block, drive));
+        if (drives.back().label)
+            drives.back().hasVideoFolder = HasVideoFolder(drives.back(), MountPoint(block), answers);
     }
-    m_hasVideoFolder = std::move(hasVideoFolder);
+    m_answers = std::move(answers);
     // "/dev/sr10" comes after "/dev/sr9".
     std::sort(drives.begin(), drives.end(), [](const auto& left, const auto& right) {
         return std::pair(left.name.size(), left.name) < std::pair(right.name.size(), right.name);
     });
     return drives;
+}
+
+bool DiskServiceDrives::HasVideoFolder(const OpticalDrive& drive, const std::string& mountPoint, Answers& answers) const
+{
+    const auto question = drive.name + " " + drive.disc + " " + mountPoint;
+    const auto known = m_answers.find(question);
+    if (known != m_answers.end())
+        return answers[question] = known->second;
+    return answers[question] = mountPoint.empty() ? IsVideoFolderOn(drive.name) : IsVideoFolderIn(mountPoint);
 }
 
 std::unique_ptr<Drives> Drives::Open()

@@ -18,11 +18,15 @@ public:
     std::vector<OpticalDrive> Find() override;
 
 private:
+    /// What discs were asked, by drive, disc and mount point.
+    using Answers = std::map<std::string, bool>;
+
+    bool HasVideoFolder(const OpticalDrive& drive, const std::string& mountPoint, Answers& answers) const;
+
     std::string m_busAddress;
     std::chrono::milliseconds m_patience;
-    /// What the discs themselves were asked, by disc and mount point: each is read once, soon after it came, and may
-    /// sleep on.
-    std::map<std::string, bool> m_hasVideoFolder;
+    /// Each disc is read once, soon after it came, and may sleep on.
+    Answers m_answers;
 };
 
 } // namespace zentaro::platform

@@ -2,7 +2,7 @@
 
 namespace zentaro::platform {
 
-Picture ExtractIcon(const std::string&, std::int32_t)
+Picture IconInFile(const std::string&, std::int32_t)
 {
     return {};
 }

@@ -2,11 +2,12 @@
 
 #include <algorithm>
 #include <memory>
-#include <shellapi.h>
 #include <type_traits>
 #include <utility>
 #include <vector>
 #include <windows.h>
+
+#include <shellapi.h>
 
 namespace zentaro::platform {
 namespace {
@@ -66,7 +67,7 @@ std::uint32_t Pixel(std::uint32_t overBlack, std::uint32_t overWhite)
 
 } // namespace
 
-Picture ExtractIcon(const std::string& file, std::int32_t index)
+Picture IconInFile(const std::string& file, std::int32_t index)
 {
     // This index asks for the number of icons.
     if (index == -1)

@@ -63,8 +63,11 @@ MimeApps::MimeApps(const std::string& text)
 
 std::vector<std::string> MimeApps::Programs(std::string_view group, std::string_view type) const
 {
-    const auto lines = LinesOf(group, type);
-    return lines.empty() ? std::vector<std::string>() : ProgramsOf(m_lines[lines.front()]);
+    for (const auto line : LinesOf(group, type)) {
+        if (auto programs = ProgramsOf(m_lines[line]); !programs.empty())
+            return programs;
+    }
+    return {};
 }
 
 void MimeApps::PutFirst(std::string_view group, std::string_view type, const std::vector<std::string>& programs)

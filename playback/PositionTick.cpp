@@ -20,6 +20,11 @@ bool EndedByTheClock(const EngineReading& reading)
 
 } // namespace
 
+bool HoldsOffSleep(const EngineReading& reading)
+{
+    return reading.isLoaded && reading.state == Engine::kPlaying && reading.hasVideoOutput;
+}
+
 PositionTick ReadPosition(const EngineReading& reading, bool mediaControlsEnabled)
 {
     PositionTick tick;

@@ -27,6 +27,9 @@ struct PositionTick {
     bool hasFailed = false;
 };
 
+/// Whether somebody may be watching: a video is playing.
+bool HoldsOffSleep(const EngineReading& reading);
+
 /// Works out one tick. `mediaControlsEnabled`: an end counts only while it is set; the caller clears it on an end.
 PositionTick ReadPosition(const EngineReading& reading, bool mediaControlsEnabled);
 

@@ -4,6 +4,7 @@
 #include <QImageReader>
 #include <QPainter>
 #include <QPointer>
+#include <QWindow>
 
 #include <utility>
 
@@ -196,6 +197,15 @@ void VideoFrame::ShowPointer(bool shown)
     for (auto* const part : std::initializer_list<QWidget*>{ this, m_logo, m_surface }) {
         if (part != nullptr)
             part->setCursor(m_pointer);
+    }
+}
+
+void VideoFrame::moveEvent(QMoveEvent*)
+{
+    // Qt leaves the windows of its parts where they are when the frame alone moves and keeps its size.
+    for (const auto* const part : std::initializer_list<QWidget*>{ m_logo, m_surface }) {
+        if (part != nullptr && part->windowHandle() != nullptr)
+            part->windowHandle()->setPosition(part->mapTo(window(), QPoint()));
     }
 }
 

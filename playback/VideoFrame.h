@@ -88,6 +88,7 @@ public:
     void ShowPointer(bool shown);
 
 protected:
+    void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 

@@ -41,10 +41,11 @@ std::shared_ptr<libvlc_instance_t> StartLibrary(const std::vector<std::string>& 
 }
 
 // --quiet silences the decoders, which write past the log. No scripts: they would only look for covers on the network.
+// The screen saver is held off by the player, on every output and not beyond the end of an item.
 std::vector<std::string> CommonArguments(bool plainOutput)
 {
     std::vector<std::string> arguments = { "--quiet", "--no-video-title-show", "--no-osd", "--no-snapshot-preview",
-        "--no-lua", "--no-interact" };
+        "--no-lua", "--no-interact", "--no-disable-screensaver" };
     // The embedded player chooses its output by itself; taking OpenGL away leaves the plain one.
     if (plainOutput)
         arguments.insert(arguments.end(), { "--gl=none", "--gles2=none" });
@@ -233,7 +234,7 @@ public:
     {
         if (m_player != nullptr)
             return;
-        m_instance = m_engines.NewInstance(options);
+        m_instance = m_engines.NewInstance();
         if (!m_instance)
             return;
         auto* const media = location.isLocation ? libvlc_media_new_location(m_instance.get(), location.text.c_str())
@@ -418,12 +419,9 @@ std::unique_ptr<Engine> VlcEngines::Create()
     return std::make_unique<VlcEngine>(*this, m_frame.AddSurface());
 }
 
-VlcEngines::Instance VlcEngines::NewInstance(const EngineOptions& options)
+VlcEngines::Instance VlcEngines::NewInstance()
 {
-    // libVLC 3 reads this one from the instance only; as an option of the item it has no effect.
-    auto arguments = CommonArguments(m_plainOutput);
-    arguments.push_back("--" + options[6]);
-    auto instance = StartLibrary(arguments);
+    auto instance = StartLibrary(CommonArguments(m_plainOutput));
     if (!instance)
         instance = m_base.get();
     m_log.Attach(instance.get());

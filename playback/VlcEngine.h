@@ -49,7 +49,7 @@ private:
     friend class VlcEngine;
     using Instance = std::shared_ptr<libvlc_instance_t>;
 
-    Instance NewInstance(const EngineOptions& options);
+    Instance NewInstance();
     /// False for a while after the device could not be opened: each try costs time and fills the log.
     bool MayTrySound();
 

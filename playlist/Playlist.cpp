@@ -24,6 +24,8 @@ std::string Playlist::PathAt(int index) const
 void Playlist::Append(PlaylistEntry entry, std::string detail)
 {
     m_paths.insert(entry.FullPath);
+    entry.Id = ++m_lastId;
+    ++m_revision;
     m_entries.push_back(std::move(entry));
     m_list.AddItem(m_entries.back().Title, m_entries.back().Thumbnail, std::move(detail));
 }
@@ -41,6 +43,7 @@ void Playlist::RemoveSelected()
     const int selected = m_list.SelectedItem();
     if (!EntryAt(selected))
         return;
+    ++m_revision;
     m_paths.erase(PathAt(selected));
     m_entries.erase(m_entries.begin() + selected);
     m_order.RemoveAt(selected);
@@ -49,6 +52,7 @@ void Playlist::RemoveSelected()
 
 void Playlist::RemoveAll()
 {
+    ++m_revision;
     m_entries.clear();
     m_paths.clear();
     m_order.Clear();

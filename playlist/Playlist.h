@@ -19,6 +19,7 @@ struct PlaylistEntry {
     std::string FullPath;
     Picture Thumbnail;
     std::string MediaInfo;
+    std::uint64_t Id = 0; ///< given by Playlist::Append, from 1; no other entry of this run has it
 };
 
 /// The entries, the list that shows them and the play order, kept in step. Entries are known by their index alone.
@@ -31,6 +32,9 @@ public:
     const FancyListState& List() const { return m_list; }
     PlayOrder& Order() { return m_order; }
     const PlayOrder& Order() const { return m_order; }
+
+    /// Another number after every change of the entries.
+    std::uint64_t Revision() const { return m_revision; }
 
     int Count() const { return static_cast<int>(m_entries.size()); }
     /// Nothing when the index names no entry.
@@ -73,6 +77,8 @@ private:
     PlayOrder m_order;
     std::vector<PlaylistEntry> m_entries;
     std::unordered_set<std::string> m_paths;
+    std::uint64_t m_lastId = 0;
+    std::uint64_t m_revision = 0;
 };
 
 } // namespace zentaro

@@ -40,7 +40,7 @@ void MenuStrip::paintEvent(QPaintEvent*)
         const bool isOpen = action->menu() != nullptr && action->menu()->isVisible();
         if (isOpen || action == activeAction()) {
             painter.setPen(Qt::NoPen);
-            painter.setBrush(isOpen ? style::kSelection : style::kRaised);
+            painter.setBrush(isOpen ? style::kSelection : style::kRaisedHigh);
             painter.drawRoundedRect(place, kCornerRadius, kCornerRadius);
         }
         painter.setPen(isOpen ? style::kLight : style::kText);

@@ -41,13 +41,13 @@ void NoteBox::Show(const QRect& area, const QString& text, const QImage& picture
     const int widest = std::max(area.width() - 2 * kDistance - frame, 0);
     m_text = text;
     m_picture = picture;
-    const int room = area.height() - 2 * (kDistance + kPadding) - kGap - fontMetrics().height();
-    const QSize pictureRoom = kPictureRoom.boundedTo({ widest, std::max(room, 0) });
+    // What was taken goes on playing below.
+    const QSize pictureRoom = kPictureRoom.boundedTo({ area.width() / 2, area.height() / 3 });
     m_pictureSize = picture.isNull() ? QSize(0, 0) : picture.size().scaled(pictureRoom, Qt::KeepAspectRatio);
     const int textWidth = fontMetrics().horizontalAdvance(text) + 1;
     const int pictureHeight = picture.isNull() ? 0 : m_pictureSize.height() + kGap;
     setGeometry(area.left() + kDistance, area.top() + kDistance,
-        frame + std::clamp(textWidth, m_pictureSize.width(), widest),
+        frame + std::min(std::max(textWidth, m_pictureSize.width()), widest),
         2 * kPadding + pictureHeight + fontMetrics().height());
     setAccessibleName(text);
     show();

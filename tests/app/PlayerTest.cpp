@@ -1,5 +1,6 @@
-#include "app/Player.h"
 #include "app/ClassicHandlers.h"
+#include "app/MediaRemote.h"
+#include "platform/MprisRules.h"
 #include "platform/TextFile.h"
 
 #include <gtest/gtest.h>
@@ -110,8 +111,8 @@ public:
     void SetMute(bool muted) override { m_trace.muted = muted; }
     double Length() override { return m_trace.length; }
     double Time() override { return m_trace.time; }
-    double Position() override { return 0; }
-    void SetPosition(double) override { }
+    double Position() override { return m_trace.length > 0 ? m_trace.time / m_trace.length : 0; }
+    void SetPosition(double position) override { m_trace.time = position * m_trace.length; }
     int State() override { return m_trace.state; }
     double Rate() override { return 1; }
     void SetRate(double rate) override { m_trace.rateSet = rate; }
@@ -126,7 +127,11 @@ public:
         m_trace.played.push_back(location.isLocation ? "<" + location.text + ">" : location.text);
         m_trace.options = options;
     }
-    void Play() override { ++m_trace.plays; }
+    void Play() override
+    {
+        ++m_trace.plays;
+        m_trace.state = m_trace.state == kPaused ? kPlaying : m_trace.state;
+    }
     void Navigate(DiscKey key) override { m_trace.keys.push_back(key); }
     std::vector<DiscPart> Titles() override { return {}; }
     int Title() override { return m_trace.title; }
@@ -207,6 +212,23 @@ public:
     std::string requests;
 };
 
+class FakeAssociations : public platform::AssociationShell {
+public:
+    bool Refresh() override { return true; }
+    std::optional<platform::LiveOwner> CurrentOwner(const std::string&) override
+    {
+        return platform::LiveOwner{ false, "other.desktop", "" };
+    }
+    void AssociationsChanged() override { }
+    bool BringInLine(const std::vector<platform::AssociatedType>& types) override
+    {
+        ours =
+            static_cast<int>(std::count_if(types.begin(), types.end(), [](const auto& type) { return type.isOurs; }));
+        return true;
+    }
+    int ours = -1;
+};
+
 class FakeEnds : public platform::HandOverEnds {
 public:
     std::string CommandHandle() const override { return "4711"; }
@@ -245,7 +267,9 @@ protected:
         screen.pump = [this] { return inspections.AnswerOne(*player); };
         player = std::make_unique<Player>(PlayerWorld{ screen, engines, inspections, store, power, handOver,
             [] { return 0.0; }, [](const std::string& path) { return path != "/clips/missing.avi"; },
-            [this] { ended = true; }, folder.string() + "/", '/', {}, [this] { ++driveQuestions; } });
+            [this] { ended = true; }, folder.string() + "/", '/',
+            { &associations, "zentaro", "/program/", {}, [this](std::function<void()> work) { later = work; } },
+            [this] { ++driveQuestions; }, [] { return Picture(); }, [this](bool held) { sleepHeldOff = held; } });
         isPlayer = player->Load(commandLine);
         return *player;
     }
@@ -293,8 +317,11 @@ protected:
     FakeInspections inspections;
     FakeStore store;
     FakePower power;
+    FakeAssociations associations;
+    std::function<void()> later;
     std::unique_ptr<Player> player;
     std::vector<std::string> sent;
+    bool sleepHeldOff = false;
     bool otherPlayerLives = false;
     bool sendSucceeds = true;
     int driveQuestions = 0;
@@ -302,10 +329,145 @@ protected:
     bool ended = false;
 };
 
+/// A player with the desktop's media controls on it.
+class MediaRemoteTest : public PlayerTest {
+protected:
+    using Kind = platform::MediaCommand::Kind;
+    using Playback = platform::MediaPlayback;
+
+    platform::MediaStatus Do(const platform::MediaCommand& command)
+    {
+        remote->Do(command);
+        return remote->Status();
+    }
+    void StartRemote(int count)
+    {
+        StartWithEntries(count, kPlayContinuous, kRepeatAll);
+        remote.emplace(*player,
+            MediaRemote::Window{ [] {}, [] {}, [this] { return screen.isFullScreen; },
+                [](std::uint64_t, const Picture&) { return std::string(); } });
+        engines.trace.length = 60'000;
+        engines.trace.time = 10'000;
+    }
+    std::size_t Starts() const { return engines.trace.played.size(); }
+
+    std::optional<MediaRemote> remote;
+};
+
 constexpr const char* kCommandKey = "Software\\Quorvane Zentaro\\Setting:txtHwnd";
 constexpr const char* kProbeKey = "Software\\Quorvane Zentaro\\Setting:txtHwnd1";
 
 } // namespace
+
+TEST_F(MediaRemoteTest, play_and_pause_say_what_is_wanted_and_never_toggle)
+{
+    StartRemote(2);
+    EXPECT_EQ(Do({ .kind = Kind::Play }).playback, Playback::Playing);
+    EXPECT_EQ(Do({ .kind = Kind::Pause }).playback, Playback::Paused);
+    EXPECT_EQ(Do({ .kind = Kind::Pause }).playback, Playback::Paused);
+    EXPECT_EQ(Do({ .kind = Kind::Play }).playback, Playback::Playing);
+    EXPECT_EQ(Do({ .kind = Kind::PlayPause }).playback, Playback::Paused);
+    EXPECT_EQ(Do({ .kind = Kind::PlayPause }).playback, Playback::Playing);
+    EXPECT_EQ(Starts(), 1U); // went on, and did not begin again
+    EXPECT_TRUE(Do({ .kind = Kind::SetFullScreen, .flag = true }).fullScreen);
+    EXPECT_FALSE(Do({ .kind = Kind::SetFullScreen, .flag = false }).fullScreen);
+    EXPECT_EQ(Do({ .kind = Kind::Stop }).playback, Playback::Stopped);
+    EXPECT_FALSE(Do({ .kind = Kind::SetFullScreen, .flag = true }).fullScreen);
+    EXPECT_EQ(remote->Status().track.id, 0U);
+    Do({ .kind = Kind::Pause });
+    Do({ .kind = Kind::Stop });
+    EXPECT_EQ(engines.trace.stops, 1);
+    EXPECT_EQ(Do({ .kind = Kind::PlayPause }).playback, Playback::Playing);
+    EXPECT_EQ(Starts(), 2U);
+}
+
+TEST_F(MediaRemoteTest, without_an_entry_play_asks_nobody_for_files)
+{
+    screen.chosen = { "/asked.avi" };
+    StartRemote(0);
+    for (const auto kind : { Kind::Play, Kind::PlayPause, Kind::Next, Kind::Stop })
+        EXPECT_EQ(Do({ .kind = kind }).playback, Playback::Stopped);
+    EXPECT_EQ(player->Entries().Count(), 0);
+    EXPECT_FALSE(platform::CanPlay(remote->Status()));
+}
+
+TEST_F(MediaRemoteTest, seeking_stays_in_the_item_or_goes_on_to_the_next)
+{
+    StartRemote(2);
+    const auto track = remote->Status().track.id;
+    EXPECT_EQ(Do({ .kind = Kind::SeekBy, .number = -15'000 }).position, 0);
+    EXPECT_EQ(Do({ .kind = Kind::SetPosition, .number = 30'000, .track = track }).position, 30'000);
+    Do({ .kind = Kind::SetPosition, .number = 40'000, .track = track + 1 }); // of an item that is gone
+    Do({ .kind = Kind::SetPosition, .number = 60'001, .track = track });
+    Do({ .kind = Kind::SetPosition, .number = -1, .track = track });
+    EXPECT_EQ(remote->Status().position, 30'000);
+    EXPECT_EQ(Do({ .kind = Kind::SeekBy, .number = 30'001 }).track.path, "/b.avi");
+}
+
+TEST_F(MediaRemoteTest, modes_rate_and_volume_follow_and_unwanted_numbers_become_the_nearest)
+{
+    StartRemote(2);
+    EXPECT_EQ(Do({ .kind = Kind::SetLoop, .loop = platform::MediaLoop::Track }).loop, platform::MediaLoop::Track);
+    EXPECT_EQ(player->Settings().RepeatMode, kRepeatSingle);
+    player->PBNormal();
+    remote->Status();
+    EXPECT_TRUE(Do({ .kind = Kind::SetShuffle, .flag = true }).shuffle);
+    EXPECT_FALSE(Do({ .kind = Kind::SetShuffle, .flag = false }).shuffle);
+    EXPECT_EQ(player->Settings().PlayMode, kPlayNormal);
+    for (const auto& [wanted, got] : { std::pair(1.9, 2.0), { 100, 16 }, { 0.01, 0.125 }, { -1, 0.125 } }) {
+        Do({ .kind = Kind::SetRate, .number = wanted });
+        EXPECT_EQ(player->Rate().Value(), got);
+    }
+    EXPECT_EQ(Do({ .kind = Kind::SetRate, .number = 0 }).playback, Playback::Paused);
+    EXPECT_EQ(Do({ .kind = Kind::SetVolume, .number = 0.5 }).volume, 0.5);
+    EXPECT_EQ(Do({ .kind = Kind::SetVolume, .number = 7 }).volume, 1);
+    EXPECT_EQ(Do({ .kind = Kind::SetVolume, .number = -7 }).volume, 0);
+}
+
+TEST_F(MediaRemoteTest, tracks_keep_their_numbers_and_an_item_taken_off_the_list_plays_on)
+{
+    StartRemote(3);
+    const auto tracks = *remote->Status().tracks;
+    EXPECT_EQ(Do({ .kind = Kind::GoToTrack, .track = tracks[2].id }).track, tracks[2]);
+    EXPECT_EQ(*Do({ .kind = Kind::RemoveTrack, .track = tracks[0].id }).tracks, (std::vector{ tracks[1], tracks[2] }));
+    EXPECT_EQ(player->Entries().List().SelectedText(), tracks[2].title);
+    EXPECT_EQ(Do({ .kind = Kind::RemoveTrack, .track = tracks[2].id }).track, tracks[2]);
+    Do({ .kind = Kind::GoToTrack, .track = tracks[2].id });
+    EXPECT_EQ(remote->Status().playback, Playback::Playing);
+    EXPECT_EQ(Starts(), 2U);
+}
+
+TEST_F(PlayerTest, sleep_is_held_off_while_a_video_plays_and_the_settings_want_it)
+{
+    auto& started = StartWithEntries(1, kPlayContinuous, kRepeatAll);
+    const auto isHeldOff = [&] {
+        started.OnPositionTick();
+        return sleepHeldOff;
+    };
+    EXPECT_TRUE(isHeldOff());
+    started.CMDPauseClick();
+    EXPECT_FALSE(isHeldOff());
+    started.CMDPauseClick();
+    EXPECT_TRUE(isHeldOff());
+    started.cmdStopClick();
+    EXPECT_FALSE(sleepHeldOff);
+    EXPECT_FALSE(isHeldOff());
+    started.CMDPlayClick();
+    EXPECT_TRUE(isHeldOff());
+    engines.trace.hasVideo = false;
+    EXPECT_FALSE(isHeldOff());
+    engines.trace.hasVideo = true;
+    EXPECT_TRUE(isHeldOff());
+    started.Unload();
+    EXPECT_FALSE(sleepHeldOff);
+
+    auto settings = DefaultSettings("/", {});
+    settings.DisableScreenSaver = 0;
+    WriteConfig(FormatConfigurations(settings));
+    Start().LoadThumb("", "/a.avi", false, true);
+    player->OnPositionTick();
+    EXPECT_FALSE(sleepHeldOff);
+}
 
 TEST_F(PlayerTest, the_first_start_publishes_its_handles_and_makes_the_settings_file)
 {
@@ -315,6 +477,38 @@ TEST_F(PlayerTest, the_first_start_publishes_its_handles_and_makes_the_settings_
     EXPECT_EQ(store.values[kProbeKey], "4712");
     EXPECT_EQ(ConfigText(), FormatConfigurations(player->Settings()));
     EXPECT_TRUE(engines.trace.played.empty());
+}
+
+TEST_F(PlayerTest, types_are_taken_once_the_start_is_over_or_when_it_ends)
+{
+    auto settings = DefaultSettings("/", {});
+    settings.Associations[20] = -1;
+    WriteConfig(FormatConfigurations(settings));
+    Start("/clips/a.avi");
+    EXPECT_EQ(associations.ours, -1);
+    later();
+    EXPECT_EQ(associations.ours, 1);
+    EXPECT_EQ(store.values[".avi:"] + store.values[".avi:OldAss"], "Zentaro.aviother.desktop");
+    const auto choices = player->AssociationChoices();
+    ASSERT_EQ(choices.size(), 24U);
+    EXPECT_EQ(choices[4].listText, "Mp3 Format Sound(*.mp3)");
+    associations.ours = -1;
+    player->Unload();
+    EXPECT_EQ(associations.ours, -1);
+
+    Start("/clips/a.avi");
+    player->Unload();
+    EXPECT_EQ(associations.ours, 1);
+    associations.ours = -1;
+    later();
+    EXPECT_EQ(associations.ours, -1);
+
+    const auto before = store.values;
+    otherPlayerLives = true;
+    later = nullptr;
+    Start("/clips/a.avi");
+    EXPECT_FALSE(later);
+    EXPECT_EQ(store.values, before);
 }
 
 TEST_F(PlayerTest, a_messenger_shows_and_publishes_nothing)
@@ -886,9 +1080,10 @@ TEST_F(PlayerTest, a_snapshot_takes_the_next_free_name_in_the_folder_of_its_file
 
     engines.trace.hasVideo = true;
     player->OnPositionTick();
-    const auto images = folder / "new" / "shots" / "a.avi Images";
+    // With this test's separator on every system.
+    const auto images = fs::path((folder / "new" / "shots").string() + "/a.avi Images");
     player->TakeSnapshot();
-    EXPECT_EQ(screen.note, "Saved up_IMG_00001.png|" + (images / "up_IMG_00001.png").string());
+    EXPECT_EQ(screen.note, "Saved up_IMG_00001.png|" + images.string() + "/up_IMG_00001.png");
     player->TakeSnapshot();
     player->TakeSnapshot();
     fs::remove(images / "up_IMG_00002.png");

@@ -170,6 +170,32 @@ TEST_F(Controls, TheListLiesWhereTheSettingSaysAndHides)
     }
 }
 
+TEST_F(Controls, TheVideoMovesToTheOtherSideWhenItsMenuDocksTheList)
+{
+    StoreSettings([](PlayerSettings& settings) { settings.PlaylistPosition = 0; });
+    auto player = StartAndShow({ Clips::Make("clip.mp4") });
+    EXPECT_TRUE(player.PictureMoves());
+    const auto before = player.Video();
+    const auto opens = [&](const auto& action) {
+        const auto shown = Screen().ShownChildren(Screen().Root()).size();
+        action();
+        EXPECT_TRUE(WaitUntil([&] { return Screen().ShownChildren(Screen().Root()).size() > shown; }, kSoon));
+    };
+    opens([&] { Screen().Click(before.left + 60, before.top + 60, 3); });
+    opens([] {
+        Screen().Press(kUp); // round to the last entry, the places of the list
+        Screen().Press(kRight);
+    });
+    Screen().Press(kDown);
+    Screen().Press(kReturn);
+    const auto content = player.OnScreen(player.Layout().Content());
+    EXPECT_TRUE(WaitUntil([&] { return player.Video().left == content.left; }, kSoon));
+    EXPECT_EQ(player.Video().width, before.width);
+    EXPECT_TRUE(player.PictureMoves());
+    EXPECT_CLOSES_CLEANLY(player);
+    EXPECT_EQ(StoredSettings().PlaylistPosition, 1);
+}
+
 TEST_F(Controls, ASnapshotIsAPictureInTheFolderOfItsFile)
 {
     UseFlatSkin();

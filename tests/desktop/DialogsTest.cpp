@@ -76,7 +76,7 @@ TEST_F(Dialogs, OptionsChosenByKeysAreWrittenByOkAndForgottenByCancel)
     EXPECT_TRUE(WaitUntil([&] { return IsAbove(player); }));
     EXPECT_EQ(ReadWholeFile(ConfigPath()), before);
 
-    OpenByMenu(player, 't');
+    const auto options = OpenByMenu(player, 't');
     Choose('o');
     Choose('d');
     Screen().Press(kDown);
@@ -88,8 +88,9 @@ TEST_F(Dialogs, OptionsChosenByKeysAreWrittenByOkAndForgottenByCancel)
     Screen().Press(kReturn);
     EXPECT_TRUE(WaitUntil([&] { return player.Dialogs().size() == 2; })); // a comma would not come back
     Screen().Press(kReturn);
-    EXPECT_TRUE(WaitUntil([&] { return player.Dialogs().size() == 1; }));
+    EXPECT_TRUE(WaitUntil([&] { return player.Dialogs().size() == 1 && Screen().Active() == options; }));
     EXPECT_EQ(ReadWholeFile(ConfigPath()), before);
+    Choose('f');
     Type("/tmp/shots");
     Screen().Press(kReturn);
     EXPECT_TRUE(WaitForNoDialog(player));

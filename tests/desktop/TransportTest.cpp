@@ -266,5 +266,97 @@ TEST_F(Transport, MuteAndVolumeShowWhatTheyAre)
     EXPECT_CLOSES_CLEANLY(player);
 }
 
+/// Presses every key that moves playback, and looks at the video each time.
+class TransportKeys : public Transport {
+protected:
+    static void UseKeys(const ShownPlayer& player, const TitleLog& log)
+    {
+        const auto press = [](std::uint32_t key, std::initializer_list<std::uint32_t> held = {}) {
+            Screen().Press(key, held);
+            std::this_thread::sleep_for(60ms);
+        };
+        press('5');
+        EXPECT_TRUE(ReachesTime(player, 10, 12));
+        press('p', { kControl });
+        std::this_thread::sleep_for(500ms);
+        const auto paused = Time(player);
+        std::this_thread::sleep_for(1s);
+        EXPECT_EQ(Time(player), paused);
+        press(' ');
+        EXPECT_TRUE(ReachesTime(player, paused + 0.1, paused + 3));
+        press(kRight);
+        EXPECT_TRUE(ReachesTime(player, paused + 4.5, paused + 8));
+        press(kLeft);
+        EXPECT_TRUE(ReachesTime(player, 9, paused + 4));
+        press(kLeft, { kShift });
+        EXPECT_TRUE(ReachesTime(player, 0, 4));
+        press(']');
+        press(kUp, { kControl });
+        EXPECT_NEAR(Speed(player), 4, 1.5);
+        press('[');
+        press(kDown, { kControl });
+        press(kDown, { kControl });
+        press('r', { kControl });
+        EXPECT_TRUE(WaitUntil([&] { return std::abs(Speed(player) - 1) < 0.3; }));
+        const auto count = Played(log).size();
+        press(kPageDown);
+        EXPECT_TRUE(WaitUntil([&] { return Played(log).size() == count + 1; }));
+        press(kPageUp);
+        EXPECT_TRUE(WaitUntil([&] { return Played(log).size() == count + 2; }));
+        EXPECT_TRUE(ReachesTime(player, 0.1, 3));
+    }
+};
+
+TEST_F(TransportKeys, WorkInTheWindowAndInFullScreen)
+{
+    const TitleLog log(Screen());
+    auto player = ShowWith({ { "a.mp4", 20.4 }, { "b.mp4", 20 } });
+    Screen().Press(kReturn); // nothing is selected yet
+    Screen().Press(' ');
+    EXPECT_TRUE(WaitUntil([&] { return Played(log).size() == 1; }));
+    EXPECT_TRUE(ReachesTime(player, 0.1, 3));
+    UseKeys(player, log);
+    Screen().Press('f');
+    EXPECT_TRUE(WaitUntil([&] { return player.Video() == Screen().Area(); }));
+    UseKeys(player, log);
+    Screen().Press(kEscape);
+    EXPECT_TRUE(WaitUntil([&] { return player.Video().top > 0; }));
+    Screen().Press('f', { kControl });
+    EXPECT_TRUE(WaitUntil([&] { return player.Video() == Screen().Area(); }));
+    Screen().Press('f');
+    EXPECT_TRUE(WaitUntil([&] { return player.Video().top > 0; }));
+    EXPECT_TRUE(WaitUntil([&] { return IsSettled(player) || player.PictureMoves(); }));
+    const auto sound = PlaceOf(player, Button::SoundOn);
+    const auto number = player.OnScreen(player.Layout().VolumeNumber());
+    for (const auto& [key, back, place] : { std::tuple('m', std::uint32_t{ 'm' }, sound),
+             std::tuple(static_cast<char>(0), std::uint32_t{ kUp }, number) }) {
+        const auto before = Look(place);
+        Screen().Press(key == 0 ? kDown : static_cast<std::uint32_t>(key));
+        EXPECT_TRUE(WaitUntil([&] { return ShareThatDiffers(Look(place), before) > 0; }));
+        Screen().Press(back);
+        EXPECT_TRUE(TakesLook(place, before));
+    }
+    // In the list the arrows select; what is selected is what Return plays and Delete removes.
+    const auto content = player.OnScreen(player.Layout().Content());
+    Click(content.left + 40, content.top + 40);
+    Screen().Press(kDown);
+    Screen().Press(kReturn);
+    EXPECT_TRUE(WaitUntil([&] { return Played(log).back() == "b"; }));
+    Screen().Press(kDelete);
+    const auto stop = PlaceOf(player, Button::Stop);
+    const auto playing = Look(stop);
+    Screen().Press('s', { kControl });
+    EXPECT_TRUE(WaitUntil([&] { return ShareThatDiffers(Look(stop), playing) > 0; }));
+    Screen().Press(' ');
+    EXPECT_TRUE(WaitUntil([&] { return Played(log).back() == "a"; }));
+    Screen().Press('o', { kControl });
+    EXPECT_TRUE(WaitUntil([&] { return !player.Dialogs().empty(); }));
+    Screen().Press(kEscape);
+    EXPECT_TRUE(WaitUntil([&] { return player.Dialogs().empty(); }));
+    Screen().Press('x', { kControl });
+    EXPECT_EQ(player.process.WaitForEnd(), 0);
+    EXPECT_EQ(player.process.ErrorText(), "");
+}
+
 } // namespace
 } // namespace zentaro::desktop

@@ -44,6 +44,17 @@ public:
     int Chapter() override { return m_engine->Chapter(); }
     void SetChapter(int index) override { m_engine->SetChapter(index); }
     bool TakeSnapshot(const std::string& file) override { return m_engine->TakeSnapshot(file); }
+    std::vector<EngineTrack> AudioTracks() override { return m_engine->AudioTracks(); }
+    int AudioTrack() override { return m_engine->AudioTrack(); }
+    void SetAudioTrack(int id) override { m_engine->SetAudioTrack(id); }
+    std::vector<EngineTrack> SubtitleTracks() override { return m_engine->SubtitleTracks(); }
+    int SubtitleTrack() override { return m_engine->SubtitleTrack(); }
+    void SetSubtitleTrack(int id) override { m_engine->SetSubtitleTrack(id); }
+    bool AddSubtitleFile(const std::string& path) override { return m_engine->AddSubtitleFile(path); }
+    std::string AspectRatio() override { return m_engine->AspectRatio(); }
+    void SetAspectRatio(const std::string& ratio) override { m_engine->SetAspectRatio(ratio); }
+    std::string Deinterlacing() override { return m_engine->Deinterlacing(); }
+    void SetDeinterlacing(const std::string& filter) override { m_engine->SetDeinterlacing(filter); }
     void Add(const MediaLocation& location, const EngineOptions& options) override
     {
         m_watch.played.push_back(location.text);

@@ -43,7 +43,7 @@ public:
     void ShowHelp() override { }
     void SetTrayShown(bool) override { }
     void PopupMenu(const std::string&) override { }
-    std::string AskForSubtitles() override { return {}; }
+    std::string AskForSubtitles() override { return subtitles; }
     void PumpMessages(int times) override
     {
         for (int i = 0; pump && i < times; ++i)
@@ -62,6 +62,7 @@ public:
 
     std::function<void()> pump; ///< handles waiting messages once; empty where there are none
     std::vector<std::string> chosen;
+    std::string subtitles;
     int closes = 0;
     int notes = 0;
     int boxes = 0;

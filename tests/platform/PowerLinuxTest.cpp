@@ -12,8 +12,6 @@
 
 #include <algorithm>
 #include <functional>
-#include <sys/socket.h>
-#include <sys/un.h>
 
 namespace zentaro::platform {
 namespace {
@@ -163,22 +161,15 @@ TEST_F(PowerLinuxTest, WithoutABusOrALoginManagerARequestComesToNothing)
 
 TEST_F(PowerLinuxTest, ABusThatHangsHoldsUpNothing)
 {
-    const auto path = bus.Folder() + "/deaf";
-    sockaddr_un place{};
-    place.sun_family = AF_UNIX;
-    path.copy(place.sun_path, sizeof place.sun_path - 1);
-    const int deaf = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    ASSERT_EQ(bind(deaf, reinterpret_cast<const sockaddr*>(&place), sizeof place), 0);
-    ASSERT_EQ(listen(deaf, 1), 0);
+    const DeafBus deaf(bus.Folder() + "/deaf");
     {
-        auto power = PowerAt(bus, "unix:path=" + path);
+        auto power = PowerAt(bus, deaf.Address());
         EXPECT_TRUE(power.Restart());
         EXPECT_FALSE(power.Restart());
     }
-    auto impatient = PowerAt(bus, "unix:path=" + path, 100ms);
+    auto impatient = PowerAt(bus, deaf.Address(), 100ms);
     EXPECT_TRUE(impatient.Restart());
     EXPECT_TRUE(IsTakenAgain([&] { return impatient.Restart(); }));
-    close(deaf);
 }
 
 TEST_F(PowerLinuxTest, NothingIsSaidToTheBusBeforeSomethingIsAsked)

@@ -4,10 +4,13 @@
 
 #include <array>
 #include <csignal>
+#include <cstdio>
 #include <fcntl.h>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -23,9 +26,39 @@ public:
             << "<busconfig><listen>" << Address() << "</listen><auth>EXTERNAL</auth>"
             << "<policy context='default'><allow send_destination='*'/><allow receive_sender='*'/><allow own='*'/>"
             << "</policy></busconfig>";
+        Start();
+    }
+    PrivateBus(const PrivateBus&) = delete;
+    ~PrivateBus() { Stop(); }
+
+    /// Ends the daemon and everybody's connection, and starts one at the same address.
+    void Restart()
+    {
+        Stop();
+        Start();
+    }
+
+    const std::string& Folder() const { return m_folder.Path(); }
+    std::string Address() const { return "unix:path=" + (m_folder / "bus"); }
+
+    /// What a program of this session prints, and "failed" when it fails.
+    std::string OutputOf(const std::string& command) const
+    {
+        const auto line = "DBUS_SESSION_BUS_ADDRESS='" + Address() + "' timeout 20 " + command + " 2>&1 || echo failed";
+        std::string text;
+        auto* const output = popen(line.c_str(), "re");
+        for (int character = std::fgetc(output); character != EOF; character = std::fgetc(output))
+            text += static_cast<char>(character);
+        pclose(output);
+        return text.substr(0, text.find_last_not_of('\n') + 1);
+    }
+
+private:
+    void Start()
+    {
         std::array<int, 2> ready{};
         EXPECT_EQ(pipe2(ready.data(), O_CLOEXEC), 0);
-        const auto argument = "--config-file=" + configuration;
+        const auto argument = "--config-file=" + (m_folder / "bus.conf");
         m_daemon = fork();
         if (m_daemon == 0) {
             prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -40,19 +73,37 @@ public:
         EXPECT_EQ(read(ready[0], &first, 1), 1) << "dbus-daemon did not start";
         close(ready[0]);
     }
-    PrivateBus(const PrivateBus&) = delete;
-    ~PrivateBus()
+    void Stop()
     {
         kill(m_daemon, SIGKILL);
         waitpid(m_daemon, nullptr, 0);
     }
 
-    const std::string& Folder() const { return m_folder.Path(); }
-    std::string Address() const { return "unix:path=" + (m_folder / "bus"); }
-
-private:
     WorkingFolder m_folder;
     pid_t m_daemon = -1;
+};
+
+/// Where a bus should be, somebody listens who never says a word.
+class DeafBus {
+public:
+    /// `path`: a short one, of a file that is not there.
+    explicit DeafBus(std::string path)
+        : m_path(std::move(path))
+    {
+        sockaddr_un place{};
+        place.sun_family = AF_UNIX;
+        m_path.copy(place.sun_path, sizeof place.sun_path - 1);
+        EXPECT_EQ(bind(m_socket, reinterpret_cast<const sockaddr*>(&place), sizeof place), 0);
+        EXPECT_EQ(listen(m_socket, 1), 0);
+    }
+    DeafBus(const DeafBus&) = delete;
+    ~DeafBus() { close(m_socket); }
+
+    std::string Address() const { return "unix:path=" + m_path; }
+
+private:
+    std::string m_path;
+    int m_socket = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
 };
 
 } // namespace zentaro::platform

@@ -140,6 +140,28 @@ TEST_F(StoreOfFiles, says_so_when_it_cannot_write)
     EXPECT_TRUE(Write("name", "other"));
 }
 
+TEST_F(StoreOfFiles, a_batch_is_written_whole_or_not_at_all)
+{
+    ASSERT_TRUE(Write("old", "1", "A"));
+    ASSERT_TRUE(Write("", "below", "A\\old"));
+    const auto others = StringStore::Open();
+    for (const bool commit : { false, true }) {
+        store->BeginBatch();
+        EXPECT_TRUE(Write("new", "2", "A"));
+        EXPECT_TRUE(store->Write(Root::ClassesRoot, ".avi", "", "x"));
+        EXPECT_TRUE(store->Delete(Root::CurrentUser, "A", "old"));
+        EXPECT_EQ(Read("new", "A") + Read("old", "A") + Read("", "A\\old"), "2-1below");
+        EXPECT_EQ(others->Read(Root::CurrentUser, "A", "old", ""), "1");
+        if (commit)
+            EXPECT_TRUE(store->CommitBatch());
+        else
+            store->DropBatch();
+        const std::string expected = commit ? "2-1x" : "-11";
+        EXPECT_EQ(Read("new", "A") + Read("old", "A") + others->Read(Root::ClassesRoot, ".avi", "", ""), expected);
+        EXPECT_EQ(Read("", "A\\old"), "below");
+    }
+}
+
 TEST_F(StoreOfFiles, a_file_that_a_person_has_edited_is_understood)
 {
     ASSERT_TRUE(Write("x", "y"));
