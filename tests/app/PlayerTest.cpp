@@ -435,6 +435,11 @@ TEST_F(MediaRemoteTest, tracks_keep_their_numbers_and_an_item_taken_off_the_list
     Do({ .kind = Kind::GoToTrack, .track = tracks[2].id });
     EXPECT_EQ(remote->Status().playback, Playback::Playing);
     EXPECT_EQ(Starts(), 2U);
+    // A track that was chosen goes before a disc that was loaded.
+    player->DrivesFound({ { "/dev/sr0", "MOVIE", true, {} } });
+    player->dvdsList_Click(0);
+    player->LoadThumb("", "/d.avi", false, false);
+    EXPECT_EQ(Do({ .kind = Kind::GoToTrack, .track = remote->Status().tracks->back().id }).track.path, "/d.avi");
 }
 
 TEST_F(PlayerTest, sleep_is_held_off_while_a_video_plays_and_the_settings_want_it)
@@ -812,6 +817,7 @@ TEST_F(PlayerTest, a_disc_ends_by_the_engines_word_alone_and_nothing_follows)
     // From the list it plays in an engine of its own, and is a disc all the same.
     player->PlayItem(0, false);
     EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr0>");
+    EXPECT_EQ(player->SmartMenuXP1().Find("History1")->caption, "MOVIE (/dev/sr0)");
     engines.trace.time = engines.trace.length = 4'800;
     player->OnPositionTick();
     EXPECT_TRUE(player->MediaControlsEnabled());
@@ -874,6 +880,7 @@ TEST_F(PlayerTest, the_watcher_starts_each_video_disc_once_while_nothing_plays)
     player->DrivesFound({ movie });
     EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr0>");
     EXPECT_FALSE(player->IsWatchingDiscs());
+    EXPECT_TRUE(IsEnabled("Remove") && IsEnabled("Next"));
     player->cmdStopClick();
     TickAndFind({ movie });
     EXPECT_TRUE(player->IsWatchingDiscs());
