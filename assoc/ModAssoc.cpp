@@ -107,7 +107,7 @@ void ModAssoc::TakeExtension(const std::string& extension, const std::string& pr
 {
     if (IsOurs(extension, progId) == 1)
         return;
-    // Without a backup or without the type itself nothing of the rest makes sense.
+    // A failure goes unsaid, but what cannot be given back is not taken, and what is not taken leaves no traces.
     if (!Write(Root::ClassesRoot, extension, "OldAss", Read(Root::ClassesRoot, extension, "")))
         return;
     if (!Write(Root::ClassesRoot, extension, "", progId)) {
@@ -131,7 +131,7 @@ void ModAssoc::ReleaseExtension(const std::string& extension, const std::string&
     Delete(Root::ClassesRoot, extension, "OldAss");
     const auto chosen = FileExtsKey(extension);
     const auto before = Read(Root::CurrentUser, chosen, "OldProgID");
-    // The two backups are left under the wrong roots on purpose: what reads them expects them there.
+    // The two roots are swapped on purpose: the user's choice keeps its backup, and the type a mark.
     Write(Root::ClassesRoot, extension, "OldProgID", "Dummy");
     Write(Root::CurrentUser, chosen, "ProgID", before);
     Delete(Root::ClassesRoot, chosen, "OldProgID");
