@@ -12,6 +12,7 @@
 #include "shell/Caption.h"
 #include "shell/DigitLabel.h"
 #include "shell/FullScreenBar.h"
+#include "shell/MessageDialog.h"
 #include "shell/QtGeometry.h"
 #include "shell/QtText.h"
 #include "shell/SeekTrack.h"
@@ -25,7 +26,6 @@
 #include <QFileDialog>
 #include <QHelpEvent>
 #include <QLabel>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QPainter>
 #include <QScreen>
@@ -42,9 +42,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr double kTwipsPerPixel = 15;
-constexpr int kDragDistance = 2;            // px
-constexpr qsizetype kLongestNotice = 10000; // characters
-constexpr int kSplitterWidth = 6;           // px
+constexpr int kDragDistance = 2;  // px
+constexpr int kSplitterWidth = 6; // px
 
 Qt::Edges ToQt(const WindowLayout::Edges& edges)
 {
@@ -245,17 +244,9 @@ void frmMain::FlashCaption()
 
 void frmMain::ShowNotice(const Notice& notice)
 {
-    constexpr QMessageBox::Icon icons[] = { QMessageBox::Information, QMessageBox::Warning, QMessageBox::Critical };
-    const auto icon = icons[static_cast<int>(notice.icon)];
-    auto text = ToQString(notice.text);
-    // Breaking an endless name into lines takes minutes, and nobody reads it.
-    if (text.size() > kLongestNotice)
-        text = text.left(kLongestNotice / 2) + " ... " + text.right(kLongestNotice / 2);
     // Above a dialog that is open: below it nobody could answer the box.
     auto* const dialog = QApplication::activeModalWidget();
-    QMessageBox box(icon, ToQString(notice.title), text, QMessageBox::Ok, dialog != nullptr ? dialog : this);
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    MessageDialog(notice, m_skin, dialog != nullptr ? dialog : this).exec();
 }
 
 std::vector<std::string> frmMain::AskForFiles(const std::string& title, const std::string& filter)

@@ -2,6 +2,7 @@
 
 #include "base/Paths.h"
 #include "platform/Folders.h"
+#include "shell/MessageDialog.h"
 #include "shell/QtText.h"
 #include "shell/Style.h"
 
@@ -13,7 +14,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QPainter>
 #include <QRadioButton>
 #include <QShortcut>
@@ -334,7 +334,7 @@ bool frmSettings::CommitPages()
     if (const auto fault = FaultIn(m_pages)) {
         auto* const field = fault->field == PageFault::Field::SnapshotPath ? m_folder : m_prefix;
         m_tabs->setCurrentWidget(field->parentWidget());
-        QMessageBox(QMessageBox::Information, windowTitle(), ToQString(fault->text), QMessageBox::Ok, this).exec();
+        MessageDialog({ fault->text, NoticeIcon::Information, ToText(windowTitle()) }, Pictures(), this).exec();
         field->setFocus();
         field->selectAll();
         return false;
