@@ -109,4 +109,9 @@ TEST_F(MediaRemoteTest, tracks_keep_their_numbers_and_an_item_taken_off_the_list
     Do({ .kind = Kind::GoToTrack, .track = tracks[2].id });
     EXPECT_EQ(remote->Status().playback, Playback::Playing);
     EXPECT_EQ(Starts(), 2U);
+    // A track that was chosen goes before a disc that was loaded.
+    player->DrivesFound({ { "/dev/sr0", "MOVIE", true, {} } });
+    player->dvdsList_Click(0);
+    player->LoadThumb("", "/d.avi", false, false);
+    EXPECT_EQ(Do({ .kind = Kind::GoToTrack, .track = remote->Status().tracks->back().id }).track.path, "/d.avi");
 }

@@ -57,6 +57,7 @@ TEST_F(PlayerTest, a_disc_ends_by_the_engines_word_alone_and_nothing_follows)
     // From the list it plays in an engine of its own, and is a disc all the same.
     player->PlayItem(0, false);
     EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr0>");
+    EXPECT_EQ(player->SmartMenuXP1().Find("History1")->caption, "MOVIE (/dev/sr0)");
     engines.trace.time = engines.trace.length = 4'800;
     player->OnPositionTick();
     EXPECT_TRUE(player->MediaControlsEnabled());
@@ -119,6 +120,7 @@ TEST_F(PlayerTest, the_watcher_starts_each_video_disc_once_while_nothing_plays)
     player->DrivesFound({ movie });
     EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr0>");
     EXPECT_FALSE(player->IsWatchingDiscs());
+    EXPECT_TRUE(IsEnabled("Remove") && IsEnabled("Next"));
     player->cmdStopClick();
     TickAndFind({ movie });
     EXPECT_TRUE(player->IsWatchingDiscs());
