@@ -12,6 +12,8 @@
 #include "shell/Caption.h"
 #include "shell/DigitLabel.h"
 #include "shell/FullScreenBar.h"
+#include "shell/MessageDialog.h"
+#include "shell/NoteBox.h"
 #include "shell/QtGeometry.h"
 #include "shell/QtText.h"
 #include "shell/SeekTrack.h"
@@ -19,13 +21,13 @@
 #include "shell/Style.h"
 #include "shell/VolumeKnob.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QHelpEvent>
 #include <QLabel>
-#include <QMessageBox>
 #include <QMimeData>
 #include <QPainter>
 #include <QScreen>
@@ -42,9 +44,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr double kTwipsPerPixel = 15;
-constexpr int kDragDistance = 2;            // px
-constexpr qsizetype kLongestNotice = 10000; // characters
-constexpr int kSplitterWidth = 6;           // px
+constexpr int kDragDistance = 2;  // px
+constexpr int kSplitterWidth = 6; // px
 
 Qt::Edges ToQt(const WindowLayout::Edges& edges)
 {
@@ -75,6 +76,13 @@ std::vector<Rect> ScreenAreas(QRect (QScreen::*area)() const)
     return areas;
 }
 
+/// Screen readers look for a window around what has the focus; a plain widget would be a mere part of one.
+QAccessibleInterface* MakeAccessibleWindow(const QString&, QObject* object)
+{
+    auto* const window = qobject_cast<frmMain*>(object);
+    return window != nullptr ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
+}
+
 } // namespace
 
 frmMain::frmMain(const QString& programFolder)
@@ -87,6 +95,7 @@ frmMain::frmMain(const QString& programFolder)
     , m_volumeNumber(new DigitLabel(this))
     , m_caption(kProgramName)
 {
+    QAccessible::installFactory(&MakeAccessibleWindow);
     setObjectName("frmMain");
     setWindowTitle(kProgramName);
     setWindowIcon(QIcon(programFolder + "icons/zentaro.png"));
@@ -99,6 +108,7 @@ frmMain::frmMain(const QString& programFolder)
     m_video->installEventFilter(this);
     m_video->setAcceptDrops(true);
     m_video->setFocusPolicy(Qt::ClickFocus);
+    m_video->setAccessibleName("Video");
     for (auto* const label : { m_time, m_rate, m_volumeNumber })
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_rate->setObjectName("lblRate");
@@ -245,17 +255,9 @@ void frmMain::FlashCaption()
 
 void frmMain::ShowNotice(const Notice& notice)
 {
-    constexpr QMessageBox::Icon icons[] = { QMessageBox::Information, QMessageBox::Warning, QMessageBox::Critical };
-    const auto icon = icons[static_cast<int>(notice.icon)];
-    auto text = ToQString(notice.text);
-    // Breaking an endless name into lines takes minutes, and nobody reads it.
-    if (text.size() > kLongestNotice)
-        text = text.left(kLongestNotice / 2) + " ... " + text.right(kLongestNotice / 2);
     // Above a dialog that is open: below it nobody could answer the box.
     auto* const dialog = QApplication::activeModalWidget();
-    QMessageBox box(icon, ToQString(notice.title), text, QMessageBox::Ok, dialog != nullptr ? dialog : this);
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
+    MessageDialog(notice, m_skin, dialog != nullptr ? dialog : this).exec();
 }
 
 std::vector<std::string> frmMain::AskForFiles(const std::string& title, const std::string& filter)
@@ -461,6 +463,11 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event)
         return true;
     case QEvent::Enter:
         unsetCursor();
+        break;
+    case QEvent::Move:
+    case QEvent::Resize:
+        if (m_note != nullptr && m_note->isVisible())
+            m_note->Place(NoteArea());
         break;
     case QEvent::MouseMove:
         m_bar->PointerSeen(static_cast<QMouseEvent*>(event)->globalPosition().toPoint());

@@ -178,6 +178,8 @@ void VideoFrame::ShowAudioLogo(bool shown)
 {
     if (shown == m_logo->isVisible())
         return;
+    // The window system can have told it of its first size after it had its place, and it was hidden since.
+    m_logo->setGeometry(rect());
     m_logo->setVisible(shown);
     KeepBelow();
 }

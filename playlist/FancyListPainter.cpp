@@ -13,6 +13,8 @@ namespace zentaro {
 namespace {
 
 constexpr int kDetailGap = 4;
+constexpr int kFade = 20; // px, at the end of a line that goes on
+constexpr QStringView kDetailSeparator(u" \u00B7 ");
 
 QRect ToQRect(const ListRect& rect)
 {
@@ -44,6 +46,29 @@ QString Paintable(QStringView line, int width)
             c = u' ';
     }
     return text;
+}
+
+// As many of a line's parts as there is room for, the first one always.
+QString FittingParts(QString line, const QFontMetrics& metrics, int width)
+{
+    while (metrics.horizontalAdvance(line) > width) {
+        const auto end = line.lastIndexOf(kDetailSeparator);
+        if (end < 0)
+            break;
+        line.truncate(end);
+    }
+    return line;
+}
+
+// A line that goes on fades: letters cut through look broken.
+QPen TextPen(const QColor& color, int lineWidth, const ListRect& rect)
+{
+    if (lineWidth <= rect.Width())
+        return color;
+    QLinearGradient fade(std::max(rect.left, rect.right - kFade), 0, rect.right, 0);
+    fade.setColorAt(0, color);
+    fade.setColorAt(1, Faded(color, 0));
+    return QPen(fade, 1);
 }
 
 QString WithPlainLineEnds(QString text)
@@ -126,7 +151,6 @@ void FancyListPainter::PaintText(
         return;
     m_painter.save();
     m_painter.setClipRect(ToQRect(rect), Qt::IntersectClip);
-    m_painter.setPen(color);
     m_painter.setFont(m_look.font);
     const QFontMetrics metrics(m_look.font);
     int top = rect.top;
@@ -134,14 +158,18 @@ void FancyListPainter::PaintText(
     for (const auto line : qTokenize(title, u'\n')) {
         if (top >= rect.bottom)
             break;
-        m_painter.drawText(QPoint(rect.left, top + metrics.ascent()), Paintable(line, rect.Width()));
+        const auto text = Paintable(line, rect.Width());
+        m_painter.setPen(TextPen(color, metrics.horizontalAdvance(text), rect));
+        m_painter.drawText(QPoint(rect.left, top + metrics.ascent()), text);
         top += metrics.height();
     }
     if (!item.Detail.empty() && top < rect.bottom) {
-        m_painter.setPen(dimmed);
+        const QFontMetrics detailMetrics(m_look.detailFont);
+        const auto detail =
+            FittingParts(Paintable(QString::fromStdString(item.Detail), rect.Width()), detailMetrics, rect.Width());
+        m_painter.setPen(TextPen(dimmed, detailMetrics.horizontalAdvance(detail), rect));
         m_painter.setFont(m_look.detailFont);
-        const auto baseline = top + kDetailGap + QFontMetrics(m_look.detailFont).ascent();
-        m_painter.drawText(QPoint(rect.left, baseline), Paintable(QString::fromStdString(item.Detail), rect.Width()));
+        m_painter.drawText(QPoint(rect.left, top + kDetailGap + detailMetrics.ascent()), detail);
     }
     m_painter.restore();
 }

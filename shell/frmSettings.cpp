@@ -2,6 +2,7 @@
 
 #include "base/Paths.h"
 #include "platform/Folders.h"
+#include "shell/MessageDialog.h"
 #include "shell/QtText.h"
 #include "shell/Style.h"
 
@@ -13,7 +14,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QPainter>
 #include <QRadioButton>
 #include <QShortcut>
@@ -204,10 +204,11 @@ QWidget* frmSettings::MakeSnapshotsPage()
     m_folder = new QLineEdit(ToQString(m_pages.snapshotPath));
     m_prefix = new QLineEdit(ToQString(m_pages.snapshotPrefix));
     m_prefix->setMaximumWidth(160);
-    auto* const browse = new SkinPushButton(tr("&Browse..."), Pictures(), page);
+    auto* const browse = new SkinPushButton(tr("&Browse..."), Pictures(), nullptr);
     browse->setAutoDefault(false);
     connect(browse, &QPushButton::clicked, this, &frmSettings::Browse);
     auto* const folderRow = new QHBoxLayout;
+    folderRow->setSpacing(8);
     folderRow->addWidget(m_folder);
     folderRow->addWidget(browse);
 
@@ -334,7 +335,7 @@ bool frmSettings::CommitPages()
     if (const auto fault = FaultIn(m_pages)) {
         auto* const field = fault->field == PageFault::Field::SnapshotPath ? m_folder : m_prefix;
         m_tabs->setCurrentWidget(field->parentWidget());
-        QMessageBox(QMessageBox::Information, windowTitle(), ToQString(fault->text), QMessageBox::Ok, this).exec();
+        MessageDialog({ fault->text, NoticeIcon::Information, ToText(windowTitle()) }, Pictures(), this).exec();
         field->setFocus();
         field->selectAll();
         return false;
