@@ -5,7 +5,6 @@
 using namespace zentaro::platform;
 using namespace std::chrono_literals;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 namespace {
 
@@ -41,14 +40,6 @@ TEST(MprisRules, a_path_of_any_bytes_survives_its_uri)
         EXPECT_EQ(PathOfFileUri(uri), std::nullopt) << uri;
 }
 
-TEST(MprisRules, a_track_path_is_read_back_and_any_other_names_none)
-{
-    EXPECT_EQ(MprisTrackOf(MprisTrackPath(42)), 42U);
-    for (const auto* const path : { "/", "/org/zentaro/track/", "/org/zentaro/track/4x", "/org/mpris/track/4",
-             "/org/zentaro/track/99999999999999999999999" })
-        EXPECT_EQ(MprisTrackOf(path), 0U) << path;
-}
-
 TEST(MprisRules, the_position_runs_on_between_two_readings_and_a_jump_is_what_playing_cannot_explain)
 {
     auto before = PlayingStatus();
@@ -68,19 +59,6 @@ TEST(MprisRules, the_position_runs_on_between_two_readings_and_a_jump_is_what_pl
     now.track.id = 8;
     now.position = 0;
     EXPECT_FALSE(HasJumped(before, now));
-}
-
-TEST(MprisRules, only_what_differs_is_announced)
-{
-    const auto before = PlayingStatus();
-    auto now = before;
-    now.position = 30'000;
-    now.readAt += 1s;
-    EXPECT_THAT(ChangedPlayerProperties(before, now), IsEmpty());
-    now.length = 0;
-    now.volume = 0.5;
-    EXPECT_THAT(ChangedPlayerProperties(before, now),
-        ElementsAre(testing::StrEq("Volume"), testing::StrEq("Metadata"), testing::StrEq("CanSeek")));
 }
 
 TEST(MprisRules, a_few_tracks_come_and_go_one_by_one_and_many_as_a_new_list)

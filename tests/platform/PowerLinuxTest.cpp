@@ -3,13 +3,11 @@
 
 #include <QCoreApplication>
 #include <QDBusConnection>
-#include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
 #include <functional>
 
 namespace zentaro::platform {
@@ -43,13 +41,6 @@ public:
             bus.send(mood == Mood::Obeys ? message.createReply()
                                          : message.createErrorReply(QDBusError::AccessDenied, "not you"));
         return true;
-    }
-
-    /// How many have a connection to the bus, this one included.
-    long ClientCount()
-    {
-        const auto names = m_bus.interface()->registeredServiceNames().value();
-        return std::count_if(names.begin(), names.end(), [](const QString& name) { return name.startsWith(':'); });
     }
 
     std::vector<std::string> asked;
@@ -125,18 +116,6 @@ TEST_F(PowerLinuxTest, AServiceThatNeverAnswersIsAskedOnceUntilPatienceEndsAndAR
     EXPECT_TRUE(IsAsked(3));
 }
 
-TEST_F(PowerLinuxTest, ClosingDoesNotWaitForAnAnswerAndLeavesTheBus)
-{
-    login.mood = LoginManager::Mood::KeepsSilent;
-    {
-        auto power = Power();
-        EXPECT_TRUE(power.Restart());
-        ASSERT_TRUE(IsAsked(1));
-        EXPECT_EQ(login.ClientCount(), 2);
-    }
-    EXPECT_TRUE(Reached([&] { return login.ClientCount() == 1; }));
-}
-
 TEST_F(PowerLinuxTest, WithoutABusOrALoginManagerARequestComesToNothing)
 {
     for (const auto& address : { "unix:path=" + bus.Folder() + "/nobody", "nonsense:" + bus.Folder() }) {
@@ -149,16 +128,9 @@ TEST_F(PowerLinuxTest, WithoutABusOrALoginManagerARequestComesToNothing)
     EXPECT_TRUE(power.PowerOff());
     EXPECT_TRUE(IsTakenAgain([&] { return power.PowerOff(); }));
     EXPECT_THAT(login.asked, ElementsAre());
-}
-
-TEST_F(PowerLinuxTest, ABusThatHangsHoldsUpNothing)
-{
+    // A bus that hangs holds up neither the next request nor the end.
     const DeafBus deaf(bus.Folder() + "/deaf");
-    {
-        auto power = PowerAt(bus, deaf.Address());
-        EXPECT_TRUE(power.Restart());
-        EXPECT_FALSE(power.Restart());
-    }
+    EXPECT_TRUE(PowerAt(bus, deaf.Address()).Restart());
     auto impatient = PowerAt(bus, deaf.Address(), 100ms);
     EXPECT_TRUE(impatient.Restart());
     EXPECT_TRUE(IsTakenAgain([&] { return impatient.Restart(); }));

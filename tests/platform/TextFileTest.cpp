@@ -47,17 +47,6 @@ TEST(TextFile, what_cannot_be_replaced_stays_without_a_trace)
     EXPECT_EQ(CountOfFiles(folder), 1U);
 }
 
-TEST(TextFile, only_a_writable_regular_file_may_be_written)
-{
-    const WorkingFolder folder;
-    ASSERT_TRUE(ReplaceTextFile(folder / "a", ""));
-    EXPECT_TRUE(MayWriteFile(folder / "a"));
-    EXPECT_FALSE(MayWriteFile(folder.Path()));
-    EXPECT_FALSE(MayWriteFile(folder / "missing"));
-    EXPECT_TRUE(PathExists(folder.Path()));
-    EXPECT_FALSE(PathExists(folder / "missing"));
-}
-
 TEST(Folders, a_working_folder_is_new_and_goes_with_all_that_is_in_it)
 {
     const auto first = MakeWorkingFolder();

@@ -1,5 +1,4 @@
 #include "platform/HandOver.h"
-#include "platform/Process.h"
 #include "platform/TextFile.h"
 
 #include <windows.h>
@@ -7,7 +6,6 @@
 // send HANDLE TEXT FILE: ends with 0 when the text was taken and the file was there as soon as that was known
 // listen FILE:           writes both handles, then receives until it is killed
 // lock FILE:             takes the lock, writes the file, keeps the lock until it is killed
-// end:                   ends as the player does
 int main(int count, char** arguments)
 {
     using namespace zentaro;
@@ -15,8 +13,6 @@ int main(int count, char** arguments)
     const std::string mode = count > 1 ? arguments[1] : "";
     if (mode == "send" && count == 5)
         return SendHandOverText(arguments[2], arguments[3]) && PathExists(arguments[4]) ? 0 : 1;
-    if (mode == "end")
-        EndProcess();
     if (count != 3)
         return 2;
     if (mode == "lock") {

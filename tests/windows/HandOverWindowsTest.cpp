@@ -160,21 +160,5 @@ TEST_F(HandOverOnWindows, the_lock_has_one_holder_and_falls_with_its_process)
     EXPECT_TRUE(HandOverLock::Take(1s));
 }
 
-TEST(ProcessOnWindows, ends_with_the_code_of_a_running_process)
-{
-    const Peer peer("end");
-    ASSERT_TRUE(PumpUntil([&] { return !peer.IsRunning(); }));
-    EXPECT_EQ(peer.ExitCode(), DWORD{ STILL_ACTIVE });
-}
-
-TEST(PlayerMark, can_be_found_by_its_name)
-{
-    EXPECT_FALSE(OpenMutexA(SYNCHRONIZE, FALSE, "ZentaroTestMark"));
-    MarkPlayerRunning("ZentaroTestMark");
-    const HANDLE mark = OpenMutexA(SYNCHRONIZE, FALSE, "ZentaroTestMark");
-    EXPECT_TRUE(mark);
-    CloseHandle(mark);
-}
-
 } // namespace
 } // namespace zentaro::platform
