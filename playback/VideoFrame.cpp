@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QWindow>
 
+#include <algorithm>
 #include <utility>
 
 namespace zentaro {
@@ -26,14 +27,19 @@ void MakeBlack(QWidget& widget)
 constexpr int kMarkRadius = 30; // px
 constexpr int kHintGap = 14;    // px, between the mark and the words under it
 
-/// The play button's outline, hardly lighter than the dark around it.
-void PaintIdleMark(QPainter& painter, const QPointF& middle)
+/// The play button's outline in a faint glow: a stage before the light, not a hole.
+void PaintIdleMark(QPainter& painter, const QRectF& stage)
 {
+    const auto middle = stage.center();
+    QRadialGradient glow(middle, std::max(stage.width(), stage.height()) * 0.6);
+    glow.setColorAt(0, QColor(0x1D, 0x20, 0x27));
+    glow.setColorAt(1, QColor(0x0B, 0x0C, 0x0F));
+    painter.fillRect(stage, glow);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(0x26, 0x29, 0x30), 2));
+    painter.setPen(QPen(QColor(0x45, 0x4B, 0x56), 2));
     painter.drawEllipse(middle, kMarkRadius, kMarkRadius);
-    painter.setPen(QPen(QColor(0x2C, 0x30, 0x38), 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setBrush(QColor(0x2C, 0x30, 0x38));
+    painter.setPen(QPen(QColor(0x5A, 0x61, 0x6C), 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(QColor(0x5A, 0x61, 0x6C));
     const QPolygonF triangle{ { -5.5, -10 }, { 11, 0 }, { -5.5, 10 } };
     painter.drawPolygon(triangle.translated(middle));
 }
@@ -217,10 +223,10 @@ void VideoFrame::paintEvent(QPaintEvent*)
         return;
     QPainter painter(this);
     const QPointF middle = QRectF(rect()).center();
-    PaintIdleMark(painter, middle);
+    PaintIdleMark(painter, rect());
     const auto hint = fontMetrics().elidedText("Drop files here to play them", Qt::ElideRight, width());
     const QRectF line(0, middle.y() + kMarkRadius + kHintGap, width(), fontMetrics().height());
-    painter.setPen(QColor(0x7C, 0x82, 0x8A));
+    painter.setPen(QColor(0x9A, 0xA0, 0xA6));
     painter.drawText(line, Qt::AlignCenter, hint);
 }
 

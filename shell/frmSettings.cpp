@@ -208,6 +208,7 @@ QWidget* frmSettings::MakeSnapshotsPage()
     browse->setAutoDefault(false);
     connect(browse, &QPushButton::clicked, this, &frmSettings::Browse);
     auto* const folderRow = new QHBoxLayout;
+    folderRow->setSpacing(8);
     folderRow->addWidget(m_folder);
     folderRow->addWidget(browse);
 
@@ -260,6 +261,7 @@ QBoxLayout* frmSettings::MakeButtons()
     row->addStretch();
     for (auto* const button : { static_cast<QPushButton*>(ok), static_cast<QPushButton*>(cancel), m_apply })
         row->addWidget(button);
+    row->setSpacing(8);
     row->addStrut(kBand);
     return row;
 }
