@@ -173,7 +173,7 @@ VideoFrame::VideoFrame(const QString& logoPath, QWidget* parent)
 VideoSurface* VideoFrame::AddSurface()
 {
     m_surface = new VideoSurface(this);
-    m_surface->setGeometry(rect());
+    m_surface->setGeometry(Inner());
     m_surface->setCursor(m_pointer);
     m_surface->show();
     KeepBelow();
@@ -185,7 +185,7 @@ void VideoFrame::ShowAudioLogo(bool shown)
     if (shown == m_logo->isVisible())
         return;
     // The window system can have told it of its first size after it had its place, and it was hidden since.
-    m_logo->setGeometry(rect());
+    m_logo->setGeometry(Inner());
     m_logo->setVisible(shown);
     KeepBelow();
 }
@@ -208,8 +208,28 @@ void VideoFrame::ShowPointer(bool shown)
     }
 }
 
+// Where a pixel of ours is one and a half of the screen, a window's place and its size are rounded each by itself: it
+// can stick out of the frame.
+QRect VideoFrame::Inner() const
+{
+    const auto ratio = devicePixelRatio();
+    const auto sticksOut = [&](int from, int size) {
+        return qRound(from * ratio) + qRound(size * ratio) > qRound((from + size) * ratio);
+    };
+    const auto at = mapTo(window(), QPoint());
+    return rect().adjusted(0, 0, sticksOut(at.x(), width()) ? -1 : 0, sticksOut(at.y(), height()) ? -1 : 0);
+}
+
+void VideoFrame::PlaceParts()
+{
+    if (m_surface)
+        m_surface->setGeometry(Inner());
+    m_logo->setGeometry(Inner());
+}
+
 void VideoFrame::moveEvent(QMoveEvent*)
 {
+    PlaceParts();
     // Qt leaves the windows of its parts where they are when the frame alone moves and keeps its size.
     for (const auto* const part : std::initializer_list<QWidget*>{ m_logo, m_surface }) {
         if (part != nullptr && part->windowHandle() != nullptr)
@@ -232,9 +252,7 @@ void VideoFrame::paintEvent(QPaintEvent*)
 
 void VideoFrame::resizeEvent(QResizeEvent*)
 {
-    if (m_surface)
-        m_surface->setGeometry(rect());
-    m_logo->setGeometry(rect());
+    PlaceParts();
 }
 
 } // namespace zentaro
