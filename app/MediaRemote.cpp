@@ -143,7 +143,7 @@ void MediaRemote::Do(const MediaCommand& command)
     case MediaCommand::Kind::RemoveTrack:
         return track ? RemoveTrack(*track) : void();
     case MediaCommand::Kind::GoToTrack:
-        return track ? GoTo(*track) : void();
+        return track ? m_player.PlayEntry(*track) : void();
     case MediaCommand::Kind::Raise:
         return m_window.raise();
     case MediaCommand::Kind::Quit:
@@ -153,11 +153,9 @@ void MediaRemote::Do(const MediaCommand& command)
 
 void MediaRemote::Play()
 {
-    const auto playback = Playback();
-    if (playback == MediaPlayback::Paused)
-        m_player.CMDPauseClick();
-    else if (playback == MediaPlayback::Stopped && m_player.Entries().Count() > 0) // else it would ask for files
-        m_player.CMDPlayClick();
+    // Playing from an empty list would ask for files.
+    if (Playback() == MediaPlayback::Paused || (Playback() == MediaPlayback::Stopped && m_player.Entries().Count() > 0))
+        m_player.PlayOrPause();
 }
 
 void MediaRemote::SeekBy(double milliseconds)
@@ -227,12 +225,6 @@ void MediaRemote::RemoveTrack(int index)
     m_player.RunCommand("Remove");
     if (selected != index)
         list.SetSelectedItem(selected > index ? selected - 1 : selected);
-}
-
-void MediaRemote::GoTo(int index)
-{
-    m_player.Entries().List().SetSelectedItem(index);
-    m_player.CMDPlayClick();
 }
 
 } // namespace zentaro

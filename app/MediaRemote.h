@@ -38,7 +38,6 @@ private:
     /// Nothing when no entry has the number.
     std::optional<int> IndexOf(std::uint64_t track) const;
     void RemoveTrack(int index);
-    void GoTo(int index);
 
     Player& m_player;
     Window m_window;

@@ -167,6 +167,13 @@ void Player::PlaySelected()
     PlayItem(ItemNumber(m_playlist.List().SelectedItem()), false);
 }
 
+void Player::PlayEntry(int index)
+{
+    m_failuresInRow = 0;
+    m_playlist.List().SetSelectedItem(index);
+    PlaySelected();
+}
+
 void Player::cmdNextClick()
 {
     if (m_mediaControlsEnabled)
@@ -202,9 +209,7 @@ void Player::PlayItem(std::int16_t index, bool fullScreen)
         engine->Play();
     }
     ShowCaption();
-    // Which disc a drive holds is known to nobody later.
-    if (!IsDiscLocation(m_currentItemPath))
-        m_history.AddToHistory(m_currentItemPath, m_playlist.List().SelectedText());
+    m_history.AddToHistory(m_currentItemPath, m_playlist.List().SelectedText());
     m_playlist.List().SetPlayingItem(index);
     m_playlist.List().ScrollToRow(index);
     EnableMediaControls(true);

@@ -143,6 +143,8 @@ public:
 
     /// Plays a playlist entry in a fresh engine; an index outside the list does nothing.
     void PlayItem(std::int16_t index, bool fullScreen);
+    /// Selects an entry and plays it.
+    void PlayEntry(int index);
     void CMDPlayClick();
     /// Pauses, goes on, or plays the selected entry where nothing is loaded.
     void PlayOrPause();

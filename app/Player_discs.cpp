@@ -86,6 +86,7 @@ void Player::PlayDisc(int index)
     if (m_playlist.List().SelectedItem() < 0)
         m_playlist.List().SetSelectedItem(0);
     m_playlist.BuildSequentialOrder();
+    EntryAdded();
     ShowCaption();
     m_currentItemPath = WithTrailingSeparator(root, m_world.separator);
     m_discName = drive.label.value_or("").empty() ? "DVD" : *drive.label;

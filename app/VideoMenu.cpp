@@ -51,7 +51,7 @@ void ShowVideoMenu(QWidget& window, Player& player, const QPoint& at)
     AddChoices(*menu, "As&pect Ratio", choices.aspectRatios);
     AddChoices(*menu, "&Deinterlace", choices.deinterlacing);
     menu->addSeparator();
-    add(menu, "S&napshot", player.CanTakeSnapshot(), &Player::TakeSnapshot);
+    add(menu, "S&napshot\tS", player.CanTakeSnapshot(), &Player::TakeSnapshot);
     const bool isFullScreen = window.isFullScreen();
     add(menu, isFullScreen ? "Leave &Full Screen\tF" : "&Full Screen\tF", true, &Player::ToggleFullScreen);
     AddChoices(*menu, "Play&list", choices.docking);

@@ -13,6 +13,7 @@
 #include "shell/DigitLabel.h"
 #include "shell/FullScreenBar.h"
 #include "shell/MessageDialog.h"
+#include "shell/NoteBox.h"
 #include "shell/QtGeometry.h"
 #include "shell/QtText.h"
 #include "shell/SeekTrack.h"
@@ -20,6 +21,7 @@
 #include "shell/Style.h"
 #include "shell/VolumeKnob.h"
 
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
@@ -74,6 +76,13 @@ std::vector<Rect> ScreenAreas(QRect (QScreen::*area)() const)
     return areas;
 }
 
+/// Screen readers look for a window around what has the focus; a plain widget would be a mere part of one.
+QAccessibleInterface* MakeAccessibleWindow(const QString&, QObject* object)
+{
+    auto* const window = qobject_cast<frmMain*>(object);
+    return window != nullptr ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
+}
+
 } // namespace
 
 frmMain::frmMain(const QString& programFolder)
@@ -86,6 +95,7 @@ frmMain::frmMain(const QString& programFolder)
     , m_volumeNumber(new DigitLabel(this))
     , m_caption(kProgramName)
 {
+    QAccessible::installFactory(&MakeAccessibleWindow);
     setObjectName("frmMain");
     setWindowTitle(kProgramName);
     setWindowIcon(QIcon(programFolder + "icons/zentaro.png"));
@@ -98,6 +108,7 @@ frmMain::frmMain(const QString& programFolder)
     m_video->installEventFilter(this);
     m_video->setAcceptDrops(true);
     m_video->setFocusPolicy(Qt::ClickFocus);
+    m_video->setAccessibleName("Video");
     for (auto* const label : { m_time, m_rate, m_volumeNumber })
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_rate->setObjectName("lblRate");
@@ -452,6 +463,11 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event)
         return true;
     case QEvent::Enter:
         unsetCursor();
+        break;
+    case QEvent::Move:
+    case QEvent::Resize:
+        if (m_note != nullptr && m_note->isVisible())
+            m_note->Place(NoteArea());
         break;
     case QEvent::MouseMove:
         m_bar->PointerSeen(static_cast<QMouseEvent*>(event)->globalPosition().toPoint());

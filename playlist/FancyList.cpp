@@ -61,8 +61,9 @@ FancyList::FancyList(FancyListState& state, QWidget* parent)
     setMouseTracking(true);
     setAcceptDrops(true);
     setFocusPolicy(Qt::StrongFocus);
-    setAccessibleName(tr("Playlist"));
+    // First: while a screen reader listens, a name makes the tool kit ask at once, and only once.
     FancyListAccessible::Install();
+    setAccessibleName(tr("Playlist"));
     connect(m_progressLine, &AddProgressLine::Cancelled, this, &FancyList::CancelAdding);
     m_state.SetObserver(this);
     PlaceSurface();

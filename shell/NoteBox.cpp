@@ -17,6 +17,8 @@ constexpr int kGap = 8;           // px, between picture and text
 constexpr int kMark = 3;          // px, the light at the left edge
 constexpr int kLargeArea = 900;   // px wide
 constexpr int kLargeLetters = 18; // px
+constexpr int kMostLines = 4;
+constexpr int kTextFlags = Qt::AlignLeft | Qt::AlignBottom;
 
 } // namespace
 
@@ -32,6 +34,19 @@ NoteBox::NoteBox(QWidget* parent)
 
 void NoteBox::Show(const QRect& area, const QString& text, const QImage& picture, std::chrono::milliseconds time)
 {
+    m_text = text;
+    m_picture = picture;
+    Place(area);
+    setAccessibleName(text);
+    show();
+    raise();
+    m_end.start(time);
+    QAccessibleEvent announcement(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&announcement);
+}
+
+void NoteBox::Place(const QRect& area)
+{
     // Read from afar where the video is large.
     auto letters = parentWidget()->font();
     if (area.width() >= kLargeArea)
@@ -39,23 +54,21 @@ void NoteBox::Show(const QRect& area, const QString& text, const QImage& picture
     setFont(letters);
     const int frame = 2 * kPadding + kMark;
     const int widest = std::max(area.width() - 2 * kDistance - frame, 0);
-    m_text = text;
-    m_picture = picture;
     // What was taken goes on playing below.
     const QSize pictureRoom = kPictureRoom.boundedTo({ area.width() / 2, area.height() / 3 });
-    m_pictureSize = picture.isNull() ? QSize(0, 0) : picture.size().scaled(pictureRoom, Qt::KeepAspectRatio);
-    const int textWidth = fontMetrics().horizontalAdvance(text) + 1;
-    const int pictureHeight = picture.isNull() ? 0 : m_pictureSize.height() + kGap;
+    m_pictureSize = m_picture.isNull() ? QSize(0, 0) : m_picture.size().scaled(pictureRoom, Qt::KeepAspectRatio);
+    m_shownText = fontMetrics().elidedText(m_text, Qt::ElideMiddle, kMostLines * widest);
+    const auto sizeOf = [&](Qt::TextFlag wrapping) {
+        const QRect room(0, 0, widest, area.height());
+        return fontMetrics().boundingRect(room, kTextFlags | wrapping, m_shownText).size();
+    };
+    // A long name has no place to break at.
+    m_wrapping = sizeOf(Qt::TextWordWrap).width() > widest ? Qt::TextWrapAnywhere : Qt::TextWordWrap;
+    const auto text = sizeOf(m_wrapping);
+    const int pictureHeight = m_picture.isNull() ? 0 : m_pictureSize.height() + kGap;
     setGeometry(area.left() + kDistance, area.top() + kDistance,
-        frame + std::min(std::max(textWidth, m_pictureSize.width()), widest),
-        2 * kPadding + pictureHeight + fontMetrics().height());
-    setAccessibleName(text);
-    show();
-    raise();
+        frame + std::max(text.width() + 1, m_pictureSize.width()), 2 * kPadding + pictureHeight + text.height());
     update();
-    m_end.start(time);
-    QAccessibleEvent announcement(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&announcement);
 }
 
 void NoteBox::paintEvent(QPaintEvent*)
@@ -71,8 +84,7 @@ void NoteBox::paintEvent(QPaintEvent*)
         painter.drawImage(QRect(inner.topLeft(), m_pictureSize), m_picture);
     }
     painter.setPen(style::kText);
-    painter.drawText(inner, Qt::AlignLeft | Qt::AlignBottom | Qt::TextSingleLine,
-        fontMetrics().elidedText(m_text, Qt::ElideMiddle, inner.width()));
+    painter.drawText(inner, kTextFlags | m_wrapping, m_shownText);
 }
 
 void NoteBox::mousePressEvent(QMouseEvent*)

@@ -19,6 +19,8 @@ public:
     /// `area`: where it may lie, in pixels of its parent. The picture is shown at a share of its size that fits; a null
     /// one is left out.
     void Show(const QRect& area, const QString& text, const QImage& picture, std::chrono::milliseconds time);
+    /// Moves what is shown to another area.
+    void Place(const QRect& area);
 
     /// The largest picture, in pixels.
     static constexpr QSize kPictureRoom{ 176, 99 };
@@ -29,6 +31,8 @@ protected:
 
 private:
     QString m_text;
+    QString m_shownText; // what there is room for
+    Qt::TextFlag m_wrapping = Qt::TextWordWrap;
     QImage m_picture;
     QSize m_pictureSize; // as shown
     QTimer m_end;

@@ -204,7 +204,7 @@ QWidget* frmSettings::MakeSnapshotsPage()
     m_folder = new QLineEdit(ToQString(m_pages.snapshotPath));
     m_prefix = new QLineEdit(ToQString(m_pages.snapshotPrefix));
     m_prefix->setMaximumWidth(160);
-    auto* const browse = new SkinPushButton(tr("&Browse..."), Pictures(), page);
+    auto* const browse = new SkinPushButton(tr("&Browse..."), Pictures(), nullptr);
     browse->setAutoDefault(false);
     connect(browse, &QPushButton::clicked, this, &frmSettings::Browse);
     auto* const folderRow = new QHBoxLayout;

@@ -33,7 +33,9 @@ TEST_F(LongRun, TwoHundredFilesOneAfterTheOtherLeaveMemoryThreadsAndWindowsLevel
             RecordProperty("memory", std::to_string(memory));
         }
     }
-    EXPECT_LT(player.process.PssKiB(), memory + memory / 8) << "was " << memory;
+    // An engine's threads take and give back some 20 MB at a time; an engine or a picture left behind with each file
+    // would be ten times as much.
+    EXPECT_LT(player.process.PssKiB(), memory + memory / 3) << "was " << memory;
     EXPECT_LE(player.process.ThreadCount(), threads + 3) << "was " << threads;
     EXPECT_LE(player.process.OpenDescriptors(), descriptors + 3) << "was " << descriptors;
     ASSERT_TRUE(player.PictureMoves());

@@ -46,9 +46,9 @@ protected:
             { "seek by", 4, [this] { player.SeekBy((Random(13) - 6) * 500); } },
             { "volume", 2, [this] { player.SetVolume(replay.volume = Random(101)); } },
             { "mute", 2, [this] { player.cmdMuteClick(), replay.muted = !replay.muted; } },
-            { "faster", 5, [this] { player.IncreaseRate(), replay.SetRate(replay.rate * 2, replay.rate < 16); } },
-            { "slower", 4, [this] { player.DecreaseRate(), replay.SetRate(replay.rate / 2, replay.rate > 0.125); } },
-            { "normal speed", 2, [this] { player.ResetRate(), replay.SetRate(1, replay.enabled); } },
+            { "faster", 5, [this] { player.IncreaseRate(), replay.Faster(); } },
+            { "slower", 4, [this] { player.DecreaseRate(), replay.Slower(); } },
+            { "normal speed", 2, [this] { player.ResetRate(), replay.NormalSpeed(); } },
             { "after play", 3, [this] { AfterPlay(); } },
             { "play mode", 4, [this] { PlayMode(); } },
             { "repeat mode", 4, [this] { player.SetRepeatMode(replay.repeatMode = Random(3)); } },
@@ -58,6 +58,10 @@ protected:
             { "remove", 2, [this] { player.RemoveSelected(), replay.Remove(); } },
             { "remove all", 1, [this] { player.RemoveAll(), replay.RemoveAll(); } },
             { "load", 5, [this] { Load(); } },
+            { "item Stop", 2, [this] { player.RunCommand("Stop"), replay.StopItem(); } },
+            { "item PlayPause", 2, [this] { player.RunCommand("PlayPause"), replay.PlayPauseItem(); } },
+            { "item Remove", 2, [this] { player.RunCommand("Remove"), replay.RemoveItem(); } },
+            { "item RemoveAll", 1, [this] { player.RunCommand("RemoveAll"), replay.RemoveAllItem(); } },
         };
     }
 
@@ -124,6 +128,28 @@ protected:
         replay.order = order;
     }
 
+    std::string Checked(std::initializer_list<const char*> keys)
+    {
+        std::string checked;
+        for (const auto* const key : keys)
+            checked += player.SmartMenuXP1().Find(key)->checked ? std::string(" ") + key : "";
+        return checked;
+    }
+    std::string CheckedItems()
+    {
+        return Checked({ "PMNormal", "PMContinuous", "PMShuffle" })
+            + Checked({ "RMNoRepeat", "RMSingleRepeat", "RMRepeatAll" })
+            + Checked({ "Donothing", "ExitZentaro", "RestartTheComputer", "ShutdownTheComputer" });
+    }
+    std::string CheckedInReplay() const
+    {
+        constexpr const char* kPlay[] = { " PMNormal", " PMContinuous", " PMShuffle" };
+        constexpr const char* kRepeat[] = { " RMNoRepeat", " RMSingleRepeat", " RMRepeatAll" };
+        constexpr const char* kAfter[] = { " Donothing", " ExitZentaro", " RestartTheComputer",
+            " ShutdownTheComputer" };
+        return std::string(kPlay[replay.playMode]) + kRepeat[replay.repeatMode] + kAfter[replay.afterPlay];
+    }
+
     /// Everything that the window shows or enables by.
     std::string StateOfPlayer()
     {
@@ -140,7 +166,9 @@ protected:
         text << ", entries " << entries.Count() << " rows " << entries.List().Count() << ", played "
              << watch.played.size() << ' ' << (watch.played.empty() ? "" : watch.played.back()) << ", power "
              << world.power.restarts << ' ' << world.power.powerOffs << ' ' << world.screen.closes << ", notes "
-             << world.screen.notes;
+             << world.screen.notes << ", checked" << CheckedItems() << ", disabled";
+        for (const auto& [key, enabled] : replay.items)
+            text << (player.SmartMenuXP1().Find(key)->enabled ? "" : " " + key);
         return text.str();
     }
     std::string StateOfReplay() const
@@ -155,7 +183,10 @@ protected:
             text << ' ' << index;
         text << ", entries " << replay.Count() << " rows " << replay.Count() << ", played " << replay.played.size()
              << ' ' << (replay.played.empty() ? "" : replay.played.back()) << ", power " << replay.restarts << ' '
-             << replay.powerOffs << ' ' << replay.closes << ", notes " << replay.notes;
+             << replay.powerOffs << ' ' << replay.closes << ", notes " << replay.notes << ", checked"
+             << CheckedInReplay() << ", disabled";
+        for (const auto& [key, enabled] : replay.items)
+            text << (enabled ? "" : " " + key);
         return text.str();
     }
 

@@ -17,13 +17,31 @@ bool Reading::IsFailure() const
     return state >= 6 && position <= 0 && time <= 0 && length <= 0;
 }
 
+Replay::Replay()
+{
+    EnableMediaControls(false);
+    Enable({ "Remove", "RemoveAll", "Next", "Previous" }, true);
+}
+
+void Replay::Enable(std::initializer_list<const char*> keys, bool enable)
+{
+    for (const auto* const key : keys)
+        items[key] = enable;
+}
+
+void Replay::EnableMediaControls(bool enable)
+{
+    enabled = enable;
+    Enable({ "Stop", "FullScreen", "IncreaseSpeed", "DecreaseSpeed", "ResetSpeed" }, enable);
+}
+
 void Replay::PlayItem(int index)
 {
     if (index < 0 || index >= Count())
         return;
     ReleaseHeld();
     played.push_back(entries[static_cast<std::size_t>(index)]);
-    enabled = true;
+    EnableMediaControls(true);
     rate = engineRate = 1;
 }
 
@@ -43,7 +61,7 @@ void Replay::Play()
 void Replay::Stop()
 {
     ReleaseHeld();
-    enabled = false;
+    EnableMediaControls(false);
 }
 
 void Replay::ReleaseHeld()
@@ -66,19 +84,77 @@ void Replay::Step(int by)
     PlayItem(position);
 }
 
-void Replay::SetRate(double value, bool counts)
+void Replay::SetRate(double value)
 {
-    if (!counts)
-        return;
     rate = value;
     if (enabled)
         engineRate = value;
+}
+
+void Replay::Faster()
+{
+    if (rate >= 16)
+        return;
+    SetRate(rate * 2);
+    items["DecreaseSpeed"] = true;
+    if (rate == 16)
+        items["IncreaseSpeed"] = false;
+}
+
+void Replay::Slower()
+{
+    if (rate <= 0.125)
+        return;
+    SetRate(rate / 2);
+    items["IncreaseSpeed"] = true;
+    if (rate == 0.125)
+        items["DecreaseSpeed"] = false;
+}
+
+void Replay::NormalSpeed()
+{
+    if (!enabled)
+        return;
+    SetRate(1);
+    Enable({ "IncreaseSpeed", "DecreaseSpeed" }, true);
+}
+
+void Replay::StopItem()
+{
+    if (!items["Stop"])
+        return;
+    Stop();
+    items["Stop"] = false;
+}
+
+void Replay::PlayPauseItem()
+{
+    if (Count() > 0)
+        return;
+    Play();
+    items["Stop"] = true;
+}
+
+void Replay::RemoveItem()
+{
+    Remove();
+    if (Count() == 0)
+        Enable({ "RemoveAll", "Next", "Previous" }, false);
+}
+
+void Replay::RemoveAllItem()
+{
+    if (!items["RemoveAll"])
+        return;
+    RemoveAll();
+    Enable({ "RemoveAll", "Next", "Previous" }, false);
 }
 
 void Replay::Load(const std::string& path, bool playNow)
 {
     if (std::find(entries.begin(), entries.end(), path) == entries.end())
         entries.push_back(path);
+    Enable({ "Remove", "RemoveAll", "Next", "Previous" }, true);
     if (playNow) {
         selected = Count() - 1;
         PlayItem(selected);
@@ -146,7 +222,7 @@ void Replay::Tick(const Reading& reading)
     if (!enabled || !reading.IsEnd())
         return;
     ReleaseHeld();
-    enabled = false;
+    EnableMediaControls(false);
     m_failures = reading.IsFailure() ? m_failures + 1 : 0;
     if (m_failures > 0 && m_failures >= (repeatMode == 1 ? 1 : Count())) {
         m_failures = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -38,14 +39,24 @@ struct Replay {
     int powerOffs = 0;
     int closes = 0;
     int notes = 0;
+    /// Whether the menus' items are enabled, by key.
+    std::map<std::string, bool> items;
 
+    Replay();
     int Count() const { return static_cast<int>(entries.size()); }
     void PlayItem(int index);
     void Play();
     void Stop();
     void ReleaseHeld();
     void Step(int by);
-    void SetRate(double value, bool counts);
+    void Faster();
+    void Slower();
+    void NormalSpeed();
+    /// What the menu's items do beside the same operations; nothing while they are disabled.
+    void StopItem();
+    void PlayPauseItem();
+    void RemoveItem();
+    void RemoveAllItem();
     void Load(const std::string& path, bool playNow);
     void Remove();
     void RemoveAll();
@@ -58,6 +69,9 @@ struct Replay {
     bool isShuffled = false;
 
 private:
+    void SetRate(double value);
+    void Enable(std::initializer_list<const char*> keys, bool enable);
+    void EnableMediaControls(bool enable);
     void BuildOrder();
     void SetPosition(int at) { position = at >= 0 && at < Count() ? at : -1; }
     void StopAndAct();

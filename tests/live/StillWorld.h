@@ -15,7 +15,7 @@ public:
     ScreenExtent Extent() const override { return { 1280 * 15.0, 800 * 15.0 }; }
     bool IsMaximized() const override { return false; }
     double WindowLeft() const override { return 0; }
-    double WindowTop() const override { return 0; }
+    double WindowTop() const override { return 45; }
     void ShowWindow() override { }
     void CloseWindow() override { ++closes; }
     void SetWindowSize(int, int) override { }
@@ -86,18 +86,17 @@ class MemoryStore : public platform::StringStore {
 public:
     std::string Read(Root, const std::string& key, const std::string& name, const std::string& fallback) override
     {
-        const auto at = m_texts.find(key + ":" + name);
-        return at == m_texts.end() ? fallback : at->second;
+        const auto at = values.find(key + ":" + name);
+        return at == values.end() ? fallback : at->second;
     }
     Result<void> Write(Root, const std::string& key, const std::string& name, const std::string& text) override
     {
-        m_texts[key + ":" + name] = text;
+        values[key + ":" + name] = text;
         return {};
     }
     Result<void> Delete(Root, const std::string&, const std::string&) override { return {}; }
 
-private:
-    std::map<std::string, std::string> m_texts;
+    std::map<std::string, std::string> values; ///< by key, colon, name
 };
 
 /// Counts what a computer would do.

@@ -53,13 +53,5 @@ TEST(HandOverHandle, is_a_plain_number_that_is_not_zero)
         EXPECT_EQ(ParseHandOverHandle(text), std::nullopt) << text;
 }
 
-TEST(HandOverPeer, must_be_of_the_same_user)
-{
-    EXPECT_TRUE(AcceptsHandOverPeer(1000, 1000));
-    EXPECT_FALSE(AcceptsHandOverPeer(1001, 1000));
-    EXPECT_FALSE(AcceptsHandOverPeer(0, 1000));
-    EXPECT_FALSE(AcceptsHandOverPeer(1000, 0));
-}
-
 } // namespace
 } // namespace zentaro::platform

@@ -6,14 +6,9 @@
 namespace zentaro::platform {
 namespace {
 
-TEST(StoreNames, are_readable)
+TEST(StoreNames, are_readable_and_differ_for_different_values)
 {
     EXPECT_EQ(StoreFileName("Software\\Some Maker\\Zentaro", "txtHwnd"), "Software/Some Maker/Zentaro/txtHwnd");
-    EXPECT_EQ(StoreFileName(".mkv", ""), ".mkv/_default");
-}
-
-TEST(StoreNames, differ_for_different_values)
-{
     const std::pair<std::string, std::string> values[] = { { "", "" }, { "", "A" }, { "A", "" }, { "A", "_" },
         { "A", "_default" }, { "A", "default" }, { "A\\B", "" }, { "A", "B" }, { "A", "B\\" }, { "A\\", "B" },
         { "\\A", "B" }, { "A\\\\B", "C" }, { "A\\B", "C" }, { "A", "B\\C" }, { "A/B", "C" }, { "A_2FB", "C" },

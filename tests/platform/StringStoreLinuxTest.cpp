@@ -62,16 +62,6 @@ TEST_F(StoreOfFiles, keeps_keys_names_and_roots_apart)
     EXPECT_EQ(store->Read(Root::ClassesRoot, "A", "B", ""), "other root");
 }
 
-TEST_F(StoreOfFiles, deleting_a_value_leaves_what_lies_below_its_name)
-{
-    // In the file, a value's name and a key's part look alike.
-    ASSERT_TRUE(Write("B", "value", "A"));
-    ASSERT_TRUE(Write("C", "below", "A\\B"));
-    EXPECT_TRUE(store->Delete(Root::CurrentUser, "A", "B"));
-    EXPECT_EQ(Read("B", "A"), "-1");
-    EXPECT_EQ(Read("C", "A\\B"), "below");
-}
-
 TEST_F(StoreOfFiles, shows_at_once_what_another_process_has_written)
 {
     // All of one size and within one tick of the clock.

@@ -71,15 +71,5 @@ TEST(Folders, a_working_folder_is_new_and_goes_with_all_that_is_in_it)
     EXPECT_FALSE(PathExists(first));
 }
 
-TEST(Folders, the_programs_folder_holds_this_program)
-{
-    EXPECT_TRUE(IsAbsolutePath(ExecutableFolder()));
-    EXPECT_TRUE(PathExists(ExecutableFolder() + PathSeparator() + "zentaro-test-platform")
-        || PathExists(ExecutableFolder() + PathSeparator() + "zentaro-test-platform.exe"));
-    EXPECT_EQ(SettingsFolder(), ExecutableFolder());
-    EXPECT_TRUE(IsAbsolutePath(PicturesFolder()));
-    EXPECT_TRUE(IsAbsolutePath(DesktopFolder()));
-}
-
 } // namespace
 } // namespace zentaro::platform

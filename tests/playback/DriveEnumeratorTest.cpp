@@ -14,13 +14,12 @@ namespace {
 constexpr const char* kNoDrives = "<No DVD drives were found>";
 const std::string kNoneOff = std::string(kNoDrives) + " off";
 
-/// The six items of the command menu as they are made, and the classic entries. Each is its caption, with what it
-/// lacks.
+/// The items of the command menu and the classic entries. Each is its caption, with what it lacks.
 class Items : public DvdMenus {
 public:
-    void SetCaption(const std::string& key, const std::string& caption) override { With(key, &Item::caption, caption); }
-    void SetEnabled(const std::string& key, bool enabled) override { With(key, &Item::enabled, enabled); }
-    void SetVisible(const std::string& key, bool visible) override { With(key, &Item::visible, visible); }
+    void SetCaption(const std::string& key, const std::string& caption) override { m_items[key].caption = caption; }
+    void SetEnabled(const std::string& key, bool enabled) override { m_items[key].enabled = enabled; }
+    void SetVisible(const std::string& key, bool visible) override { m_items[key].visible = visible; }
 
     int ClassicCount() const override { return static_cast<int>(classic.size()); }
     void SetFirstClassic(const std::string& caption, bool enabled) override
@@ -40,7 +39,7 @@ public:
         return texts;
     }
 
-    std::vector<std::string> classic{ "<No DVD drives were found> off" };
+    std::vector<std::string> classic{ kNoneOff };
 
 private:
     struct Item {
@@ -48,14 +47,8 @@ private:
         bool enabled = true;
         bool visible = false;
     };
-    template <typename T> void With(const std::string& key, T Item::*field, const T& value)
-    {
-        if (const auto at = m_items.find(key); at != m_items.end())
-            at->second.*field = value;
-    }
 
-    std::map<std::string, Item> m_items = { { "DVDList0", { kNoDrives, false, true } }, { "DVDList1", {} },
-        { "DVDList2", {} }, { "DVDList3", {} }, { "DVDList4", {} }, { "DVDList5", {} } };
+    std::map<std::string, Item> m_items = { { "DVDList0", { kNoDrives, false, true } } };
 };
 
 class DriveEnumeratorTest : public testing::Test {
@@ -103,16 +96,6 @@ TEST_F(DriveEnumeratorTest, drives_that_go_leave_their_slots_behind_and_take_the
     EXPECT_THAT(items.classic, ElementsAre(kNoneOff));
     EXPECT_THAT(items.Shown(), ElementsAre("TWO (E:)", "<Please insert a DVD> (F:)"));
     EXPECT_TRUE(drives.Labels().empty());
-}
-
-TEST_F(DriveEnumeratorTest, more_drives_than_slots_are_in_the_classic_menu)
-{
-    std::vector<OpticalDrive> eight;
-    for (int i = 0; i < 8; ++i)
-        eight.push_back(Video("/dev/sr" + std::to_string(i), "DISC"));
-    drives.mnuOpenDVD_Click(eight);
-    EXPECT_EQ(items.classic.size(), 8U);
-    EXPECT_EQ(items.Shown().size(), 6U);
 }
 
 TEST_F(DriveEnumeratorTest, a_video_disc_is_looked_for_in_the_drive_that_its_label_names_first)

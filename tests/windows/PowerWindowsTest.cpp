@@ -41,17 +41,6 @@ TEST(PowerWindows, restart_and_power_off_have_their_flags_and_force_nothing)
     EXPECT_THAT(calls, testing::ElementsAre(std::pair(2U, 0xFFFFFFFFUL), std::pair(8U, 0xFFFFFFFFUL)));
 }
 
-TEST(PowerWindows, a_refusal_comes_back_with_its_number)
-{
-    WindowsPower power([](UINT, DWORD) {
-        SetLastError(ERROR_PRIVILEGE_NOT_HELD);
-        return FALSE;
-    });
-    const auto refused = power.Restart();
-    ASSERT_FALSE(refused);
-    EXPECT_EQ(refused.error().number, ERROR_PRIVILEGE_NOT_HELD);
-}
-
 TEST(PowerWindows, the_privilege_is_held_once_it_was_enabled)
 {
     ASSERT_FALSE(HasShutdownPrivilege());

@@ -63,24 +63,6 @@ TEST_F(Registry, what_is_missing_or_no_text_gives_the_fallback)
     EXPECT_EQ(store->Read(Root::CurrentUser, key, "unended", "-1"), "abc");
 }
 
-TEST_F(Registry, the_root_of_classes_is_another_place)
-{
-    ASSERT_TRUE(store->Write(Root::ClassesRoot, ".zentarotest", "OldAss", "before"));
-    EXPECT_EQ(store->Read(Root::ClassesRoot, ".zentarotest", "OldAss", ""), "before");
-    EXPECT_EQ(store->Read(Root::CurrentUser, ".zentarotest", "OldAss", ""), "");
-    RegDeleteTreeA(HKEY_CLASSES_ROOT, ".zentarotest");
-}
-
-TEST(FoldersOnWindows, the_desktop_is_the_one_that_the_shell_names)
-{
-    char path[MAX_PATH] = {};
-    DWORD size = sizeof path;
-    const auto status =
-        RegGetValueA(HKEY_CURRENT_USER, "Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\Shell Folders",
-            "Desktop", RRF_RT_REG_SZ, nullptr, path, &size);
-    EXPECT_EQ(DesktopFolder(), status == ERROR_SUCCESS ? path : "C:\\");
-}
-
 TEST(FoldersOnWindows, an_absolute_path_has_a_drive_or_a_server)
 {
     for (const auto* path : { "C:\\a.avi", "c:/a.avi", "\\\\server\\share", "\\\\?\\C:\\a" })
