@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QWindow>
 
+#include <algorithm>
 #include <utility>
 
 namespace zentaro {
@@ -26,14 +27,19 @@ void MakeBlack(QWidget& widget)
 constexpr int kMarkRadius = 30; // px
 constexpr int kHintGap = 14;    // px, between the mark and the words under it
 
-/// The play button's outline, hardly lighter than the dark around it.
-void PaintIdleMark(QPainter& painter, const QPointF& middle)
+/// The play button's outline in a faint glow: a stage before the light, not a hole.
+void PaintIdleMark(QPainter& painter, const QRectF& stage)
 {
+    const auto middle = stage.center();
+    QRadialGradient glow(middle, std::max(stage.width(), stage.height()) * 0.6);
+    glow.setColorAt(0, QColor(0x1D, 0x20, 0x27));
+    glow.setColorAt(1, QColor(0x0B, 0x0C, 0x0F));
+    painter.fillRect(stage, glow);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(0x26, 0x29, 0x30), 2));
+    painter.setPen(QPen(QColor(0x45, 0x4B, 0x56), 2));
     painter.drawEllipse(middle, kMarkRadius, kMarkRadius);
-    painter.setPen(QPen(QColor(0x2C, 0x30, 0x38), 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setBrush(QColor(0x2C, 0x30, 0x38));
+    painter.setPen(QPen(QColor(0x5A, 0x61, 0x6C), 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(QColor(0x5A, 0x61, 0x6C));
     const QPolygonF triangle{ { -5.5, -10 }, { 11, 0 }, { -5.5, 10 } };
     painter.drawPolygon(triangle.translated(middle));
 }
@@ -167,7 +173,7 @@ VideoFrame::VideoFrame(const QString& logoPath, QWidget* parent)
 VideoSurface* VideoFrame::AddSurface()
 {
     m_surface = new VideoSurface(this);
-    m_surface->setGeometry(rect());
+    m_surface->setGeometry(Inner());
     m_surface->setCursor(m_pointer);
     m_surface->show();
     KeepBelow();
@@ -179,7 +185,7 @@ void VideoFrame::ShowAudioLogo(bool shown)
     if (shown == m_logo->isVisible())
         return;
     // The window system can have told it of its first size after it had its place, and it was hidden since.
-    m_logo->setGeometry(rect());
+    m_logo->setGeometry(Inner());
     m_logo->setVisible(shown);
     KeepBelow();
 }
@@ -202,8 +208,28 @@ void VideoFrame::ShowPointer(bool shown)
     }
 }
 
+// Where a pixel of ours is one and a half of the screen, a window's place and its size are rounded each by itself: it
+// can stick out of the frame.
+QRect VideoFrame::Inner() const
+{
+    const auto ratio = devicePixelRatio();
+    const auto sticksOut = [&](int from, int size) {
+        return qRound(from * ratio) + qRound(size * ratio) > qRound((from + size) * ratio);
+    };
+    const auto at = mapTo(window(), QPoint());
+    return rect().adjusted(0, 0, sticksOut(at.x(), width()) ? -1 : 0, sticksOut(at.y(), height()) ? -1 : 0);
+}
+
+void VideoFrame::PlaceParts()
+{
+    if (m_surface)
+        m_surface->setGeometry(Inner());
+    m_logo->setGeometry(Inner());
+}
+
 void VideoFrame::moveEvent(QMoveEvent*)
 {
+    PlaceParts();
     // Qt leaves the windows of its parts where they are when the frame alone moves and keeps its size.
     for (const auto* const part : std::initializer_list<QWidget*>{ m_logo, m_surface }) {
         if (part != nullptr && part->windowHandle() != nullptr)
@@ -217,18 +243,16 @@ void VideoFrame::paintEvent(QPaintEvent*)
         return;
     QPainter painter(this);
     const QPointF middle = QRectF(rect()).center();
-    PaintIdleMark(painter, middle);
+    PaintIdleMark(painter, rect());
     const auto hint = fontMetrics().elidedText("Drop files here to play them", Qt::ElideRight, width());
     const QRectF line(0, middle.y() + kMarkRadius + kHintGap, width(), fontMetrics().height());
-    painter.setPen(QColor(0x7C, 0x82, 0x8A));
+    painter.setPen(QColor(0x9A, 0xA0, 0xA6));
     painter.drawText(line, Qt::AlignCenter, hint);
 }
 
 void VideoFrame::resizeEvent(QResizeEvent*)
 {
-    if (m_surface)
-        m_surface->setGeometry(rect());
-    m_logo->setGeometry(rect());
+    PlaceParts();
 }
 
 } // namespace zentaro

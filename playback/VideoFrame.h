@@ -95,6 +95,8 @@ protected:
 private:
     /// The surface, the logo over it, and over both whatever else the window has.
     void KeepBelow();
+    QRect Inner() const;
+    void PlaceParts();
 
     QPointer<VideoSurface> m_surface;
     VLCAudioLogo* m_logo;

@@ -60,7 +60,8 @@ public:
         for (const auto line : qTokenize(text, u'\n', Qt::SkipEmptyParts))
             width = std::max(width, fontMetrics().horizontalAdvance(line.toString()) + 2);
         width = std::min(width, kWidest);
-        document()->setTextWidth(width);
+        setLineWrapMode(FixedPixelWidth);
+        setLineWrapColumnOrWidth(width);
         const auto height = static_cast<int>(std::ceil(document()->size().height()));
         const bool scrolls = height > highest;
         const auto bar = scrolls ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
@@ -109,7 +110,7 @@ void MessageDialog::showEvent(QShowEvent* event)
 void MessageDialog::PaintBody(QPainter& painter)
 {
     Pictures().Draw(painter, SkinImage::BGCd, { 0, kTitleHeight, width(), height() - kTitleHeight });
-    painter.drawPixmap(kMargin, kTitleHeight + kTop, m_sign);
+    painter.drawPixmap(kMargin - 2, kTitleHeight + kTop, m_sign);
 }
 
 } // namespace zentaro

@@ -47,6 +47,20 @@ SkinDialog::SkinDialog(const QString& title, Skin& skin, QWidget* owner)
     connect(m_close, &SkinButton::clicked, this, &QDialog::reject);
 }
 
+void SkinDialog::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (event->spontaneous() || parentWidget() == nullptr)
+        return;
+    // Qt leaves room for a frame that this dialog has not.
+    QRect place(QPoint(), size());
+    place.moveCenter(parentWidget()->window()->geometry().center());
+    const auto room = parentWidget()->screen()->availableGeometry();
+    place.moveRight(std::min(place.right(), room.right()));
+    place.moveBottom(std::min(place.bottom(), room.bottom()));
+    move(std::max(place.left(), room.left()), std::max(place.top(), room.top()));
+}
+
 void SkinDialog::resizeEvent(QResizeEvent*)
 {
     m_close->setGeometry(width() - 30, 3, 23, 24);
@@ -63,8 +77,11 @@ void SkinDialog::paintEvent(QPaintEvent*)
         painter, ButtonImage(Button::Close, m_close->State()), { close.x(), close.y(), close.width(), close.height() });
     painter.setPen(style::kText);
     painter.drawText(QRect(14, 0, close.left() - 14, kTitleHeight), Qt::AlignVCenter, windowTitle());
-    painter.setPen(QColor(255, 255, 255, kOutline));
+    // A dark line outside, a light one inside: the edge shows on the player as on any desktop.
+    painter.setPen(style::kBase);
     painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.setPen(QColor(255, 255, 255, kOutline));
+    painter.drawRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5));
 }
 
 void SkinDialog::mousePressEvent(QMouseEvent* event)

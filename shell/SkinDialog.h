@@ -25,6 +25,7 @@ protected:
     /// Paints all but the title bar and the outline.
     virtual void PaintBody(QPainter& painter) = 0;
 
+    void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;

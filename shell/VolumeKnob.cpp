@@ -13,6 +13,7 @@ namespace {
 
 constexpr double kKnobWidth = 7;   // px; the slider's arithmetic keeps the knob's middle under the pointer
 constexpr double kKnobHeight = 14; // px
+constexpr double kRest = 3;        // px, right of the knob at full volume: nothing is left to turn up there
 constexpr double kTrackHeight = 4; // px
 constexpr int kKeyStep = 5;        // percent
 
@@ -88,7 +89,7 @@ void VolumeKnob::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     const auto middle = height() / 2.0;
-    const QRectF track(0, middle - kTrackHeight / 2, width(), kTrackHeight);
+    const QRectF track(0, middle - kTrackHeight / 2, width() - kRest, kTrackHeight);
     painter.setBrush(style::kTrack);
     painter.drawRoundedRect(track, kTrackHeight / 2, kTrackHeight / 2);
     const auto knobLeft = m_slider.KnobLeft();

@@ -630,6 +630,11 @@ void WidgetStyle::drawPrimitive(
         if (Has(*option, State_Children))
             DrawChevron(*painter, rect, Has(*option, State_Open) ? 0 : -90, style::kSecondText);
         return;
+    case PE_IndicatorHeaderArrow:
+        if (const auto* const header = qstyleoption_cast<const QStyleOptionHeader*>(option))
+            DrawChevron(
+                *painter, rect, header->sortIndicator == QStyleOptionHeader::SortUp ? 180 : 0, style::kSecondText, 3);
+        return;
     case PE_IndicatorArrowDown:
         DrawChevron(*painter, rect, 0, TextColor(*option));
         return;

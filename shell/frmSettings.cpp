@@ -261,6 +261,7 @@ QBoxLayout* frmSettings::MakeButtons()
     row->addStretch();
     for (auto* const button : { static_cast<QPushButton*>(ok), static_cast<QPushButton*>(cancel), m_apply })
         row->addWidget(button);
+    row->setSpacing(8);
     row->addStrut(kBand);
     return row;
 }

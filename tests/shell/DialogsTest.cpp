@@ -1,8 +1,10 @@
+#include "shell/MessageDialog.h"
 #include "shell/frmAbout.h"
 #include "shell/frmSettings.h"
 
 #include <QAccessible>
 #include <QApplication>
+#include <QScreen>
 #include <QTabWidget>
 #include <QtTest/QTest>
 
@@ -55,6 +57,23 @@ TEST(DialogsTest, EveryOptionIsReachedByTabAndReadOut)
     about.show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&about));
     EXPECT_EQ(ReachedByTab(about), (Names{ "OK", "The web page of VLC" }));
+}
+
+TEST(DialogsTest, NoticesOfAnyLengthFitTheScreen)
+{
+    Skin skin;
+    for (const auto* const part : { "x", "Cannot open file </clips/x.mp4>\r\n", "" }) {
+        std::string text;
+        for (int i = 0; i < 50000 && *part != 0; ++i)
+            text += part;
+        MessageDialog notice({ text }, skin, nullptr);
+        notice.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&notice));
+        EXPECT_LE(notice.height(), notice.screen()->availableSize().height() * 2 / 3);
+        EXPECT_LE(notice.width(), 600);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        EXPECT_FALSE(notice.isVisible());
+    }
 }
 
 } // namespace
