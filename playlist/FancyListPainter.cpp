@@ -140,8 +140,9 @@ void FancyListPainter::PaintText(
     if (!item.Detail.empty() && top < rect.bottom) {
         m_painter.setPen(dimmed);
         m_painter.setFont(m_look.detailFont);
-        const auto baseline = top + kDetailGap + QFontMetrics(m_look.detailFont).ascent();
-        m_painter.drawText(QPoint(rect.left, baseline), Paintable(QString::fromStdString(item.Detail), rect.Width()));
+        const QFontMetrics detailMetrics(m_look.detailFont);
+        const auto detail = detailMetrics.elidedText(QString::fromStdString(item.Detail), Qt::ElideRight, rect.Width());
+        m_painter.drawText(QPoint(rect.left, top + kDetailGap + detailMetrics.ascent()), detail);
     }
     m_painter.restore();
 }
