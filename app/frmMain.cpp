@@ -216,10 +216,8 @@ void frmMain::SetFullScreen(bool fullScreen)
         KeepNormalGeometry();
         m_fullScreen = true;
         m_wasMaximized = isMaximized();
-        const auto area = FullScreenArea();
         showFullScreen();
-        // Without a window manager nobody else gives the window its size.
-        windowHandle()->setGeometry(area);
+        KeepNormalGeometrySoon();
         PlaceChildren();
         m_video->setFocus();
         m_bar->Begin();
@@ -306,6 +304,9 @@ void frmMain::KeepNormalGeometry()
         m_fullScreen = false;
         FullScreenLeft();
     }
+    // Without a window manager nobody else gives the window its size; one that is asked for a size ends full screen.
+    if (m_fullScreen && isFullScreen() && size() != FullScreenArea().size())
+        windowHandle()->setGeometry(FullScreenArea());
     if (isMaximized() || m_fullScreen || isMinimized())
         return;
     m_normal = geometry();

@@ -343,7 +343,7 @@ void frmMain::PlaceControls()
     const auto layout = Layout();
     if (m_fullScreen) {
         const BarLayout bar(width());
-        m_bar->setGeometry(0, height() - BarLayout::kHeight, width(), BarLayout::kHeight);
+        m_bar->Place({ 0, height() - BarLayout::kHeight, width(), BarLayout::kHeight });
         m_bar->LeaveButton().setGeometry(ToQt(bar.ButtonRect(Button::FullScreen)));
         placeAll(bar);
         // The rest lies under the video, where no key may go either.

@@ -50,6 +50,12 @@ void FullScreenBar::End()
     emit PointerWanted(true);
 }
 
+void FullScreenBar::Place(const QRect& place)
+{
+    m_place = place;
+    setGeometry(place);
+}
+
 void FullScreenBar::PointerSeen(const QPoint& global)
 {
     // Windows that come and go under a still pointer are told of it, too.
@@ -58,6 +64,8 @@ void FullScreenBar::PointerSeen(const QPoint& global)
         return;
     if (!isVisible()) {
         show();
+        // A window that was never shown forgets a size that it was given.
+        setGeometry(m_place);
         raise();
         emit PointerWanted(true);
     }

@@ -22,6 +22,8 @@ public:
 
     /// The one button of its own.
     SkinButton& LeaveButton() { return *m_leave; }
+    /// Where it lies when it is shown, in pixels of its parent.
+    void Place(const QRect& place);
     /// Full screen has begun: bar and pointer are away until the pointer moves.
     void Begin();
     /// Full screen has ended.
@@ -43,6 +45,7 @@ private:
     SkinButton* m_leave;
     QTimer m_rest;
     QPoint m_pointer;
+    QRect m_place;
     bool m_serves = false;
 };
 

@@ -199,7 +199,12 @@ TEST_F(Controls, TheVideoMovesToTheOtherSideWhenItsMenuDocksTheList)
 TEST_F(Controls, ASnapshotIsAPictureInTheFolderOfItsFile)
 {
     UseFlatSkin();
-    StoreSettings([&](PlayerSettings& settings) { settings.SnapshotPath = InHome("shots"); });
+    StoreSettings([&](PlayerSettings& settings) {
+        settings.SnapshotPath = InHome("shots");
+        // Wide enough for a note of one line.
+        settings.RememberLastSize = 1;
+        settings.WindowWidth = 1000;
+    });
     const auto folder = InHome("shots/clip.mp4 Images");
     fs::create_directory(InHome("shots"));
     WriteWholeFile(folder, "in the way");

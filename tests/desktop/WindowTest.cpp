@@ -107,6 +107,8 @@ TEST_F(MainWindow, FullScreenComesByADoubleClickAndLeavesTheWindowAsItWas)
     EXPECT_TRUE(TakesPlace(player, Screen().Area()));
     EXPECT_TRUE(WaitUntil([&] { return player.Video() == Screen().Area(); }));
     EXPECT_TRUE(player.PictureMoves());
+    // Else panels would lie over the video.
+    EXPECT_TRUE(Screen().HasState(player.window, "_NET_WM_STATE_FULLSCREEN"));
     Screen().Press(kEscape);
     EXPECT_TRUE(TakesPlace(player, before));
     EXPECT_TRUE(player.PictureMoves());
