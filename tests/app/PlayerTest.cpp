@@ -9,48 +9,6 @@ constexpr const char* kProbeKey = "Software\\Quorvane Zentaro\\Setting:txtHwnd1"
 
 } // namespace
 
-TEST_F(PlayerTest, sleep_is_held_off_while_a_video_plays_and_the_settings_want_it)
-{
-    auto& started = StartWithEntries(1, kPlayContinuous, kRepeatAll);
-    const auto isHeldOff = [&] {
-        started.OnPositionTick();
-        return sleepHeldOff;
-    };
-    EXPECT_TRUE(isHeldOff());
-    started.CMDPauseClick();
-    EXPECT_FALSE(isHeldOff());
-    started.CMDPauseClick();
-    EXPECT_TRUE(isHeldOff());
-    started.cmdStopClick();
-    EXPECT_FALSE(sleepHeldOff);
-    EXPECT_FALSE(isHeldOff());
-    started.CMDPlayClick();
-    EXPECT_TRUE(isHeldOff());
-    engines.trace.hasVideo = false;
-    EXPECT_FALSE(isHeldOff());
-    engines.trace.hasVideo = true;
-    EXPECT_TRUE(isHeldOff());
-    started.Unload();
-    EXPECT_FALSE(sleepHeldOff);
-
-    auto settings = DefaultSettings("/", {});
-    settings.DisableScreenSaver = 0;
-    WriteConfig(FormatConfigurations(settings));
-    Start().LoadThumb("", "/a.avi", false, true);
-    player->OnPositionTick();
-    EXPECT_FALSE(sleepHeldOff);
-}
-
-TEST_F(PlayerTest, the_first_start_publishes_its_handles_and_makes_the_settings_file)
-{
-    Start();
-    EXPECT_TRUE(isPlayer);
-    EXPECT_EQ(store.values[kCommandKey], "4711");
-    EXPECT_EQ(store.values[kProbeKey], "4712");
-    EXPECT_EQ(ConfigText(), FormatConfigurations(player->Settings()));
-    EXPECT_TRUE(engines.trace.played.empty());
-}
-
 TEST_F(PlayerTest, types_are_taken_once_the_start_is_over_or_when_it_ends)
 {
     auto settings = DefaultSettings("/", {});
@@ -61,9 +19,6 @@ TEST_F(PlayerTest, types_are_taken_once_the_start_is_over_or_when_it_ends)
     later();
     EXPECT_EQ(associations.ours, 1);
     EXPECT_EQ(store.values[".avi:"] + store.values[".avi:OldAss"], "Zentaro.aviother.desktop");
-    const auto choices = player->AssociationChoices();
-    ASSERT_EQ(choices.size(), 24U);
-    EXPECT_EQ(choices[4].listText, "Mp3 Format Sound(*.mp3)");
     associations.ours = -1;
     player->Unload();
     EXPECT_EQ(associations.ours, -1);
@@ -74,25 +29,6 @@ TEST_F(PlayerTest, types_are_taken_once_the_start_is_over_or_when_it_ends)
     associations.ours = -1;
     later();
     EXPECT_EQ(associations.ours, -1);
-
-    const auto before = store.values;
-    otherPlayerLives = true;
-    later = nullptr;
-    Start("/clips/a.avi");
-    EXPECT_FALSE(later);
-    EXPECT_EQ(store.values, before);
-}
-
-TEST_F(PlayerTest, a_messenger_shows_and_publishes_nothing)
-{
-    store.values = { { kCommandKey, "1" }, { kProbeKey, "4712" } };
-    otherPlayerLives = true;
-    Start("/clips/a.avi *Add");
-    EXPECT_FALSE(isPlayer);
-    EXPECT_EQ(sent, std::vector<std::string>{ "1:/clips/a.avi *Add" });
-    EXPECT_EQ(store.values[kCommandKey], "1");
-    EXPECT_EQ(screen.log.str().find("show"), std::string::npos);
-    EXPECT_EQ(engines.trace.mostAlive, 0);
 }
 
 TEST_F(PlayerTest, a_call_that_nobody_answers_makes_a_player)
@@ -131,42 +67,6 @@ TEST_F(PlayerTest, the_files_of_starts_play_in_fresh_engines_one_at_a_time)
     EXPECT_EQ(engines.trace.played.size(), 2u);
 }
 
-TEST_F(PlayerTest, a_start_that_adds_plays_nothing_and_later_files_are_added_too)
-{
-    Start("/clips/a.avi *Add");
-    EXPECT_EQ(player->Entries().Count(), 1);
-    EXPECT_EQ(player->Entries().PathAt(0), "/clips/a.avi");
-    player->ReceiveText("/clips/b.avi");
-    EXPECT_EQ(player->Entries().Count(), 2);
-    EXPECT_TRUE(engines.trace.played.empty());
-}
-
-TEST_F(PlayerTest, a_damaged_file_is_replaced_and_one_without_a_default_folder_is_not)
-{
-    WriteConfig("English\r\n/home\r\n 1 \r\n");
-    Start();
-    EXPECT_EQ(ConfigText(), FormatConfigurations(player->Settings()));
-
-    auto settings = DefaultSettings("  ", {});
-    WriteConfig(FormatConfigurations(settings));
-    Start();
-    EXPECT_NE(player->Settings().DefaultFolder, "  ");
-    EXPECT_FALSE(player->Settings().DefaultFolder.empty());
-    EXPECT_EQ(ConfigText(), FormatConfigurations(settings));
-}
-
-TEST_F(PlayerTest, the_window_comes_back_as_it_was_remembered)
-{
-    auto settings = DefaultSettings("/", {});
-    settings.RememberLastPos = settings.RememberLastSize = settings.AlwaysOnTop = 1;
-    settings.WindowLeft = -1200;
-    settings.WindowWidth = 800;
-    WriteConfig(FormatConfigurations(settings));
-    Start();
-    EXPECT_TRUE(screen.log.str().starts_with("size 800x515 at -1200,")) << screen.log.str();
-    EXPECT_TRUE(screen.isTopmost);
-}
-
 TEST_F(PlayerTest, the_end_saves_where_the_window_is_unless_it_is_maximised)
 {
     Start();
@@ -199,21 +99,6 @@ TEST_F(PlayerTest, a_file_that_is_gone_or_read_only_at_the_end_stays_so)
     fs::remove(ConfigPath());
     EXPECT_FALSE(player->WriteConfigurations());
     EXPECT_FALSE(fs::exists(ConfigPath()));
-}
-
-TEST_F(PlayerTest, files_that_cannot_be_opened_or_are_there_already_are_told_in_boxes)
-{
-    auto& loaded = StartWithEntries(2, kPlayContinuous, kRepeatAll);
-    EXPECT_EQ(loaded.Inspected().StreamInfoText, "Stream information of /b.avi");
-    loaded.LoadThumb("broken.avi", "/broken.avi", false, true);
-    EXPECT_EQ(loaded.Inspected().LastSourceError, "No good.");
-    EXPECT_EQ(loaded.Entries().Count(), 2);
-    loaded.LoadThumb("a.avi", "/a.avi", false, true);
-    EXPECT_EQ(screen.boxes,
-        (std::vector<std::string>{ "Zentaro: Cannot open file </broken.avi>\r\nNo good.",
-            "Media Player: \"a.avi\" is already in your playlist" }));
-    // The last entry plays, not the one that was there.
-    EXPECT_EQ(LastPlayed(), "/b.avi");
 }
 
 TEST_F(PlayerTest, continuous_play_goes_round_and_normal_play_stops)
@@ -257,18 +142,6 @@ TEST_F(PlayerTest, a_round_in_which_nothing_plays_stops_with_a_note)
     EXPECT_FALSE(loaded.MediaControlsEnabled());
     EXPECT_FALSE(screen.note.empty());
     EXPECT_TRUE(screen.boxes.empty());
-}
-
-TEST_F(PlayerTest, a_double_click_plays_and_hides_the_list_and_the_button_brings_it_back)
-{
-    auto& loaded = StartWithEntries(2, kPlayContinuous, kRepeatAll);
-    loaded.Entries().List().SetSelectedItem(1);
-    loaded.ListDoubleClicked();
-    EXPECT_EQ(LastPlayed(), "/b.avi");
-    EXPECT_EQ(screen.dock, PlaylistDock::Hidden);
-    EXPECT_EQ(loaded.Settings().PlaylistPosition, 0);
-    loaded.cmdPlayListClick();
-    EXPECT_EQ(screen.dock, PlaylistDock::Left);
 }
 
 TEST_F(PlayerTest, chosen_files_are_added_and_only_the_first_plays)
@@ -316,19 +189,6 @@ TEST_F(PlayerTest, what_is_held_ends_with_the_item_and_the_rate_starts_anew)
     EXPECT_EQ(screen.rateText, "Loading...");
 }
 
-TEST_F(PlayerTest, closing_while_files_are_added_ends_the_waiting)
-{
-    StartWithEntries(1, kPlayContinuous, kRepeatAll);
-    screen.answer = [this] {
-        player->Unload();
-        return true;
-    };
-    player->LoadThumb("late.avi", "/late.avi", false, true);
-    EXPECT_TRUE(ended);
-    EXPECT_EQ(player->Entries().Count(), 1);
-    EXPECT_EQ(engines.trace.alive, 0);
-}
-
 TEST_F(PlayerTest, a_snapshot_takes_the_next_free_name_in_the_folder_of_its_file)
 {
     auto settings = DefaultSettings("/", {});
@@ -336,12 +196,6 @@ TEST_F(PlayerTest, a_snapshot_takes_the_next_free_name_in_the_folder_of_its_file
     settings.SnapshotPrefix = "up/IMG_";
     WriteConfig(FormatConfigurations(settings));
     Start().LoadThumb("", "/clips/a.avi", false, true);
-    engines.trace.hasVideo = false;
-    player->OnPositionTick();
-    player->TakeSnapshot();
-    EXPECT_EQ(screen.note, "");
-
-    engines.trace.hasVideo = true;
     player->OnPositionTick();
     // With this test's separator on every system.
     const auto images = fs::path((folder / "new" / "shots").string() + "/a.avi Images");

@@ -48,12 +48,6 @@ TEST(CommandLine, quotes_that_belong_to_a_files_name_stay)
     EXPECT_EQ(Read(name).StartupArgument, "/clips/she said go.mp4");
 }
 
-TEST(StartRole, the_first_start_ever_is_the_player)
-{
-    EXPECT_EQ(Decide("C:\\a.avi", {}, true).kind, Kind::Player);
-    EXPECT_EQ(Decide("", {}, true).kind, Kind::Player);
-}
-
 TEST(StartRole, a_media_file_goes_to_the_running_player_and_anything_else_ends_silently)
 {
     EXPECT_EQ(Decide("C:\\a.avi", kRunning, true), (StartRole{ Kind::Messenger, "4711", "C:\\a.avi" }));
@@ -64,6 +58,7 @@ TEST(StartRole, a_media_file_goes_to_the_running_player_and_anything_else_ends_s
 
 TEST(StartRole, a_player_that_is_gone_or_not_wanted_is_passed_over)
 {
+    EXPECT_EQ(Decide("C:\\a.avi", {}, true).kind, Kind::Player); // there has never been one
     EXPECT_EQ(Decide("C:\\a.avi", kRunning, false).kind, Kind::Player);
     EXPECT_EQ(Decide("", kRunning, false).kind, Kind::Player);
     EXPECT_EQ(Decide("C:\\a.avi", kRunning, true, true).kind, Kind::Player);

@@ -81,13 +81,6 @@ TEST_F(FoldersOnLinux, a_relative_argument_that_exists_becomes_absolute_with_its
     fs::current_path(before);
 }
 
-TEST_F(FoldersOnLinux, a_users_folder_that_is_not_there_is_the_home_folder)
-{
-    EXPECT_EQ(DesktopFolder(), folder / "HOME");
-    fs::create_directory(folder / "HOME/Desktop");
-    EXPECT_EQ(DesktopFolder(), folder / "HOME/Desktop");
-}
-
 TEST_F(FoldersOnLinux, the_runtime_folder_must_be_ours_alone)
 {
     EXPECT_TRUE(IsPrivateFolder(1000, 040700, 1000));

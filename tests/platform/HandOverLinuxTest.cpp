@@ -47,11 +47,6 @@ protected:
         ASSERT_TRUE(made) << made.error().text;
         ends = std::move(*made);
     }
-    void ListenAndDeliver()
-    {
-        Listen();
-        ends->Deliver([this](std::string text) { received.push_back(std::move(text)); });
-    }
 
     /// A sender that does not keep to the rules.
     FileDescriptor ConnectRaw(const std::string& handle) const
@@ -62,10 +57,6 @@ protected:
         InRuntimeFolder(handle).copy(address.sun_path, sizeof address.sun_path - 1);
         EXPECT_EQ(connect(socket.Number(), reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
         return socket;
-    }
-    static void SendRaw(const FileDescriptor& socket, const std::string& bytes)
-    {
-        ASSERT_EQ(send(socket.Number(), bytes.data(), bytes.size(), MSG_NOSIGNAL), static_cast<ssize_t>(bytes.size()));
     }
 
     int count = 0;
@@ -95,20 +86,6 @@ TEST_F(HandOverOnLinux, a_process_that_sends_ends_only_after_the_handler)
     EXPECT_FALSE(SendHandOverText(ends->CommandHandle(), std::string(kHandOverTextLimit + 1, 'a')));
 }
 
-TEST_F(HandOverOnLinux, texts_that_come_early_wait_for_delivery)
-{
-    Listen();
-    std::vector<std::future<bool>> sendings;
-    for (int i = 0; i < 150; ++i)
-        sendings.push_back(SendBeside(ends->CommandHandle(), std::to_string(i)));
-    EXPECT_TRUE(IsHandOverAlive(ends->CommandHandle()));
-    ends->Deliver([this](std::string text) { received.push_back(std::move(text)); });
-    EXPECT_TRUE(RunUntil([&] { return std::all_of(sendings.begin(), sendings.end(), IsDone); }));
-    for (auto& sending : sendings)
-        EXPECT_TRUE(sending.get());
-    EXPECT_EQ(received.size(), 150U);
-}
-
 TEST_F(HandOverOnLinux, a_text_that_comes_while_the_handler_runs_is_handled_after_it)
 {
     Listen();
@@ -129,35 +106,6 @@ TEST_F(HandOverOnLinux, a_text_that_comes_while_the_handler_runs_is_handled_afte
     EXPECT_TRUE(RunUntil([&] { return IsDone(first) && second.valid() && IsDone(second); }));
     EXPECT_EQ(order, "<1><2>");
     EXPECT_TRUE(first.get() && second.get());
-}
-
-TEST_F(HandOverOnLinux, the_probe_answers_without_the_handler)
-{
-    ListenAndDeliver();
-    auto sending = SendBeside(ends->ProbeHandle(), "Hello");
-    EXPECT_TRUE(RunUntil([&] { return IsDone(sending); }));
-    EXPECT_TRUE(sending.get());
-    EXPECT_TRUE(received.empty());
-    EXPECT_NE(ends->ProbeHandle(), ends->CommandHandle());
-}
-
-TEST_F(HandOverOnLinux, broken_and_silent_senders_disturb_nobody)
-{
-    ListenAndDeliver();
-    const auto frame = EncodeHandOverFrame("never.avi");
-    const auto silent = ConnectRaw(ends->CommandHandle());
-    const auto slow = ConnectRaw(ends->CommandHandle());
-    SendRaw(slow, frame.substr(0, 10));
-    for (const auto& bytes : { frame.substr(0, 10), frame + "x", std::string("ZNT1\xFF\xFF\xFF\xFF", 8),
-             std::string("noise"), std::string() })
-        SendRaw(ConnectRaw(ends->CommandHandle()), bytes);
-    auto sending = SendBeside(ends->CommandHandle(), "good.avi");
-    EXPECT_TRUE(RunUntil([&] { return IsDone(sending); }));
-    EXPECT_TRUE(sending.get());
-    SendRaw(slow, frame.substr(10));
-    shutdown(slow.Number(), SHUT_WR);
-    EXPECT_TRUE(RunUntil([&] { return received.size() == 2; }));
-    EXPECT_EQ(received, (std::vector<std::string>{ "good.avi", "never.avi" }));
 }
 
 TEST_F(HandOverOnLinux, a_silent_sender_is_let_go_and_makes_room)
@@ -227,22 +175,6 @@ TEST_F(HandOverOnLinux, a_killed_receiver_is_dead_for_all_and_its_sockets_are_ti
     Listen();
     EXPECT_FALSE(std::filesystem::exists(InRuntimeFolder(handle)));
     EXPECT_TRUE(IsHandOverAlive(ends->CommandHandle()));
-}
-
-TEST_F(HandOverOnLinux, without_a_session_folder_a_private_one_in_the_temporary_folder_serves)
-{
-    setenv("XDG_RUNTIME_DIR", (folder / "gone").c_str(), 1);
-    const char* before = getenv("TMPDIR");
-    const std::string kept = before ? before : "/tmp";
-    const auto deep = folder / std::string(150, 'd'); // longer than a socket's address
-    std::filesystem::create_directory(deep);
-    setenv("TMPDIR", deep.c_str(), 1);
-    ListenAndDeliver();
-    auto sending = SendBeside(ends->CommandHandle(), "a.avi");
-    EXPECT_TRUE(RunUntil([&] { return IsDone(sending); }));
-    EXPECT_TRUE(sending.get());
-    ends.reset();
-    setenv("TMPDIR", kept.c_str(), 1);
 }
 
 TEST_F(HandOverOnLinux, the_lock_has_one_holder_and_falls_with_its_process)

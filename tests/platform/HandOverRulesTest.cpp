@@ -40,11 +40,6 @@ TEST(HandOverFrame, is_refused_at_its_header_when_it_announces_too_much)
     EXPECT_TRUE(HandOverFrameReader().Take(std::string_view("ZNT1\x00\x00\x00\x01", 8)));
 }
 
-TEST(HandOverFrame, ends_at_a_nul_byte_wherever_that_was_put_in)
-{
-    EXPECT_EQ(ReadIn(EncodeHandOverFrame(std::string("a.avi\0evil", 10)), 5), "a.avi");
-}
-
 TEST(HandOverHandle, is_a_plain_number_that_is_not_zero)
 {
     EXPECT_EQ(ParseHandOverHandle("65566"), 65566U);

@@ -47,18 +47,5 @@ TEST(TextFile, what_cannot_be_replaced_stays_without_a_trace)
     EXPECT_EQ(CountOfFiles(folder), 1U);
 }
 
-TEST(Folders, a_working_folder_is_new_and_goes_with_all_that_is_in_it)
-{
-    const auto first = MakeWorkingFolder();
-    const auto second = MakeWorkingFolder();
-    ASSERT_FALSE(first.empty());
-    EXPECT_NE(first, second);
-    ASSERT_TRUE(ReplaceTextFile(first + PathSeparator() + "Ä.log", "text"));
-    RemoveFolder(first);
-    RemoveFolder(second);
-    RemoveFolder("");
-    EXPECT_FALSE(PathExists(first));
-}
-
 } // namespace
 } // namespace zentaro::platform
