@@ -33,6 +33,28 @@ protected:
 
 } // namespace
 
+TEST_F(MediaRemoteTest, play_and_pause_say_what_is_wanted_and_never_toggle)
+{
+    StartRemote(2);
+    EXPECT_EQ(Do({ .kind = Kind::Play }).playback, Playback::Playing);
+    EXPECT_EQ(Do({ .kind = Kind::Pause }).playback, Playback::Paused);
+    EXPECT_EQ(Do({ .kind = Kind::Pause }).playback, Playback::Paused);
+    EXPECT_EQ(Do({ .kind = Kind::Play }).playback, Playback::Playing);
+    EXPECT_EQ(Do({ .kind = Kind::PlayPause }).playback, Playback::Paused);
+    EXPECT_EQ(Do({ .kind = Kind::PlayPause }).playback, Playback::Playing);
+    EXPECT_EQ(Starts(), 1U); // went on, and did not begin again
+    EXPECT_TRUE(Do({ .kind = Kind::SetFullScreen, .flag = true }).fullScreen);
+    EXPECT_FALSE(Do({ .kind = Kind::SetFullScreen, .flag = false }).fullScreen);
+    EXPECT_EQ(Do({ .kind = Kind::Stop }).playback, Playback::Stopped);
+    EXPECT_FALSE(Do({ .kind = Kind::SetFullScreen, .flag = true }).fullScreen);
+    EXPECT_EQ(remote->Status().track.id, 0U);
+    Do({ .kind = Kind::Pause });
+    Do({ .kind = Kind::Stop });
+    EXPECT_EQ(engines.trace.stops, 1);
+    EXPECT_EQ(Do({ .kind = Kind::PlayPause }).playback, Playback::Playing);
+    EXPECT_EQ(Starts(), 2U);
+}
+
 TEST_F(MediaRemoteTest, without_an_entry_play_asks_nobody_for_files)
 {
     screen.chosen = { "/asked.avi" };
@@ -59,6 +81,8 @@ TEST_F(MediaRemoteTest, seeking_stays_in_the_item_or_goes_on_to_the_next)
 TEST_F(MediaRemoteTest, modes_rate_and_volume_follow_and_unwanted_numbers_become_the_nearest)
 {
     StartRemote(2);
+    EXPECT_EQ(Do({ .kind = Kind::SetLoop, .loop = platform::MediaLoop::Track }).loop, platform::MediaLoop::Track);
+    EXPECT_EQ(player->Settings().RepeatMode, kRepeatSingle);
     player->PBNormal();
     remote->Status();
     EXPECT_TRUE(Do({ .kind = Kind::SetShuffle, .flag = true }).shuffle);
@@ -69,6 +93,9 @@ TEST_F(MediaRemoteTest, modes_rate_and_volume_follow_and_unwanted_numbers_become
         EXPECT_EQ(player->Rate().Value(), got);
     }
     EXPECT_EQ(Do({ .kind = Kind::SetRate, .number = 0 }).playback, Playback::Paused);
+    EXPECT_EQ(Do({ .kind = Kind::SetVolume, .number = 0.5 }).volume, 0.5);
+    EXPECT_EQ(Do({ .kind = Kind::SetVolume, .number = 7 }).volume, 1);
+    EXPECT_EQ(Do({ .kind = Kind::SetVolume, .number = -7 }).volume, 0);
 }
 
 TEST_F(MediaRemoteTest, tracks_keep_their_numbers_and_an_item_taken_off_the_list_plays_on)

@@ -59,14 +59,29 @@ TEST_F(PlayerTest, commands_on_the_list_come_and_go_with_its_entries)
     for (const auto* const key : { "RemoveAll", "Next", "Previous" })
         EXPECT_FALSE(IsEnabled(key)) << key;
 
+    loaded.cmdStopClick();
+    loaded.RunCommand("PlayPause"); // the dialog is cancelled
+    EXPECT_TRUE(IsEnabled("Stop"));
+
+    const auto played = engines.trace.played.size();
     screen.chosen = { std::string("/clips\0c.avi\0d.avi", 18) };
     loaded.Entries().List().Clear();
     loaded.RunCommand("AddVideoFile");
     EXPECT_FALSE(IsEnabled("Next"));
     while (inspections.AnswerOne(loaded))
         ;
+    EXPECT_EQ(loaded.Entries().List().SelectedItem(), 0);
+    EXPECT_EQ(engines.trace.played.size(), played);
     for (const auto* const key : { "Remove", "RemoveAll", "Next", "Previous" })
         EXPECT_TRUE(IsEnabled(key)) << key;
+    loaded.RunCommand("RemoveAll");
+    EXPECT_EQ(loaded.Entries().Count(), 0);
+    EXPECT_FALSE(IsEnabled("RemoveAll"));
+
+    loaded.RunCommand("OpenFile");
+    while (inspections.AnswerOne(loaded))
+        ;
+    EXPECT_EQ(LastPlayed(), "/clips/c.avi");
 }
 
 TEST_F(PlayerTest, dialogs_are_never_under_a_window_that_stays_on_top)
@@ -100,6 +115,24 @@ TEST_F(PlayerTest, keys_without_a_command_do_nothing)
     EXPECT_EQ(engines.trace.played.size(), 1u);
 }
 
+TEST_F(PlayerTest, what_was_played_can_be_played_again_after_a_restart)
+{
+    Start();
+    player->LoadThumb("A & a", "/a.avi", false, true);
+    player->LoadThumb("B", "/b.avi", false, true);
+    Start();
+    engines.trace.played.clear();
+    EXPECT_TRUE(IsEnabled("History0"));
+    player->RunCommand("History1");
+    EXPECT_EQ(player->Entries().EntryAt(0)->Title, "B");
+    ClickClassicItem(*player, *player->ClassicMenus().Find("mnuRecent", 0));
+    EXPECT_EQ(player->Entries().EntryAt(1)->Title, "A & a");
+    // One that is in the list already plays the list's last entry.
+    player->RunCommand("History1");
+    EXPECT_EQ(engines.trace.played, (std::vector<std::string>{ "/b.avi", "/a.avi", "/a.avi" }));
+    EXPECT_EQ(screen.boxes.size(), 1u);
+}
+
 TEST_F(PlayerTest, classic_menus_do_the_same_and_take_the_states_when_they_open)
 {
     auto& loaded = StartWithEntries(3, kPlayNormal, kNoRepeat);
@@ -109,6 +142,8 @@ TEST_F(PlayerTest, classic_menus_do_the_same_and_take_the_states_when_they_open)
     EXPECT_EQ(LastPlayed(), "/b.avi");
     click("mnuPrev");
     EXPECT_EQ(LastPlayed(), "/a.avi");
+    click("mnufullscreen");
+    EXPECT_TRUE(screen.isFullScreen);
     click("mnuPBShuffle");
     click("mnuRMRepeatAll");
     click("mnuAfterPlaying", 2);
@@ -127,6 +162,12 @@ TEST_F(PlayerTest, classic_menus_do_the_same_and_take_the_states_when_they_open)
     EXPECT_EQ(checked, "mnuPBCont0 mnuRMSingleRepeat0 mnuAfterPlaying1 ");
     EXPECT_TRUE(menus.Find("mnuincspeed")->enabled && menus.Find("mnustop")->enabled);
 
+    click("mnustop");
+    EXPECT_FALSE(loaded.MediaControlsEnabled());
+    click("mnuplay");
+    EXPECT_TRUE(loaded.MediaControlsEnabled());
+    click("mnuPlayListRemove");
+    EXPECT_EQ(loaded.Entries().Count(), 2);
     click("mnuPlayListRemoveAll");
     loaded.cmdStopClick();
     for (const auto* const menu : { "mnuPlayBackMenu", "mnuPlayListmenu" })
@@ -134,4 +175,11 @@ TEST_F(PlayerTest, classic_menus_do_the_same_and_take_the_states_when_they_open)
     for (const auto* const name :
         { "mnuincspeed", "mnudecSpeed", "mnuresSpeed", "mnustop", "mnuNext", "mnuPrev", "mnuPlayListRemoveAll" })
         EXPECT_FALSE(menus.Find(name)->enabled) << name;
+    click("dvdsList");
+    click("mnuplay"); // an empty list asks for files
+    screen.chosen = { "/clips/new.avi" };
+    click("mnuplay");
+    while (inspections.AnswerOne(loaded))
+        ;
+    EXPECT_EQ(LastPlayed(), "/clips/new.avi");
 }

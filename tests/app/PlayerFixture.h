@@ -19,11 +19,16 @@ class FakeScreen : public StillScreen {
 public:
     bool IsMaximized() const override { return maximized; }
     double WindowLeft() const override { return left; }
+    void ShowWindow() override { log << "show "; }
+    void SetWindowSize(int width, int height) override { log << "size " << width << "x" << height << " "; }
+    void SetWindowPosition(int x, int y) override { log << "at " << x << "," << y << " "; }
     void SetTopmost(bool topmost) override { isTopmost = topmost; }
     void SetFullScreen(bool fullScreen) override { isFullScreen = fullScreen; }
     bool IsFullScreen() const override { return isFullScreen; }
     void ShowCaption(const std::string& text) override { caption = text; }
     void FlashCaption() override { log << "flash "; }
+    void SetPlaylistPosition(PlaylistDock position) override { dock = position; }
+    bool IsPlaylistVisible() const override { return dock != PlaylistDock::Hidden; }
     void ShowPosition(const PositionTick& tick, double) override { timeText = tick.timeText; }
     void ShowTimeText(const std::string& text) override { timeText = text; }
     void ShowRate(const std::string& text) override { rateText = text; }
@@ -34,6 +39,7 @@ public:
     void ShowAbout() override { log << "about " << isTopmost << " "; }
     void ShowHelp() override { log << "help "; }
     void SetTrayShown(bool shown) override { hasTrayIcon = shown; }
+    void PopupMenu(const std::string& menu) override { log << "menu " << menu << " "; }
     void PumpMessages(int times) override { log << "pump " << times << " "; }
     void PumpFor(std::chrono::milliseconds time) override
     {
@@ -50,6 +56,7 @@ public:
 
     std::function<bool()> answer; ///< lets one inspection end; false when none is at work
     std::function<void()> whilePumping;
+    PlaylistDock dock = PlaylistDock::Hidden;
     std::string timeText;
     std::string rateText;
     std::vector<std::string> boxes;
@@ -219,7 +226,7 @@ protected:
             [] { return 0.0; }, [](const std::string& path) { return path != "/clips/missing.avi"; },
             [this] { ended = true; }, folder.string() + "/", '/',
             { &associations, "zentaro", "/program/", {}, [this](std::function<void()> work) { later = work; } },
-            [this] { ++driveQuestions; }, [] { return Picture(); }, [](bool) {} });
+            [this] { ++driveQuestions; }, [] { return Picture(); }, [this](bool held) { sleepHeldOff = held; } });
         isPlayer = player->Load(commandLine);
         return *player;
     }
@@ -271,6 +278,7 @@ protected:
     std::function<void()> later;
     std::unique_ptr<Player> player;
     std::vector<std::string> sent;
+    bool sleepHeldOff = false;
     bool otherPlayerLives = false;
     bool sendSucceeds = true;
     int driveQuestions = 0;

@@ -17,16 +17,29 @@ using testing::ElementsAre;
 
 class DrivesLinuxTest : public testing::Test {
 protected:
-    std::vector<std::string> Found()
+    /// Lets the service answer while the drives are asked for.
+    std::vector<OpticalDrive> Find()
     {
-        // The service answers while the drives are asked for.
         auto answer = std::async(std::launch::async, [&] { return drives.Find(); });
         while (answer.wait_for(0s) != std::future_status::ready)
             QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+        return answer.get();
+    }
+    std::vector<std::string> Found()
+    {
         std::vector<std::string> texts;
-        for (const auto& drive : answer.get())
+        for (const auto& drive : Find())
             texts.push_back(drive.name + "=" + drive.label.value_or("-") + (drive.hasVideoFolder ? " video" : ""));
         return texts;
+    }
+    std::string Image(const std::string& name, const std::string& folder) const
+    {
+        const auto root = files / (name + ".d");
+        std::filesystem::create_directories(root + "/" + folder);
+        const auto image = files / (name + ".iso");
+        const auto command = "genisoimage -quiet -udf -o " + image + " " + root + " 2>&1";
+        EXPECT_EQ(std::system(command.c_str()), 0);
+        return image;
     }
 
     int count = 0;
@@ -56,15 +69,59 @@ TEST_F(DrivesLinuxTest, OpticalDrivesComeAndGoWithTheirDiscs)
         EXPECT_EQ(question, "org.freedesktop.DBus.ObjectManager.GetManagedObjects");
 }
 
-TEST_F(DrivesLinuxTest, TheVideoFolderIsFoundWhereADiscIsMounted)
+TEST_F(DrivesLinuxTest, TheVideoFolderIsFoundOnTheDeviceOrWhereItIsMounted)
 {
-    std::filesystem::create_directories(files / "mounted/video_ts");
-    for (const auto* const name : { "mounted", "gone" }) {
-        service.AddDrive(files / "missing.iso");
-        service.InsertDisc(files / "missing.iso", "X", { FileName(files / name) });
-        const auto* const found = name == std::string("mounted") ? "=X video" : "=X";
-        EXPECT_THAT(Found(), ElementsAre((files / "missing.iso") + found));
+    const auto movie = Image("movie", "VIDEO_TS");
+    const auto data = Image("data", "PHOTOS");
+    const auto mounted = files / "mounted";
+    std::filesystem::create_directories(mounted + "/video_ts");
+    for (const auto& device : { movie, data, files / "missing.iso" }) {
+        service.AddDrive(device);
+        service.InsertDisc(device, "X");
     }
+    EXPECT_THAT(Found(), ElementsAre(data + "=X", movie + "=X video", (files / "missing.iso") + "=X"));
+    service.InsertDisc(data, "X", { FileName(mounted) });
+    service.InsertDisc(movie, "X", { FileName(files / "gone") });
+    EXPECT_THAT(Found(), ElementsAre(data + "=X video", movie + "=X", (files / "missing.iso") + "=X"));
+}
+
+TEST_F(DrivesLinuxTest, ADiscIsReadOnceAndTheNextOneIsAnother)
+{
+    const auto movie = Image("movie", "VIDEO_TS");
+    service.AddDrive(movie);
+    service.InsertDisc(movie, "X");
+    const auto first = Find();
+    std::filesystem::remove(movie); // whoever reads it again finds nothing
+    const auto again = Find();
+    ASSERT_EQ(again.size(), 1U);
+    EXPECT_TRUE(again[0].hasVideoFolder);
+    EXPECT_EQ(again[0].disc, first[0].disc);
+    service.InsertDisc(movie, "X");
+    EXPECT_NE(Find()[0].disc, first[0].disc);
+    EXPECT_FALSE(Find()[0].hasVideoFolder);
+}
+
+TEST_F(DrivesLinuxTest, ADriveThatAnswersLateIsWaitedForOnlyWithinPatience)
+{
+    service.answersAtOnce = false;
+    service.AddDrive("/dev/sr0");
+    auto late = std::async(std::launch::async, [&] { return drives.Find(); });
+    while (service.asked.empty())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    EXPECT_EQ(late.wait_for(0s), std::future_status::timeout);
+    service.Answer();
+    while (late.wait_for(0s) != std::future_status::ready)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    EXPECT_EQ(late.get().size(), 1U);
+    EXPECT_TRUE(DiskServiceDrives(bus.Address(), 50ms).Find().empty());
+}
+
+TEST_F(DrivesLinuxTest, WithoutABusOrAServiceThereAreNoDrives)
+{
+    EXPECT_TRUE(DiskServiceDrives("unix:path=" + (files / "nobody"), 10s).Find().empty());
+    EXPECT_TRUE(DiskServiceDrives("nonsense:", 10s).Find().empty());
+    const PrivateBus empty;
+    EXPECT_TRUE(DiskServiceDrives(empty.Address(), 10s).Find().empty());
 }
 
 } // namespace

@@ -1,9 +1,10 @@
 #include "platform/MprisRules.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 using namespace zentaro::platform;
 using namespace std::chrono_literals;
+using testing::ElementsAre;
 
 namespace {
 
@@ -16,6 +17,14 @@ MediaStatus PlayingStatus()
     status.position = 10'000;
     status.readAt = std::chrono::steady_clock::time_point(1h);
     return status;
+}
+
+MediaTracks Tracks(const std::vector<std::uint64_t>& ids)
+{
+    std::vector<MediaTrack> tracks;
+    for (const auto id : ids)
+        tracks.push_back({ id, {}, {} });
+    return std::make_shared<const std::vector<MediaTrack>>(std::move(tracks));
 }
 
 } // namespace
@@ -50,4 +59,16 @@ TEST(MprisRules, the_position_runs_on_between_two_readings_and_a_jump_is_what_pl
     now.track.id = 8;
     now.position = 0;
     EXPECT_FALSE(HasJumped(before, now));
+}
+
+TEST(MprisRules, a_few_tracks_come_and_go_one_by_one_and_many_as_a_new_list)
+{
+    auto change = ChangeOfTracks(Tracks({ 1, 2, 3 }), Tracks({ 1, 3, 4 }));
+    EXPECT_FALSE(change.replaced);
+    EXPECT_THAT(change.removed, ElementsAre(2));
+    EXPECT_EQ(change.addedFrom, 2U);
+    change = ChangeOfTracks(nullptr, Tracks({ 1, 2, 3, 4, 5, 6, 7, 8, 9 }));
+    EXPECT_TRUE(change.replaced);
+    change = ChangeOfTracks(Tracks({ 1 }), nullptr);
+    EXPECT_THAT(change.removed, ElementsAre(1));
 }

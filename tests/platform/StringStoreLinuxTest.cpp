@@ -41,6 +41,27 @@ TEST_F(StoreOfFiles, gives_back_every_text_byte_by_byte)
     EXPECT_EQ(Read("0"), "\xEF\xBF\xBD");
 }
 
+TEST_F(StoreOfFiles, keeps_keys_names_and_roots_apart)
+{
+    ASSERT_TRUE(Write("", "own value", "A"));
+    ASSERT_TRUE(Write("B", "value", "A"));
+    ASSERT_TRUE(Write("", "key below", "A\\B"));
+    ASSERT_TRUE(Write("x", "in General", "General"));
+    ASSERT_TRUE(Write("x", "no key", ""));
+    ASSERT_TRUE(store->Write(Root::ClassesRoot, "A", "B", "other root"));
+    EXPECT_EQ(Read("", "A"), "own value");
+    EXPECT_EQ(Read("", "A\\B"), "key below");
+    EXPECT_EQ(Read("x", "General"), "in General");
+    EXPECT_EQ(Read("x", ""), "no key");
+
+    EXPECT_TRUE(store->Delete(Root::CurrentUser, "A", "B"));
+    EXPECT_TRUE(store->Delete(Root::CurrentUser, "A", "B"));
+    EXPECT_TRUE(store->Delete(Root::CurrentUser, "missing", "B"));
+    EXPECT_EQ(Read("B", "A"), "-1");
+    EXPECT_EQ(Read("", "A\\B"), "key below");
+    EXPECT_EQ(store->Read(Root::ClassesRoot, "A", "B", ""), "other root");
+}
+
 TEST_F(StoreOfFiles, shows_at_once_what_another_process_has_written)
 {
     // All of one size and within one tick of the clock.
@@ -94,6 +115,19 @@ TEST_F(StoreOfFiles, says_so_when_it_cannot_write)
     EXPECT_TRUE(store->Delete(Root::CurrentUser, "Software\\Test", "name"));
     std::filesystem::remove(path);
     ASSERT_TRUE(Write("name", "text"));
+    if (geteuid() == 0)
+        GTEST_SKIP() << "every file is writable to the administrator";
+    std::filesystem::permissions(path, std::filesystem::perms::owner_read);
+    EXPECT_FALSE(Write("name", "other"));
+    EXPECT_FALSE(store->Delete(Root::CurrentUser, "Software\\Test", "name"));
+    EXPECT_EQ(Read("name"), "text");
+    std::filesystem::permissions(path, std::filesystem::perms::owner_write, std::filesystem::perm_options::add);
+    const auto parent = std::filesystem::path(path).parent_path();
+    std::filesystem::permissions(parent, std::filesystem::perms::owner_write, std::filesystem::perm_options::remove);
+    EXPECT_FALSE(Write("name", "other"));
+    EXPECT_EQ(Read("name"), "text");
+    std::filesystem::permissions(parent, std::filesystem::perms::owner_all);
+    EXPECT_TRUE(Write("name", "other"));
 }
 
 TEST_F(StoreOfFiles, a_batch_is_written_whole_or_not_at_all)
@@ -116,6 +150,14 @@ TEST_F(StoreOfFiles, a_batch_is_written_whole_or_not_at_all)
         EXPECT_EQ(Read("new", "A") + Read("old", "A") + others->Read(Root::ClassesRoot, ".avi", "", ""), expected);
         EXPECT_EQ(Read("", "A\\old"), "below");
     }
+}
+
+TEST_F(StoreOfFiles, a_file_that_a_person_has_edited_is_understood)
+{
+    ASSERT_TRUE(Write("x", "y"));
+    ASSERT_TRUE(ReplaceTextFile(path, "[Software]\nTest\\list=/clips/a, b.avi\nTest\\number=42\n"));
+    EXPECT_EQ(Read("list"), "/clips/a, b.avi");
+    EXPECT_EQ(Read("number"), "42");
 }
 
 } // namespace

@@ -73,6 +73,63 @@ Help About 0 "&About" 0 0 -EV
 Help HelpTopics 0 "&Help Topics" 0 112 -EV
 )";
 
+// parent, control, caption; an empty caption is a separator's or a slot's
+constexpr const char* kClassicMenus = R"(
+ mnuFileMenu "&File"
+mnuFileMenu mnuOpenMenu "&Open"
+mnuOpenMenu mnuOpenFile "Open Video File..."
+mnuOpenMenu mnuOpenDVD "Open DVD"
+mnuOpenDVD dvdsList "<No DVD drives were found>" off
+mnuFileMenu mnuRecentMenu "&Recently Played files"
+mnuRecentMenu mnuRecent "<No History>" off
+mnuFileMenu SepFile1 ""
+mnuFileMenu mnuExit "E&xit"
+ mnuPlayBackMenu "&Play"
+mnuPlayBackMenu mnuplay "Play/Pause"
+mnuPlayBackMenu mnustop "Stop"
+mnuPlayBackMenu sepplay1 ""
+mnuPlayBackMenu mnuPlayModeMenu "Play Mode"
+mnuPlayModeMenu mnuPBNormal "&Normal"
+mnuPlayModeMenu mnuPBCont "&Continuous"
+mnuPlayModeMenu mnuPBShuffle "&Shuffle"
+mnuPlayBackMenu mnuRepeatMode "Repeat Mode"
+mnuRepeatMode mnuRMNoRepeat "&No Repeat"
+mnuRepeatMode mnuRMSingleRepeat "&Single Repeat"
+mnuRepeatMode mnuRMRepeatAll "&Repeat All"
+mnuPlayBackMenu sepplay2 ""
+mnuPlayBackMenu mnufullscreen "Full Screen"
+mnuPlayBackMenu sepplay3 ""
+mnuPlayBackMenu mnuincspeed "Increase Speed~Ctrl+Up"
+mnuPlayBackMenu mnudecSpeed "Decrease Speed~Ctrl+Down"
+mnuPlayBackMenu mnuresSpeed "Reset Speed"
+mnuPlayBackMenu plsep4 ""
+mnuPlayBackMenu mnuAfterMenu "After playing finish"
+mnuAfterMenu mnuAfterPlaying "Do nothing"
+mnuAfterMenu mnuAfterPlaying1 "Exit Zentaro"
+mnuAfterMenu mnuAfterPlaying2 "Restart the Computer"
+mnuAfterMenu mnuAfterPlaying3 "Shutdown the Computer"
+ mnuPlayListmenu "Play &List"
+mnuPlayListmenu mnuPlayListAdd "Add Media File(s)..."
+mnuPlayListmenu mnuPlayListRemove "Remove"
+mnuPlayListmenu mnuPlayListRemoveAll "Remove All"
+mnuPlayListmenu plsep ""
+mnuPlayListmenu mnuNext "Next~PgDown"
+mnuPlayListmenu mnuPrev "Previous~PgUp"
+ mnuToolsMenu "&Tools"
+mnuToolsMenu mnuSettings "&Options..."
+ mnuHelpMenu "&Help"
+mnuHelpMenu mnuAbout "&About"
+mnuHelpMenu mnuHelp "Help Topics"
+)";
+
+std::string BlanksAsTilde(std::string caption)
+{
+    const auto first = caption.find("    ");
+    if (first != std::string::npos)
+        caption.replace(first, caption.find_first_not_of(' ', first) - first, "~");
+    return caption;
+}
+
 } // namespace
 
 TEST(CommandTree, holds_every_item_in_its_place)
@@ -99,6 +156,19 @@ TEST(CommandTree, changes_are_told_by_key_and_unknown_keys_change_nothing)
     for (const auto* const unknown : { "", "stop", "DVDList", "History" })
         tree.SetCaption(unknown, "no");
     EXPECT_EQ(told, "Stop PMNormal PMShuffle ");
+}
+
+TEST(ClassicTree, holds_every_menu_in_its_place)
+{
+    std::ostringstream text("\n", std::ios::ate);
+    const ClassicTree tree;
+    for (const auto& item : tree.Items()) {
+        if (!item.visible)
+            continue;
+        text << item.parent << ' ' << item.name << (item.index > 0 ? std::to_string(item.index) : "") << " \""
+             << BlanksAsTilde(item.caption) << '"' << (item.enabled ? "" : " off") << '\n';
+    }
+    EXPECT_EQ(text.str(), kClassicMenus);
 }
 
 TEST(ClassicTree, control_arrays_grow_and_shrink_in_their_place)

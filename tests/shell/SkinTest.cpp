@@ -1,9 +1,12 @@
 #include "shell/Skin.h"
 #include "shell/QtText.h"
+#include "shell/SeekTrack.h"
+#include "shell/VolumeKnob.h"
 #include "tests/shell/SkinTable.h"
 
+#include <QAccessible>
+#include <QApplication>
 #include <QDir>
-#include <QGuiApplication>
 #include <QPainter>
 #include <QTemporaryDir>
 
@@ -105,6 +108,25 @@ TEST(Skin, every_pixel_belongs_to_the_image_that_lies_on_top)
     }
 }
 
+TEST(Skin, a_fade_begins_and_ends_with_the_pictures_themselves)
+{
+    const FlatSkin flat;
+    Skin skin;
+    ASSERT_TRUE(skin.Load(flat.folder));
+    auto buttons = MixedButtons();
+    buttons.StateOf(Button::Play) = ButtonState::Over;
+    const auto shot = [&](double share) {
+        buttons.FadeOf(Button::Play) = { ButtonState::Press, share };
+        return PaintedWindow(skin, kTestSizes[0], buttons).pixelColor(200, 450);
+    };
+    const QColor from = flat.Color(ButtonImage(Button::Play, ButtonState::Press));
+    const QColor to = flat.Color(ButtonImage(Button::Play, ButtonState::Over));
+    EXPECT_EQ(shot(0), from);
+    EXPECT_EQ(shot(1), to);
+    EXPECT_NEAR(shot(0.5).green(), (from.green() + to.green()) / 2, 1);
+    EXPECT_NEAR(shot(0.5).blue(), (from.blue() + to.blue()) / 2, 1);
+}
+
 TEST(Skin, neighbours_meet_without_a_gap_at_a_broken_scale_factor)
 {
     const FlatSkin flat;
@@ -121,6 +143,18 @@ TEST(Skin, neighbours_meet_without_a_gap_at_a_broken_scale_factor)
                 ASSERT_TRUE(known.contains(shot.pixel(x, y))) << x << ',' << y << " at " << scale;
         }
     }
+}
+
+TEST(Skin, a_rectangle_without_area_draws_nothing_and_comes_back)
+{
+    const FlatSkin flat;
+    Skin skin;
+    ASSERT_TRUE(skin.Load(flat.folder));
+    const auto shot = Painted(20, 20, 1, [&](QPainter& painter) {
+        for (const Rect& rect : { Rect{ 9, 9, -5, 4 }, Rect{ 9, 9, 4, -5 }, Rect{ 9, 9, 0, 4 } })
+            EXPECT_EQ(skin.Draw(painter, SkinImage::TitleBar, rect), rect);
+    });
+    EXPECT_EQ(shot, flat.Expected({}, 20, 20));
 }
 
 TEST(Skin, the_first_bad_file_ends_the_load_and_the_rest_draws_nothing)
@@ -149,13 +183,40 @@ TEST(Skin, the_first_bad_file_ends_the_load_and_the_rest_draws_nothing)
     }
 }
 
+TEST(Sliders, are_sliders_to_a_screen_reader)
+{
+    SeekBar bar;
+    SeekTrack track(bar, nullptr);
+    track.resize(200, 16);
+    bar.SetTrackWidth(200);
+    bar.SetProgress(40);
+    VolumeSlider slider;
+    VolumeKnob knob(slider, nullptr);
+    double position = -1;
+    int volume = -1;
+    QObject::connect(&track, &SeekTrack::PositionChosen, [&](double chosen) { position = chosen; });
+    QObject::connect(&knob, &VolumeKnob::VolumeChosen, [&](int chosen) { volume = chosen; });
+
+    auto* const face = QAccessible::queryAccessibleInterface(&track);
+    EXPECT_EQ(face->role(), QAccessible::Slider);
+    EXPECT_EQ(face->valueInterface()->currentValue(), 40);
+    face->valueInterface()->setCurrentValue(75);
+    EXPECT_EQ(position, -1); // nothing is loaded
+    track.SetItem(true, 1000);
+    face->valueInterface()->setCurrentValue(75);
+    EXPECT_EQ(position, 0.75);
+    QAccessible::queryAccessibleInterface(&knob)->valueInterface()->setCurrentValue(30);
+    EXPECT_EQ(volume, 30);
+    EXPECT_EQ(slider.Volume(), 30);
+}
+
 } // namespace
 } // namespace zentaro
 
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
+    const QApplication application(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -1,4 +1,5 @@
 #include "shell/WindowLayout.h"
+#include "shell/Caption.h"
 #include "shell/SkinPasses.h"
 
 #include <gtest/gtest.h>
@@ -7,6 +8,20 @@
 #include <vector>
 
 using namespace zentaro;
+using Edges = WindowLayout::Edges;
+
+TEST(WindowLayout, edges_and_corners_take_hold_and_the_inside_does_not)
+{
+    const WindowLayout layout(400, 300);
+    EXPECT_EQ(layout.EdgesAt(0, 150), (Edges{ true, false, false, false }));
+    EXPECT_EQ(layout.EdgesAt(200, 7), (Edges{ false, true, false, false }));
+    EXPECT_EQ(layout.EdgesAt(399, 299), (Edges{ false, false, true, true }));
+    EXPECT_EQ(layout.EdgesAt(3, 12), (Edges{ true, true, false, false }));
+    EXPECT_EQ(layout.EdgesAt(390, 2), (Edges{ false, true, true, false }));
+    EXPECT_FALSE(layout.EdgesAt(8, 150).Any());
+    EXPECT_FALSE(layout.EdgesAt(-1, 150).Any());
+    EXPECT_FALSE(layout.EdgesAt(400, 150).Any());
+}
 
 TEST(WindowLayout, a_window_off_every_screen_comes_back_and_one_that_shows_stays)
 {
@@ -46,16 +61,9 @@ TEST(BarLayout, the_controls_keep_apart_on_the_narrowest_screen)
     }
 }
 
-TEST(SkinPasses, keep_what_takes_the_pointer_where_they_drew_it_last)
+TEST(Caption, follows_the_title_bar_mode)
 {
-    SkinRects rects;
-    PaintPass(388, 515, {}, rects);
-    PaintPass(800, 600, {}, rects);
-    EXPECT_EQ(rects.Of(Button::Play), (Rect{ 366, 513, 69, 83 }));
-    EXPECT_EQ(rects.Of(Button::Close), (Rect{ 770, 1, 23, 24 }));
-    EXPECT_EQ(rects.Of(Button::PushButton), Rect());
-    EXPECT_EQ(rects.titleBar, Rect());
-    BackgroundPass(800, 600, rects);
-    EXPECT_EQ(rects.titleBar, (Rect{ 0, 0, 800, 31 }));
-    EXPECT_EQ(rects.menuButtons[2], (Rect{ 106, 28, 43, 23 }));
+    EXPECT_EQ(CaptionText({ 0, "a.avi", "/clips/a.avi" }), "Zentaro - (a.avi)");
+    EXPECT_EQ(CaptionText({ 1, "a.avi", "/clips/a.avi" }), "Zentaro - (/clips/a.avi)");
+    EXPECT_EQ(CaptionText({ 2, "a.avi", "/clips/a.avi" }), "Zentaro");
 }

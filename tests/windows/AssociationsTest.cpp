@@ -51,6 +51,16 @@ TEST_F(RealAssociations, are_taken_and_released_where_a_shell_looks_for_them)
     EXPECT_EQ(Raw(HKEY_CURRENT_USER, kFileExts, "OldProgID"), "");
 }
 
+TEST_F(RealAssociations, the_short_path_is_this_program_without_blanks)
+{
+    EXPECT_EQ(program.find(' '), std::string::npos);
+    char path[MAX_PATH] = {};
+    GetModuleFileNameA(nullptr, path, MAX_PATH);
+    char longPath[MAX_PATH] = {};
+    GetLongPathNameA(program.c_str(), longPath, MAX_PATH);
+    EXPECT_STRCASEEQ(longPath, path);
+}
+
 TEST(IconsOfPrograms, are_drawn_with_what_they_let_through)
 {
     const auto icon = platform::IconInFile("%SystemRoot%\\system32\\shell32.dll", 0);
@@ -63,6 +73,7 @@ TEST(IconsOfPrograms, are_drawn_with_what_they_let_through)
     }
     EXPECT_TRUE(hasClear && hasSolid);
     EXPECT_FALSE(platform::IconInFile("C:\\missing.dll", 0));
+    EXPECT_FALSE(platform::IconInFile("%SystemRoot%\\system32\\shell32.dll", -1));
     EXPECT_FALSE(platform::IconInFile("%SystemRoot%\\system32\\kernel32.dll", 0));
 }
 

@@ -71,5 +71,10 @@ TEST(FoldersOnWindows, an_absolute_path_has_a_drive_or_a_server)
         EXPECT_FALSE(IsAbsolutePath(path)) << path;
 }
 
+TEST(Manifest, makes_utf8_the_code_page)
+{
+    EXPECT_EQ(GetACP(), UINT{ CP_UTF8 });
+}
+
 } // namespace
 } // namespace zentaro::platform

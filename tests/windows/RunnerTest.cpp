@@ -3,11 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstdio>
 #include <fcntl.h>
 #include <fstream>
 #include <io.h>
 #include <iterator>
+#include <thread>
 
 using namespace zentaro;
 namespace fs = std::filesystem;
@@ -25,6 +27,11 @@ int Child(const std::string& role, const std::vector<std::string>& arguments)
             std::printf("[%s]", argument.c_str());
         std::fflush(stdout);
         std::fprintf(stderr, "end\n");
+    } else if (role == "priority") {
+        ::Sleep(std::stoul(arguments.at(0)));
+        std::printf("%lu", ::GetPriorityClass(::GetCurrentProcess()));
+    } else if (role == "folder") {
+        std::printf("%s", fs::current_path().string().c_str());
     } else if (role == "fill") {
         std::printf("%s", std::string(20'000, 'x').c_str());
     } else if (role == "forever") {
@@ -58,15 +65,17 @@ protected:
     }
     ~WindowsRunner() override { fs::remove_all(m_folder); }
 
-    Result<void> Run(const std::vector<std::string>& arguments)
+    Result<void> Run(
+        const std::vector<std::string>& arguments, std::int32_t priority = 2, const std::string& workDir = "")
     {
         ToolCommand command{ g_self, { "--child" }, "text" };
         command.arguments.insert(command.arguments.end(), arguments.begin(), arguments.end());
-        return ExecuteAndCapture(command, Log(), 0, false, 2, "", context);
+        return ExecuteAndCapture(command, Log(), 0, false, priority, workDir, context);
     }
-    std::string Printed(const std::vector<std::string>& arguments)
+    std::string Printed(
+        const std::vector<std::string>& arguments, std::int32_t priority = 2, const std::string& workDir = "")
     {
-        const auto result = Run(arguments);
+        const auto result = Run(arguments, priority, workDir);
         EXPECT_TRUE(result) << result.error().text;
         const auto log = Content("log");
         EXPECT_EQ(log.substr(0, 6), "text\r\n");
@@ -108,6 +117,31 @@ TEST_F(WindowsRunner, arguments_arrive_unchanged_and_both_streams_are_captured)
     EXPECT_EQ(Printed({ "fill" }), std::string(20'000, 'x')) << "more than the pipe holds";
 }
 
+TEST_F(WindowsRunner, the_child_works_in_the_given_or_in_the_current_folder)
+{
+    EXPECT_EQ(Printed({ "folder" }, 2, m_folder.string()), m_folder.string());
+    EXPECT_EQ(Printed({ "folder" }), fs::current_path().string());
+}
+
+TEST_F(WindowsRunner, a_running_tool_takes_a_pending_priority_class)
+{
+    EXPECT_EQ(Printed({ "priority", "0" }), std::to_string(NORMAL_PRIORITY_CLASS));
+    context.pumpMessages = [&, first = true]() mutable {
+        if (std::exchange(first, false))
+            context.PendingPriorityClass = platform::kBelowNormalPriority;
+    };
+    EXPECT_EQ(Printed({ "priority", "300" }), std::to_string(BELOW_NORMAL_PRIORITY_CLASS));
+}
+
+TEST_F(WindowsRunner, a_missing_program_is_error_2003)
+{
+    const auto result = ExecuteAndCapture({ "C:\\no\\such.exe", {}, "t" }, Log(), 0, false, 2, "", context);
+    ASSERT_FALSE(result);
+    EXPECT_EQ(result.error().number, 2003);
+    EXPECT_EQ(result.error().text.substr(0, 41), "Could not create piped process. LastError");
+    EXPECT_FALSE(fs::exists(Log()));
+}
+
 TEST_F(WindowsRunner, a_silent_tool_can_be_cancelled_and_leaves_what_it_printed)
 {
     int pumps = 0;
@@ -129,6 +163,25 @@ TEST_F(WindowsRunner, a_shell_run_completes_a_bare_name_waits_and_can_be_cancell
     ToolCommand forever{ g_self, { "--child", "forever" }, "" };
     EXPECT_TRUE(ShellExecuteAndWait(forever, 0, true, true, context));
     EXPECT_EQ(pumps, 5);
+
+    // The system tells about a missing program in a box, and waits until somebody closes it.
+    const std::jthread user([](const std::stop_token& stop) {
+        for (; !stop.stop_requested(); ::Sleep(20))
+            if (auto* const box = ::FindWindowA("#32770", nullptr))
+                ::PostMessageA(box, WM_COMMAND, IDOK, 0);
+    });
+    ToolCommand missing{ "zentaro-no-such-tool", {}, "" };
+    EXPECT_FALSE(ShellExecuteAndWait(missing, 0, true, true, context));
+    EXPECT_EQ(missing.program, context.programFolder + "\\zentaro-no-such-tool");
+}
+
+TEST_F(WindowsRunner, a_tool_is_taken_from_the_program_folder_before_the_search_path)
+{
+    const auto inPath = FindTool("cmd", m_folder.string());
+    EXPECT_TRUE(fs::path(inPath).is_absolute()) << inPath;
+    std::ofstream(m_folder / "cmd.exe") << "x";
+    EXPECT_EQ(FindTool("cmd", m_folder.string()), (m_folder / "cmd.exe").string());
+    EXPECT_EQ(FindTool("c:cmd.exe", m_folder.string()), "c:cmd.exe");
 }
 
 int main(int argc, char** argv)
