@@ -5,10 +5,12 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
+#include <QDBusServiceWatcher>
 #include <QDBusVirtualObject>
 
 #include <gmock/gmock.h>
 
+#include <functional>
 #include <memory>
 
 namespace zentaro::platform {
@@ -16,22 +18,27 @@ namespace {
 
 using namespace std::chrono_literals;
 using testing::ElementsAre;
+using testing::UnorderedElementsAre;
 
 /// A session with the services of these names, which note what they are asked.
 class Session : public QDBusVirtualObject {
 public:
     Session(const std::string& address, const std::vector<const char*>& services)
         : m_bus(QDBusConnection::connectToBus(QString::fromStdString(address), "session"))
+        , m_watcher(QString(), m_bus, QDBusServiceWatcher::WatchForUnregistration)
     {
         EXPECT_TRUE(m_bus.registerVirtualObject("/", this, QDBusConnection::SubPath));
         for (const auto* const service : services)
             EXPECT_TRUE(m_bus.registerService(service));
+        QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceUnregistered, [this] { asked.push_back("gone"); });
     }
     ~Session() override { QDBusConnection::disconnectFromBus("session"); }
 
     QString introspect(const QString&) const override { return {}; }
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override
     {
+        if (!message.member().endsWith("nhibit") && message.member() != "Close")
+            return false;
         const bool isPortal = message.interface().contains("portal");
         auto text = message.interface() + "." + message.member();
         if (message.member() == "UnInhibit")
@@ -41,6 +48,7 @@ public:
         else if (isPortal)
             text += " " + message.arguments().at(1).toString();
         asked.push_back(text.mid(QString("org.freedesktop.").size()).toStdString());
+        m_watcher.addWatchedService(message.service());
         m_last = isPortal ? message.createReply(QVariant::fromValue(QDBusObjectPath("/request/7")))
                           : message.createReply(QVariant::fromValue(message.member() == "Inhibit" ? ++m_cookie : 0));
         if (answersAtOnce)
@@ -54,6 +62,7 @@ public:
 
 private:
     QDBusConnection m_bus;
+    QDBusServiceWatcher m_watcher;
     QDBusMessage m_last;
     quint32 m_cookie = 40;
 };
@@ -73,6 +82,27 @@ protected:
     QCoreApplication application{ count, nullptr };
     PrivateBus bus;
 };
+
+TEST_F(SleepInhibitorLinuxTest, ScreenSaverAndSleepAreHeldOffOnceAndReleasedOnce)
+{
+    Session session(bus.Address(), { "org.freedesktop.ScreenSaver", "org.freedesktop.PowerManagement" });
+    {
+        SessionSleepInhibitor inhibitor(bus.Address());
+        inhibitor.Hold(false);
+        inhibitor.Hold(true);
+        inhibitor.Hold(true);
+        EXPECT_THAT(Asked(session, 2), UnorderedElementsAre("ScreenSaver.Inhibit", "PowerManagement.Inhibit.Inhibit"));
+        inhibitor.Hold(false);
+        EXPECT_THAT(Asked(session, 2),
+            UnorderedElementsAre("ScreenSaver.UnInhibit 41", "PowerManagement.Inhibit.UnInhibit 42"));
+        inhibitor.Hold(true);
+        EXPECT_EQ(Asked(session, 2).size(), 2U);
+        std::this_thread::sleep_for(100ms); // the answers are on their way
+    }
+    // What is held at the end is given back, and the bus left.
+    EXPECT_THAT(
+        Asked(session, 3), ElementsAre("ScreenSaver.UnInhibit 43", "PowerManagement.Inhibit.UnInhibit 44", "gone"));
+}
 
 TEST_F(SleepInhibitorLinuxTest, WithoutAScreenSaverServiceThePortalIsAsked)
 {
@@ -105,6 +135,10 @@ TEST_F(SleepInhibitorLinuxTest, ABusAndAServiceThatComeLaterAreAskedWhileItIsSti
     EXPECT_THAT(Asked(*session, 1), ElementsAre("ScreenSaver.Inhibit"));
     session.reset();
     // The service has been started anew and knows nothing any more.
+    session = std::make_unique<Session>(bus.Address(), std::vector{ "org.freedesktop.ScreenSaver" });
+    EXPECT_THAT(Asked(*session, 1), ElementsAre("ScreenSaver.Inhibit"));
+    session.reset();
+    bus.Restart();
     session = std::make_unique<Session>(bus.Address(), std::vector{ "org.freedesktop.ScreenSaver" });
     EXPECT_THAT(Asked(*session, 1), ElementsAre("ScreenSaver.Inhibit"));
 }
