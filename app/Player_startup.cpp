@@ -117,7 +117,7 @@ void Player::Unload()
         ApplyAssociations();
     IgnoreFailure(WriteConfigurations());
     m_world.holdOffSleep(false);
-    m_host.RemoveVLCPlayer();
+    // The engine goes with the process: stopping it first would make the end wait for its threads.
     m_world.screen.SetTrayShown(false);
     m_ends.reset();
     m_world.endProcess();
