@@ -1,7 +1,5 @@
 #include "app/History.h"
 
-#include <algorithm>
-
 namespace zentaro {
 
 namespace {
@@ -13,10 +11,9 @@ constexpr int kFull = 10; // entries, from which on they shift
 
 } // namespace
 
-History::History(platform::StringStore& store, CommandTree& commands, ClassicTree& classic)
+History::History(platform::StringStore& store, Menus& menus)
     : m_store(store)
-    , m_commands(commands)
-    , m_classic(classic)
+    , m_menus(menus)
 {
 }
 
@@ -38,9 +35,11 @@ void History::LoadHistory()
 void History::AddToHistory(const std::string& path, const std::string& title)
 {
     const int count = CountHistory();
-    if (std::ranges::find(m_paths, path) != m_paths.end())
-        return;
-    const bool isEmpty = m_commands.Find(HistoryKey(0))->caption == kNoHistory;
+    for (int slot = 0; slot < kHistorySlots; ++slot) {
+        if (PathAt(slot) == path)
+            return;
+    }
+    const bool isEmpty = TitleAt(0) == kNoHistory;
     if (!isEmpty && count >= kFull) {
         ShiftDown(path, title);
         return;
@@ -53,7 +52,7 @@ void History::AddToHistory(const std::string& path, const std::string& title)
 void History::ShiftDown(const std::string& path, const std::string& title)
 {
     for (int slot = 0; slot < kFull; ++slot) {
-        Fill(slot, m_classic.Find("mnuRecent", slot + 1)->caption, PathAt(slot + 1));
+        Fill(slot, m_menus.frmMenu.Find("mnuRecent", slot + 1)->caption, PathAt(slot + 1));
         // The new file's name into every value, on purpose: the next start shows the first file and nine times this
         // one.
         Write(slot + 1, path, title);
@@ -64,14 +63,16 @@ void History::ShiftDown(const std::string& path, const std::string& title)
 void History::Fill(int slot, const std::string& caption, const std::string& path)
 {
     const auto key = HistoryKey(slot);
-    m_paths[static_cast<std::size_t>(slot)] = path;
-    m_commands.SetCaption(key, caption);
-    m_commands.SetEnabled(key, true);
-    m_commands.SetVisible(key, !caption.empty());
-    m_classic.SetCaption("mnuRecent", slot, caption);
-    m_classic.SetTag("mnuRecent", slot, path);
-    m_classic.SetEnabled("mnuRecent", slot, true);
-    m_classic.SetVisible("mnuRecent", slot, !caption.empty());
+    auto& commands = m_menus.SmartMenuXP1;
+    commands.SetCaption(key, caption);
+    commands.SetTag(key, path);
+    commands.SetEnabled(key, true);
+    commands.SetVisible(key, !caption.empty());
+    auto& classic = m_menus.frmMenu;
+    classic.SetCaption("mnuRecent", slot, caption);
+    classic.SetTag("mnuRecent", slot, path);
+    classic.SetEnabled("mnuRecent", slot, true);
+    classic.SetVisible("mnuRecent", slot, !caption.empty());
 }
 
 std::string History::Read(const char* key, int slot)

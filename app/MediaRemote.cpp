@@ -47,8 +47,8 @@ MediaRemote::MediaRemote(Player& player, Window window)
 
 MediaPlayback MediaRemote::Playback() const
 {
-    auto* const engine = m_player.Host().VLCPlayer();
-    if (engine == nullptr || !m_player.MediaControlsEnabled())
+    auto* const engine = m_player.Transporting().Host().VLCPlayer();
+    if (engine == nullptr || !m_player.State().mediaControlsEnabled)
         return MediaPlayback::Stopped;
     return engine->State() == Engine::kPaused ? MediaPlayback::Paused : MediaPlayback::Playing;
 }
@@ -64,14 +64,14 @@ platform::MediaStatus MediaRemote::Status()
     status.playback = Playback();
     status.loop = LoopOf(settings.RepeatMode);
     status.shuffle = settings.PlayMode == kPlayShuffle;
-    status.volume = m_player.Host().Volume() / 100.0;
+    status.volume = m_player.Transporting().Host().Volume() / 100.0;
     status.fullScreen = m_window.isFullScreen();
     status.track = m_track;
     status.artwork = m_artwork;
     status.tracks = m_tracks;
     status.readAt = std::chrono::steady_clock::now();
     if (status.playback != MediaPlayback::Stopped) {
-        auto& engine = *m_player.Host().VLCPlayer();
+        auto& engine = *m_player.Transporting().Host().VLCPlayer();
         status.rate = engine.Rate();
         status.length = std::max(engine.Length(), 0.0);
         status.position = std::max(engine.Time(), 0.0);
@@ -113,9 +113,9 @@ void MediaRemote::Do(const MediaCommand& command)
     case MediaCommand::Kind::Play:
         return Play();
     case MediaCommand::Kind::Pause:
-        return Playback() == MediaPlayback::Playing ? m_player.CMDPauseClick() : void();
+        return Playback() == MediaPlayback::Playing ? m_player.Transporting().CMDPauseClick() : void();
     case MediaCommand::Kind::PlayPause:
-        return Playback() == MediaPlayback::Playing ? m_player.CMDPauseClick() : Play();
+        return Playback() == MediaPlayback::Playing ? m_player.Transporting().CMDPauseClick() : Play();
     case MediaCommand::Kind::Stop:
         return Playback() != MediaPlayback::Stopped ? m_player.RunCommand("Stop") : void();
     case MediaCommand::Kind::Next:
@@ -129,7 +129,7 @@ void MediaRemote::Do(const MediaCommand& command)
     case MediaCommand::Kind::SetRate:
         return SetRate(command.number);
     case MediaCommand::Kind::SetVolume:
-        return m_player.SetVolume(RoundHalfEven(std::clamp(command.number, 0.0, 1.0) * 100));
+        return m_player.Transporting().SetVolume(RoundHalfEven(std::clamp(command.number, 0.0, 1.0) * 100));
     case MediaCommand::Kind::SetLoop:
         return m_player.RunCommand(CommandOf(command.loop));
     case MediaCommand::Kind::SetShuffle:
@@ -137,13 +137,13 @@ void MediaRemote::Do(const MediaCommand& command)
     case MediaCommand::Kind::SetFullScreen:
         return SetFullScreen(command.flag);
     case MediaCommand::Kind::OpenFile:
-        return m_player.DropOnVideo({ command.path });
+        return m_player.Files().DropOnVideo({ command.path });
     case MediaCommand::Kind::AddFile:
-        return command.flag ? m_player.DropOnVideo({ command.path }) : m_player.DropOnList({ command.path });
+        return command.flag ? m_player.Files().DropOnVideo({ command.path }) : m_player.Files().DropOnList({ command.path });
     case MediaCommand::Kind::RemoveTrack:
         return track ? RemoveTrack(*track) : void();
     case MediaCommand::Kind::GoToTrack:
-        return track ? m_player.PlayEntry(*track) : void();
+        return track ? m_player.Sequence().PlayEntry(*track) : void();
     case MediaCommand::Kind::Raise:
         return m_window.raise();
     case MediaCommand::Kind::Quit:
@@ -155,19 +155,19 @@ void MediaRemote::Play()
 {
     // Playing from an empty list would ask for files.
     if (Playback() == MediaPlayback::Paused || (Playback() == MediaPlayback::Stopped && m_player.Entries().Count() > 0))
-        m_player.PlayOrPause();
+        m_player.Sequence().PlayOrPause();
 }
 
 void MediaRemote::SeekBy(double milliseconds)
 {
-    auto* const engine = m_player.Host().VLCPlayer();
+    auto* const engine = m_player.Transporting().Host().VLCPlayer();
     if (Playback() == MediaPlayback::Stopped || engine->Length() <= 0)
         return;
     const auto length = engine->Length();
     if (engine->Time() + milliseconds > length)
         m_player.RunCommand("Next");
     else
-        m_player.SeekBy(RoundHalfEven(std::max(milliseconds, -length)));
+        m_player.Transporting().SeekBy(RoundHalfEven(std::max(milliseconds, -length)));
 }
 
 void MediaRemote::SetPosition(std::uint64_t track, double milliseconds)
@@ -175,9 +175,9 @@ void MediaRemote::SetPosition(std::uint64_t track, double milliseconds)
     // A client can speak of the item before.
     if (Playback() == MediaPlayback::Stopped || track == 0 || track != m_track.id)
         return;
-    const auto length = m_player.Host().VLCPlayer()->Length();
+    const auto length = m_player.Transporting().Host().VLCPlayer()->Length();
     if (length > 0 && milliseconds >= 0 && milliseconds <= length)
-        m_player.Seek(milliseconds / length);
+        m_player.Transporting().Seek(milliseconds / length);
 }
 
 void MediaRemote::SetRate(double rate)
@@ -187,10 +187,10 @@ void MediaRemote::SetRate(double rate)
     if (rate < 0 || Playback() == MediaPlayback::Stopped)
         return;
     const auto nearest = std::exp2(std::clamp(std::nearbyint(std::log2(rate)), kSlowest, kFastest));
-    while (m_player.Rate().Value() < nearest)
-        m_player.IncreaseRate();
-    while (m_player.Rate().Value() > nearest)
-        m_player.DecreaseRate();
+    while (m_player.State().chosenRate < nearest)
+        m_player.Transporting().IncreaseRate();
+    while (m_player.State().chosenRate > nearest)
+        m_player.Transporting().DecreaseRate();
 }
 
 void MediaRemote::SetShuffle(bool shuffle)
@@ -205,7 +205,7 @@ void MediaRemote::SetFullScreen(bool fullScreen)
 {
     // Without an item there is nothing to fill the screen with.
     if (!fullScreen || Playback() != MediaPlayback::Stopped)
-        m_player.Host().SetFullScreen(fullScreen);
+        m_player.Transporting().Host().SetFullScreen(fullScreen);
 }
 
 std::optional<int> MediaRemote::IndexOf(std::uint64_t track) const

@@ -1,230 +1,198 @@
 #include "app/Player.h"
 
+#include "app/Commands.h"
+#include "app/Snapshots.h"
 #include "base/Paths.h"
-#include "playlist/DroppedFiles.h"
-#include "playlist/OpenFiles.h"
-#include "shell/Caption.h"
-#include "shell/WindowLayout.h"
 
-#include <limits>
 #include <utility>
 
 namespace zentaro {
 
 namespace {
 
-constexpr int kPumpsAfterPlay = 6; // gives the engine time to open its video window
+using namespace std::chrono_literals;
+
+constexpr const char* kRunningMark = "QuorvaneZentaro";
+constexpr auto kAfterStart = 2s; // then nobody waits for anything any more
 
 } // namespace
 
-std::int16_t ItemNumber(int index)
-{
-    return index <= std::numeric_limits<std::int16_t>::max() ? static_cast<std::int16_t>(index) : std::int16_t{ -1 };
-}
-
 Player::Player(PlayerWorld world)
     : m_world(std::move(world))
-    , m_history(m_world.store, m_commands, m_classic)
-    , m_host(m_world.engines)
-    , m_playlist(m_world.random)
-    , m_adding(m_playlist, m_addingHost, m_world.inspections)
+    , m_settings(m_world.settingsFolder, m_world.separator)
+    , m_transport(
+          m_world.engines, [this](bool fullScreen) { m_face.window->SetFullScreen(fullScreen); }, *this)
+    , m_library(*this, m_world.inspections, m_world.random, m_world.separator)
+    , m_window(m_settings, m_transport, m_library.Entries(), m_face)
+    , m_history(m_world.store, m_menus)
+    , m_discs(m_world.discs, m_settings, m_transport, m_library, m_menus, m_window, m_face)
+    , m_sequencer({ m_settings, m_transport, m_library, m_discs, m_menus, m_history, m_window, m_world.power, m_face })
+    , m_instance(m_world.handOver, m_world.store, m_world.separator)
+    , m_associations(m_world.associations, m_world.store, m_world.separator)
 {
-    m_host.onFullScreen = [this](bool fullScreen) { m_world.screen.SetFullScreen(fullScreen); };
-    if (const auto& types = m_world.associations; types.shell)
-        m_modAssoc.emplace(m_world.store, *types.shell, types.programPath, types.programFolder, m_world.separator);
 }
 
 Player::~Player() = default;
 
-void Player::cmdPlayListClick()
+bool Player::Load(const std::string& commandLine, PlayerFace face)
 {
-    m_world.screen.SetPlaylistPosition(m_world.screen.IsPlaylistVisible() ? PlaylistDock::Hidden : StoredDock());
+    m_face = face;
+    platform::MarkPlayerRunning(kRunningMark);
+    m_world.power.EnableShutdownPrivilege();
+    LoadConfigurations();
+    m_history.LoadHistory();
+    MediaControlsSet(false);
+    m_sequencer.SetPlayMode(Settings().PlayMode);
+    m_sequencer.SetRepeatMode(Settings().RepeatMode);
+    m_sequencer.DoAfter(0);
+    if (!m_instance.BecomePlayer(ReadCommandLine(commandLine, m_world.fileExists), Settings().UseNewPlayer != 0))
+        return false;
+    m_world.engines.Prepare();
+    // The file's inspection is under way while the window comes up.
+    OpenStartupFile();
+    m_window.SetPlaylistPosition(m_settings.StoredDock());
+    m_face.window->ShowWindow();
+    m_instance.Receive([this](const std::string& text, auto done) { ReceiveText(text, std::move(done)); });
+    return true;
 }
 
-void Player::LoadThumb(const std::string& title, const std::string& path, bool playFlag, bool playNow)
+void Player::LoadConfigurations()
 {
-    WaitForFile(m_adding.Add({ { title, path, playFlag, playNow } }));
+    m_settings.LoadConfigurations(m_face.window->Extent());
+    m_window.SetLoadedOptions();
 }
 
-void Player::WaitForFile(int ticket)
+void Player::OpenStartupFile()
 {
-    // A file that is just being taken in waits for us below on the stack.
-    if (!m_adding.IsTaking())
-        m_world.screen.PumpUntil([&] { return !m_adding.IsPending(ticket); });
+    const auto& path = m_instance.Request().StartupArgument;
+    if (!m_world.fileExists(path) || !IsSupportedFile(path, m_world.separator))
+        return StartIsOver();
+    m_library.LoadThumb(FileNamePart(path, m_world.separator), path, Settings().LaunchFullScreen != 0,
+        m_instance.Request().ReplaceOnOpen, [this](AddOutcome) { StartIsOver(); });
 }
 
-void Player::AddFiles(std::vector<AddRequest> requests)
+void Player::StartIsOver()
 {
-    m_adding.Add(std::move(requests));
+    m_starting = false;
+    m_associations.Postpone();
+    m_world.after(kAfterStart, [this] { m_associations.ApplyPostponed(Settings().Associations); });
 }
 
-void Player::InspectionCompleted(int ticket, Inspection inspection)
+void Player::ReceiveText(const std::string& text, platform::HandOverDone done)
 {
-    m_adding.Completed(ticket, std::move(inspection));
+    if (text.empty())
+        return done();
+    m_face.window->FlashCaption();
+    // Whether it plays at once depends on how this player itself was started; the text is opened as it stands.
+    m_library.LoadThumb(FileNamePart(text, m_world.separator), text, Settings().LaunchFullScreen != 0,
+        m_instance.Request().ReplaceOnOpen, [done = std::move(done)](AddOutcome) { done(); });
 }
 
-void Player::OpenFiles(bool addOnly)
+void Player::Unload()
 {
-    bool playNext = !addOnly;
-    for (const auto& answer : m_world.screen.AskForFiles(std::string(kOpenDialogTitle), OpenDialogFilter())) {
-        const auto files = ParseOpenFileResult(answer, m_world.separator);
-        if (!files)
-            continue;
-        AddFiles(AddRequests(*files, m_world.separator, std::exchange(playNext, false)));
-    }
+    m_library.Close();
+    m_associations.ApplyPostponed(Settings().Associations);
+    IgnoreFailure(WriteConfigurations());
+    m_world.holdOffSleep(false);
+    // The engine goes with the process: stopping it first would make the end wait for its threads.
+    m_window.RemoveTrayIcon();
+    m_instance.Close();
+    m_world.endProcess();
 }
 
-void Player::DropOnList(const std::vector<std::string>& paths)
+Result<void> Player::WriteConfigurations()
 {
-    AddPaths(paths, false);
+    const auto& window = *m_face.window;
+    const bool isPlaceKept = m_starting || window.IsMaximized();
+    return m_settings.WriteConfigurations(
+        isPlaceKept ? std::nullopt : std::optional(WindowPlace{ window.WindowLeft(), window.WindowTop() }));
 }
 
-void Player::DropOnVideo(const std::vector<std::string>& paths)
+void Player::CommitOptions(const SettingsPages& pages)
 {
-    AddPaths(paths, true);
+    m_settings.TakePages(pages);
+    IgnoreFailure(WriteConfigurations());
+    m_settings.SaveVLCOptions();
+    m_window.OptionsCommitted();
+    m_associations.Apply(Settings().Associations);
 }
 
-void Player::AddPaths(const std::vector<std::string>& paths, bool playFirst)
+void Player::WindowResized(int width, int height)
 {
-    // A folder can hold a whole disk; the window stays alive while it is read.
-    const auto goOn = [&] {
-        m_world.screen.PumpMessages(1);
-        return !m_ended;
-    };
-    const auto files = DroppedMediaFiles(paths, m_world.separator, goOn);
-    if (!m_ended)
-        AddFiles(AddRequests(files, m_world.separator, playFirst));
+    if (!m_starting)
+        m_window.WindowResized(width, height);
 }
 
-void Player::ListClicked()
+void Player::RunCommand(std::string_view key)
 {
-    m_playlist.OnClick(m_settings.PlayMode);
+    const auto* const item = m_menus.SmartMenuXP1.Find(key);
+    if (item != nullptr && item->enabled && item->visible)
+        zentaro::RunCommand(*this, item->command, item->slot);
 }
 
-void Player::ListDoubleClicked()
+void Player::PlayHistoryItem(int slot)
 {
-    const auto index = m_playlist.DoubleClickedIndex();
-    if (!index)
+    m_library.LoadThumb(m_history.TitleAt(slot), m_history.PathAt(slot), false, true);
+}
+
+void Player::TakeSnapshot()
+{
+    zentaro::TakeSnapshot(m_transport, m_settings, *m_face.window, m_world.separator);
+}
+
+bool Player::CanTakeSnapshot() const
+{
+    return zentaro::CanTakeSnapshot(m_transport);
+}
+
+void Player::OnPositionTick()
+{
+    // The word in place of the time stays until the disc plays.
+    if (m_discs.IsStarting())
         return;
-    m_failuresInRow = 0;
-    PlayItem(ItemNumber(*index), false);
-    m_world.screen.SetPlaylistPosition(PlaylistDock::Hidden);
-    m_playlist.MovePositionToSelected();
+    if (const auto end = m_transport.OnPositionTick())
+        end->isDisc ? m_discs.Ended(end->hasFailed) : m_sequencer.ItemEnded(end->hasFailed);
+    if (!State().mediaControlsEnabled && !m_starting && m_library.Adding().total == 0)
+        m_discs.Watch();
 }
 
-void Player::RemoveSelected()
+void Player::MediaControlsSet(bool enabled)
 {
-    m_playlist.RemoveSelected();
-    m_world.screen.StateChanged();
+    m_menus.SmartMenuXP1.SetEnabled({ "Stop", "FullScreen", "IncreaseSpeed", "DecreaseSpeed", "ResetSpeed" }, enabled);
+    if (!enabled)
+        Entries().List().SetPlayingItem(FancyListItems::kNone);
 }
 
-void Player::RemoveAll()
+void Player::RateChanged(const RateChange& change)
 {
-    m_playlist.RemoveAll();
-    m_world.screen.StateChanged();
+    if (change.increaseEnabled)
+        m_menus.SmartMenuXP1.SetEnabled("IncreaseSpeed", *change.increaseEnabled);
+    if (change.decreaseEnabled)
+        m_menus.SmartMenuXP1.SetEnabled("DecreaseSpeed", *change.decreaseEnabled);
 }
 
-void Player::SetPlayMode(std::int32_t mode)
+void Player::TransportChanged()
 {
-    m_settings.PlayMode = mode;
-    m_commands.CheckOnly(kPlayModeKeys, static_cast<std::size_t>(mode));
-    m_playlist.BuildOrder(mode);
-    m_world.screen.StateChanged();
+    m_world.holdOffSleep(Settings().DisableScreenSaver != 0 && State().isWatched);
+    m_face.window->StateChanged();
 }
 
-void Player::SetRepeatMode(std::int32_t mode)
+void Player::ShowNotice(const Notice& notice, std::function<void()> closed)
 {
-    m_settings.RepeatMode = mode;
-    m_commands.CheckOnly(kRepeatModeKeys, static_cast<std::size_t>(mode));
-    m_world.screen.StateChanged();
+    m_face.dialogs->ShowNotice(notice, std::move(closed));
 }
 
-void Player::CMDPlayClick()
+void Player::EntryAdded()
 {
-    if (m_playlist.Count() == 0) {
-        OpenFiles(false);
-        return;
-    }
-    m_failuresInRow = 0;
-    if (m_dvdMode)
-        PlayLoadedDisc();
-    else
-        PlaySelected();
+    if (Entries().Count() > 0)
+        m_menus.SmartMenuXP1.SetEnabled({ "Remove", "RemoveAll", "Next", "Previous" }, true);
+    m_face.window->StateChanged();
 }
 
-void Player::DockPlaylist(PlaylistDock position)
+void Player::AskForFiles(const std::string& title, const std::string& filter,
+    std::function<void(std::vector<std::string>)> chosen)
 {
-    if (position != PlaylistDock::Hidden)
-        m_settings.PlaylistPosition = static_cast<std::int32_t>(position);
-    m_world.screen.SetPlaylistPosition(position);
-}
-
-void Player::PlaySelected()
-{
-    if (m_playlist.List().SelectedItem() < 0)
-        m_playlist.List().SetSelectedItem(0);
-    m_playlist.MovePositionToSelected();
-    PlayItem(ItemNumber(m_playlist.List().SelectedItem()), false);
-}
-
-void Player::PlayEntry(int index)
-{
-    m_failuresInRow = 0;
-    m_playlist.List().SetSelectedItem(index);
-    PlaySelected();
-}
-
-void Player::cmdNextClick()
-{
-    if (m_mediaControlsEnabled)
-        StepTo(m_playlist.StepNext());
-}
-
-void Player::cmdPreviousClick()
-{
-    if (m_mediaControlsEnabled)
-        StepTo(m_playlist.StepPrevious());
-}
-
-void Player::StepTo(std::optional<int> index)
-{
-    m_failuresInRow = 0;
-    if (index)
-        PlayItem(ItemNumber(*index), false);
-}
-
-void Player::PlayItem(std::int16_t index, bool fullScreen)
-{
-    if (index < 0 || index >= m_playlist.Count())
-        return;
-    ReleaseHeldButtons();
-    ForgetDiscStart();
-    m_dvdMode = false;
-    m_host.RemoveVLCPlayer();
-    m_host.AddVLCPLayer();
-    m_currentItemPath = m_playlist.PathAt(index);
-    m_options = WithSnapshotFolder(m_options, m_settings.SnapshotPath, m_currentItemPath, m_world.separator);
-    if (auto* const engine = m_host.VLCPlayer()) {
-        engine->Add({ m_currentItemPath, IsDiscLocation(m_currentItemPath) }, m_options);
-        engine->Play();
-    }
-    ShowCaption();
-    m_history.AddToHistory(m_currentItemPath, m_playlist.List().SelectedText());
-    m_playlist.List().SetPlayingItem(index);
-    m_playlist.List().ScrollToRow(index);
-    EnableMediaControls(true);
-    m_rate.ItemStarted();
-    ShowRateLabel(true);
-    m_world.screen.PumpMessages(kPumpsAfterPlay);
-    if (fullScreen)
-        m_host.ToggleFullScreen();
-}
-
-void Player::ShowCaption()
-{
-    const auto* const entry = m_playlist.SelectedEntry();
-    m_world.screen.ShowCaption(CaptionText({ m_settings.TitleBarMode, m_playlist.List().SelectedText(),
-        entry != nullptr ? entry->FullPath : std::string() }));
+    m_face.dialogs->AskForFiles(title, filter, std::move(chosen));
 }
 
 } // namespace zentaro

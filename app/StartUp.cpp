@@ -36,7 +36,7 @@ StartRole DecideRole(const StartupRequest& request, const PublishedHandles& hand
     if (handles.command == "-1" || useNewPlayer || !isAlive(handles.probe))
         return {};
     if (request.handOverText.empty())
-        return { Kind::Caller, handles.probe, "Hello" };
+        return { Kind::Messenger, handles.probe, "Hello" };
     if (IsSupportedFile(request.StartupArgument, separator))
         return { Kind::Messenger, handles.command, request.handOverText };
     return { Kind::Messenger, {}, {} };

@@ -27,8 +27,7 @@ struct PublishedHandles {
 struct StartRole {
     enum class Kind {
         Player,    ///< publish its own handles and go on
-        Messenger, ///< send the text, if any, to the handle, then end
-        Caller,    ///< send the text to the handle and end when it was taken, else be a player
+        Messenger, ///< send the text, if any, to the handle, and end when somebody took it
     };
     Kind kind = Kind::Player;
     std::string handle;

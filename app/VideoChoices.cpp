@@ -23,19 +23,19 @@ std::vector<VideoChoice> TrackChoices(
     std::vector<VideoChoice> choices;
     for (const auto& track : tracks) {
         choices.push_back({ track.id < 0 ? "Off" : track.name, track.id == present, [&player, choose, id = track.id] {
-                               if (auto* const engine = player.LoadedEngine())
+                               if (auto* const engine = player.Transporting().LoadedEngine())
                                    (engine->*choose)(id);
                            } });
     }
     return choices;
 }
 
-std::vector<VideoChoice> PartChoices(Player& player, const PartChoice& parts, void (Player::*choose)(int))
+std::vector<VideoChoice> PartChoices(Player& player, const PartChoice& parts, void (DiscSession::*choose)(int))
 {
     std::vector<VideoChoice> choices;
     for (int i = 0; i < static_cast<int>(parts.captions.size()); ++i)
         choices.push_back({ parts.captions[static_cast<std::size_t>(i)], i == parts.present,
-            [&player, choose, i] { (player.*choose)(i); } });
+            [&player, choose, i] { (player.Discs().*choose)(i); } });
     return choices;
 }
 
@@ -46,7 +46,7 @@ std::vector<VideoChoice> NamedChoices(
     std::vector<VideoChoice> choices;
     for (const auto& [caption, word] : rows) {
         choices.push_back({ caption, present == word, [&player, choose, word = word] {
-                               if (auto* const engine = player.LoadedEngine())
+                               if (auto* const engine = player.Transporting().LoadedEngine())
                                    (engine->*choose)(word);
                            } });
     }
@@ -60,14 +60,14 @@ VideoChoices ReadVideoChoices(Player& player)
     VideoChoices choices;
     for (int dock = 0; dock < static_cast<int>(std::size(kDocks)); ++dock) {
         choices.docking.push_back({ kDocks[dock], player.Settings().PlaylistPosition == dock,
-            [&player, dock] { player.DockPlaylist(static_cast<PlaylistDock>(dock)); } });
+            [&player, dock] { player.Window().DockPlaylist(static_cast<PlaylistDock>(dock)); } });
     }
-    auto* const engine = player.LoadedEngine();
+    auto* const engine = player.Transporting().LoadedEngine();
     if (engine == nullptr)
         return choices;
     choices.audioTracks = TrackChoices(player, engine->AudioTracks(), engine->AudioTrack(), &Engine::SetAudioTrack);
-    choices.titles = PartChoices(player, player.Titles(), &Player::SetTitle);
-    choices.chapters = PartChoices(player, player.Chapters(), &Player::SetChapter);
+    choices.titles = PartChoices(player, player.Discs().Titles(), &DiscSession::SetTitle);
+    choices.chapters = PartChoices(player, player.Discs().Chapters(), &DiscSession::SetChapter);
     choices.hasVideo = engine->HasVideoOutput();
     if (!choices.hasVideo)
         return choices;
@@ -80,6 +80,16 @@ VideoChoices ReadVideoChoices(Player& player)
     if (filter == Engine::kDeinterlaceAuto)
         choices.deinterlacing.insert(choices.deinterlacing.begin(), { "Automatic", true, [] {} });
     return choices;
+}
+
+void LoadSubtitleFile(Player& player)
+{
+    player.Face().dialogs->AskForSubtitles([&player](const std::string& path) {
+        // The item can have ended under the dialog.
+        auto* const engine = player.Transporting().LoadedEngine();
+        if (!path.empty() && engine != nullptr && !engine->AddSubtitleFile(path))
+            player.Face().window->ShowNote("The subtitles cannot be opened");
+    });
 }
 
 } // namespace zentaro

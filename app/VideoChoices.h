@@ -27,6 +27,9 @@ struct VideoChoices {
     bool hasVideo = false;
 };
 
+/// Asks for a file of subtitles and shows it with the video.
+void LoadSubtitleFile(Player& player);
+
 /// As things are now. Choosing later is harmless: an engine that is gone is not asked.
 VideoChoices ReadVideoChoices(Player& player);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <ranges>
 #include <utility>
 
 namespace zentaro {
@@ -12,31 +13,6 @@ constexpr int kBoxesAsTheyCome = 3;
 
 } // namespace
 
-/// The host as the file in hand sees it: boxes are counted, and nothing reaches a closed window.
-class AddQueue::BatchHost : public AddHost {
-public:
-    explicit BatchHost(AddQueue& queue)
-        : m_queue(queue)
-    {
-    }
-    void ShowNotice(const Notice& notice) override { m_queue.ShowOrGather(notice); }
-    void PlayItem(int index, bool playFlag) override
-    {
-        if (!m_queue.m_closed)
-            m_queue.m_host.PlayItem(index, playFlag);
-    }
-    std::int32_t PlayMode() const override { return m_queue.m_host.PlayMode(); }
-    void InspectionTaken(const Inspection& inspection) override { m_queue.m_host.InspectionTaken(inspection); }
-    void EntryAdded() override
-    {
-        if (!m_queue.m_closed)
-            m_queue.m_host.EntryAdded();
-    }
-
-private:
-    AddQueue& m_queue;
-};
-
 std::string ProgressText(const AddProgress& progress)
 {
     if (progress.total == 0)
@@ -44,8 +20,10 @@ std::string ProgressText(const AddProgress& progress)
     return "Adding " + std::to_string(progress.current) + " of " + std::to_string(progress.total);
 }
 
-AddQueue::AddQueue(Playlist& playlist, AddQueueHost& host, InspectionRunner& runner, AddQueueLimits limits)
+AddQueue::AddQueue(Playlist& playlist, InspectionState& inspected, AddQueueHost& host, InspectionRunner& runner,
+    AddQueueLimits limits)
     : m_playlist(playlist)
+    , m_inspected(inspected)
     , m_host(host)
     , m_runner(runner)
     , m_limits(limits)
@@ -57,164 +35,207 @@ AddQueue::~AddQueue()
     Close();
 }
 
-int AddQueue::Add(std::vector<AddRequest> requests)
+void AddQueue::Add(std::vector<AddRequest> requests, AddTurn turn)
 {
-    const int last = m_firstTicket + static_cast<int>(m_jobs.size() + requests.size()) - 1;
-    if (m_closed)
-        return m_firstTicket - 1;
-    m_total += static_cast<int>(requests.size());
+    if (m_closed || requests.empty())
+        return;
+    auto& batch = BatchFor(turn);
     for (auto& request : requests)
-        m_jobs.push_back({ std::move(request), JobState::Waiting, {} });
+        batch.jobs.push_back({ std::move(request), ++m_lastTicket });
     Advance();
-    return last;
+}
+
+AddQueue::Batch& AddQueue::BatchFor(AddTurn turn)
+{
+    if (turn == AddTurn::AfterOthers) {
+        const auto open = std::ranges::find(m_batches, AddTurn::AfterOthers, &Batch::turn);
+        if (open != m_batches.end())
+            return *open;
+    }
+    return m_batches.emplace_back(Batch{ turn });
 }
 
 void AddQueue::Completed(int ticket, Inspection inspection)
 {
-    const int at = ticket - m_firstTicket;
-    if (at < 0 || at >= static_cast<int>(m_jobs.size()))
+    for (auto& batch : m_batches) {
+        const auto job = std::ranges::find(batch.jobs, ticket, &Job::ticket);
+        if (job == batch.jobs.end() || job->state != Job::State::Running)
+            continue;
+        job->state = Job::State::Done;
+        job->inspection = std::move(inspection);
+        --(job->isWaitedFor ? m_waitedFor : m_running);
+        Advance();
         return;
-    auto& job = m_jobs[static_cast<std::size_t>(at)];
-    if (job.state != JobState::Running)
-        return;
-    job.state = JobState::Done;
-    job.inspection = std::move(inspection);
-    --m_running;
-    Advance();
+    }
 }
 
 void AddQueue::Cancel()
 {
-    DropJobs();
+    for (auto& batch : m_batches) {
+        DropJobs(batch);
+        if (batch.inHand)
+            batch.inHand->counts = false;
+    }
     Advance();
 }
 
 void AddQueue::Close()
 {
     m_closed = true;
-    DropJobs();
-    m_gathered.clear();
+    for (auto& batch : m_batches)
+        DropJobs(batch);
+    m_batches.clear();
 }
 
 AddProgress AddQueue::Progress() const
 {
-    const bool working = !m_jobs.empty() || (m_advancing && !m_cancelled && m_total > m_taken);
-    return working ? AddProgress{ m_taken + 1, m_total } : AddProgress{};
+    std::size_t open = 0;
+    for (const auto& batch : m_batches)
+        open += batch.jobs.size() + (batch.inHand && batch.inHand->counts ? 1 : 0);
+    return open > 0 ? AddProgress{ m_taken + 1, m_taken + static_cast<int>(open) } : AddProgress{};
 }
 
 void AddQueue::Advance()
 {
-    // While a file is in hand the next one has to wait, however deep the messages are pumped.
-    if (std::exchange(m_advancing, true)) {
-        StartAhead();
-        ReportProgress();
-        return;
+    for (auto& batch : m_batches) {
+        // The next inspection is under way before the host is told of the file.
+        for (StartAhead(); !batch.inHand && IsFirstReady(batch); StartAhead())
+            TakeFirst(batch);
     }
-    for (;;) {
-        StartAhead();
-        ReportProgress();
-        if (!IsFirstReady())
-            break;
-        TakeFirst();
-    }
-    m_advancing = false;
-    if (m_jobs.empty())
-        FinishBatch();
+    EndOldBatches();
+    ReportProgress();
 }
 
 void AddQueue::StartAhead()
 {
-    // A runner that answers from within Start comes back here.
-    if (m_starting)
-        return;
-    m_starting = true;
-    const auto window = static_cast<std::size_t>(std::max(1, m_limits.window));
-    for (std::size_t at = 0; at < std::min(window, m_jobs.size()) && m_running < std::max(1, m_limits.running); ++at) {
-        if (!MayStart(at))
-            continue;
-        m_jobs[at].state = JobState::Running;
-        ++m_running;
-        m_runner.Start(m_firstTicket + static_cast<int>(at), m_jobs[at].request.path);
+    ReportProgress();
+    for (auto& batch : m_batches | std::views::reverse) {
+        if (batch.turn == AddTurn::AtOnce)
+            StartIn(batch);
     }
-    m_starting = false;
+    for (auto& batch : m_batches) {
+        if (batch.turn == AddTurn::AfterOthers)
+            StartIn(batch);
+    }
+}
+
+void AddQueue::StartIn(Batch& batch)
+{
+    const auto window = std::min(static_cast<std::size_t>(std::max(1, m_limits.window)), batch.jobs.size());
+    for (std::size_t at = 0; at < window; ++at) {
+        const bool isWaitedFor = at == 0 && batch.turn == AddTurn::AtOnce && m_waitedFor < m_limits.waitedFor;
+        if (!isWaitedFor && m_running >= std::max(1, m_limits.running))
+            return;
+        if (!MayStart(batch, at))
+            continue;
+        auto& job = batch.jobs[at];
+        job.state = Job::State::Running;
+        job.isWaitedFor = isWaitedFor;
+        ++(isWaitedFor ? m_waitedFor : m_running);
+        m_runner.Start(job.ticket, job.request.path);
+    }
 }
 
 // The second of two equal paths is a duplicate if the first one can be opened, so it waits for that.
-bool AddQueue::MayStart(std::size_t at) const
+bool AddQueue::MayStart(const Batch& batch, std::size_t at) const
 {
-    const auto& job = m_jobs[at];
-    if (job.state != JobState::Waiting || m_playlist.IsInPlaylist(job.request.path))
+    const auto& job = batch.jobs[at];
+    if (job.state != Job::State::Waiting || m_playlist.IsInPlaylist(job.request.path))
         return false;
-    const auto end = m_jobs.begin() + static_cast<std::ptrdiff_t>(at);
+    const auto end = batch.jobs.begin() + static_cast<std::ptrdiff_t>(at);
     return std::none_of(
-        m_jobs.begin(), end, [&](const Job& earlier) { return earlier.request.path == job.request.path; });
+        batch.jobs.begin(), end, [&](const Job& earlier) { return earlier.request.path == job.request.path; });
 }
 
-bool AddQueue::IsFirstReady() const
+bool AddQueue::IsFirstReady(const Batch& batch) const
 {
-    return !m_jobs.empty()
-        && (m_jobs.front().state == JobState::Done || m_playlist.IsInPlaylist(m_jobs.front().request.path));
+    return !batch.jobs.empty()
+        && (batch.jobs.front().state == Job::State::Done || m_playlist.IsInPlaylist(batch.jobs.front().request.path));
 }
 
-void AddQueue::TakeFirst()
+void AddQueue::TakeFirst(Batch& batch)
 {
-    Job job = std::move(m_jobs.front());
-    m_jobs.pop_front();
-    const int ticket = m_firstTicket++;
-    m_ticketInHand = ticket;
-    if (job.state == JobState::Running) {
-        --m_running;
-        m_runner.Cancel(ticket);
+    auto job = std::move(batch.jobs.front());
+    batch.jobs.pop_front();
+    if (job.state == Job::State::Running) {
+        --(job.isWaitedFor ? m_waitedFor : m_running);
+        m_runner.Cancel(job.ticket);
     }
-    m_cancelled = false;
-    BatchHost host(*this);
-    LoadThumb(m_playlist, host, job.request, [&] { return std::move(job.inspection); });
-    ++m_taken;
+    batch.inHand.reset(
+        new InHand{ LoadThumb(m_playlist, m_inspected, m_host, std::move(job.request), std::move(job.inspection)) });
+    if (!ShowNextBox(batch))
+        Finish(batch);
 }
 
-void AddQueue::DropJobs()
+bool AddQueue::ShowNextBox(Batch& batch)
 {
-    const auto dropped = std::exchange(m_jobs, {});
-    const int firstTicket = std::exchange(m_firstTicket, m_firstTicket + static_cast<int>(dropped.size()));
-    m_running = 0;
-    m_total -= static_cast<int>(dropped.size());
-    m_cancelled = true;
-    for (std::size_t at = 0; at < dropped.size(); ++at) {
-        if (dropped[at].state == JobState::Running)
-            m_runner.Cancel(firstTicket + static_cast<int>(at));
+    auto& inHand = *batch.inHand;
+    while (inHand.shown < inHand.file.Boxes().size()) {
+        const auto& notice = inHand.file.Boxes()[inHand.shown++];
+        // Nobody waits for a box: what it says is decided.
+        inHand.file.TellDecision();
+        if (batch.boxes >= kBoxesAsTheyCome) {
+            batch.gathered.push_back(notice);
+            continue;
+        }
+        ++batch.boxes;
+        // The file goes with its batch when the queue is closed, and the box then leads nowhere.
+        m_host.ShowNotice(notice, [this, &batch, held = std::weak_ptr(batch.inHand)] {
+            if (!held.expired())
+                BoxClosed(batch);
+        });
+        return true;
+    }
+    return false;
+}
+
+void AddQueue::BoxClosed(Batch& batch)
+{
+    if (ShowNextBox(batch))
+        return;
+    Finish(batch);
+    Advance();
+}
+
+void AddQueue::Finish(Batch& batch)
+{
+    const auto inHand = std::exchange(batch.inHand, nullptr);
+    inHand->file.Finish();
+    if (inHand->counts)
+        ++m_taken;
+}
+
+void AddQueue::DropJobs(Batch& batch)
+{
+    for (auto& job : std::exchange(batch.jobs, {})) {
+        if (job.state == Job::State::Running) {
+            --(job.isWaitedFor ? m_waitedFor : m_running);
+            m_runner.Cancel(job.ticket);
+        }
+        if (job.request.onDecided)
+            job.request.onDecided(AddOutcome::Dropped);
     }
 }
 
-void AddQueue::FinishBatch()
+void AddQueue::EndOldBatches()
 {
-    m_total = 0;
-    m_taken = 0;
-    m_boxes = 0;
-    ReportProgress();
-    const auto gathered = std::exchange(m_gathered, {});
-    if (!gathered.empty() && !m_closed)
-        m_host.ShowNotice(GatherNotices(gathered));
+    for (auto at = m_batches.begin(); at != m_batches.end();) {
+        if (!at->IsOver()) {
+            ++at;
+            continue;
+        }
+        if (!at->gathered.empty())
+            m_host.ShowNotice(GatherNotices(at->gathered), [] {});
+        at = m_batches.erase(at);
+    }
+    if (m_batches.empty())
+        m_taken = 0;
 }
 
 void AddQueue::ReportProgress()
 {
-    const auto progress = Progress();
-    if (m_closed || progress == m_reported)
-        return;
-    m_reported = progress;
-    m_host.AddProgressChanged(progress);
-}
-
-void AddQueue::ShowOrGather(const Notice& notice)
-{
-    if (m_closed)
-        return;
-    if (m_boxes >= kBoxesAsTheyCome) {
-        m_gathered.push_back(notice);
-        return;
-    }
-    ++m_boxes;
-    m_host.ShowNotice(notice);
+    if (std::exchange(m_reported, Progress()) != Progress())
+        m_host.AddProgressChanged();
 }
 
 } // namespace zentaro

@@ -3,13 +3,15 @@
 #include "playlist/LoadThumb.h"
 
 #include <deque>
+#include <list>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace zentaro {
 
 /// Inspects files beside the user interface, several at once. Results come back through AddQueue::Completed on the
-/// thread that runs the queue, in any order, also from within Start.
+/// thread that runs the queue, in any order, never from within Start.
 class InspectionRunner {
 public:
     virtual ~InspectionRunner() = default;
@@ -18,7 +20,7 @@ public:
     virtual void Cancel(int ticket) = 0;
 };
 
-/// Where a batch stands: the number of the file in hand, from 1, and of all files; both 0 while nothing is added.
+/// Where the adding stands: the number of the file in hand, from 1, and of all files; both 0 while nothing is added.
 struct AddProgress {
     int current = 0;
     int total = 0;
@@ -30,33 +32,37 @@ std::string ProgressText(const AddProgress& progress);
 
 class AddQueueHost : public AddHost {
 public:
-    virtual void AddProgressChanged(const AddProgress& progress) = 0;
+    virtual void AddProgressChanged() = 0;
 };
 
 struct AddQueueLimits {
-    /// Inspections at work at the same time.
+    /// Inspections at work at the same time, without those that somebody waits for.
     int running = 2;
     /// Files from the one in hand on that may be inspected before their turn.
     int window = 16;
+    /// Files that somebody waits for and that may be inspected at the same time.
+    int waitedFor = 8;
 };
 
-/// Adds many files: their inspections run ahead, but each file is added in its turn, so that entries, order and boxes
-/// are those of adding one by one. A batch lasts until nothing is left; files that are added meanwhile join it. Its
-/// first three boxes are shown as they come, the others together in one at its end.
-/// Every call of the host may pump messages and come back into the queue; only destroying it must wait.
+/// Who else a batch of files has to wait for.
+enum class AddTurn {
+    AfterOthers, ///< for all that were added this way before
+    AtOnce,      ///< for nobody: a person or another start waits to see the first file play
+};
+
+/// Adds many files. Their inspections run ahead, but the files of a batch are added in their turn, so that entries,
+/// order and boxes are those of adding one by one. Files that are added after others join their batch, which lasts
+/// until nothing of it is left; a batch that is added at once stands beside it, and neither waits for the other's boxes
+/// or inspections. Of each batch the first three boxes are shown as they come, the others together in one at its end.
 class AddQueue {
 public:
-    AddQueue(Playlist& playlist, AddQueueHost& host, InspectionRunner& runner, AddQueueLimits limits = {});
+    AddQueue(Playlist& playlist, InspectionState& inspected, AddQueueHost& host, InspectionRunner& runner,
+        AddQueueLimits limits = {});
     ~AddQueue();
     AddQueue(const AddQueue&) = delete;
     AddQueue& operator=(const AddQueue&) = delete;
 
-    /// The ticket of the last request.
-    int Add(std::vector<AddRequest> requests);
-    /// False once the request with this ticket was taken into the list, refused or dropped.
-    bool IsPending(int ticket) const { return ticket >= m_firstTicket || (m_advancing && ticket == m_ticketInHand); }
-    /// True while a file is being taken into the list.
-    bool IsTaking() const { return m_advancing; }
+    void Add(std::vector<AddRequest> requests, AddTurn turn = AddTurn::AfterOthers);
     /// The result for a ticket of the runner; results nobody waits for any more are dropped.
     void Completed(int ticket, Inspection inspection);
     /// Leaves out the files that are not added yet, and shows the boxes that are gathered so far.
@@ -67,40 +73,54 @@ public:
     AddProgress Progress() const;
 
 private:
-    enum class JobState { Waiting, Running, Done };
     struct Job {
         AddRequest request;
-        JobState state = JobState::Waiting;
-        Inspection inspection;
+        int ticket = 0;
+        enum class State { Waiting, Running, Done } state = State::Waiting;
+        bool isWaitedFor = false; // runs beside the limit for the others
+        Inspection inspection = {};
     };
-    class BatchHost;
+    /// A file whose boxes are open.
+    struct InHand {
+        LoadThumb file;
+        std::size_t shown = 0; // of its boxes
+        bool counts = true;    // for the progress: not after a cancel
+    };
+    struct Batch {
+        AddTurn turn = AddTurn::AfterOthers;
+        std::deque<Job> jobs = {};
+        std::shared_ptr<InHand> inHand = {};
+        int boxes = 0;
+        std::vector<Notice> gathered = {};
 
+        bool IsOver() const { return jobs.empty() && !inHand; }
+    };
+
+    Batch& BatchFor(AddTurn turn);
     void Advance();
     void StartAhead();
-    bool MayStart(std::size_t at) const;
-    bool IsFirstReady() const;
-    void TakeFirst();
-    void DropJobs();
-    void FinishBatch();
+    void StartIn(Batch& batch);
+    bool MayStart(const Batch& batch, std::size_t at) const;
+    bool IsFirstReady(const Batch& batch) const;
+    void TakeFirst(Batch& batch);
+    bool ShowNextBox(Batch& batch);
+    void BoxClosed(Batch& batch);
+    void Finish(Batch& batch);
+    void DropJobs(Batch& batch);
+    void EndOldBatches();
     void ReportProgress();
-    void ShowOrGather(const Notice& notice);
 
     Playlist& m_playlist;
+    InspectionState& m_inspected;
     AddQueueHost& m_host;
     InspectionRunner& m_runner;
     AddQueueLimits m_limits;
-    std::deque<Job> m_jobs;
-    int m_firstTicket = 0; // of the first job; the others follow in order
-    int m_ticketInHand = -1;
+    std::list<Batch> m_batches; // the oldest first
+    int m_lastTicket = 0;
     int m_running = 0;
-    int m_total = 0;
+    int m_waitedFor = 0;
     int m_taken = 0;
-    int m_boxes = 0;
-    std::vector<Notice> m_gathered;
     AddProgress m_reported;
-    bool m_advancing = false;
-    bool m_starting = false;
-    bool m_cancelled = false; // the file in hand is the last one of the batch
     bool m_closed = false;
 };
 

@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 
 #include <array>
+#include <utility>
 
 namespace zentaro {
 
@@ -48,39 +49,6 @@ std::string FileSizeText(std::int64_t bytes)
     return std::to_string(tenths / 10) + "." + std::to_string(tenths % 10) + units[unit];
 }
 
-AddOutcome TryAppend(
-    Playlist& playlist, AddHost& host, const AddRequest& request, const std::function<Inspection()>& inspect)
-{
-    if (playlist.IsInPlaylist(request.path)) {
-        host.ShowNotice(DuplicateNotice(request));
-        return AddOutcome::Duplicate;
-    }
-    const auto inspection = inspect();
-    host.InspectionTaken(inspection);
-    for (const auto& notice : inspection.notices)
-        host.ShowNotice(notice);
-    if (!inspection.ok) {
-        host.ShowNotice(CannotOpenNotice(request, inspection.errorText));
-        return AddOutcome::Refused;
-    }
-    playlist.Append(
-        { request.title, request.path, inspection.thumbnail, inspection.mediaInfo }, DetailText(inspection.facts));
-    return AddOutcome::Added;
-}
-
-void PlayLastEntry(Playlist& playlist, AddHost& host, bool playFlag)
-{
-    const int last = playlist.Count() - 1;
-    playlist.List().SetSelectedItem(last);
-    host.PlayItem(last, playFlag);
-    // Starting an item pumps messages, and a click below the last row takes the selection away.
-    if (playlist.List().SelectedItem() >= 0)
-        return;
-    playlist.List().SetSelectedItem(0);
-    if (playlist.Count() <= 1)
-        host.PlayItem(0, playFlag);
-}
-
 } // namespace
 
 std::string DetailText(const MediaFacts& facts)
@@ -96,18 +64,58 @@ std::string DetailText(const MediaFacts& facts)
     return text;
 }
 
-AddOutcome LoadThumb(
-    Playlist& playlist, AddHost& host, const AddRequest& request, const std::function<Inspection()>& inspect)
+LoadThumb::LoadThumb(
+    Playlist& playlist, InspectionState& inspected, AddHost& host, AddRequest request, Inspection inspection)
+    : m_playlist(playlist)
+    , m_host(host)
+    , m_request(std::move(request))
+    , m_inspection(std::move(inspection))
 {
-    const auto outcome = TryAppend(playlist, host, request, inspect);
-    if (outcome == AddOutcome::Refused)
-        return outcome;
-    if (request.playNow)
-        PlayLastEntry(playlist, host, request.playFlag);
-    playlist.BuildOrder(host.PlayMode());
-    if (outcome == AddOutcome::Added)
-        host.EntryAdded();
-    return outcome;
+    if (playlist.IsInPlaylist(m_request.path)) {
+        m_outcome = AddOutcome::Duplicate;
+        m_boxes.push_back(DuplicateNotice(m_request));
+        return;
+    }
+    inspected.TakeOver(
+        { m_inspection.ok, m_inspection.errorText, m_inspection.mediaInfo, m_inspection.thumbnail, {} });
+    m_boxes = m_inspection.notices;
+    if (!m_inspection.ok) {
+        m_outcome = AddOutcome::Refused;
+        m_boxes.push_back(CannotOpenNotice(m_request, m_inspection.errorText));
+    }
+}
+
+void LoadThumb::TellDecision()
+{
+    if (const auto tell = std::exchange(m_request.onDecided, nullptr))
+        tell(m_outcome);
+}
+
+void LoadThumb::Finish()
+{
+    // Another way can have brought the file in while its box was open.
+    if (m_outcome == AddOutcome::Added && m_playlist.IsInPlaylist(m_request.path))
+        m_outcome = AddOutcome::Duplicate;
+    if (m_outcome == AddOutcome::Added)
+        m_playlist.Append({ m_request.title, m_request.path, m_inspection.thumbnail, m_inspection.mediaInfo },
+            DetailText(m_inspection.facts));
+    if (m_outcome != AddOutcome::Refused) {
+        if (m_request.playNow)
+            PlayLastEntry();
+        m_playlist.BuildOrder(m_host.PlayMode());
+    }
+    if (m_request.selectsFirst && m_playlist.List().SelectedItem() < 0)
+        m_playlist.List().SetSelectedItem(0);
+    if (m_outcome == AddOutcome::Added)
+        m_host.EntryAdded();
+    TellDecision();
+}
+
+void LoadThumb::PlayLastEntry()
+{
+    const int last = m_playlist.Count() - 1;
+    m_playlist.List().SetSelectedItem(last);
+    m_host.PlayItem(last, m_request.playFlag);
 }
 
 } // namespace zentaro

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Picture.h"
+#include "inspect/Inspection.h"
 #include "playlist/Notice.h"
 #include "playlist/Playlist.h"
 
@@ -34,33 +35,58 @@ struct Inspection {
     MediaFacts facts;
 };
 
+enum class AddOutcome {
+    Added,
+    Duplicate, ///< the playlist holds it already; its last entry plays, when one was to be played
+    Refused,
+    Dropped, ///< the adding was cancelled before
+};
+
 /// One file to be added. `playFlag` goes on to PlayItem unchanged.
 struct AddRequest {
     std::string title;
     std::string path;
     bool playFlag = false;
     bool playNow = false;
+    bool selectsFirst = false; ///< the first entry is to be selected where nothing is
+    /// Called once, as soon as it is known; never later than the first box that the file raises.
+    std::function<void(AddOutcome)> onDecided = {};
 };
 
 /// What adding needs from the player.
 class AddHost {
 public:
     virtual ~AddHost() = default;
-    /// Shows a box and returns when it is closed.
-    virtual void ShowNotice(const Notice& notice) = 0;
+    /// Shows a box and returns; `closed` is called when it is closed, never from within.
+    virtual void ShowNotice(const Notice& notice, std::function<void()> closed) = 0;
     virtual void PlayItem(int index, bool playFlag) = 0;
     virtual std::int32_t PlayMode() const = 0;
-    /// This inspection counts from now on, whenever it ran.
-    virtual void InspectionTaken(const Inspection& inspection) = 0;
     /// A new entry stands in the list and the order: menus can be brought in line.
     virtual void EntryAdded() = 0;
 };
 
-enum class AddOutcome { Added, Duplicate, Refused };
+/// Takes one inspected file into the playlist, with the boxes that belong to it, and plays it when the request says so.
+class LoadThumb {
+public:
+    /// The inspection counts from now on, whenever it ran; not for a path that the playlist holds.
+    LoadThumb(Playlist& playlist, InspectionState& inspected, AddHost& host, AddRequest request, Inspection inspection);
 
-/// Adds one file and plays it when the request says so. `inspect` is not called for a path that the playlist holds; it
-/// may pump messages. A duplicate adds nothing, but plays the last entry of the list all the same.
-AddOutcome LoadThumb(
-    Playlist& playlist, AddHost& host, const AddRequest& request, const std::function<Inspection()>& inspect);
+    /// The boxes to be shown, one after the other, before Finish().
+    const std::vector<Notice>& Boxes() const { return m_boxes; }
+    /// Tells whoever waits for the outcome, once.
+    void TellDecision();
+    /// Adds and plays. A duplicate adds nothing, but plays the last entry of the list all the same.
+    void Finish();
+
+private:
+    void PlayLastEntry();
+
+    Playlist& m_playlist;
+    AddHost& m_host;
+    AddRequest m_request;
+    Inspection m_inspection;
+    AddOutcome m_outcome = AddOutcome::Added;
+    std::vector<Notice> m_boxes;
+};
 
 } // namespace zentaro

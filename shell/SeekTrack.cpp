@@ -18,14 +18,11 @@ namespace {
 constexpr double kSlim = 4;         // px
 constexpr double kUnderPointer = 6; // px
 constexpr double kKnobRadius = 6;   // px
-constexpr int kKeyStep = 5000;      // ms
-constexpr int kLongKeyStep = 30000; // ms
 
 } // namespace
 
-SeekTrack::SeekTrack(SeekBar& bar, QWidget* parent)
+SeekTrack::SeekTrack(QWidget* parent)
     : QWidget(parent)
-    , m_bar(bar)
 {
     SliderAccessible::Install();
     setObjectName("IMGProgressBack");
@@ -36,16 +33,15 @@ SeekTrack::SeekTrack(SeekBar& bar, QWidget* parent)
     setCursor(Qt::ArrowCursor);
 }
 
-void SeekTrack::SetItem(bool mediaControlsEnabled, double length)
+void SeekTrack::Show(bool mediaControlsEnabled, double progress, double length)
 {
     m_mediaControlsEnabled = mediaControlsEnabled;
     m_length = length;
+    const auto before = m_bar.FillWidth();
+    m_bar.SetProgress(progress * 100);
+    if (m_bar.FillWidth() != before)
+        update();
     FollowHand();
-}
-
-void SeekTrack::ShowProgress()
-{
-    update();
 }
 
 double SeekTrack::Value() const
@@ -55,7 +51,8 @@ double SeekTrack::Value() const
 
 void SeekTrack::ChooseValue(double value)
 {
-    Choose(m_bar.JumpTo(value / 100, m_mediaControlsEnabled));
+    if (m_mediaControlsEnabled)
+        Choose(value / 100);
 }
 
 void SeekTrack::Choose(std::optional<double> position)
@@ -121,20 +118,10 @@ void SeekTrack::mouseMoveEvent(QMouseEvent* event)
 
 void SeekTrack::keyPressEvent(QKeyEvent* event)
 {
-    const int step = event->modifiers().testFlag(Qt::ShiftModifier) ? kLongKeyStep : kKeyStep;
-    switch (event->key()) {
-    case Qt::Key_Left:
-        emit StepChosen(-step);
-        break;
-    case Qt::Key_Right:
-        emit StepChosen(step);
-        break;
-    case Qt::Key_Home:
-        Choose(m_bar.JumpTo(0, m_mediaControlsEnabled));
-        break;
-    default:
+    if (event->key() == Qt::Key_Home)
+        ChooseValue(0);
+    else
         QWidget::keyPressEvent(event);
-    }
 }
 
 void SeekTrack::paintEvent(QPaintEvent*)

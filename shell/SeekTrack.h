@@ -1,7 +1,7 @@
 #pragma once
 
-#include "playback/SeekBar.h"
 #include "shell/Fade.h"
+#include "shell/SeekBar.h"
 #include "shell/SliderAccessible.h"
 
 #include <QWidget>
@@ -14,13 +14,10 @@ class SeekTrack : public QWidget, public SliderFace {
     Q_OBJECT
 
 public:
-    /// The bar must outlive the widget.
-    SeekTrack(SeekBar& bar, QWidget* parent);
+    explicit SeekTrack(QWidget* parent);
 
-    /// Whether it can seek, and over which length (ms, 0 or below while unknown).
-    void SetItem(bool mediaControlsEnabled, double length);
-    /// The bar has changed by itself.
-    void ShowProgress();
+    /// Whether it can seek, how much is played (0 to 1), and of which length (ms, 0 or below while unknown).
+    void Show(bool mediaControlsEnabled, double progress, double length);
 
     double Value() const override;
     void ChooseValue(double value) override;
@@ -28,8 +25,6 @@ public:
 signals:
     /// The engine is to go to this position, 0.0 to 1.0.
     void PositionChosen(double position);
-    /// A key steps by so many ms, back when below 0.
-    void StepChosen(int milliseconds);
 
 protected:
     bool event(QEvent* event) override;
@@ -44,7 +39,7 @@ private:
     void Choose(std::optional<double> position);
     void ShowTimeAt(const QPoint& global, double x);
 
-    SeekBar& m_bar;
+    SeekBar m_bar;
     double m_length = 0;
     bool m_mediaControlsEnabled = false;
     bool m_isNear = false;

@@ -15,13 +15,11 @@ constexpr double kKnobWidth = 7;   // px; the slider's arithmetic keeps the knob
 constexpr double kKnobHeight = 14; // px
 constexpr double kRest = 3;        // px, right of the knob at full volume: nothing is left to turn up there
 constexpr double kTrackHeight = 4; // px
-constexpr int kKeyStep = 5;        // percent
 
 } // namespace
 
-VolumeKnob::VolumeKnob(VolumeSlider& slider, QWidget* parent)
+VolumeKnob::VolumeKnob(QWidget* parent)
     : QWidget(parent)
-    , m_slider(slider)
 {
     SliderAccessible::Install();
     setObjectName("ImgSlider");
@@ -32,14 +30,23 @@ VolumeKnob::VolumeKnob(VolumeSlider& slider, QWidget* parent)
     setCursor(Qt::ArrowCursor);
 }
 
-void VolumeKnob::Choose(std::optional<int> percent)
+void VolumeKnob::Show(int percent)
 {
-    if (!percent)
+    if (percent == m_toldVolume)
         return;
+    m_toldVolume = percent;
+    m_slider.SetVolume(percent);
     update();
-    emit VolumeChosen(*percent);
-    QAccessibleValueChangeEvent change(this, *percent);
+    QAccessibleValueChangeEvent change(this, percent);
     QAccessible::updateAccessibility(&change);
+}
+
+void VolumeKnob::PointAt(double x)
+{
+    if (const auto percent = m_slider.PointerOnSlider(x)) {
+        update();
+        emit VolumeChosen(*percent);
+    }
 }
 
 void VolumeKnob::resizeEvent(QResizeEvent*)
@@ -49,36 +56,31 @@ void VolumeKnob::resizeEvent(QResizeEvent*)
 
 void VolumeKnob::mousePressEvent(QMouseEvent* event)
 {
-    Choose(m_slider.PointerOnSlider(event->position().x()));
+    PointAt(event->position().x());
 }
 
 void VolumeKnob::mouseMoveEvent(QMouseEvent* event)
 {
-    Choose(m_slider.PointerOnSlider(event->position().x()));
+    PointAt(event->position().x());
 }
 
 void VolumeKnob::wheelEvent(QWheelEvent* event)
 {
-    Turn(event->angleDelta().y());
+    emit Turned(event->angleDelta().y());
     event->accept();
 }
 
 void VolumeKnob::ChooseValue(double value)
 {
-    Choose(m_slider.StepBy(RoundHalfEven(value) - m_slider.Volume()));
-}
-
-void VolumeKnob::Turn(int eighths)
-{
-    Choose(m_slider.Wheel(eighths));
+    emit VolumeChosen(RoundHalfEven(value));
 }
 
 void VolumeKnob::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Down)
-        Choose(m_slider.StepBy(-kKeyStep));
+        emit StepChosen(-1);
     else if (event->key() == Qt::Key_Right || event->key() == Qt::Key_Up)
-        Choose(m_slider.StepBy(kKeyStep));
+        emit StepChosen(1);
     else
         QWidget::keyPressEvent(event);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "playback/VolumeSlider.h"
 #include "shell/SliderAccessible.h"
+#include "shell/VolumeSlider.h"
 
 #include <QWidget>
 
@@ -12,11 +12,10 @@ class VolumeKnob : public QWidget, public SliderFace {
     Q_OBJECT
 
 public:
-    /// The slider must outlive the widget.
-    VolumeKnob(VolumeSlider& slider, QWidget* parent);
+    explicit VolumeKnob(QWidget* parent);
 
-    /// The wheel was turned, here or over something that is part of the same volume; in eighths of a degree.
-    void Turn(int eighths);
+    /// 0 to 100.
+    void Show(int percent);
 
     double Value() const override { return m_slider.Volume(); }
     void ChooseValue(double value) override;
@@ -24,6 +23,10 @@ public:
 signals:
     /// 0 to 100.
     void VolumeChosen(int percent);
+    /// A key makes it one step louder (1) or quieter (-1).
+    void StepChosen(int direction);
+    /// The wheel, in eighths of a degree.
+    void Turned(int eighths);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -34,9 +37,10 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    void Choose(std::optional<int> percent);
+    void PointAt(double x);
 
-    VolumeSlider& m_slider;
+    VolumeSlider m_slider;
+    int m_toldVolume = 100; // what is shown and read out
 };
 
 } // namespace zentaro

@@ -7,12 +7,17 @@
 
 namespace zentaro {
 
+class Player;
+
 /// One menu or item of the classic tree, known by its control's name and, in a control array, its index.
 struct ClassicItem {
     std::string name;
     int index = 0;       ///< 0 outside control arrays
     std::string caption; ///< "&" marks the access letter; empty for separators
     std::string parent;  ///< the name of the menu it lies in; empty at the top
+    std::string_view command = {}; ///< the id of what a click does; `index` goes with it
+    /// When it is enabled; found out each time that its menu is opened.
+    enum class Needs { Nothing, LoadedItem, Entries } needs = Needs::Nothing;
     bool isSeparator = false;
     bool checked = false;
     bool enabled = true;
@@ -55,5 +60,11 @@ private:
 
     std::vector<ClassicItem> m_items;
 };
+
+/// An item of the classic tree was clicked. Menus, separators and placeholders do nothing.
+void ClickClassicItem(Player& player, const ClassicItem& item);
+
+/// A menu of the classic tree is about to be shown: brings its items in line with the player.
+void OpenClassicMenu(Player& player, std::string_view menu);
 
 } // namespace zentaro

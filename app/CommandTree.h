@@ -17,20 +17,19 @@ enum class CommandKind : std::int16_t {
     Separator = 3,
 };
 
-inline constexpr std::int16_t kControlModifier = 2;
-
 /// One item of the command menu.
 struct CommandItem {
     std::string parent; ///< the key of the submenu it lies in; empty at the top
     std::string key;    ///< empty for separators
     CommandKind kind = CommandKind::Item;
-    std::string caption;               ///< "&" marks the access letter
-    std::int16_t shortcutModifier = 0; ///< 0 or kControlModifier
-    std::int16_t shortcutKey = 0;      ///< Windows virtual-key code; 0 for none
+    std::string caption;           ///< "&" marks the access letter
+    std::string shortcut;          ///< "Ctrl+O"; empty for none
+    std::string_view command = {}; ///< the id of what it does; empty for submenus, separators and slots that do nothing
+    int slot = 0;                  ///< which of a row of equal items it is
     bool checked = false;
     bool enabled = true;
     bool visible = true;
-    std::string tag;
+    std::string tag = {};
 };
 
 inline constexpr int kHistorySlots = 11;
@@ -47,7 +46,7 @@ std::string DvdKey(int slot);
 inline constexpr std::array<std::string_view, 3> kPlayModeKeys{ "PMNormal", "PMContinuous", "PMShuffle" };
 inline constexpr std::array<std::string_view, 3> kRepeatModeKeys{ "RMNoRepeat", "RMSingleRepeat", "RMRepeatAll" };
 
-/// The data of `SmartMenuXP1`: every command of the player, known by its key. What is shown, enabled and checked stands
+/// The data of `SmartMenuXP1`: the commands of the menu strip by their keys. What is shown, enabled and checked stands
 /// here; the menus on the screen follow.
 class CommandTree {
 public:

@@ -1,4 +1,4 @@
-#include "playback/VolumeSlider.h"
+#include "shell/VolumeSlider.h"
 
 #include "base/Numbers.h"
 
@@ -11,20 +11,25 @@ namespace {
 
 constexpr double kKnobCentre = 3;   // pixels from the knob's left edge to where it points
 constexpr double kScaleMargin = 10; // pixels of the slider that the scale leaves out
-constexpr int kNotch = 120;         // eighths of a degree
-constexpr int kVolumePerNotch = 5;  // percent
 
 } // namespace
 
 void VolumeSlider::SetScaleWidth(double width)
 {
     m_scaleWidth = width;
-    SetVolume(m_volume);
+    PlaceKnob();
 }
 
 void VolumeSlider::SetVolume(int percent)
 {
+    if (percent == m_volume)
+        return;
     m_volume = std::clamp(percent, 0, 100);
+    PlaceKnob();
+}
+
+void VolumeSlider::PlaceKnob()
+{
     // The first pixel that means this volume.
     m_knobLeft = std::ceil(m_volume * std::max(m_scaleWidth - kScaleMargin, 0.0) / 100);
 }
@@ -41,26 +46,6 @@ std::optional<int> VolumeSlider::PointerOnSlider(double x)
     m_knobLeft = x - kKnobCentre;
     m_volume = volume;
     return volume;
-}
-
-std::optional<int> VolumeSlider::Wheel(int eighths)
-{
-    // A turn back is felt at once, whatever the turn forward has left over.
-    if ((eighths < 0) != (m_wheel < 0))
-        m_wheel = 0;
-    m_wheel += eighths;
-    const int notches = m_wheel / kNotch;
-    m_wheel %= kNotch;
-    return StepBy(notches * kVolumePerNotch);
-}
-
-std::optional<int> VolumeSlider::StepBy(int percent)
-{
-    const int before = m_volume;
-    if (std::clamp(before + percent, 0, 100) == before)
-        return std::nullopt;
-    SetVolume(before + percent);
-    return m_volume;
 }
 
 } // namespace zentaro

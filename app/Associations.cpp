@@ -1,0 +1,44 @@
+#include "app/Associations.h"
+
+#include "assoc/AssociationTable.h"
+
+#include <utility>
+
+namespace zentaro {
+
+Associations::Associations(AssociationService service, platform::StringStore& store, char separator)
+    : m_service(std::move(service))
+    , m_store(store)
+    , m_separator(separator)
+{
+    if (m_service.shell != nullptr)
+        m_modAssoc.emplace(store, *m_service.shell, m_service.programPath, m_service.programFolder, separator);
+}
+
+void Associations::Apply(const AssociationFlags& flags)
+{
+    m_isPending = false;
+    if (m_modAssoc)
+        m_modAssoc->ApplyAssociations(flags);
+}
+
+void Associations::ApplyPostponed(const AssociationFlags& flags)
+{
+    if (m_isPending)
+        Apply(flags);
+}
+
+std::vector<AssociationChoice> Associations::Choices()
+{
+    if (m_modAssoc)
+        m_modAssoc->AdoptLiveOwners();
+    const ModIcons icons(m_store, m_service.icons, m_service.programFolder, m_separator);
+    std::vector<AssociationChoice> choices;
+    for (int i = 0; i < kAssociationCount; ++i) {
+        const auto row = AssociationRowAt(i, m_separator);
+        choices.push_back({ row.listText, m_service.icons.loadPicture ? icons.OwnerIcon(row.extension) : Picture() });
+    }
+    return choices;
+}
+
+} // namespace zentaro

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace zentaro {
+
+class Player;
+
+/// One thing that can be asked of the player. Menus, keys, buttons, the tray and the desktop's media controls know it by
+/// its id; what it is called and what it does stands in one list.
+struct Command {
+    std::string_view id;      ///< the key of the command tree's item where it has one
+    std::string_view caption; ///< "&" marks the access letter of menus
+    /// Names of keys such as "Shift+Left". The first one of an item of the command tree is its shortcut there.
+    std::span<const std::string_view> keys;
+    /// `which`: which of its keys was pressed, or which item of a row of equal ones was chosen; from 0.
+    void (*run)(Player& player, int which);
+    /// Whether it can do anything now, for buttons and menus beside the two trees; null: always.
+    bool (*isAvailable)(const Player& player) = nullptr;
+    /// Whether it names what is chosen now; null where there is nothing to choose.
+    bool (*isChecked)(const Player& player) = nullptr;
+    /// What ends it, for commands that last as long as they are held; null for all others.
+    void (*release)(Player& player) = nullptr;
+    /// The key does it again and again while it is held.
+    bool repeats = false;
+    /// What tooltips name as its key when a command of the same effect has it; else the first of `keys`.
+    std::string_view shownKey = {};
+};
+
+/// In the order in which a list of them is to be read.
+std::span<const Command> AllCommands();
+
+/// Null for an id that no command has.
+const Command* FindCommand(std::string_view id);
+
+/// Does it. An unknown id does nothing.
+void RunCommand(Player& player, std::string_view id, int which = 0);
+
+/// The key that tooltips name; empty when there is none.
+std::string_view ShownKey(const Command& command);
+
+} // namespace zentaro

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "app/ConfigFile.h"
+#include "playlist/Notice.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace zentaro {
+
+/// The main window, as the player knows it.
+class WindowFace {
+public:
+    virtual ~WindowFace() = default;
+
+    /// The whole screen's extent, for the first start.
+    virtual ScreenExtent Extent() const = 0;
+    virtual bool IsMaximized() const = 0;
+    virtual double WindowLeft() const = 0; ///< twips
+    virtual double WindowTop() const = 0;  ///< twips
+    virtual bool IsFullScreen() const = 0;
+
+    virtual void ShowWindow() = 0;
+    virtual void CloseWindow() = 0;
+    virtual void SetWindowSize(int width, int height) = 0; ///< logical pixels
+    virtual void SetWindowPosition(int left, int top) = 0; ///< twips
+    virtual void SetFullScreen(bool fullScreen) = 0;
+    virtual void FlashCaption() = 0;
+    /// Keys go to the video from now on.
+    virtual void FocusVideo() = 0;
+    /// Pops a menu of the classic tree up, by its control's name, near what it belongs to.
+    virtual void PopupMenu(const std::string& menu) = 0;
+    /// Shows a short line in the window that goes by itself, with a small copy of the picture in `file` unless that is
+    /// empty.
+    virtual void ShowNote(const std::string& text, const std::string& file = {}) = 0;
+    /// What is shown follows from the player's state, which has changed.
+    virtual void StateChanged() = 0;
+};
+
+/// What the user is told and asked in windows of their own. All calls return at once; what they answer through is never
+/// called from within.
+class DialogFace {
+public:
+    virtual ~DialogFace() = default;
+
+    /// Shows a box; `closed` follows.
+    virtual void ShowNotice(const Notice& notice, std::function<void()> closed) = 0;
+    /// Asks for files, more than one at will: one text per folder, as ParseOpenFileResult reads it; none on cancel.
+    virtual void AskForFiles(const std::string& title, const std::string& filter,
+        std::function<void(std::vector<std::string>)> chosen) = 0;
+    /// Asks for one file of subtitles; empty on cancel.
+    virtual void AskForSubtitles(std::function<void(std::string)> chosen) = 0;
+    /// WindowControl::DialogClosed() follows.
+    virtual void ShowOptions() = 0;
+    virtual void ShowAbout() = 0;
+    /// Opens the help pages; says so when they are missing.
+    virtual void ShowHelp() = 0;
+};
+
+/// Where a player shows itself. It is there from Player::Load on.
+struct PlayerFace {
+    WindowFace* window = nullptr;
+    DialogFace* dialogs = nullptr;
+};
+
+} // namespace zentaro

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "app/ConfigFile.h"
+#include "playback/Engine.h"
+#include "shell/SettingsPages.h"
+#include "shell/WindowLayout.h"
+
+#include <optional>
+#include <string>
+
+namespace zentaro {
+
+/// The left upper corner of a window, in twips.
+struct WindowPlace {
+    double left = 0;
+    double top = 0;
+};
+
+/// The settings of this run and the file that keeps them, `Config.cfg`.
+class SettingsStore {
+public:
+    /// `folder`: with a trailing separator.
+    SettingsStore(std::string folder, char separator);
+
+    const PlayerSettings& Settings() const { return m_settings; }
+    /// Between the folders of a path.
+    char Separator() const { return m_separator; }
+
+    /// Reads the file. A missing or damaged one is replaced by the defaults.
+    void LoadConfigurations(const ScreenExtent& screen);
+    /// Fails when the file is gone or must not be written; nothing has changed then. Without a place the one of before
+    /// stays.
+    Result<void> WriteConfigurations(std::optional<WindowPlace> place);
+    /// Works the engine's options out of the settings.
+    void SaveVLCOptions();
+    /// The engine's options for an item; its file name part names the folder of its snapshots.
+    EngineOptions ItemOptions(const std::string& path) const;
+    /// Where the snapshots of that item belong, without a trailing separator.
+    std::string SnapshotFolderOf(const std::string& path) const;
+
+    void TakePages(const SettingsPages& pages) { m_settings = WithPages(m_settings, pages); }
+    void SetPlayMode(std::int32_t mode) { m_settings.PlayMode = mode; }
+    void SetRepeatMode(std::int32_t mode) { m_settings.RepeatMode = mode; }
+    void SetWindowSize(int width, int height);
+    /// Where the list is docked when it is shown.
+    PlaylistDock StoredDock() const;
+    void StoreDock(PlaylistDock dock) { m_settings.PlaylistPosition = static_cast<std::int32_t>(dock); }
+
+private:
+    std::string m_path;
+    char m_separator;
+    PlayerSettings m_settings;
+    EngineOptions m_options;
+};
+
+} // namespace zentaro

@@ -1,0 +1,73 @@
+#include "app/SingleInstance.h"
+
+#include "shell/Caption.h"
+
+#include <utility>
+
+namespace zentaro {
+
+namespace {
+
+constexpr auto kRoot = platform::StringStore::Root::CurrentUser;
+
+constexpr int kMostCalls = 2; // before this process plays by itself
+
+std::string SettingKey()
+{
+    return platform::SettingsKey(kApplicationTitle, "Setting");
+}
+
+} // namespace
+
+SingleInstance::SingleInstance(HandOverService service, platform::StringStore& store, char separator)
+    : m_service(std::move(service))
+    , m_store(store)
+    , m_separator(separator)
+{
+}
+
+std::string SingleInstance::Read(const char* name, const char* fallback)
+{
+    return m_store.Read(kRoot, SettingKey(), name, fallback);
+}
+
+bool SingleInstance::BecomePlayer(StartupRequest request, bool useNewPlayer)
+{
+    m_request = std::move(request);
+    std::string silent;
+    for (int calls = 0;; ++calls) {
+        auto lock = m_service.lock();
+        const PublishedHandles handles{ Read("txtHwnd", "-1"), Read("txtHwnd1", "") };
+        const auto role = DecideRole(m_request, handles, useNewPlayer, m_service.isAlive, m_separator);
+        // A player can end or hang between the test and the call. Then it is decided once more; nobody is called again
+        // whom the first call did not reach.
+        const bool mayCall = calls < kMostCalls && role.handle != silent;
+        if (role.kind == StartRole::Kind::Player || (!role.text.empty() && !mayCall)) {
+            Publish();
+            return true;
+        }
+        lock.reset();
+        if (role.text.empty() || m_service.send(role.handle, role.text) != platform::HandOverOutcome::Silent)
+            return false;
+        m_service.tell("The player that runs already does not answer.");
+        silent = role.handle;
+    }
+}
+
+void SingleInstance::Publish()
+{
+    auto ends = m_service.listen();
+    if (!ends)
+        return; // a player that cannot be reached plays all the same
+    m_ends = std::move(*ends);
+    IgnoreFailure(m_store.Write(kRoot, SettingKey(), "txtHwnd", m_ends->CommandHandle()));
+    IgnoreFailure(m_store.Write(kRoot, SettingKey(), "txtHwnd1", m_ends->ProbeHandle()));
+}
+
+void SingleInstance::Receive(std::function<void(std::string text, platform::HandOverDone done)> onText)
+{
+    if (m_ends)
+        m_ends->Deliver(std::move(onText));
+}
+
+} // namespace zentaro

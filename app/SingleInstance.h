@@ -1,0 +1,49 @@
+#pragma once
+
+#include "app/StartUp.h"
+#include "platform/HandOver.h"
+#include "platform/StringStore.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace zentaro {
+
+/// How a process meets the players that were started before it.
+struct HandOverService {
+    std::function<Result<std::unique_ptr<platform::HandOverEnds>>()> listen;
+    std::function<bool(const std::string& handle)> isAlive;
+    std::function<platform::HandOverOutcome(const std::string& handle, const std::string& text)> send;
+    std::function<std::unique_ptr<platform::HandOverLock>()> lock;
+    /// Tells whoever started the process something that no window will show.
+    std::function<void(const std::string& text)> tell = [](const std::string&) {};
+};
+
+/// Sees to it that one player receives the files of all starts.
+class SingleInstance {
+public:
+    SingleInstance(HandOverService service, platform::StringStore& store, char separator);
+
+    /// Decides what this process is. True when it is the player from now on: then later starts can reach it. False when
+    /// it was a messenger and is to end at once.
+    bool BecomePlayer(StartupRequest request, bool useNewPlayer);
+    /// What this process was asked to open.
+    const StartupRequest& Request() const { return m_request; }
+    /// From now on texts of later starts arrive, those of before first. Each is answered through its `done`.
+    void Receive(std::function<void(std::string text, platform::HandOverDone done)> onText);
+    /// Later starts look for another player.
+    void Close() { m_ends.reset(); }
+
+private:
+    std::string Read(const char* name, const char* fallback);
+    void Publish();
+
+    HandOverService m_service;
+    platform::StringStore& m_store;
+    char m_separator;
+    StartupRequest m_request;
+    std::unique_ptr<platform::HandOverEnds> m_ends;
+};
+
+} // namespace zentaro

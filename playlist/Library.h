@@ -1,0 +1,84 @@
+#pragma once
+
+#include "inspect/Inspection.h"
+#include "playlist/AddQueue.h"
+
+#include <atomic>
+#include <functional>
+#include <list>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace zentaro {
+
+/// What the library needs from the player, beside what adding needs.
+class LibraryHost : public AddQueueHost {
+public:
+    /// Asks for files, more than one at will, and returns; `chosen` is called when the dialog is closed, never from
+    /// within: one text per folder, as ParseOpenFileResult reads it, none on cancel.
+    virtual void AskForFiles(const std::string& title, const std::string& filter,
+        std::function<void(std::vector<std::string>)> chosen) = 0;
+    /// Runs `work` beside the window and then, on its thread, what `work` has given back.
+    virtual void RunInBackground(std::function<std::function<void()>()> work) = 0;
+};
+
+/// The entries and every way in which files come to them.
+class Library {
+public:
+    Library(LibraryHost& host, InspectionRunner& inspections, RandomSource random, char separator);
+    ~Library();
+    Library(const Library&) = delete;
+    Library& operator=(const Library&) = delete;
+
+    Playlist& Entries() { return m_playlist; }
+    const Playlist& Entries() const { return m_playlist; }
+    /// About the inspection that was taken over last.
+    const InspectionState& Inspected() const { return m_inspected; }
+
+    /// Adds one file at once and, when `playNow`, plays it. `playFlag` asks for full screen; `decided` hears what
+    /// became of it.
+    void LoadThumb(const std::string& title, const std::string& path, bool playFlag, bool playNow,
+        std::function<void(AddOutcome)> decided = {});
+    /// Asks for files and adds them; the first one plays unless `addOnly`. `then` is called when the dialog is closed.
+    void OpenFiles(bool addOnly, std::function<void()> then = [] {});
+    /// Asks for files to add; where nothing is selected, the first entry will be.
+    void AddVideoFile();
+    /// Files or folders were dropped: those that are no media are left out.
+    void DropOnList(const std::vector<std::string>& paths);
+    /// As above, and the first one plays.
+    void DropOnVideo(const std::vector<std::string>& paths);
+
+    /// An entry was appended by other hands.
+    void TellEntryAdded() { m_host.EntryAdded(); }
+
+    void InspectionCompleted(int ticket, Inspection inspection);
+    void CancelAdding() { m_adding.Cancel(); }
+    AddProgress Adding() const { return m_adding.Progress(); }
+    /// Nothing is added any more, and nobody is asked.
+    void Close();
+
+private:
+    /// Files dropped on the list; they are added in the order of the drops, each when its folders are read.
+    struct Drop {
+        bool isRead = false;
+        std::vector<std::string> files = {};
+    };
+
+    void Ask(bool playFirst, bool selectsFirst, std::function<void()> then);
+    void SelectFirst();
+    /// Calls `found` with the media files among the paths, soon or after a whole disk was read.
+    void FindMedia(
+        const std::vector<std::string>& paths, std::function<void(const std::vector<std::string>& files)> found);
+    void AddReadDrops();
+
+    LibraryHost& m_host;
+    char m_separator;
+    Playlist m_playlist;
+    InspectionState m_inspected;
+    AddQueue m_adding;
+    std::list<Drop> m_drops;
+    std::shared_ptr<std::atomic<bool>> m_isOpen; // what comes back from elsewhere finds it closed
+};
+
+} // namespace zentaro
