@@ -211,7 +211,6 @@ void Player::PlayItem(std::int16_t index, bool fullScreen)
     ShowCaption();
     m_history.AddToHistory(m_currentItemPath, m_playlist.List().SelectedText());
     m_playlist.List().SetPlayingItem(index);
-    m_playlist.List().ScrollToRow(index);
     EnableMediaControls(true);
     m_rate.ItemStarted();
     ShowRateLabel(true);
@@ -222,9 +221,9 @@ void Player::PlayItem(std::int16_t index, bool fullScreen)
 
 void Player::ShowCaption()
 {
-    const auto* const entry = m_playlist.SelectedEntry();
-    m_world.screen.ShowCaption(CaptionText({ m_settings.TitleBarMode, m_playlist.List().SelectedText(),
-        entry != nullptr ? entry->FullPath : std::string() }));
+    const auto entry = m_playlist.SelectedEntry();
+    m_world.screen.ShowCaption(CaptionText(
+        { m_settings.TitleBarMode, m_playlist.List().SelectedText(), entry ? entry->FullPath : std::string() }));
 }
 
 } // namespace zentaro

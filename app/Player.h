@@ -137,6 +137,8 @@ public:
     /// As above, and the first one plays.
     void DropOnVideo(const std::vector<std::string>& paths);
     void ListClicked();
+    /// A key of the list.
+    void MoveSelection(SelectionMove move) { m_playlist.MoveSelection(move, m_settings.PlayMode); }
     void ListDoubleClicked();
     void RemoveSelected();
     void RemoveAll();

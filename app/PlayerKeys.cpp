@@ -60,7 +60,7 @@ constexpr std::array kTable{
     PlayerKey{ "Esc", kEscape, "Leave full screen", [](Player& player, int) { player.LeaveFullScreen(); } },
     PlayerKey{ "Enter", kEnter, "Play the selected entry; in the menu of a disc, press the button",
         [](Player& player, int) {
-            if (!player.NavigateDisc(DiscKey::Activate) && player.Entries().SelectedEntry() != nullptr)
+            if (!player.NavigateDisc(DiscKey::Activate) && player.Entries().SelectedEntry())
                 player.CMDPlayClick();
         } },
     PlayerKey{ "Delete", kDelete, "Remove the selected entry from the playlist",

@@ -88,7 +88,7 @@ void Player::PlayOrPause()
         return;
     }
     // A removal can leave the selection behind the last entry.
-    if (m_playlist.Count() > 0 && m_playlist.SelectedEntry() == nullptr)
+    if (m_playlist.Count() > 0 && !m_playlist.SelectedEntry())
         m_playlist.List().SetSelectedItem(m_playlist.Count() - 1);
     CMDPlayClick();
 }

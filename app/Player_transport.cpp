@@ -211,7 +211,7 @@ void Player::EnableMediaControls(bool enabled)
     m_hasVideoOutput = false;
     m_commands.SetEnabled({ "Stop", "FullScreen", "IncreaseSpeed", "DecreaseSpeed", "ResetSpeed" }, enabled);
     if (!enabled)
-        m_playlist.List().SetPlayingItem(FancyListState::kNone);
+        m_playlist.List().SetPlayingItem(FancyListItems::kNone);
     m_world.screen.StateChanged();
 }
 
