@@ -87,8 +87,8 @@ void MediaRemote::UpdateTrack()
         return;
     }
     // An item that was taken off the list plays on, and is still what it was.
-    const auto* const entry = m_player.Entries().EntryAt(m_player.Entries().List().PlayingItem());
-    if (entry == nullptr || entry->Id == m_track.id)
+    const auto entry = m_player.Entries().EntryAt(m_player.Entries().List().PlayingItem());
+    if (!entry || entry->Id == m_track.id)
         return;
     m_track = TrackOf(*entry);
     m_artwork = entry->Thumbnail ? m_window.saveArtwork(entry->Id, entry->Thumbnail) : std::string();
@@ -210,11 +210,7 @@ void MediaRemote::SetFullScreen(bool fullScreen)
 
 std::optional<int> MediaRemote::IndexOf(std::uint64_t track) const
 {
-    const auto& entries = m_player.Entries();
-    for (int i = 0; track != 0 && i < entries.Count(); ++i)
-        if (entries.EntryAt(i)->Id == track)
-            return i;
-    return std::nullopt;
+    return m_player.Entries().IndexOf(track);
 }
 
 void MediaRemote::RemoveTrack(int index)

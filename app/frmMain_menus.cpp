@@ -60,30 +60,22 @@ bool frmMain::FocusUsesKey(const QKeyEvent& event) const
 
 bool frmMain::MoveSelection(const QKeyEvent& event)
 {
-    auto& list = m_player->Entries().List();
-    const int selected = std::min(list.SelectedItem(), list.Count());
-    const int last = list.Count() - 1;
-    int row = 0;
     switch (event.key()) {
     case Qt::Key_Up:
-        row = std::max(selected - 1, 0);
-        break;
+        m_player->MoveSelection(SelectionMove::Up);
+        return true;
     case Qt::Key_Down:
-        row = std::min(selected + 1, last);
-        break;
+        m_player->MoveSelection(SelectionMove::Down);
+        return true;
     case Qt::Key_Home:
-        row = 0;
-        break;
+        m_player->MoveSelection(SelectionMove::ToFirst);
+        return true;
     case Qt::Key_End:
-        row = last;
-        break;
+        m_player->MoveSelection(SelectionMove::ToLast);
+        return true;
     default:
         return false;
     }
-    list.SetSelectedItem(row);
-    list.ScrollToRow(row);
-    m_player->ListClicked();
-    return true;
 }
 
 void frmMain::ShowOptions()

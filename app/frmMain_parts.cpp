@@ -152,11 +152,10 @@ void frmMain::MakeTitleButton(Button button, const QString& name, const QString&
 
 void frmMain::MakeList()
 {
-    auto& state = m_player->Entries().List();
-    state.SetImageWidth(64);
-    state.SetImageHeight(64);
-    state.SetItemHeight(80);
-    m_list = new FancyList(state, m_content);
+    m_list = new FancyList(m_player->Entries().List(), m_content);
+    m_list->SetImageWidth(64);
+    m_list->SetImageHeight(64);
+    m_list->SetItemHeight(80);
     m_list->setObjectName("FancyList1");
     m_list->installEventFilter(this);
     m_list->setMinimumSize(kPaneMinimum, kPaneMinimum);

@@ -64,9 +64,9 @@ void AddAll(Playlist& playlist, SilentHost& host, const std::vector<Picture>& pi
 struct FullList {
     FullList()
     {
-        playlist.List().SetImageWidth(64);
-        playlist.List().SetImageHeight(64);
-        playlist.List().SetItemHeight(80);
+        list.SetImageWidth(64);
+        list.SetImageHeight(64);
+        list.SetItemHeight(80);
         list.resize(400, 1080);
         list.show();
         AddAll(playlist, host, SmallPictures());
@@ -93,7 +93,7 @@ BENCHMARK(AddTenThousand)->Arg(kPlayContinuous)->Arg(kPlayShuffle)->Unit(benchma
 void RepaintVisibleRows(benchmark::State& state)
 {
     FullList full;
-    full.playlist.List().SetScrollValue(4'040);
+    full.list.Scroll(-16 * 4'040);
     QImage image(400, 1080, QImage::Format_RGB32);
     for (auto _ : state)
         full.list.render(&image);

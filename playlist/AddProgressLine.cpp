@@ -22,6 +22,7 @@ QuietButton::QuietButton(const QString& text, QWidget* parent)
     setText(text);
     setFont(FancyListFont(kFontHeight));
     setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_Hover);
 }
 
 QSize QuietButton::sizeHint() const
@@ -40,16 +41,6 @@ void QuietButton::paintEvent(QPaintEvent*)
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
     painter.setPen(isDown() ? QColor(kWarmLight) : palette().color(QPalette::ButtonText));
     painter.drawText(rect(), Qt::AlignCenter, text());
-}
-
-void QuietButton::enterEvent(QEnterEvent*)
-{
-    update();
-}
-
-void QuietButton::leaveEvent(QEvent*)
-{
-    update();
 }
 
 AddProgressLine::AddProgressLine(QWidget* parent)

@@ -16,8 +16,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-    void enterEvent(QEnterEvent* event) override;
-    void leaveEvent(QEvent* event) override;
 };
 
 /// The slim line at the bottom of the list while files are being added: how far it is, and a way to stop it.

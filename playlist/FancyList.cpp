@@ -50,9 +50,10 @@ void AcceptAsCopy(QDropEvent& event)
     event.accept();
 }
 
-FancyList::FancyList(FancyListState& state, QWidget* parent)
+FancyList::FancyList(FancyListItems& items, QWidget* parent)
     : QWidget(parent)
-    , m_state(state)
+    , m_items(items)
+    , m_layout(items, *this)
     , m_progressLine(new AddProgressLine(this))
 {
     m_look.font = FancyListFont(kTitleHeight);
@@ -65,18 +66,14 @@ FancyList::FancyList(FancyListState& state, QWidget* parent)
     FancyListAccessible::Install();
     setAccessibleName(tr("Playlist"));
     connect(m_progressLine, &AddProgressLine::Cancelled, this, &FancyList::CancelAdding);
-    m_state.SetObserver(this);
     PlaceSurface();
 }
 
-FancyList::~FancyList()
-{
-    m_state.SetObserver(nullptr);
-}
+FancyList::~FancyList() = default;
 
 void FancyList::RenderThumb(QPainter& painter, const Picture& picture, int x, int y, int width, int height)
 {
-    FancyListPainter(painter, m_state, m_look, m_thumbs).RenderThumb(picture, { x, y, x + width, y + height });
+    FancyListPainter(painter, m_layout, m_look, m_thumbs).RenderThumb(picture, { x, y, x + width, y + height });
 }
 
 void FancyList::ShowAddProgress(const AddProgress& progress)
@@ -105,7 +102,7 @@ void FancyList::paintEvent(QPaintEvent*)
 {
     m_look.palette = palette();
     QPainter painter(this);
-    FancyListPainter(painter, m_state, m_look, m_thumbs).Paint();
+    FancyListPainter(painter, m_layout, m_look, m_thumbs).Paint();
 }
 
 void FancyList::resizeEvent(QResizeEvent*)
@@ -145,7 +142,7 @@ void FancyList::mouseDoubleClickEvent(QMouseEvent* event)
 void FancyList::mouseMoveEvent(QMouseEvent* event)
 {
     if (m_thumbGrip >= 0) {
-        m_state.SetScrollValue(m_state.ScrollValueForThumb(event->pos().y() - m_thumbGrip));
+        m_layout.SetScrollValue(m_layout.ScrollValueForThumb(event->pos().y() - m_thumbGrip));
         return;
     }
     SetScrollBarLook(IsOnScrollBar(event->pos()) ? ScrollBarLook::Over : ScrollBarLook::Normal);
@@ -163,7 +160,7 @@ void FancyList::wheelEvent(QWheelEvent* event)
     m_wheelRest += event->angleDelta().y();
     // Touch pads send deltas that would each round to nothing.
     if (std::abs(m_wheelRest) >= kWheelPixel)
-        m_state.Scroll(std::exchange(m_wheelRest, 0));
+        m_layout.Scroll(std::exchange(m_wheelRest, 0));
     event->accept();
 }
 
@@ -204,9 +201,9 @@ void FancyList::dropEvent(QDropEvent* event)
 
 void FancyList::ListChanged()
 {
-    if (std::exchange(m_toldCount, m_state.Count()) != m_state.Count())
+    if (std::exchange(m_toldCount, Count()) != Count())
         FancyListAccessible::TellRowsChanged(*this);
-    if (std::exchange(m_toldSelection, m_state.SelectedItem()) != m_state.SelectedItem())
+    if (std::exchange(m_toldSelection, SelectedItem()) != SelectedItem())
         FancyListAccessible::TellSelectionChanged(*this);
 }
 
@@ -214,24 +211,24 @@ void FancyList::PlaceSurface()
 {
     const int line = m_progressLine->isVisibleTo(this) ? m_progressLine->sizeHint().height() : 0;
     m_progressLine->setGeometry(0, height() - line, width(), m_progressLine->sizeHint().height());
-    m_state.SetSurfaceSize(width(), height() - line);
+    m_layout.SetSurfaceSize(width(), height() - line);
 }
 
 // The title in full, as plain text, when its row is too narrow for it.
 QString FancyList::CutTitleAt(const QPoint& at) const
 {
-    const int row = m_state.RowAt(at.y());
-    if (row == FancyListState::kNone)
+    const int row = m_layout.RowAt(at.y());
+    if (row == FancyListItems::kNone)
         return {};
-    const auto title = QString::fromStdString(m_state.Item(row).Text).left(kLongestTip);
-    if (QFontMetrics(m_look.font).horizontalAdvance(title) <= m_state.TextRect(row).Width())
+    const auto title = QString::fromStdString(m_items.Item(row).Text).left(kLongestTip);
+    if (QFontMetrics(m_look.font).horizontalAdvance(title) <= m_layout.TextRect(row).Width())
         return {};
     return "<p>" + title.toHtmlEscaped() + "</p>";
 }
 
 bool FancyList::IsOnScrollBar(const QPoint& at) const
 {
-    return m_state.ScrollBarVisible() && at.x() >= m_state.ScrollBar(kScrollBarWidth).left;
+    return m_layout.ScrollBarVisible() && at.x() >= m_layout.ScrollBar(kScrollBarWidth).left;
 }
 
 // The thumb is taken where it is pressed; beside it, its middle jumps to the pointer.
@@ -239,10 +236,10 @@ bool FancyList::GrabScrollBar(const QPoint& at)
 {
     if (!IsOnScrollBar(at))
         return false;
-    const auto thumb = m_state.ScrollThumb(kScrollBarWidth);
+    const auto thumb = m_layout.ScrollThumb(kScrollBarWidth);
     const bool onThumb = at.y() >= thumb.top && at.y() < thumb.bottom;
     m_thumbGrip = onThumb ? at.y() - thumb.top : thumb.Height() / 2;
-    m_state.SetScrollValue(m_state.ScrollValueForThumb(at.y() - m_thumbGrip));
+    m_layout.SetScrollValue(m_layout.ScrollValueForThumb(at.y() - m_thumbGrip));
     SetScrollBarLook(ScrollBarLook::Press);
     return true;
 }
@@ -250,7 +247,7 @@ bool FancyList::GrabScrollBar(const QPoint& at)
 void FancyList::Press(const QMouseEvent& event)
 {
     if (event.button() == Qt::LeftButton)
-        m_state.PressAt(event.pos().y());
+        m_items.Press(m_layout.RowAt(event.pos().y()));
     emit MouseDown(event.button(), event.modifiers(), event.pos().x(), event.pos().y());
 }
 

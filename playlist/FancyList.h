@@ -1,14 +1,15 @@
 #pragma once
 
 #include "playlist/AddQueue.h"
+#include "playlist/FancyListLayout.h"
 #include "playlist/FancyListPainter.h"
-#include "playlist/FancyListState.h"
 #include "playlist/ThumbCache.h"
 
 #include <QMimeData>
 #include <QWidget>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace zentaro {
@@ -21,17 +22,44 @@ std::vector<std::string> DroppedPaths(const QMimeData& data);
 /// Accepts a drag or drop of files whatever the source proposes: after a move it would delete them.
 void AcceptAsCopy(QDropEvent& event);
 
-/// The thumbnail list on the screen: paints a FancyListState and raises events; it decides nothing. A left press has
-/// set the selection when MouseDown, and after it Click or DblClick, are raised. Positions are pixels of the list.
+/// The thumbnail list on the screen: shows a FancyListItems and raises events; it decides nothing. A left press has
+/// set the selection when MouseDown, and after it Click or DblClick, are raised. Lengths and positions are logical
+/// pixels of the list. The row being played, when it gets its mark, and a row that the keys come to scroll into sight.
 class FancyList : public QWidget, private FancyListObserver {
     Q_OBJECT
 public:
-    /// The state must outlive the list.
-    explicit FancyList(FancyListState& state, QWidget* parent = nullptr);
+    /// The items must outlive the list, and have no other one.
+    explicit FancyList(FancyListItems& items, QWidget* parent = nullptr);
     ~FancyList() override;
 
-    FancyListState& State() { return m_state; }
-    const FancyListState& State() const { return m_state; }
+    const FancyListItems& Items() const { return m_items; }
+    const FancyListLayout& Layout() const { return m_layout; }
+
+    // The rules of these are told by FancyListItems...
+    int Count() const { return m_items.Count(); }
+    int SelectedItem() const { return m_items.SelectedItem(); }
+    void SetSelectedItem(int index) { m_items.SetSelectedItem(index); }
+    std::string SelectedText() const { return m_items.SelectedText(); }
+    bool Refresh() const { return m_items.Refresh(); }
+    void SetRefresh(bool on) { m_items.SetRefresh(on); }
+    void AddItem(std::string text, Picture picture) { m_items.AddItem(std::move(text), std::move(picture)); }
+    void Clear() { m_items.Clear(); }
+    void RemoveItem(int index) { m_items.RemoveItem(index); }
+    // ... and of these by FancyListLayout.
+    int ItemHeight() const { return m_layout.ItemHeight(); }
+    void SetItemHeight(int height) { m_layout.SetItemHeight(height); }
+    int ImageHeight() const { return m_layout.ImageHeight(); }
+    void SetImageHeight(int height) { m_layout.SetImageHeight(height); }
+    int ImageWidth() const { return m_layout.ImageWidth(); }
+    void SetImageWidth(int width) { m_layout.SetImageWidth(width); }
+    int Padding() const { return m_layout.Padding(); }
+    void SetPadding(int padding) { m_layout.SetPadding(padding); }
+    bool NoThumbBlack() const { return m_layout.NoThumbBlack(); }
+    void SetNoThumbBlack(bool on) { m_layout.SetNoThumbBlack(on); }
+    bool Thumbnails() const { return m_layout.Thumbnails(); }
+    void SetThumbnails(bool on) { m_layout.SetThumbnails(on); }
+    void Scroll(int delta) { m_layout.Scroll(delta); }
+
     /// The font of the titles.
     QFont Font() const { return m_look.font; }
     /// Draws a picture fitted into a box on any surface.
@@ -78,13 +106,14 @@ private:
     void Press(const QMouseEvent& event);
     void SetScrollBarLook(ScrollBarLook look);
 
-    FancyListState& m_state;
+    FancyListItems& m_items;
+    FancyListLayout m_layout;
     FancyListLook m_look;
     ThumbCache m_thumbs;
     AddProgressLine* m_progressLine;
     int m_thumbGrip = -1; // where the scroll bar's thumb is held, in pixels below its top
     int m_wheelRest = 0;  // fine wheel deltas that do not move a pixel yet
-    int m_toldSelection = FancyListState::kNone;
+    int m_toldSelection = FancyListItems::kNone;
     int m_toldCount = 0;
     bool m_clickPending = false;
 };

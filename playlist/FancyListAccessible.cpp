@@ -20,7 +20,7 @@ public:
     }
     int Number() const { return m_row; }
 
-    bool isValid() const override { return m_list && m_row < m_list->State().Count(); }
+    bool isValid() const override { return m_list && m_row < m_list->Count(); }
     QObject* object() const override { return nullptr; }
     QWindow* window() const override { return m_list ? m_list->window()->windowHandle() : nullptr; }
     QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(m_list); }
@@ -35,11 +35,11 @@ public:
     {
         if (!isValid())
             return {};
-        const auto& state = m_list->State();
-        const auto& item = state.Item(m_row);
+        const auto& items = m_list->Items();
+        const auto& item = items.Item(m_row);
         if (kind == QAccessible::Name) {
             const auto title = QString::fromStdString(item.Text);
-            return state.PlayingItem() == m_row ? FancyList::tr("%1, playing").arg(title) : title;
+            return items.PlayingItem() == m_row ? FancyList::tr("%1, playing").arg(title) : title;
         }
         return kind == QAccessible::Description ? QString::fromStdString(item.Detail) : QString();
     }
@@ -48,7 +48,7 @@ public:
     {
         if (!isValid())
             return {};
-        const auto row = m_list->State().RowRect(m_row);
+        const auto row = m_list->Layout().RowRect(m_row);
         return { m_list->mapToGlobal(QPoint(row.left, row.top)), QSize(row.Width(), row.Height()) };
     }
 
@@ -59,9 +59,9 @@ public:
             state.invalid = true;
             return state;
         }
-        const auto visible = m_list->State().VisibleRows();
+        const auto visible = m_list->Layout().VisibleRows();
         state.selectable = true;
-        state.selected = m_list->State().SelectedItem() == m_row;
+        state.selected = m_list->SelectedItem() == m_row;
         state.focusable = true;
         state.focused = state.selected && m_list->hasFocus();
         state.offscreen = m_row < visible.first || m_row > visible.last;
@@ -79,7 +79,7 @@ public:
     {
         if (name != pressAction() || !isValid())
             return;
-        m_list->State().SetSelectedItem(m_row);
+        m_list->SetSelectedItem(m_row);
         emit m_list->DblClick();
     }
 
@@ -112,8 +112,8 @@ void FancyListAccessible::TellRowsChanged(FancyList& list)
 
 void FancyListAccessible::TellSelectionChanged(FancyList& list)
 {
-    const int row = list.State().SelectedItem();
-    if (!QAccessible::isActive() || row < 0 || row >= list.State().Count())
+    const int row = list.SelectedItem();
+    if (!QAccessible::isActive() || row < 0 || row >= list.Count())
         return;
     QAccessibleEvent selected(&list, QAccessible::Selection);
     selected.setChild(row);
@@ -137,12 +137,12 @@ FancyListAccessible::~FancyListAccessible()
 
 int FancyListAccessible::childCount() const
 {
-    return List().State().Count() + QAccessibleWidget::childCount();
+    return List().Count() + QAccessibleWidget::childCount();
 }
 
 QAccessibleInterface* FancyListAccessible::child(int index) const
 {
-    const int rows = List().State().Count();
+    const int rows = List().Count();
     return index >= 0 && index < rows ? Row(index) : QAccessibleWidget::child(index - rows);
 }
 
@@ -151,9 +151,9 @@ QAccessibleInterface* FancyListAccessible::childAt(int x, int y) const
     auto& list = List();
     const auto at = list.mapFromGlobal(QPoint(x, y));
     const bool onSurface =
-        at.x() >= 0 && at.x() < list.State().SurfaceWidth() && at.y() >= 0 && at.y() < list.State().SurfaceHeight();
-    const int row = onSurface ? list.State().RowAt(at.y()) : FancyListState::kNone;
-    return row != FancyListState::kNone ? Row(row) : QAccessibleWidget::childAt(x, y);
+        at.x() >= 0 && at.x() < list.Layout().SurfaceWidth() && at.y() >= 0 && at.y() < list.Layout().SurfaceHeight();
+    const int row = onSurface ? list.Layout().RowAt(at.y()) : FancyListItems::kNone;
+    return row != FancyListItems::kNone ? Row(row) : QAccessibleWidget::childAt(x, y);
 }
 
 int FancyListAccessible::indexOfChild(const QAccessibleInterface* child) const
@@ -161,13 +161,13 @@ int FancyListAccessible::indexOfChild(const QAccessibleInterface* child) const
     if (const auto* row = dynamic_cast<const FancyListRow*>(child))
         return row->Number();
     const int widget = QAccessibleWidget::indexOfChild(child);
-    return widget < 0 ? widget : widget + List().State().Count();
+    return widget < 0 ? widget : widget + List().Count();
 }
 
 QAccessibleInterface* FancyListAccessible::focusChild() const
 {
-    const int selected = List().State().SelectedItem();
-    if (List().hasFocus() && selected >= 0 && selected < List().State().Count())
+    const int selected = List().SelectedItem();
+    if (List().hasFocus() && selected >= 0 && selected < List().Count())
         return Row(selected);
     return QAccessibleWidget::focusChild();
 }

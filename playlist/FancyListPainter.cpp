@@ -92,9 +92,9 @@ QFont FancyListFont(int height)
 }
 
 FancyListPainter::FancyListPainter(
-    QPainter& painter, const FancyListState& state, const FancyListLook& look, ThumbCache& thumbs)
+    QPainter& painter, const FancyListLayout& layout, const FancyListLook& look, ThumbCache& thumbs)
     : m_painter(painter)
-    , m_state(state)
+    , m_layout(layout)
     , m_look(look)
     , m_thumbs(thumbs)
 {
@@ -102,11 +102,11 @@ FancyListPainter::FancyListPainter(
 
 void FancyListPainter::Paint()
 {
-    m_painter.fillRect(0, 0, m_state.SurfaceWidth(), m_state.SurfaceHeight(), m_look.palette.color(QPalette::Window));
-    const auto rows = m_state.VisibleRows();
+    m_painter.fillRect(0, 0, m_layout.SurfaceWidth(), m_layout.SurfaceHeight(), m_look.palette.color(QPalette::Window));
+    const auto rows = m_layout.VisibleRows();
     for (int row = rows.first; row <= rows.last; ++row)
         PaintRow(row);
-    if (m_state.ScrollBarVisible())
+    if (m_layout.ScrollBarVisible())
         PaintScrollBar();
     if (m_look.focusFrame)
         PaintFocusFrame();
@@ -114,27 +114,27 @@ void FancyListPainter::Paint()
 
 void FancyListPainter::PaintRow(int row)
 {
-    const auto& item = m_state.Item(row);
-    const bool selected = row == m_state.SelectedItem();
+    const auto& item = m_layout.Items().Item(row);
+    const bool selected = row == m_layout.Items().SelectedItem();
     const auto background = m_look.palette.color(selected ? QPalette::Highlight : QPalette::Window);
     const auto text = m_look.palette.color(selected ? QPalette::HighlightedText : QPalette::ButtonText);
-    auto area = ToQRect(m_state.RowRect(row));
+    auto area = ToQRect(m_layout.RowRect(row));
     area.setHeight(area.height() - 1);
     if (!selected)
         m_painter.fillRect(0, area.bottom() + 1, area.width(), 1, m_look.palette.color(QPalette::Button));
     m_painter.fillRect(area, background);
-    if (!item.Pic.IsEmpty() && m_state.Thumbnails())
-        RenderThumb(item.Pic, m_state.ImageRect(row));
-    PaintText(item, m_state.TextRect(row), text, Mixed(text, background, 0.38));
-    if (row == m_state.PlayingItem())
+    if (!item.Pic.IsEmpty() && m_layout.Thumbnails())
+        RenderThumb(item.Pic, m_layout.ImageRect(row));
+    PaintText(item, m_layout.TextRect(row), text, Mixed(text, background, 0.38));
+    if (row == m_layout.Items().PlayingItem())
         PaintPlayingMark(row);
 }
 
 void FancyListPainter::RenderThumb(const Picture& picture, const ListRect& box)
 {
-    if (!m_state.NoThumbBlack())
+    if (!m_layout.NoThumbBlack())
         m_painter.fillRect(ToQRect(box), Qt::black);
-    const auto place = FancyListState::FitThumb(picture.Width(), picture.Height(), box);
+    const auto place = FancyListLayout::FitThumb(picture.Width(), picture.Height(), box);
     const auto ratio = m_painter.device()->devicePixelRatioF();
     auto image =
         m_thumbs.Scaled(picture, { RoundHalfEven(place.Width() * ratio), RoundHalfEven(place.Height() * ratio) });
@@ -177,8 +177,8 @@ void FancyListPainter::PaintText(
 // A bar at the left edge, beside the thumbnail.
 void FancyListPainter::PaintPlayingMark(int row)
 {
-    const auto area = m_state.RowRect(row);
-    const int inset = std::max(0, m_state.Padding());
+    const auto area = m_layout.RowRect(row);
+    const int inset = std::max(0, m_layout.Padding());
     m_painter.save();
     m_painter.setRenderHint(QPainter::Antialiasing);
     m_painter.setPen(Qt::NoPen);
@@ -202,8 +202,8 @@ void FancyListPainter::PaintScrollBar()
         m_painter.drawRoundedRect(bar, bar.width() / 2, bar.width() / 2);
     };
     if (!idle)
-        paint(m_state.ScrollBar(kScrollBarWidth), Faded(text, 0.07));
-    paint(m_state.ScrollThumb(kScrollBarWidth), thumb);
+        paint(m_layout.ScrollBar(kScrollBarWidth), Faded(text, 0.07));
+    paint(m_layout.ScrollThumb(kScrollBarWidth), thumb);
     m_painter.restore();
 }
 
@@ -211,7 +211,7 @@ void FancyListPainter::PaintFocusFrame()
 {
     m_painter.setPen(QColor(kWarmLight));
     m_painter.setBrush(Qt::NoBrush);
-    m_painter.drawRect(0, 0, m_state.SurfaceWidth() - 1, m_state.SurfaceHeight() - 1);
+    m_painter.drawRect(0, 0, m_layout.SurfaceWidth() - 1, m_layout.SurfaceHeight() - 1);
 }
 
 } // namespace zentaro

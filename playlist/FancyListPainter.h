@@ -1,6 +1,6 @@
 #pragma once
 
-#include "playlist/FancyListState.h"
+#include "playlist/FancyListLayout.h"
 #include "playlist/ThumbCache.h"
 
 #include <QFont>
@@ -15,8 +15,8 @@ inline constexpr QRgb kWarmLight = 0xFFFFB020;
 
 enum class ScrollBarLook { Normal, Over, Press };
 
-/// How a paint looks besides the state. Colours are the palette's Window, ButtonText, Button (separators), Highlight
-/// and HighlightedText.
+/// How a paint looks besides items and layout. Colours are the palette's Window, ButtonText, Button (separators),
+/// Highlight and HighlightedText.
 struct FancyListLook {
     QPalette palette;
     QFont font;
@@ -31,10 +31,10 @@ inline constexpr int kScrollBarWidth = 8;
 /// The list's two fonts: weight 400, of the given height in pixels from the highest to the lowest point of a line.
 QFont FancyListFont(int height);
 
-/// Draws the state's geometry as it is.
+/// Draws the rows where the layout has them.
 class FancyListPainter {
 public:
-    FancyListPainter(QPainter& painter, const FancyListState& state, const FancyListLook& look, ThumbCache& thumbs);
+    FancyListPainter(QPainter& painter, const FancyListLayout& layout, const FancyListLook& look, ThumbCache& thumbs);
 
     /// The whole surface.
     void Paint();
@@ -49,7 +49,7 @@ private:
     void PaintFocusFrame();
 
     QPainter& m_painter;
-    const FancyListState& m_state;
+    const FancyListLayout& m_layout;
     const FancyListLook& m_look;
     ThumbCache& m_thumbs;
 };

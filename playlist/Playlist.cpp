@@ -1,5 +1,6 @@
 #include "playlist/Playlist.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -10,24 +11,32 @@ Playlist::Playlist(RandomSource random)
 {
 }
 
-const PlaylistEntry* Playlist::EntryAt(int index) const
+std::optional<PlaylistEntry> Playlist::EntryAt(int index) const
 {
-    return index >= 0 && index < Count() ? &m_entries[static_cast<std::size_t>(index)] : nullptr;
+    if (!IsEntry(index))
+        return std::nullopt;
+    const auto& row = m_list.Item(index);
+    const auto& file = m_files[static_cast<std::size_t>(index)];
+    return PlaylistEntry{ row.Text, file.FullPath, row.Pic, file.MediaInfo, file.Id };
 }
 
 std::string Playlist::PathAt(int index) const
 {
-    const auto* entry = EntryAt(index);
-    return entry ? entry->FullPath : std::string();
+    return IsEntry(index) ? m_files[static_cast<std::size_t>(index)].FullPath : std::string();
+}
+
+std::optional<int> Playlist::IndexOf(std::uint64_t id) const
+{
+    const auto at = std::find_if(m_files.begin(), m_files.end(), [&](const File& file) { return file.Id == id; });
+    return at != m_files.end() ? std::optional(static_cast<int>(at - m_files.begin())) : std::nullopt;
 }
 
 void Playlist::Append(PlaylistEntry entry, std::string detail)
 {
-    m_paths.insert(entry.FullPath);
-    entry.Id = ++m_lastId;
     ++m_revision;
-    m_entries.push_back(std::move(entry));
-    m_list.AddItem(m_entries.back().Title, m_entries.back().Thumbnail, std::move(detail));
+    m_paths.insert(entry.FullPath);
+    m_files.push_back({ std::move(entry.FullPath), std::move(entry.MediaInfo), ++m_lastId });
+    m_list.AddItem(std::move(entry.Title), std::move(entry.Thumbnail), std::move(detail));
 }
 
 void Playlist::BuildOrder(std::int32_t playMode)
@@ -41,11 +50,11 @@ void Playlist::BuildOrder(std::int32_t playMode)
 void Playlist::RemoveSelected()
 {
     const int selected = m_list.SelectedItem();
-    if (!EntryAt(selected))
+    if (!IsEntry(selected))
         return;
     ++m_revision;
     m_paths.erase(PathAt(selected));
-    m_entries.erase(m_entries.begin() + selected);
+    m_files.erase(m_files.begin() + selected);
     m_order.RemoveAt(selected);
     m_list.RemoveItem(selected);
 }
@@ -53,7 +62,7 @@ void Playlist::RemoveSelected()
 void Playlist::RemoveAll()
 {
     ++m_revision;
-    m_entries.clear();
+    m_files.clear();
     m_paths.clear();
     m_order.Clear();
     m_list.Clear();
@@ -65,9 +74,28 @@ void Playlist::OnClick(std::int32_t playMode)
         MovePositionToSelected();
 }
 
+bool Playlist::MoveSelection(SelectionMove move, std::int32_t playMode)
+{
+    const int before = m_list.SelectedItem();
+    const int last = Count() - 1;
+    // A removal can leave the selection behind the last entry.
+    const int from = std::min(before, Count());
+    int row = 0;
+    if (move == SelectionMove::Up)
+        row = std::max(from - 1, 0);
+    else if (move == SelectionMove::Down)
+        row = std::min(from + 1, last);
+    else if (move == SelectionMove::ToLast)
+        row = last;
+    m_list.SetSelectedItem(row);
+    m_list.ShowRow(row);
+    OnClick(playMode);
+    return m_list.SelectedItem() != before;
+}
+
 std::optional<int> Playlist::DoubleClickedIndex() const
 {
-    return SelectedEntry() ? std::optional(m_list.SelectedItem()) : std::nullopt;
+    return IsEntry(m_list.SelectedItem()) ? std::optional(m_list.SelectedItem()) : std::nullopt;
 }
 
 EndOfItem Playlist::OnEndOfItem(std::int32_t playMode, std::int32_t repeatMode)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Picture.h"
-#include "playlist/FancyListState.h"
+#include "playlist/FancyListItems.h"
 #include "playlist/PlayOrder.h"
 #include "playlist/Sequencing.h"
 
@@ -22,31 +22,37 @@ struct PlaylistEntry {
     std::uint64_t Id = 0; ///< given by Playlist::Append, from 1; no other entry of this run has it
 };
 
+/// A key that moves the selection.
+enum class SelectionMove { Up, Down, ToFirst, ToLast };
+
 /// The entries, the list that shows them and the play order, kept in step. Entries are known by their index alone.
 class Playlist {
 public:
     explicit Playlist(RandomSource random);
 
-    /// What the list control shows; its selection is the current entry.
-    FancyListState& List() { return m_list; }
-    const FancyListState& List() const { return m_list; }
+    /// What the list control shows: titles and thumbnails; its selection is the current entry. Entries come and go only
+    /// through the operations below.
+    FancyListItems& List() { return m_list; }
+    const FancyListItems& List() const { return m_list; }
     PlayOrder& Order() { return m_order; }
     const PlayOrder& Order() const { return m_order; }
 
     /// Another number after every change of the entries.
     std::uint64_t Revision() const { return m_revision; }
 
-    int Count() const { return static_cast<int>(m_entries.size()); }
+    int Count() const { return static_cast<int>(m_files.size()); }
     /// Nothing when the index names no entry.
-    const PlaylistEntry* EntryAt(int index) const;
+    std::optional<PlaylistEntry> EntryAt(int index) const;
     /// The entry's full path; empty when the index names no entry.
     std::string PathAt(int index) const;
+    /// The index of the entry with this id.
+    std::optional<int> IndexOf(std::uint64_t id) const;
     /// The selected entry, nothing while the selection names none.
-    const PlaylistEntry* SelectedEntry() const { return EntryAt(m_list.SelectedItem()); }
+    std::optional<PlaylistEntry> SelectedEntry() const { return EntryAt(m_list.SelectedItem()); }
     /// By exact comparison, letter case included.
     bool IsInPlaylist(const std::string& path) const { return m_paths.count(path) != 0; }
 
-    /// `detail` is the second line of the row. The order is left to BuildOrder.
+    /// Gives the entry an id. `detail` is the second line of the row. The order is left to BuildOrder.
     void Append(PlaylistEntry entry, std::string detail = {});
     void BuildSequentialOrder() { m_order.BuildSequential(Count(), m_list.SelectedItem()); }
     void BuildShuffleOrder() { m_order.BuildShuffle(Count(), m_list.SelectedItem()); }
@@ -59,6 +65,9 @@ public:
 
     /// A click has selected: the position follows, except in shuffle.
     void OnClick(std::int32_t playMode);
+    /// A key of the list: selects the entry above, below, first or last, has it brought into sight, and is a click on
+    /// it besides. True when another entry is selected now.
+    bool MoveSelection(SelectionMove move, std::int32_t playMode);
     /// The index that a double click plays, nothing while no row is selected.
     std::optional<int> DoubleClickedIndex() const;
     /// The position follows the selection.
@@ -71,11 +80,18 @@ public:
     EndOfItem OnEndOfItem(std::int32_t playMode, std::int32_t repeatMode);
 
 private:
+    /// What an entry has beside its row of the list.
+    struct File {
+        std::string FullPath;
+        std::string MediaInfo;
+        std::uint64_t Id;
+    };
+    bool IsEntry(int index) const { return index >= 0 && index < Count(); }
     std::optional<int> StepTo(std::optional<int> position);
 
-    FancyListState m_list;
+    FancyListItems m_list;
     PlayOrder m_order;
-    std::vector<PlaylistEntry> m_entries;
+    std::vector<File> m_files; // the same indexes as the rows of m_list
     std::unordered_set<std::string> m_paths;
     std::uint64_t m_lastId = 0;
     std::uint64_t m_revision = 0;

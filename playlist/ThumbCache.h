@@ -15,7 +15,6 @@ public:
 
     /// The whole picture stretched to `size`, in device pixels; null when one of the two is empty.
     QImage Scaled(const Picture& picture, const QSize& size);
-    void Clear() { m_images.clear(); }
 
 private:
     struct Key {

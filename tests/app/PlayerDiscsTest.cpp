@@ -26,7 +26,7 @@ TEST_F(PlayerTest, a_disc_replaces_the_list_and_plays_by_its_root_after_half_a_s
     EXPECT_EQ(engines.trace.plays, 2);
     EXPECT_NE(screen.log.str().find("for 500 "), std::string::npos);
     ASSERT_EQ(player->Entries().Count(), 1);
-    const auto* const entry = player->Entries().EntryAt(0);
+    const auto entry = player->Entries().EntryAt(0);
     EXPECT_EQ(
         entry->Title + "|" + entry->FullPath + "|" + entry->MediaInfo, "MOVIE (/dev/sr0)|dvd:///dev/sr0|Video DVD");
     EXPECT_EQ(player->Entries().List().SelectedItem(), 0);

@@ -236,7 +236,7 @@ TEST(LoadThumbTest, ADuplicateSaysSoAndPlaysTheLastEntry)
         return LoadThumb(playlist, host, { name, name, false, playNow }, [&] { return ResultFor(name); });
     };
     EXPECT_EQ(add("a.avi", false), AddOutcome::Added);
-    EXPECT_EQ(playlist.List().SelectedItem(), FancyListState::kNone);
+    EXPECT_EQ(playlist.List().SelectedItem(), FancyListItems::kNone);
     add("b.avi", true);
     add("c.avi", true);
     EXPECT_EQ(add("a.avi", true), AddOutcome::Duplicate);
@@ -253,7 +253,7 @@ TEST(LoadThumbTest, ASelectionLostWhileTheOnlyEntryStartsPlaysItAgain)
 {
     Playlist playlist{ [] { return 0.0; } };
     Host host;
-    host.whilePlaying = [&] { playlist.List().PressAt(5000); };
+    host.whilePlaying = [&] { playlist.List().Press(FancyListItems::kNone); };
     LoadThumb(playlist, host, { "a.avi", "a.avi", false, true }, [] { return ResultFor("a.avi"); });
     EXPECT_EQ(host.played, (std::vector{ 0, 0 }));
     EXPECT_EQ(playlist.List().SelectedItem(), 0);

@@ -1,6 +1,5 @@
 #include "playlist/DroppedFiles.h"
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <random>
@@ -16,13 +15,14 @@ constexpr char kSeparator = static_cast<char>(fs::path::preferred_separator);
 
 TEST(NaturalLessTest, NumbersCountByValueAndLettersWithoutCase)
 {
-    std::vector<std::string> names{ "b.avi", "a10.avi", "A2.avi", "a1.avi", "a.avi", "a 2", "a02.avi",
-        "a99999999999999999999.avi", "\xC3\xA4.avi" };
-    std::sort(names.begin(), names.end(), NaturalLess);
-    EXPECT_EQ(names,
-        (std::vector<std::string>{ "a 2", "a.avi", "a1.avi", "A2.avi", "a02.avi", "a10.avi",
-            "a99999999999999999999.avi", "b.avi", "\xC3\xA4.avi" }));
-    EXPECT_FALSE(NaturalLess("a1", "a1"));
+    // Every name comes before all that follow it. Zeros in front count only where nothing else differs.
+    const std::vector<std::string> names{ "0", "00", "2", "007", "010", "10", "a 2", "a.avi", "a01", "a1", "a1.avi",
+        "a01b", "A2.avi", "a02.avi", "a9", "a010", "a99999999999999999999.avi", "b.avi", "b1c2", "b1c10",
+        "\xC3\xA4.avi" };
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        for (std::size_t k = 0; k < names.size(); ++k)
+            EXPECT_EQ(NaturalLess(names[i], names[k]), i < k) << names[i] << " and " << names[k];
+    }
 }
 
 class DroppedFilesTest : public testing::Test {
@@ -81,12 +81,12 @@ TEST_F(DroppedFilesTest, BytesThatAreNoUtf8Survive)
     EXPECT_EQ(Drop({ Path("folder") }), (std::vector{ odd }));
 }
 
-TEST(AddRequestsTest, OnlyTheFirstOneCanPlay)
+TEST_F(DroppedFilesTest, OnlyTheFirstOneCanPlay)
 {
     const auto requests = AddRequests({ "/v/a.avi", "/v/b.avi" }, '/', true);
-    EXPECT_EQ(requests[0].title, "a.avi");
-    EXPECT_TRUE(requests[0].playNow);
-    EXPECT_FALSE(requests[1].playNow);
+    EXPECT_EQ(requests[1].title + "|" + requests[1].path, "b.avi|/v/b.avi");
+    EXPECT_TRUE(requests[0].playNow && !requests[1].playNow);
+    EXPECT_FALSE(AddRequests({ "/v/a.avi" }, '/', false)[0].playNow);
 }
 
 } // namespace

@@ -1,10 +1,9 @@
-#include "playlist/FancyListState.h"
+#include "playlist/FancyListLayout.h"
 
 #include "base/Numbers.h"
 
 #include <algorithm>
 #include <limits>
-#include <utility>
 
 namespace zentaro {
 
@@ -23,120 +22,73 @@ int Clamp(std::int64_t value)
 
 } // namespace
 
-void FancyListState::SetSelectedItem(int index)
+FancyListLayout::FancyListLayout(FancyListItems& items, FancyListObserver& screen)
+    : m_items(items)
+    , m_screen(screen)
 {
-    if (index < 0 || index >= Count())
-        return;
-    m_selectedItem = index;
-    Changed();
-    RepaintIfRefresh();
+    m_items.SetObserver(this);
+    UpdateScrollRange();
 }
 
-std::string FancyListState::SelectedText() const
+FancyListLayout::~FancyListLayout()
 {
-    return m_selectedItem >= 0 && m_selectedItem < Count() ? Item(m_selectedItem).Text : std::string();
+    m_items.SetObserver(nullptr);
 }
 
-void FancyListState::SetPlayingItem(int index)
-{
-    m_playingItem = index >= 0 && index < Count() ? index : kNone;
-    RepaintIfRefresh();
-}
-
-void FancyListState::SetItemHeight(int height)
+void FancyListLayout::SetItemHeight(int height)
 {
     m_itemHeight = height;
     UpdateScrollRange();
     RepaintIfRefresh();
 }
 
-void FancyListState::SetImageWidth(int width)
+void FancyListLayout::SetImageWidth(int width)
 {
     m_imageWidth = width;
     RepaintIfRefresh();
 }
 
-void FancyListState::SetImageHeight(int height)
+void FancyListLayout::SetImageHeight(int height)
 {
     m_imageHeight = height;
     RepaintIfRefresh();
 }
 
-void FancyListState::SetPadding(int padding)
+void FancyListLayout::SetPadding(int padding)
 {
     m_padding = padding;
     RepaintIfRefresh();
 }
 
-void FancyListState::SetNoThumbBlack(bool on)
+void FancyListLayout::SetNoThumbBlack(bool on)
 {
     m_noThumbBlack = on;
     UpdateScrollRange();
     RepaintIfRefresh();
 }
 
-void FancyListState::SetRefresh(bool on)
-{
-    m_refresh = on;
-    Repaint();
-}
-
-void FancyListState::AddItem(std::string text, Picture picture, std::string detail)
-{
-    m_items.push_back({ std::move(text), std::move(picture), std::move(detail) });
-    UpdateScrollRange();
-    Changed();
-    RepaintIfRefresh();
-}
-
-void FancyListState::Clear()
-{
-    m_items.clear();
-    m_selectedItem = kNone;
-    m_playingItem = kNone;
-    UpdateScrollRange();
-    Changed();
-    RepaintIfRefresh();
-}
-
-void FancyListState::RemoveItem(int index)
-{
-    if (index < 0 || index >= Count())
-        return;
-    m_items.erase(m_items.begin() + index);
-    if (index < Count())
-        m_selectedItem = index;
-    if (m_playingItem == index)
-        m_playingItem = kNone;
-    else if (m_playingItem > index)
-        --m_playingItem;
-    UpdateScrollRange();
-    Changed();
-    RepaintIfRefresh();
-}
-
-void FancyListState::SetSurfaceSize(int width, int height)
+void FancyListLayout::SetSurfaceSize(int width, int height)
 {
     m_surfaceWidth = std::max(0, width);
     m_surfaceHeight = std::max(0, height);
     UpdateScrollRange();
-    Repaint();
+    RepaintRequested();
 }
 
-void FancyListState::Scroll(int delta)
+void FancyListLayout::Scroll(int delta)
 {
     SetScrollValue(RoundHalfEven(m_scrollValue - delta / kWheelUnitsPerPixel));
 }
 
-void FancyListState::SetScrollValue(int value)
+void FancyListLayout::SetScrollValue(int value)
 {
     m_scrollValue = std::clamp(value, 0, m_scrollMax);
-    Repaint();
+    RepaintRequested();
 }
 
-void FancyListState::ScrollToRow(int row)
+void FancyListLayout::ScrollToRow(int row)
 {
-    if (row < 0 || row >= Count())
+    if (row < 0 || row >= m_items.Count())
         return;
     const auto rect = RowRect(row);
     if (rect.bottom > m_surfaceHeight)
@@ -146,19 +98,19 @@ void FancyListState::ScrollToRow(int row)
         SetScrollValue(m_scrollValue + top);
 }
 
-bool FancyListState::ScrollBarVisible() const
+bool FancyListLayout::ScrollBarVisible() const
 {
-    return RowsEnd() <= Count();
+    return RowsEnd() <= m_items.Count();
 }
 
-ListRect FancyListState::ScrollBar(int width) const
+ListRect FancyListLayout::ScrollBar(int width) const
 {
     const int left = m_surfaceWidth - width - kScrollBarMargin;
     const int top = kScrollBarMargin / 2;
     return { left, top, left + width, top + std::max(0, m_surfaceHeight - kScrollBarMargin) };
 }
 
-ListRect FancyListState::ScrollThumb(int width) const
+ListRect FancyListLayout::ScrollThumb(int width) const
 {
     auto bar = ScrollBar(width);
     const double total = static_cast<double>(m_scrollMax) + m_surfaceHeight;
@@ -170,7 +122,7 @@ ListRect FancyListState::ScrollThumb(int width) const
     return bar;
 }
 
-int FancyListState::ScrollValueForThumb(int top) const
+int FancyListLayout::ScrollValueForThumb(int top) const
 {
     const auto bar = ScrollBar(0);
     const int way = bar.Height() - ScrollThumb(0).Height();
@@ -180,25 +132,25 @@ int FancyListState::ScrollValueForThumb(int top) const
     return std::clamp(value, 0, m_scrollMax);
 }
 
-ListRows FancyListState::VisibleRows() const
+ListRows FancyListLayout::VisibleRows() const
 {
-    return { FirstRow(), std::min(RowsEnd(), Count() - 1) };
+    return { FirstRow(), std::min(RowsEnd(), m_items.Count() - 1) };
 }
 
-int FancyListState::RowAt(int y) const
+int FancyListLayout::RowAt(int y) const
 {
     const std::int64_t at = static_cast<std::int64_t>(m_scrollValue) + y;
-    const std::int64_t row = at < 0 ? kNone : at / RowHeight();
-    return row < Count() ? static_cast<int>(row) : kNone;
+    const std::int64_t row = at < 0 ? FancyListItems::kNone : at / RowHeight();
+    return row < m_items.Count() ? static_cast<int>(row) : FancyListItems::kNone;
 }
 
-ListRect FancyListState::RowRect(int row) const
+ListRect FancyListLayout::RowRect(int row) const
 {
     const int top = RowTop(row);
     return { 0, top, m_surfaceWidth, Clamp(static_cast<std::int64_t>(top) + m_itemHeight) };
 }
 
-ListRect FancyListState::TextRect(int row) const
+ListRect FancyListLayout::TextRect(int row) const
 {
     const int top = Clamp(static_cast<std::int64_t>(RowTop(row)) + m_padding);
     const int indent = m_thumbnails ? Clamp(static_cast<std::int64_t>(m_imageWidth) + m_padding) : 0;
@@ -207,14 +159,14 @@ ListRect FancyListState::TextRect(int row) const
         Clamp(static_cast<std::int64_t>(top) + m_itemHeight - m_padding) };
 }
 
-ListRect FancyListState::ImageRect(int row) const
+ListRect FancyListLayout::ImageRect(int row) const
 {
     const int top = Clamp(static_cast<std::int64_t>(RowTop(row)) + m_padding);
     return { m_padding, top, Clamp(static_cast<std::int64_t>(m_padding) + m_imageWidth),
         Clamp(static_cast<std::int64_t>(top) + m_imageHeight) };
 }
 
-ListRect FancyListState::FitThumb(int pictureWidth, int pictureHeight, const ListRect& box)
+ListRect FancyListLayout::FitThumb(int pictureWidth, int pictureHeight, const ListRect& box)
 {
     const int w = box.Width();
     const int h = box.Height();
@@ -234,59 +186,46 @@ ListRect FancyListState::FitThumb(int pictureWidth, int pictureHeight, const Lis
     return { left, top, left + drawnWidth, top + drawnHeight };
 }
 
-void FancyListState::PressAt(int y)
+void FancyListLayout::ListChanged()
 {
-    m_selectedItem = RowAt(y);
-    Changed();
-    RepaintIfRefresh();
+    UpdateScrollRange();
+    m_screen.ListChanged();
 }
 
-int FancyListState::RowHeight() const
+int FancyListLayout::RowHeight() const
 {
     return std::max(1, m_itemHeight);
 }
 
-int FancyListState::RowTop(int row) const
+int FancyListLayout::RowTop(int row) const
 {
     return Clamp(static_cast<std::int64_t>(row) * m_itemHeight - m_scrollValue);
 }
 
-int FancyListState::FirstRow() const
+int FancyListLayout::FirstRow() const
 {
     return m_scrollValue / RowHeight();
 }
 
 // At the very bottom of a list whose surface holds whole rows this lies past the end, and the scroll bar hides.
-int FancyListState::RowsEnd() const
+int FancyListLayout::RowsEnd() const
 {
     return FirstRow() + m_surfaceHeight / RowHeight() + 1;
 }
 
-void FancyListState::UpdateScrollRange()
+void FancyListLayout::UpdateScrollRange()
 {
-    const std::int64_t range = static_cast<std::int64_t>(Count()) * m_itemHeight - m_surfaceHeight;
-    m_scrollMax = Count() > 0 ? std::max(0, Clamp(range)) : 0;
+    const std::int64_t range = static_cast<std::int64_t>(m_items.Count()) * m_itemHeight - m_surfaceHeight;
+    m_scrollMax = m_items.Count() > 0 ? std::max(0, Clamp(range)) : 0;
     // A scroll bar that is moved by its own range tells so like any other move.
     if (m_scrollValue > m_scrollMax)
         SetScrollValue(m_scrollMax);
 }
 
-void FancyListState::Repaint() const
+void FancyListLayout::RepaintIfRefresh()
 {
-    if (m_observer)
-        m_observer->RepaintRequested();
-}
-
-void FancyListState::RepaintIfRefresh() const
-{
-    if (m_refresh)
-        Repaint();
-}
-
-void FancyListState::Changed() const
-{
-    if (m_observer)
-        m_observer->ListChanged();
+    if (m_items.Refresh())
+        RepaintRequested();
 }
 
 } // namespace zentaro

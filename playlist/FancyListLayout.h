@@ -1,19 +1,10 @@
 #pragma once
 
-#include "base/Picture.h"
+#include "playlist/FancyListItems.h"
 
 #include <cstdint>
-#include <string>
-#include <vector>
 
 namespace zentaro {
-
-/// One row of the list: the title, the thumbnail (may be empty), and a short second line under the title.
-struct FancyListItem {
-    std::string Text;
-    Picture Pic;
-    std::string Detail;
-};
 
 /// A rectangle in logical pixels of the drawing surface; right and bottom edges are exclusive.
 struct ListRect {
@@ -30,39 +21,17 @@ struct ListRows {
     bool operator==(const ListRows&) const = default;
 };
 
-/// What the screen of a FancyListState is told.
-class FancyListObserver {
+/// Where the rows of a FancyListItems lie on a surface, and how far it is scrolled, without a screen. All lengths are
+/// logical pixels. The screen is told what the items tell, once the rows have their new places.
+class FancyListLayout : private FancyListObserver {
 public:
-    virtual ~FancyListObserver() = default;
-    /// The surface is to be painted anew.
-    virtual void RepaintRequested() = 0;
-    /// Items came or went, or the selection moved, also while `Refresh` is off.
-    virtual void ListChanged() { }
-};
+    /// Becomes the observer of `items`; these and the screen must outlive it.
+    FancyListLayout(FancyListItems& items, FancyListObserver& screen);
+    ~FancyListLayout() override;
+    FancyListLayout(const FancyListLayout&) = delete;
+    FancyListLayout& operator=(const FancyListLayout&) = delete;
 
-/// The state, the rules and the geometry of the thumbnail list, without a screen. All lengths are logical pixels.
-class FancyListState {
-public:
-    static constexpr int kNone = -1;
-
-    /// One observer at most; null for none. It is not owned.
-    void SetObserver(FancyListObserver* observer) { m_observer = observer; }
-
-    int Count() const { return static_cast<int>(m_items.size()); }
-    /// Only for 0 <= index < Count().
-    const FancyListItem& Item(int index) const { return m_items[static_cast<std::size_t>(index)]; }
-
-    /// The selected row, kNone for none. After the last row was removed it can be Count(), one past the end.
-    int SelectedItem() const { return m_selectedItem; }
-    /// Values that name no row are ignored.
-    void SetSelectedItem(int index);
-    /// Empty when the selection names no row.
-    std::string SelectedText() const;
-
-    /// The row that carries the mark of the entry being played, kNone for none. It moves with its row.
-    int PlayingItem() const { return m_playingItem; }
-    /// Values that name no row take the mark away.
-    void SetPlayingItem(int index);
+    const FancyListItems& Items() const { return m_items; }
 
     int ItemHeight() const { return m_itemHeight; }
     void SetItemHeight(int height);
@@ -74,17 +43,9 @@ public:
     void SetPadding(int padding);
     bool NoThumbBlack() const { return m_noThumbBlack; }
     void SetNoThumbBlack(bool on);
-    /// Whether changes repaint by themselves. Setting it always repaints.
-    bool Refresh() const { return m_refresh; }
-    void SetRefresh(bool on);
     bool Thumbnails() const { return m_thumbnails; }
     /// Repaints nothing: the next paint shows it.
     void SetThumbnails(bool on) { m_thumbnails = on; }
-
-    void AddItem(std::string text, Picture picture, std::string detail = {});
-    void Clear();
-    /// The row behind the removed one is selected, if there is one; else the selection keeps its number.
-    void RemoveItem(int index);
 
     /// The control was resized. Repaints whatever `Refresh` says.
     void SetSurfaceSize(int width, int height);
@@ -109,7 +70,7 @@ public:
     int ScrollValueForThumb(int top) const;
 
     ListRows VisibleRows() const;
-    /// The row at a height of the surface; kNone above the first and below the last row.
+    /// The row at a height of the surface; FancyListItems::kNone above the first and below the last one.
     int RowAt(int y) const;
     /// The whole row; a background leaves the last line of it to the separator.
     ListRect RowRect(int row) const;
@@ -119,28 +80,23 @@ public:
     /// Where a picture of the given size lies in a box: fitted, its proportions kept, small ones enlarged.
     static ListRect FitThumb(int pictureWidth, int pictureHeight, const ListRect& box);
 
-    /// A left press on the surface: selects the row, or nothing below the last one.
-    void PressAt(int y);
-
 private:
+    void RepaintRequested() override { m_screen.RepaintRequested(); }
+    void ListChanged() override;
+    void RowWanted(int row) override { ScrollToRow(row); }
     int RowHeight() const;
     int RowTop(int row) const;
     int FirstRow() const;
     int RowsEnd() const;
     void UpdateScrollRange();
-    void Repaint() const;
-    void RepaintIfRefresh() const;
-    void Changed() const;
+    void RepaintIfRefresh();
 
-    std::vector<FancyListItem> m_items;
-    FancyListObserver* m_observer = nullptr;
-    int m_selectedItem = kNone;
-    int m_playingItem = kNone;
+    FancyListItems& m_items;
+    FancyListObserver& m_screen;
     int m_itemHeight = 64;
     int m_padding = 8;
     int m_imageWidth = 0;
     int m_imageHeight = 0;
-    bool m_refresh = true;
     bool m_thumbnails = true;
     bool m_noThumbBlack = false;
     int m_surfaceWidth = 0;

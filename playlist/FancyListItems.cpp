@@ -1,0 +1,85 @@
+#include "playlist/FancyListItems.h"
+
+#include <utility>
+
+namespace zentaro {
+
+void FancyListItems::SetSelectedItem(int index)
+{
+    if (IsRow(index))
+        Press(index);
+}
+
+std::string FancyListItems::SelectedText() const
+{
+    return IsRow(m_selectedItem) ? Item(m_selectedItem).Text : std::string();
+}
+
+void FancyListItems::Press(int row)
+{
+    m_selectedItem = IsRow(row) ? row : kNone;
+    Changed();
+}
+
+void FancyListItems::SetPlayingItem(int index)
+{
+    m_playingItem = IsRow(index) ? index : kNone;
+    RepaintIfRefresh();
+    ShowRow(m_playingItem);
+}
+
+void FancyListItems::ShowRow(int row) const
+{
+    if (m_observer && IsRow(row))
+        m_observer->RowWanted(row);
+}
+
+void FancyListItems::SetRefresh(bool on)
+{
+    m_refresh = on;
+    if (m_observer)
+        m_observer->RepaintRequested();
+}
+
+void FancyListItems::AddItem(std::string text, Picture picture, std::string detail)
+{
+    m_items.push_back({ std::move(text), std::move(picture), std::move(detail) });
+    Changed();
+}
+
+void FancyListItems::Clear()
+{
+    m_items.clear();
+    m_selectedItem = kNone;
+    m_playingItem = kNone;
+    Changed();
+}
+
+void FancyListItems::RemoveItem(int index)
+{
+    if (!IsRow(index))
+        return;
+    m_items.erase(m_items.begin() + index);
+    if (index < Count())
+        m_selectedItem = index;
+    if (m_playingItem == index)
+        m_playingItem = kNone;
+    else if (m_playingItem > index)
+        --m_playingItem;
+    Changed();
+}
+
+void FancyListItems::Changed() const
+{
+    if (m_observer)
+        m_observer->ListChanged();
+    RepaintIfRefresh();
+}
+
+void FancyListItems::RepaintIfRefresh() const
+{
+    if (m_refresh && m_observer)
+        m_observer->RepaintRequested();
+}
+
+} // namespace zentaro

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "base/Picture.h"
+
+#include <string>
+#include <vector>
+
+namespace zentaro {
+
+/// One row of the list: the title, the thumbnail (may be empty), and a short second line under the title.
+struct FancyListItem {
+    std::string Text;
+    Picture Pic;
+    std::string Detail;
+};
+
+/// What shows a FancyListItems is told.
+class FancyListObserver {
+public:
+    virtual ~FancyListObserver() = default;
+    /// What is shown is to be painted anew.
+    virtual void RepaintRequested() = 0;
+    /// Rows came or went, or the selection moved, also while `Refresh` is off.
+    virtual void ListChanged() = 0;
+    /// The row is to be brought into sight: it is being played now, or the keys have come to it.
+    virtual void RowWanted(int /*row*/) { }
+};
+
+/// The rows of the thumbnail list, the selected one and the one being played. It knows of no pixels: those are
+/// FancyListLayout's.
+class FancyListItems {
+public:
+    static constexpr int kNone = -1;
+
+    FancyListItems() = default;
+    FancyListItems(const FancyListItems&) = delete;
+    FancyListItems& operator=(const FancyListItems&) = delete;
+
+    /// One observer at most; null for none. It is not owned.
+    void SetObserver(FancyListObserver* observer) { m_observer = observer; }
+
+    int Count() const { return static_cast<int>(m_items.size()); }
+    /// Only for 0 <= index < Count().
+    const FancyListItem& Item(int index) const { return m_items[static_cast<std::size_t>(index)]; }
+
+    /// The selected row, kNone for none. After the last row was removed it can be Count(), one past the end.
+    int SelectedItem() const { return m_selectedItem; }
+    /// Values that name no row are ignored.
+    void SetSelectedItem(int index);
+    /// Empty when the selection names no row.
+    std::string SelectedText() const;
+    /// A left press: selects the row, or takes the selection away where there is none.
+    void Press(int row);
+
+    /// The row that carries the mark of the entry being played, kNone for none. It moves with its row.
+    int PlayingItem() const { return m_playingItem; }
+    /// Values that name no row take the mark away. A row that gets it is brought into sight.
+    void SetPlayingItem(int index);
+    /// Has the row brought into sight where the list is shown; values that name no row do nothing.
+    void ShowRow(int row) const;
+
+    /// Whether changes repaint by themselves. Setting it always repaints.
+    bool Refresh() const { return m_refresh; }
+    void SetRefresh(bool on);
+
+    void AddItem(std::string text, Picture picture, std::string detail = {});
+    void Clear();
+    /// The row behind the removed one is selected, if there is one; else the selection keeps its number.
+    void RemoveItem(int index);
+
+private:
+    bool IsRow(int index) const { return index >= 0 && index < Count(); }
+    void Changed() const;
+    void RepaintIfRefresh() const;
+
+    std::vector<FancyListItem> m_items;
+    FancyListObserver* m_observer = nullptr;
+    int m_selectedItem = kNone;
+    int m_playingItem = kNone;
+    bool m_refresh = true;
+};
+
+} // namespace zentaro
