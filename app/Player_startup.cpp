@@ -82,7 +82,10 @@ void Player::Publish()
     };
     write("txtHwnd", m_ends->CommandHandle());
     write("txtHwnd1", m_ends->ProbeHandle());
-    m_ends->Deliver([this](const std::string& text) { ReceiveText(text); });
+    m_ends->Deliver([this](const std::string& text, const platform::HandOverDone& done) {
+        ReceiveText(text);
+        done();
+    });
 }
 
 std::optional<int> Player::OpenStartupFile()

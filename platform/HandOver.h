@@ -28,12 +28,12 @@ using HandOverDone = std::function<void()>;
 /// opened, and its sender is answered when its own `done` is called.
 ///
 /// Linux: two sockets of this user in the runtime folder, served by Qt's event loop.
-/// Windows: two hidden edit windows that receive WM_SETTEXT. The window procedure waits for `done` by handling messages,
-/// so a text that comes meanwhile is handed on from within, and a sender is answered only after those that came later
-/// and still wait. No sender waits longer than the limit for that.
+/// Windows: two hidden edit windows that receive WM_SETTEXT. The window procedure waits for `done` by handling
+/// messages, so a text that comes meanwhile is handed on from within, and a sender is answered only after those that
+/// came later and still wait. No sender waits longer than the limit for that.
 ///
-/// Destroying the object, also from inside the handler, drops every sender that still waits: each hears at once that this
-/// player is gone.
+/// Destroying the object, also from inside the handler, drops every sender that still waits: each hears at once that
+/// this player is gone.
 class HandOverEnds {
 public:
     virtual ~HandOverEnds() = default;
@@ -48,13 +48,14 @@ public:
     static Result<std::unique_ptr<HandOverEnds>> ListenWithin(HandOverLimits limits);
 };
 
-/// True while a player that listens at the handle lives, also when it is busy or stopped. Any text is allowed as handle.
+/// True while a player that listens at the handle lives, also when it is busy or stopped. Any text is allowed as
+/// handle.
 bool IsHandOverAlive(const std::string& handle);
 
 enum class HandOverOutcome {
     Opened,    ///< the receiver has called `done`
     TakenOver, ///< the receiver has the text, but has not called `done` in time; the sender's work is done all the same
-    Silent     ///< nobody has opened the text and nobody will: no receiver, none that answers, or one that closed or died
+    Silent ///< nobody has opened the text and nobody will: no receiver, none that answers, or one that closed or died
 };
 
 /// Delivers one text and waits for what becomes of it, as long as the limits say. A text of which the sender heard
