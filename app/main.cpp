@@ -40,7 +40,10 @@ constexpr auto kEngineDelay = std::chrono::milliseconds(100); // until the engin
 
 HandOverService RealHandOver()
 {
-    return { &platform::HandOverEnds::Listen, &platform::IsHandOverAlive, &platform::SendHandOverText,
+    return { &platform::HandOverEnds::Listen, &platform::IsHandOverAlive,
+        [](const std::string& handle, const std::string& text) {
+            return platform::SendHandOverText(handle, text) != platform::HandOverOutcome::Silent;
+        },
         [] { return platform::HandOverLock::Take(std::chrono::seconds(2)); } };
 }
 

@@ -1,5 +1,7 @@
 #include "platform/HandOverReceiver_linux.h"
 
+#include <QPointer>
+
 #include <cerrno>
 #include <sys/socket.h>
 #include <utility>
@@ -18,7 +20,7 @@ HandOverSender::HandOverSender(FileDescriptor socket, QObject* parent)
     , m_socket(std::move(socket))
     , notifier(m_socket.Number(), QSocketNotifier::Read)
 {
-    silence.setSingleShot(true);
+    patience.setSingleShot(true);
 }
 
 bool HandOverSender::ReadPiece()
@@ -32,21 +34,20 @@ bool HandOverSender::ReadPiece()
     return !m_reader.Take({ piece, static_cast<std::size_t>(size) });
 }
 
-void HandOverSender::Answer()
+bool HandOverSender::Tell(char byte) const
 {
-    // A sender that is gone needs no answer.
-    [[maybe_unused]] const auto sent = send(m_socket.Number(), &kHandOverAnswer, 1, MSG_NOSIGNAL);
+    return send(m_socket.Number(), &byte, 1, MSG_NOSIGNAL) == 1;
 }
 
 void HandOverSender::Drop()
 {
-    silence.stop();
+    patience.stop();
     notifier.setEnabled(false);
     m_socket.Close();
     deleteLater(); // this may be inside one of its own signals
 }
 
-HandOverReceiver::HandOverReceiver(int listeningSocket, std::function<void(std::string)> handler, Limits limits)
+HandOverReceiver::HandOverReceiver(int listeningSocket, Handler handler, Limits limits)
     : m_notifier(listeningSocket, QSocketNotifier::Read)
     , m_handler(std::move(handler))
     , m_limits(limits)
@@ -56,11 +57,12 @@ HandOverReceiver::HandOverReceiver(int listeningSocket, std::function<void(std::
 
 void HandOverReceiver::AcceptAll()
 {
-    while (m_senders < m_limits.senders) {
+    while (m_senders < m_limits.senders || !m_taken.empty()) {
         FileDescriptor socket(
             accept4(static_cast<int>(m_notifier.socket()), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
         if (socket) {
             Adopt(std::move(socket));
+            MakeRoom();
             continue;
         }
         if (errno == EMFILE || errno == ENFILE || errno == ENOBUFS || errno == ENOMEM)
@@ -68,6 +70,14 @@ void HandOverReceiver::AcceptAll()
         return;
     }
     m_notifier.setEnabled(false); // until one of them is done
+}
+
+void HandOverReceiver::MakeRoom()
+{
+    if (m_senders > m_limits.senders && !m_taken.empty()) {
+        m_taken.front()->Tell(kHandOverLater);
+        End(*m_taken.front());
+    }
 }
 
 void HandOverReceiver::Pause()
@@ -83,55 +93,55 @@ void HandOverReceiver::Adopt(FileDescriptor socket)
     auto* sender = new HandOverSender(std::move(socket), this);
     ++m_senders;
     QObject::connect(&sender->notifier, &QSocketNotifier::activated, this, [this, sender] { ReadFrom(*sender); });
-    QObject::connect(&sender->silence, &QTimer::timeout, this, [this, sender] { Drop(*sender); });
-    sender->silence.start(m_limits.silence);
+    QObject::connect(&sender->patience, &QTimer::timeout, this, [this, sender] {
+        sender->Tell(kHandOverLater);
+        End(*sender);
+    });
+    sender->patience.start(m_limits.silence);
 }
 
 void HandOverReceiver::ReadFrom(HandOverSender& sender)
 {
     if (!sender.ReadPiece()) {
-        sender.silence.start();
+        sender.patience.start();
         return;
     }
     sender.notifier.setEnabled(false);
-    sender.silence.stop();
     auto text = sender.Text();
-    if (!text) {
-        Drop(sender);
-        return;
-    }
-    m_waiting.push_back({ &sender, std::move(*text) });
-    // Not from here: the handler may run an event loop, and this is inside a notifier's signal.
-    QMetaObject::invokeMethod(
-        this, [this] { HandleAll(); }, Qt::QueuedConnection);
+    // A sender that has given up closes its side, and opens the text itself: then it is no longer ours to take.
+    if (text && sender.Tell(kHandOverTaken))
+        TakeOver(sender, std::move(*text));
+    else
+        End(sender);
 }
 
-void HandOverReceiver::Drop(HandOverSender& sender)
+void HandOverReceiver::TakeOver(HandOverSender& sender, std::string text)
 {
+    m_taken.push_back(&sender);
+    sender.patience.start(m_limits.opening);
+    // The token outlives sender and receiver.
+    auto done = [this, waiting = QPointer<HandOverSender>(&sender)] {
+        if (!waiting || !waiting->IsConnected())
+            return;
+        waiting->Tell(kHandOverOpened);
+        End(*waiting);
+    };
+    // Not from here: the handler may end the player, and this is inside a notifier's signal.
+    QMetaObject::invokeMethod(
+        this,
+        [this, text = std::move(text), done = std::move(done)]() mutable {
+            const auto handler = m_handler;
+            handler(std::move(text), std::move(done));
+        },
+        Qt::QueuedConnection);
+}
+
+void HandOverReceiver::End(HandOverSender& sender)
+{
+    std::erase(m_taken, &sender);
     sender.Drop();
     --m_senders;
     m_notifier.setEnabled(true);
-}
-
-void HandOverReceiver::HandleAll()
-{
-    if (m_isHandling)
-        return;
-    m_isHandling = true;
-    const QPointer<HandOverReceiver> self(this);
-    while (!m_waiting.empty()) {
-        auto next = std::move(m_waiting.front());
-        m_waiting.pop_front();
-        const auto handler = m_handler;
-        handler(std::move(next.text));
-        if (!self)
-            return; // the handler has ended the player
-        if (next.sender) {
-            next.sender->Answer();
-            Drop(*next.sender);
-        }
-    }
-    m_isHandling = false;
 }
 
 } // namespace zentaro::platform

@@ -1,16 +1,17 @@
 #pragma once
 
 #include "platform/FileDescriptor_linux.h"
+#include "platform/HandOver.h"
 #include "platform/HandOverRules.h"
 
 #include <QObject>
-#include <QPointer>
 #include <QSocketNotifier>
 #include <QTimer>
 
 #include <chrono>
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace zentaro::platform {
@@ -25,54 +26,54 @@ class HandOverSender : public QObject {
 public:
     HandOverSender(FileDescriptor socket, QObject* parent);
 
+    bool IsConnected() const { return static_cast<bool>(m_socket); }
     /// Reads what has come. True when nothing more is to be read, because all has come or it was not in order.
     bool ReadPiece();
     /// Whole after the last piece, nothing when the sender has not kept to the form.
     std::optional<std::string> Text() { return m_reader.Finish(); }
-    void Answer();
+    /// False when the sender has gone.
+    bool Tell(char byte) const;
     /// Ends the connection; the object goes with the next round of the event loop.
     void Drop();
 
     QSocketNotifier notifier;
-    QTimer silence;
+    QTimer patience; ///< for the sender's next piece, then for the text to be opened
 
 private:
     HandOverFrameReader m_reader;
 };
 
-/// Receives texts at one listening socket without ever waiting for a sender, and handles them one after the other on
-/// its own thread.
+/// Receives texts at one listening socket without ever waiting for a sender or for an earlier text, on its own thread.
 class HandOverReceiver : public QObject {
 public:
     struct Limits {
         /// How long a sender may stay silent before its text is complete.
         std::chrono::milliseconds silence = std::chrono::seconds(10);
-        /// Senders that are connected at once; further ones wait in the system's queue.
-        int senders = 256;
+        /// How long a sender is kept waiting for its text to be opened.
+        std::chrono::milliseconds opening = HandOverLimits().opening;
+        /// Senders that are connected at once. For further ones those go whose texts were taken over; while there are
+        /// none, they wait in the system's queue.
+        std::size_t senders = 256;
     };
+    using Handler = std::function<void(std::string text, HandOverDone done)>;
 
-    /// The socket must not block and must stay open as long as the receiver.
-    HandOverReceiver(int listeningSocket, std::function<void(std::string)> handler, Limits limits);
+    /// The socket must not block and must stay open as long as the receiver. The handler may destroy the receiver.
+    HandOverReceiver(int listeningSocket, Handler handler, Limits limits);
 
 private:
-    struct Waiting {
-        QPointer<HandOverSender> sender;
-        std::string text;
-    };
-
     void AcceptAll();
+    void MakeRoom();
     void Pause();
     void Adopt(FileDescriptor socket);
     void ReadFrom(HandOverSender& sender);
-    void Drop(HandOverSender& sender);
-    void HandleAll();
+    void TakeOver(HandOverSender& sender, std::string text);
+    void End(HandOverSender& sender);
 
     QSocketNotifier m_notifier;
-    std::function<void(std::string)> m_handler;
+    Handler m_handler;
     Limits m_limits;
-    int m_senders = 0;
-    std::deque<Waiting> m_waiting;
-    bool m_isHandling = false;
+    std::size_t m_senders = 0;
+    std::deque<HandOverSender*> m_taken; ///< those whose texts were taken over, the oldest first
 };
 
 } // namespace zentaro::platform

@@ -40,7 +40,10 @@ private:
     bool m_bad = false;
 };
 
-/// The one byte that tells the sender that its text has been handled.
-inline constexpr char kHandOverAnswer = '1';
+/// What the receiver tells the sender, a byte each: first that it has taken the text over, then either that it was
+/// opened or that the sender need not wait for that any longer.
+inline constexpr char kHandOverTaken = 'T';
+inline constexpr char kHandOverOpened = '1';
+inline constexpr char kHandOverLater = 'L';
 
 } // namespace zentaro::platform

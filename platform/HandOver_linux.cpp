@@ -4,18 +4,23 @@
 #include "platform/RuntimeFolder_linux.h"
 #include "platform/SystemError_linux.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
+#include <poll.h>
 #include <random>
 #include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
+#include <thread>
 
 namespace zentaro::platform {
 namespace {
+
+using namespace std::chrono_literals;
 
 constexpr int kBacklog = 1024;
 
@@ -41,7 +46,7 @@ const sockaddr* Plain(const sockaddr_un& address)
 }
 
 /// 0, or the system's error number.
-int Connect(const FileDescriptor& socket, const FileDescriptor& folder, const std::string& handle)
+int ConnectTo(const FileDescriptor& socket, const FileDescriptor& folder, const std::string& handle)
 {
     const auto address = AddressOf(folder, handle);
     while (connect(socket.Number(), Plain(address), sizeof address) != 0) {
@@ -54,7 +59,7 @@ int Connect(const FileDescriptor& socket, const FileDescriptor& folder, const st
 int TryConnect(const FileDescriptor& folder, const std::string& handle)
 {
     const auto socket = NewSocket(SOCK_NONBLOCK);
-    const int error = Connect(socket, folder, handle);
+    const int error = ConnectTo(socket, folder, handle);
     // A full queue belongs to a listener that lives and is busy.
     return error == EAGAIN ? 0 : error;
 }
@@ -107,9 +112,10 @@ Result<End> ListenIn(const FileDescriptor& folder)
 
 class SocketEnds : public HandOverEnds {
 public:
-    SocketEnds(FileDescriptor folder, End command)
+    SocketEnds(FileDescriptor folder, End command, HandOverLimits limits)
         : m_folder(std::move(folder))
         , m_command(std::move(command))
+        , m_limits(limits)
     {
     }
     ~SocketEnds() override
@@ -132,42 +138,105 @@ public:
     std::string CommandHandle() const override { return m_command.handle; }
     std::string ProbeHandle() const override { return m_probe.handle; }
 
-    void Deliver(std::function<void(std::string)> onCommand) override
+    void Deliver(std::function<void(std::string, HandOverDone)> onCommand) override
     {
-        const HandOverReceiver::Limits limits;
+        HandOverReceiver::Limits limits;
+        limits.opening = m_limits.opening;
         m_commands = std::make_unique<HandOverReceiver>(m_command.socket.Number(), std::move(onCommand), limits);
         m_probes = std::make_unique<HandOverReceiver>(
-            m_probe.socket.Number(), [](const std::string&) {}, limits);
+            m_probe.socket.Number(), [](const std::string&, const HandOverDone& done) { done(); }, limits);
     }
 
 private:
     FileDescriptor m_folder;
     End m_command;
     End m_probe;
+    HandOverLimits m_limits;
     std::unique_ptr<HandOverReceiver> m_commands;
     std::unique_ptr<HandOverReceiver> m_probes;
 };
 
-bool SendAll(const FileDescriptor& socket, const std::string& bytes)
-{
-    for (std::size_t done = 0; done < bytes.size();) {
-        const auto size = send(socket.Number(), bytes.data() + done, bytes.size() - done, MSG_NOSIGNAL);
-        if (size < 0 && errno != EINTR)
-            return false;
-        done += size > 0 ? static_cast<std::size_t>(size) : 0;
+/// The sender's side of one hand-over.
+class SenderSocket {
+public:
+    explicit SenderSocket(HandOverLimits limits)
+        : m_limits(limits)
+    {
     }
-    return shutdown(socket.Number(), SHUT_WR) == 0;
-}
 
-bool WaitForAnswer(const FileDescriptor& socket)
-{
-    char answer = 0;
-    ssize_t size = 0;
-    do {
-        size = recv(socket.Number(), &answer, 1, 0);
-    } while (size < 0 && errno == EINTR);
-    return size == 1 && answer == kHandOverAnswer;
-}
+    bool Connect(const FileDescriptor& folder, const std::string& handle)
+    {
+        // A receiver that is stopped has a full queue sooner or later, and connecting would wait for it.
+        while (true) {
+            const int error = ConnectTo(m_socket, folder, handle);
+            if (error != EAGAIN)
+                return error == 0;
+            if (Remaining() == 0ms)
+                return false;
+            std::this_thread::sleep_for(std::min(Remaining(), 20ms));
+        }
+    }
+
+    bool Send(const std::string& bytes)
+    {
+        for (std::size_t done = 0; done < bytes.size();) {
+            if (!WaitFor(POLLOUT))
+                return false;
+            const auto size = send(m_socket.Number(), bytes.data() + done, bytes.size() - done, MSG_NOSIGNAL);
+            if (size < 0 && errno != EINTR && errno != EAGAIN)
+                return false;
+            done += size > 0 ? static_cast<std::size_t>(size) : 0;
+        }
+        return shutdown(m_socket.Number(), SHUT_WR) == 0;
+    }
+
+    HandOverOutcome Outcome()
+    {
+        if (!WaitFor(POLLIN))
+            shutdown(m_socket.Number(), SHUT_RD); // from now on the receiver cannot take the text over any more
+        if (ReadByte() != kHandOverTaken)
+            return HandOverOutcome::Silent;
+        m_end = std::chrono::steady_clock::now() + m_limits.opening;
+        if (!WaitFor(POLLIN))
+            return HandOverOutcome::TakenOver;
+        const auto answer = ReadByte();
+        if (answer == kHandOverOpened)
+            return HandOverOutcome::Opened;
+        return answer == kHandOverLater ? HandOverOutcome::TakenOver : HandOverOutcome::Silent;
+    }
+
+private:
+    std::chrono::milliseconds Remaining() const
+    {
+        const auto left = m_end - std::chrono::steady_clock::now();
+        return std::max(0ms, std::chrono::ceil<std::chrono::milliseconds>(left));
+    }
+
+    /// False when the time was over; an error counts as event.
+    bool WaitFor(short events) const
+    {
+        pollfd entry{ m_socket.Number(), events, 0 };
+        int count = 0;
+        do {
+            count = poll(&entry, 1, static_cast<int>(Remaining().count()));
+        } while (count < 0 && errno == EINTR);
+        return count != 0;
+    }
+
+    std::optional<char> ReadByte() const
+    {
+        char byte = 0;
+        ssize_t size = 0;
+        do {
+            size = recv(m_socket.Number(), &byte, 1, 0);
+        } while (size < 0 && errno == EINTR);
+        return size == 1 ? std::optional(byte) : std::nullopt;
+    }
+
+    HandOverLimits m_limits;
+    FileDescriptor m_socket = NewSocket(SOCK_NONBLOCK);
+    std::chrono::steady_clock::time_point m_end = std::chrono::steady_clock::now() + m_limits.silence;
+};
 
 class FolderLock : public HandOverLock {
 public:
@@ -196,6 +265,11 @@ Result<FileDescriptor> OpenRuntimeFile(const std::string& name)
 
 Result<std::unique_ptr<HandOverEnds>> HandOverEnds::Listen()
 {
+    return ListenWithin({});
+}
+
+Result<std::unique_ptr<HandOverEnds>> HandOverEnds::ListenWithin(HandOverLimits limits)
+{
     auto folder = OpenRuntimeFolder();
     if (!folder)
         return folder.error();
@@ -205,7 +279,7 @@ Result<std::unique_ptr<HandOverEnds>> HandOverEnds::Listen()
     auto command = ListenIn(*folder);
     if (!command)
         return command.error();
-    auto ends = std::make_unique<SocketEnds>(std::move(*folder), std::move(*command));
+    auto ends = std::make_unique<SocketEnds>(std::move(*folder), std::move(*command), limits);
     if (const auto probe = ends->AddProbe(); !probe)
         return probe.error();
     return std::unique_ptr<HandOverEnds>(std::move(ends));
@@ -217,14 +291,21 @@ bool IsHandOverAlive(const std::string& handle)
     return folder && ParseHandOverHandle(handle) && TryConnect(*folder, handle) == 0;
 }
 
-bool SendHandOverText(const std::string& handle, const std::string& text)
+HandOverOutcome SendHandOverText(const std::string& handle, const std::string& text)
+{
+    return SendHandOverTextWithin(handle, text, {});
+}
+
+HandOverOutcome SendHandOverTextWithin(const std::string& handle, const std::string& text, HandOverLimits limits)
 {
     const auto part = HandOverText(text);
     const auto folder = OpenRuntimeFolder();
     if (!folder || !ParseHandOverHandle(handle) || part.size() > kHandOverTextLimit)
-        return false;
-    const auto socket = NewSocket();
-    return Connect(socket, *folder, handle) == 0 && SendAll(socket, EncodeHandOverFrame(part)) && WaitForAnswer(socket);
+        return HandOverOutcome::Silent;
+    SenderSocket socket(limits);
+    if (!socket.Connect(*folder, handle) || !socket.Send(EncodeHandOverFrame(part)))
+        return HandOverOutcome::Silent;
+    return socket.Outcome();
 }
 
 std::unique_ptr<HandOverLock> HandOverLock::Take(std::chrono::milliseconds timeout)

@@ -2,12 +2,24 @@
 #include "platform/HandOverRules.h"
 #include "platform/SystemError_windows.h"
 
-#include <deque>
+#include <memory>
+#include <optional>
 #include <utility>
+#include <vector>
 #include <windows.h>
 
 namespace zentaro::platform {
 namespace {
+
+using Clock = std::chrono::steady_clock;
+
+/// What the window procedure of the command box gives back for a text.
+constexpr LRESULT kDropped = 0;
+constexpr LRESULT kOpened = TRUE;
+constexpr LRESULT kTakenOver = 2;
+
+/// Texts whose senders wait at once. Each wait lies within the one before it on this thread's stack.
+constexpr std::size_t kMostWaiting = 100;
 
 HWND WindowOf(const std::string& handle)
 {
@@ -20,12 +32,80 @@ std::string HandleOf(HWND window)
     return std::to_string(reinterpret_cast<std::uintptr_t>(window));
 }
 
-/// Two text boxes that are never shown. The first one's window procedure is preceded by ours, so that a text is
-/// handled while its sender still waits.
+/// The name of the program that a process runs, without its folder: an installed player and a copy know each other.
+std::string ProgramName(HANDLE process)
+{
+    std::string path(32768, '\0');
+    auto size = static_cast<DWORD>(path.size());
+    if (!QueryFullProcessImageNameA(process, 0, path.data(), &size))
+        return {};
+    path.resize(size);
+    return path.substr(path.rfind('\\') + 1);
+}
+
+bool IsOurProgram(HWND window)
+{
+    DWORD id = 0;
+    GetWindowThreadProcessId(window, &id);
+    const HANDLE process = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id);
+    if (!process)
+        return false;
+    const auto name = ProgramName(process);
+    CloseHandle(process);
+    return !name.empty() && lstrcmpiA(name.c_str(), ProgramName(GetCurrentProcess()).c_str()) == 0;
+}
+
+/// Whether the window is one of a player's ends. The number of one that is gone may be given to any other window, which
+/// would show our text as its title.
+bool IsEnd(HWND window)
+{
+    // Only text boxes below the message root are listed here, whoever they belong to.
+    HWND box = nullptr;
+    do {
+        box = FindWindowExA(HWND_MESSAGE, box, "EDIT", nullptr);
+    } while (box && box != window);
+    return box && IsOurProgram(window);
+}
+
+/// A text on its way, shared by the window procedure that keeps its sender waiting and by the token.
+struct TextInHand {
+    std::optional<LRESULT> answer;
+};
+
+/// Handles this thread's messages until the answer is there or the time is over.
+void WaitForAnswer(TextInHand& text, Clock::time_point end)
+{
+    while (!text.answer) {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(end - Clock::now());
+        if (left <= std::chrono::milliseconds(0))
+            return;
+        MsgWaitForMultipleObjectsEx(0, nullptr, static_cast<DWORD>(left.count()), QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+        MSG message;
+        while (!text.answer && PeekMessageA(&message, nullptr, 0, 0, PM_REMOVE)) {
+            if (message.message == WM_QUIT) {
+                // It is for the loop that runs the player, which opens nothing any more.
+                PostQuitMessage(static_cast<int>(message.wParam));
+                text.answer = kDropped;
+                return;
+            }
+            TranslateMessage(&message);
+            DispatchMessageA(&message);
+        }
+    }
+}
+
+/// Two text boxes that are never shown. The first one's window procedure is preceded by ours, so that a text is handed
+/// on while its sender still waits.
 class TextBoxes : public HandOverEnds {
 public:
+    explicit TextBoxes(HandOverLimits limits)
+        : m_limits(limits)
+    {
+    }
     ~TextBoxes() override
     {
+        for (const auto& text : m_waiting)
+            text->answer = text->answer.value_or(kDropped);
         for (const HWND box : { m_command, m_probe }) {
             if (box)
                 DestroyWindow(box);
@@ -47,11 +127,14 @@ public:
     std::string CommandHandle() const override { return HandleOf(m_command); }
     std::string ProbeHandle() const override { return HandleOf(m_probe); }
 
-    void Deliver(std::function<void(std::string)> onCommand) override
+    void Deliver(std::function<void(std::string, HandOverDone)> onCommand) override
     {
         m_handler = std::move(onCommand);
-        for (auto& text : std::exchange(m_early, {}))
-            m_handler(std::move(text));
+        const std::weak_ptr<int> self = m_life;
+        for (auto& [text, done] : std::exchange(m_early, {})) {
+            if (!self.expired())
+                HandOn(std::move(text), std::move(done));
+        }
     }
 
 private:
@@ -70,26 +153,43 @@ private:
         // The handler takes the text in place of the box, which so is empty again at once; measuring a long line would
         // take the box seconds.
         const char* text = reinterpret_cast<const char*>(second);
-        if (text && *text != '\0')
-            self->OnText(text);
-        return TRUE;
+        return text && *text != '\0' ? self->OnText(text) : kOpened;
     }
 
-    void OnText(std::string text)
+    LRESULT OnText(std::string text)
+    {
+        const auto end = Clock::now() + m_limits.opening;
+        const auto inHand = std::make_shared<TextInHand>();
+        if (m_waiting.size() >= kMostWaiting)
+            inHand->answer = kTakenOver;
+        m_waiting.push_back(inHand);
+        const std::weak_ptr<int> self = m_life;
+        HandOn(std::move(text), [inHand] { inHand->answer = inHand->answer.value_or(kOpened); });
+        WaitForAnswer(*inHand, end);
+        // The player may have ended meanwhile, and this object with it.
+        if (!self.expired())
+            std::erase(m_waiting, inHand);
+        return inHand->answer.value_or(kTakenOver);
+    }
+
+    void HandOn(std::string text, HandOverDone done)
     {
         if (!m_handler) {
-            m_early.push_back(std::move(text));
+            m_early.emplace_back(std::move(text), std::move(done));
             return;
         }
         const auto handler = m_handler; // the call may end the player, and this object with it
-        handler(std::move(text));
+        handler(std::move(text), std::move(done));
     }
 
+    HandOverLimits m_limits;
     HWND m_command = nullptr;
     HWND m_probe = nullptr;
     WNDPROC m_boxProcedure = nullptr;
-    std::function<void(std::string)> m_handler;
-    std::deque<std::string> m_early;
+    std::function<void(std::string, HandOverDone)> m_handler;
+    std::vector<std::pair<std::string, HandOverDone>> m_early;
+    std::vector<std::shared_ptr<TextInHand>> m_waiting;
+    std::shared_ptr<int> m_life = std::make_shared<int>();
 };
 
 class MutexLock : public HandOverLock {
@@ -112,7 +212,12 @@ private:
 
 Result<std::unique_ptr<HandOverEnds>> HandOverEnds::Listen()
 {
-    auto boxes = std::make_unique<TextBoxes>();
+    return ListenWithin({});
+}
+
+Result<std::unique_ptr<HandOverEnds>> HandOverEnds::ListenWithin(HandOverLimits limits)
+{
+    auto boxes = std::make_unique<TextBoxes>(limits);
     if (const auto created = boxes->Create(); !created)
         return created.error();
     return std::unique_ptr<HandOverEnds>(std::move(boxes));
@@ -121,15 +226,34 @@ Result<std::unique_ptr<HandOverEnds>> HandOverEnds::Listen()
 bool IsHandOverAlive(const std::string& handle)
 {
     const HWND window = WindowOf(handle);
-    return window && IsWindow(window);
+    return window && IsEnd(window);
 }
 
-bool SendHandOverText(const std::string& handle, const std::string& text)
+HandOverOutcome SendHandOverText(const std::string& handle, const std::string& text)
+{
+    return SendHandOverTextWithin(handle, text, {});
+}
+
+HandOverOutcome SendHandOverTextWithin(const std::string& handle, const std::string& text, HandOverLimits limits)
 {
     const HWND window = WindowOf(handle);
-    // Without a window the message would go to nobody in particular.
-    return window && HandOverText(text).size() <= kHandOverTextLimit
-        && SendMessageA(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str())) != 0;
+    if (!window || !IsEnd(window) || HandOverText(text).size() > kHandOverTextLimit)
+        return HandOverOutcome::Silent;
+    DWORD_PTR answer = 0;
+    // Asked first without the text: one that is stopped must not open it later, when its sender has long done so
+    // itself.
+    if (!SendMessageTimeoutA(
+            window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, static_cast<UINT>(limits.silence.count()), &answer))
+        return HandOverOutcome::Silent;
+    // A little longer than the receiver lets wait, so that it is the receiver who says that the time is over.
+    const auto patience = static_cast<UINT>((limits.opening + std::chrono::seconds(1)).count());
+    SetLastError(ERROR_SUCCESS);
+    if (!SendMessageTimeoutA(
+            window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()), SMTO_NORMAL, patience, &answer))
+        return GetLastError() == ERROR_TIMEOUT ? HandOverOutcome::TakenOver : HandOverOutcome::Silent;
+    if (answer == kOpened)
+        return HandOverOutcome::Opened;
+    return answer == kTakenOver ? HandOverOutcome::TakenOver : HandOverOutcome::Silent;
 }
 
 std::unique_ptr<HandOverLock> HandOverLock::Take(std::chrono::milliseconds timeout)

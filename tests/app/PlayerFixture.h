@@ -190,7 +190,7 @@ class FakeEnds : public platform::HandOverEnds {
 public:
     std::string CommandHandle() const override { return "4711"; }
     std::string ProbeHandle() const override { return "4712"; }
-    void Deliver(std::function<void(std::string)>) override { }
+    void Deliver(std::function<void(std::string, platform::HandOverDone)>) override { }
 };
 
 /// A player in a folder of its own, in a world of fakes.

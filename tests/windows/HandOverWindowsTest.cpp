@@ -3,6 +3,7 @@
 #include "tests/platform/WorkingFolder.h"
 
 #include <functional>
+#include <future>
 #include <gtest/gtest.h>
 #include <windows.h>
 
@@ -10,20 +11,49 @@ namespace zentaro::platform {
 namespace {
 
 using namespace std::chrono_literals;
+using enum HandOverOutcome;
 
-/// The helper program, running beside the test.
-class Peer {
+/// What this program does when a test starts it once more, beside itself:
+/// send HANDLE TEXT: ends with the outcome
+/// listen FILE:      writes both handles, then takes texts over and opens none
+/// hang FILE:        the same, but stops as soon as it has written
+/// lock FILE:        takes the lock, writes the file, keeps the lock until it is killed
+int Peer(const std::string& mode, const std::string& first, const std::string& second)
+{
+    if (mode == "send")
+        return static_cast<int>(SendHandOverText(first, second));
+    const auto lock = mode == "lock" ? HandOverLock::Take(5s) : nullptr;
+    const auto ends = HandOverEnds::Listen();
+    (*ends)->Deliver([](const std::string&, const HandOverDone&) {});
+    IgnoreFailure(ReplaceTextFile(first, (*ends)->CommandHandle() + " " + (*ends)->ProbeHandle()));
+    if (mode != "listen")
+        Sleep(INFINITE);
+    MSG message;
+    while (GetMessageA(&message, nullptr, 0, 0) > 0)
+        DispatchMessageA(&message);
+    return 0;
+}
+
+std::string OwnProgram()
+{
+    std::string path(32768, '\0');
+    path.resize(GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return path;
+}
+
+/// This program, or a copy of it, running beside the test.
+class PeerProcess {
 public:
-    explicit Peer(const std::string& arguments)
+    explicit PeerProcess(const std::string& arguments, const std::string& program = OwnProgram())
     {
-        std::string command = "\"" + ExecutableFolder() + "\\zentaro-helper-peer.exe\" " + arguments;
+        std::string command = "\"" + program + "\" peer " + arguments;
         STARTUPINFOA start{};
         start.cb = sizeof start;
         EXPECT_TRUE(
             CreateProcessA(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start, &m_process));
     }
-    Peer(const Peer&) = delete;
-    ~Peer()
+    PeerProcess(const PeerProcess&) = delete;
+    ~PeerProcess()
     {
         Kill();
         CloseHandle(m_process.hThread);
@@ -36,18 +66,18 @@ public:
         TerminateProcess(m_process.hProcess, 9);
         WaitForSingleObject(m_process.hProcess, 20'000);
     }
-    DWORD ExitCode() const
+    HandOverOutcome Outcome() const
     {
         DWORD code = 0;
         GetExitCodeProcess(m_process.hProcess, &code);
-        return code;
+        return static_cast<HandOverOutcome>(code);
     }
 
 private:
     PROCESS_INFORMATION m_process{};
 };
 
-/// Pumps messages until the condition holds; false when that takes too long.
+/// Handles messages until the condition holds; false when that takes too long.
 bool PumpUntil(const std::function<bool()>& condition)
 {
     const auto end = std::chrono::steady_clock::now() + 60s;
@@ -62,98 +92,206 @@ bool PumpUntil(const std::function<bool()>& condition)
     return holds;
 }
 
+using Sending = std::future<HandOverOutcome>;
+
+Sending SendBeside(const std::string& handle, const std::string& text)
+{
+    return std::async(std::launch::async, [=] { return SendHandOverTextWithin(handle, text, { 30s, 30s }); });
+}
+
+bool IsDone(const Sending& sending)
+{
+    return sending.wait_for(0s) == std::future_status::ready;
+}
+
+HandOverOutcome OutcomeOf(Sending& sending)
+{
+    EXPECT_TRUE(PumpUntil([&] { return IsDone(sending); }));
+    return sending.get();
+}
+
+/// Called every 10 ms by whichever loop handles this thread's messages, also the one within the window procedure.
+std::function<void()> meanwhile;
+void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD)
+{
+    if (meanwhile)
+        meanwhile();
+}
+
 class HandOverOnWindows : public testing::Test {
 protected:
-    std::string SendArguments(const std::string& handle, const std::string& text) const
+    ~HandOverOnWindows() override
     {
-        return "send " + handle + " \"" + text + "\" \"" + Handled() + "\"";
+        meanwhile = nullptr;
+        KillTimer(nullptr, timer);
     }
-    std::string Handled() const { return folder / "handled"; }
-    void MarkHandled() const { IgnoreFailure(ReplaceTextFile(Handled(), "")); }
 
+    /// Texts come to `received`, their tokens to `tokens`.
+    void Listen(HandOverLimits limits = { 30s, 30s })
+    {
+        ends = std::move(*HandOverEnds::ListenWithin(limits));
+        ends->Deliver([this](std::string text, HandOverDone done) {
+            received.push_back(std::move(text));
+            tokens.push_back(std::move(done));
+        });
+    }
+    /// The two handles that a peer has written.
+    std::pair<std::string, std::string> HandlesIn(const std::string& file) const
+    {
+        EXPECT_TRUE(PumpUntil([&] { return PathExists(file); }));
+        const auto handles = ReadTextFile(file, 100).value();
+        return { handles.substr(0, handles.find(' ')), handles.substr(handles.find(' ') + 1) };
+    }
+
+    const UINT_PTR timer = SetTimer(nullptr, 0, 10, &OnTimer);
     WorkingFolder folder;
-    std::unique_ptr<HandOverEnds> ends = std::move(*HandOverEnds::Listen());
+    std::unique_ptr<HandOverEnds> ends;
     std::vector<std::string> received;
+    std::vector<HandOverDone> tokens;
 };
 
-TEST_F(HandOverOnWindows, a_process_that_sends_ends_only_after_the_handler)
+TEST_F(HandOverOnWindows, a_process_that_sends_ends_when_its_text_is_opened)
 {
-    const Peer* sender = nullptr;
-    ends->Deliver([&](const std::string& text) {
-        EXPECT_TRUE(sender->IsRunning());
-        received.push_back(text);
-        MarkHandled();
-    });
+    Listen();
     const std::string text = "C:\\My Clips\\Ä 日本.avi *Add";
-    for (int i = 0; i < 2; ++i) { // the same text twice is two texts
-        const Peer peer(SendArguments(ends->CommandHandle(), text));
-        sender = &peer;
-        ASSERT_TRUE(PumpUntil([&] { return !peer.IsRunning(); }));
-        EXPECT_EQ(peer.ExitCode(), 0U);
-        DeleteFileA(Handled().c_str());
+    for (std::size_t i = 0; i < 2; ++i) { // the same text twice is two texts
+        const PeerProcess sender("send " + ends->CommandHandle() + " \"" + text + "\"");
+        meanwhile = [&] {
+            if (received.size() == i + 1) {
+                EXPECT_TRUE(tokens.size() == i + 1 && sender.IsRunning());
+                tokens[i]();
+                meanwhile = nullptr;
+            }
+        };
+        ASSERT_TRUE(PumpUntil([&] { return !sender.IsRunning(); }));
+        EXPECT_EQ(sender.Outcome(), Opened);
     }
     EXPECT_EQ(received, (std::vector{ text, text }));
 }
 
-TEST_F(HandOverOnWindows, a_text_that_comes_while_the_handler_pumps_nests_in_it)
+TEST_F(HandOverOnWindows, a_later_text_is_opened_while_an_earlier_one_waits)
 {
-    std::string order;
-    std::unique_ptr<Peer> second;
-    ends->Deliver([&](const std::string& text) {
-        order += "<" + text;
-        MarkHandled();
-        if (text == "1") {
-            second = std::make_unique<Peer>(SendArguments(ends->CommandHandle(), "2"));
-            EXPECT_TRUE(PumpUntil([&] { return !second->IsRunning(); }));
+    Listen();
+    Sending second;
+    auto first = SendBeside(ends->CommandHandle(), "1");
+    meanwhile = [&] {
+        if (received.size() == 1 && !second.valid())
+            second = SendBeside(ends->CommandHandle(), "2");
+        if (received.size() == 2 && !IsDone(second)) {
+            tokens[1]();
+            tokens[1]();
+        } else if (received.size() == 2) {
+            EXPECT_FALSE(IsDone(first));
+            tokens[0]();
+            meanwhile = nullptr;
         }
-        order += ">";
-    });
-    const Peer first(SendArguments(ends->CommandHandle(), "1"));
-    ASSERT_TRUE(PumpUntil([&] { return !first.IsRunning(); }));
-    EXPECT_EQ(order, "<1<2>>");
-    EXPECT_EQ(first.ExitCode(), 0U);
-    EXPECT_EQ(second->ExitCode(), 0U);
+    };
+    EXPECT_EQ(OutcomeOf(first), Opened);
+    EXPECT_EQ(second.get(), Opened);
+    EXPECT_EQ(received, (std::vector<std::string>{ "1", "2" }));
+}
+
+TEST_F(HandOverOnWindows, a_text_that_is_not_opened_in_time_counts_as_taken_over)
+{
+    Listen({ 30s, 100ms });
+    auto sending = SendBeside(ends->CommandHandle(), "a.avi");
+    EXPECT_EQ(OutcomeOf(sending), TakenOver);
+    tokens.at(0)();
+    const PeerProcess receiver("listen \"" + folder / "handles" + "\"");
+    EXPECT_EQ(SendHandOverTextWithin(HandlesIn(folder / "handles").first, "a.avi", { 30s, 10ms }), TakenOver);
 }
 
 TEST_F(HandOverOnWindows, early_and_long_texts_arrive_and_the_probe_has_no_handler)
 {
     const std::string text = "C:\\" + std::string(1'000'000, 'x') + ".avi";
-    EXPECT_TRUE(SendHandOverText(ends->CommandHandle(), text));
-    EXPECT_TRUE(SendHandOverText(ends->ProbeHandle(), "Hello"));
-    ends->Deliver([this](std::string arrived) { received.push_back(std::move(arrived)); });
-    EXPECT_TRUE(SendHandOverText(ends->CommandHandle(), ""));
-    EXPECT_TRUE(SendHandOverText(ends->CommandHandle(), "b.avi"));
+    auto early = std::move(*HandOverEnds::ListenWithin({ 30s, 30s }));
+    auto sending = SendBeside(early->CommandHandle(), text);
+    meanwhile = [&] {
+        early->Deliver([this](std::string arrived, const HandOverDone& done) {
+            received.push_back(std::move(arrived));
+            done();
+        });
+        meanwhile = nullptr;
+    };
+    EXPECT_EQ(OutcomeOf(sending), Opened);
+    for (const auto* next : { "", "b.avi" })
+        EXPECT_EQ(SendHandOverText(early->CommandHandle(), next), Opened) << next;
+    EXPECT_EQ(SendHandOverText(early->ProbeHandle(), "Hello"), Opened);
     EXPECT_EQ(received, (std::vector<std::string>{ text, "b.avi" }));
 }
 
-TEST_F(HandOverOnWindows, the_handler_may_end_the_player)
+TEST_F(HandOverOnWindows, the_handler_may_end_the_player_and_drops_all_who_wait)
 {
-    ends->Deliver([this](const std::string&) { ends.reset(); });
+    Listen();
     const auto handle = ends->CommandHandle();
-    SendHandOverText(handle, "a.avi");
-    EXPECT_FALSE(ends);
+    Sending last;
+    auto waiting = SendBeside(handle, "waiting.avi");
+    meanwhile = [&] {
+        if (received.size() == 1 && !last.valid())
+            last = SendBeside(handle, "last.avi");
+        if (received.size() == 2)
+            ends.reset();
+    };
+    EXPECT_EQ(OutcomeOf(waiting), Silent);
+    EXPECT_EQ(OutcomeOf(last), Silent);
+    for (const auto& token : tokens)
+        token();
     EXPECT_FALSE(IsHandOverAlive(handle));
+    meanwhile = nullptr;
+    Listen();
+    ends->Deliver([this](const std::string&, const HandOverDone&) { ends.reset(); });
+    EXPECT_EQ(SendHandOverText(ends->CommandHandle(), "a.avi"), Silent);
+    EXPECT_FALSE(ends);
 }
 
-TEST_F(HandOverOnWindows, a_killed_receiver_leaves_stale_handles)
+TEST_F(HandOverOnWindows, a_stopped_or_killed_player_is_given_up)
 {
-    const Peer receiver("listen \"" + folder / "handles" + "\"");
-    ASSERT_TRUE(PumpUntil([&] { return PathExists(folder / "handles"); }));
-    const auto handles = ReadTextFile(folder / "handles", 100).value();
-    const auto command = handles.substr(0, handles.find(' '));
-    const auto probe = handles.substr(handles.find(' ') + 1);
-    EXPECT_TRUE(IsHandOverAlive(command) && IsHandOverAlive(probe));
-    EXPECT_TRUE(SendHandOverText(probe, "Hello"));
+    const PeerProcess hung("hang \"" + folder / "hung" + "\"");
+    const auto [hungCommand, hungProbe] = HandlesIn(folder / "hung");
+    EXPECT_TRUE(IsHandOverAlive(hungCommand) && IsHandOverAlive(hungProbe));
+    EXPECT_EQ(SendHandOverTextWithin(hungCommand, "a.avi", { 200ms, 30s }), Silent);
+    EXPECT_EQ(SendHandOverTextWithin(hungProbe, "Hello", { 200ms, 30s }), Silent);
+
+    const PeerProcess receiver("listen \"" + folder / "handles" + "\"");
+    const auto [command, probe] = HandlesIn(folder / "handles");
+    EXPECT_EQ(SendHandOverText(probe, "Hello"), Opened);
+    auto sending = SendBeside(command, "a.avi");
+    EXPECT_EQ(sending.wait_for(200ms), std::future_status::timeout);
     receiver.Kill();
-    EXPECT_FALSE(IsHandOverAlive(command) || IsHandOverAlive(probe));
-    EXPECT_FALSE(SendHandOverText(probe, "Hello"));
-    for (const auto* handle : { "", "-1", "0", "x" })
-        EXPECT_FALSE(IsHandOverAlive(handle) || SendHandOverText(handle, "Hello")) << handle;
+    EXPECT_EQ(sending.get(), Silent);
+    for (const auto& handle :
+        { command, probe, std::string(), std::string("-1"), std::string("0"), std::string("x") }) {
+        EXPECT_FALSE(IsHandOverAlive(handle)) << handle;
+        EXPECT_EQ(SendHandOverText(handle, "Hello"), Silent) << handle;
+    }
+}
+
+TEST_F(HandOverOnWindows, windows_of_others_are_no_players_and_keep_their_titles)
+{
+    const auto module = GetModuleHandleA(nullptr);
+    const HWND inWindow = CreateWindowExA(0, "EDIT", "mine", 0, 0, 0, 9, 9, nullptr, nullptr, module, nullptr);
+    const HWND label = CreateWindowExA(0, "STATIC", "mine", 0, 0, 0, 9, 9, HWND_MESSAGE, nullptr, module, nullptr);
+    const auto other = folder / "other.exe";
+    ASSERT_TRUE(CopyFileA(OwnProgram().c_str(), other.c_str(), FALSE));
+    const PeerProcess program("listen \"" + folder / "handles" + "\"", other);
+    const auto ofOther = HandlesIn(folder / "handles").second;
+    const auto box = reinterpret_cast<HWND>(static_cast<std::uintptr_t>(std::stoull(ofOther)));
+    SendMessageA(box, WM_SETTEXT, 0, reinterpret_cast<LPARAM>("mine"));
+    for (const HWND window : { inWindow, label, box }) {
+        const auto handle = std::to_string(reinterpret_cast<std::uintptr_t>(window));
+        EXPECT_FALSE(IsHandOverAlive(handle));
+        EXPECT_EQ(SendHandOverText(handle, "Hello"), Silent);
+        char title[8] = "";
+        SendMessageA(window, WM_GETTEXT, sizeof title, reinterpret_cast<LPARAM>(title));
+        EXPECT_STREQ(title, "mine");
+    }
+    DestroyWindow(inWindow);
+    DestroyWindow(label);
 }
 
 TEST_F(HandOverOnWindows, the_lock_has_one_holder_and_falls_with_its_process)
 {
-    const Peer holder("lock \"" + folder / "taken" + "\"");
+    const PeerProcess holder("lock \"" + folder / "taken" + "\"");
     ASSERT_TRUE(PumpUntil([&] { return PathExists(folder / "taken"); }));
     EXPECT_FALSE(HandOverLock::Take(50ms));
     holder.Kill();
@@ -162,3 +300,11 @@ TEST_F(HandOverOnWindows, the_lock_has_one_holder_and_falls_with_its_process)
 
 } // namespace
 } // namespace zentaro::platform
+
+int main(int count, char** arguments)
+{
+    if (count >= 4 && std::string(arguments[1]) == "peer")
+        return zentaro::platform::Peer(arguments[2], arguments[3], count > 4 ? arguments[4] : "");
+    testing::InitGoogleTest(&count, arguments);
+    return RUN_ALL_TESTS();
+}
