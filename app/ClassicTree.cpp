@@ -20,8 +20,8 @@ std::string WithKey(const std::string& caption, const std::string& key)
 
 using Needs = ClassicItem::Needs;
 
-ClassicItem Row(const char* parent, const char* name, std::string caption, const char* command = "",
-    Needs needs = Needs::Nothing)
+ClassicItem Row(
+    const char* parent, const char* name, std::string caption, const char* command = "", Needs needs = Needs::Nothing)
 {
     ClassicItem item;
     item.name = name;
@@ -86,7 +86,8 @@ ClassicTree::ClassicTree()
         Row("mnuPlayBackMenu", "mnufullscreen", "Full Screen", "FullScreen"),
         Row("mnuPlayBackMenu", "sepplay3", ""),
         Row("mnuPlayBackMenu", "mnuincspeed", WithKey("Increase Speed", "Ctrl+Up"), "IncreaseSpeed", Needs::LoadedItem),
-        Row("mnuPlayBackMenu", "mnudecSpeed", WithKey("Decrease Speed", "Ctrl+Down"), "DecreaseSpeed", Needs::LoadedItem),
+        Row("mnuPlayBackMenu", "mnudecSpeed", WithKey("Decrease Speed", "Ctrl+Down"), "DecreaseSpeed",
+            Needs::LoadedItem),
         Row("mnuPlayBackMenu", "mnuresSpeed", "Reset Speed", "ResetSpeed", Needs::LoadedItem),
         Row("mnuPlayBackMenu", "plsep4", ""),
         Row("mnuPlayBackMenu", "mnuAfterMenu", "After playing finish"),

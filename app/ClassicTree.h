@@ -12,9 +12,9 @@ class Player;
 /// One menu or item of the classic tree, known by its control's name and, in a control array, its index.
 struct ClassicItem {
     std::string name;
-    int index = 0;       ///< 0 outside control arrays
-    std::string caption; ///< "&" marks the access letter; empty for separators
-    std::string parent;  ///< the name of the menu it lies in; empty at the top
+    int index = 0;                 ///< 0 outside control arrays
+    std::string caption;           ///< "&" marks the access letter; empty for separators
+    std::string parent;            ///< the name of the menu it lies in; empty at the top
     std::string_view command = {}; ///< the id of what a click does; `index` goes with it
     /// When it is enabled; found out each time that its menu is opened.
     enum class Needs { Nothing, LoadedItem, Entries } needs = Needs::Nothing;

@@ -2,47 +2,25 @@
 
 #include "app/Player.h"
 #include "shell/MenuText.h"
+#include "shell/QtText.h"
 
 #include <QMenu>
 
 namespace zentaro {
-
-namespace {
-
-/// Letters and digits have the same code in both worlds.
-int QtKey(std::int16_t virtualKey)
-{
-    switch (virtualKey) {
-    case 33:
-        return Qt::Key_PageUp;
-    case 34:
-        return Qt::Key_PageDown;
-    case 38:
-        return Qt::Key_Up;
-    case 40:
-        return Qt::Key_Down;
-    case 112:
-        return Qt::Key_F1;
-    default:
-        return virtualKey;
-    }
-}
-
-} // namespace
 
 CommandMenu::CommandMenu(Player& player, QWidget* window)
     : QObject(window)
     , m_player(player)
     , m_window(window)
 {
-    for (const auto& item : player.SmartMenuXP1().Items())
+    for (const auto& item : player.BothMenus().SmartMenuXP1.Items())
         Make(item);
-    player.SmartMenuXP1().onChange = [this](const CommandItem& item) { Show(item); };
+    player.BothMenus().SmartMenuXP1.onChange = [this](const CommandItem& item) { Show(item); };
 }
 
 CommandMenu::~CommandMenu()
 {
-    m_player.SmartMenuXP1().onChange = nullptr;
+    m_player.BothMenus().SmartMenuXP1.onChange = nullptr;
 }
 
 void CommandMenu::Make(const CommandItem& item)
@@ -52,7 +30,7 @@ void CommandMenu::Make(const CommandItem& item)
         parent->addSeparator();
         return;
     }
-    if (m_player.SmartMenuXP1().HasSubmenu(item)) {
+    if (m_player.BothMenus().SmartMenuXP1.HasSubmenu(item)) {
         auto* const menu = m_menus[item.key] = new QMenu(m_window);
         m_actions[item.key] = menu->menuAction();
         if (parent == nullptr)
@@ -72,12 +50,11 @@ QAction* CommandMenu::MakeItem(const CommandItem& item)
     connect(action, &QAction::triggered, this, [this, key = item.key] {
         m_player.RunCommand(key);
         // A checkable action has changed its mark by itself.
-        Show(*m_player.SmartMenuXP1().Find(key));
+        Show(*m_player.BothMenus().SmartMenuXP1.Find(key));
     });
     // Only what does something has its keys; a submenu that names the same ones must not take them away.
-    if (item.shortcutKey != 0) {
-        const auto modifier = item.shortcutModifier == kControlModifier ? Qt::ControlModifier : Qt::NoModifier;
-        action->setShortcut(QKeyCombination(modifier, static_cast<Qt::Key>(QtKey(item.shortcutKey))));
+    if (!item.shortcut.empty()) {
+        action->setShortcut(QKeySequence(ToQString(item.shortcut)));
         // A key that rests on the keyboard must not toggle on and on.
         action->setAutoRepeat(false);
         m_window->addAction(action);

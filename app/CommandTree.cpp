@@ -8,8 +8,8 @@ namespace zentaro {
 
 namespace {
 
-/// One item below the submenu that stands before it with a smaller depth. What a command is called and its key come from
-/// the list of commands; a submenu has a caption of its own.
+/// One item below the submenu that stands before it with a smaller depth. What a command is called and its key come
+/// from the list of commands; a submenu has a caption of its own.
 struct Node {
     int depth;
     const char* key;
@@ -130,7 +130,8 @@ CommandTree::CommandTree()
         isSlots ? AddSlots(m_items, parent, node) : AddItem(m_items, parent, node);
         submenus[depth] = node.key;
     }
-    // The shortcut of "PlayPause" once more, on purpose: a submenu has no command, so the key stays with the other item.
+    // The shortcut of "PlayPause" once more, on purpose: a submenu has no command, so the key stays with the other
+    // item.
     Set(kAfterPlay, &CommandItem::shortcut, Find("PlayPause")->shortcut);
     SetChecked("PMNormal", true);
 }

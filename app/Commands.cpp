@@ -88,22 +88,21 @@ constexpr std::array kCommands{
     Command{ "PMShuffle", "&Shuffle", {}, [](Player& player, int) { player.Sequence().PBShuffle(); }, nullptr,
         HasPlayMode<kPlayShuffle> },
     Command{ "RMNoRepeat", "&No Repeat", {}, SetRepeatMode<kNoRepeat>, nullptr, HasRepeatMode<kNoRepeat> },
-    Command{ "RMSingleRepeat", "&Single Repeat", {}, SetRepeatMode<kRepeatSingle>, nullptr,
-        HasRepeatMode<kRepeatSingle> },
+    Command{
+        "RMSingleRepeat", "&Single Repeat", {}, SetRepeatMode<kRepeatSingle>, nullptr, HasRepeatMode<kRepeatSingle> },
     Command{ "RMRepeatAll", "&Repeat All", {}, SetRepeatMode<kRepeatAll>, nullptr, HasRepeatMode<kRepeatAll> },
     Command{ "FullScreen", "Full Screen", kCtrlF, [](Player& player, int) { player.Window().cmdFulScreenClick(); },
         IsLoaded },
-    Command{ "IncreaseSpeed", "Increase Speed", kFaster,
-        [](Player& player, int) { player.Transporting().IncreaseRate(); } },
-    Command{ "DecreaseSpeed", "Decrease Speed", kSlower,
-        [](Player& player, int) { player.Transporting().DecreaseRate(); } },
+    Command{
+        "IncreaseSpeed", "Increase Speed", kFaster, [](Player& player, int) { player.Transporting().IncreaseRate(); } },
+    Command{
+        "DecreaseSpeed", "Decrease Speed", kSlower, [](Player& player, int) { player.Transporting().DecreaseRate(); } },
     Command{ "ResetSpeed", "Reset Speed", kCtrlR, [](Player& player, int) { player.Transporting().ResetRate(); } },
     Command{ "Donothing", "Do nothing", {}, DoAfter<0>, nullptr, IsAfterPlay<0> },
     Command{ "ExitZentaro", "Exit Zentaro", {}, DoAfter<1>, nullptr, IsAfterPlay<1> },
     Command{ "RestartTheComputer", "Restart the Computer", {}, DoAfter<2>, nullptr, IsAfterPlay<2> },
     Command{ "ShutdownTheComputer", "Shutdown the Computer", {}, DoAfter<3>, nullptr, IsAfterPlay<3> },
-    Command{ "AddVideoFile", "Add Media File(s)...", {},
-        [](Player& player, int) { player.Files().AddVideoFile(); } },
+    Command{ "AddVideoFile", "Add Media File(s)...", {}, [](Player& player, int) { player.Files().AddVideoFile(); } },
     Command{ "Remove", "Remove", kDelete,
         [](Player& player, int) {
             player.Sequence().RemoveSelected();
@@ -116,8 +115,8 @@ constexpr std::array kCommands{
             DisableListCommands(player);
         } },
     Command{ "Next", "Next", kPageDown, [](Player& player, int) { player.Sequence().cmdNextClick(); }, IsLoaded },
-    Command{ "Previous", "Previous", kPageUp, [](Player& player, int) { player.Sequence().cmdPreviousClick(); },
-        IsLoaded },
+    Command{
+        "Previous", "Previous", kPageUp, [](Player& player, int) { player.Sequence().cmdPreviousClick(); }, IsLoaded },
     Command{ "Options", "Options", {}, [](Player& player, int) { player.Window().ShowOptions(); } },
     Command{ "About", "&About", {}, [](Player& player, int) { player.Window().ShowAbout(); } },
     Command{ "HelpTopics", "&Help Topics", kF1, [](Player& player, int) { player.Face().dialogs->ShowHelp(); } },
@@ -129,17 +128,16 @@ constexpr std::array kCommands{
         nullptr, nullptr, false, "Space" },
     Command{ "PlaySelected", "Play the Selected Entry", kEnter,
         [](Player& player, int) {
-            if (!player.Discs().Navigate(DiscKey::Activate) && player.Entries().SelectedEntry() != nullptr)
+            if (!player.Discs().Navigate(DiscKey::Activate) && player.Entries().SelectedEntry())
                 player.Sequence().CMDPlayClick();
         } },
     Command{ "Rewind", "Rewind", {}, [](Player& player, int) { player.Transporting().RewindPressed(); }, IsLoaded,
         nullptr, [](Player& player) { player.Transporting().RewindReleased(); }, false, "hold" },
-    Command{ "FastForward", "Fast forward", {},
-        [](Player& player, int) { player.Transporting().cmdffMouseDown(); }, IsLoaded, nullptr,
-        [](Player& player) { player.Transporting().cmdffMouseUp(); }, false, "hold" },
+    Command{ "FastForward", "Fast forward", {}, [](Player& player, int) { player.Transporting().cmdffMouseDown(); },
+        IsLoaded, nullptr, [](Player& player) { player.Transporting().cmdffMouseUp(); }, false, "hold" },
     Command{ "SeekBack", "5 Seconds Back", kLeft, Seek<DiscKey::Left, -kStep>, IsLoaded, nullptr, nullptr, true },
-    Command{ "SeekForward", "5 Seconds Forward", kRight, Seek<DiscKey::Right, kStep>, IsLoaded, nullptr, nullptr,
-        true },
+    Command{
+        "SeekForward", "5 Seconds Forward", kRight, Seek<DiscKey::Right, kStep>, IsLoaded, nullptr, nullptr, true },
     Command{ "SeekFarBack", "30 Seconds Back", kShiftLeft,
         [](Player& player, int) { player.Transporting().SeekBy(-kLongStep); }, IsLoaded, nullptr, nullptr, true },
     Command{ "SeekFarForward", "30 Seconds Forward", kShiftRight,
@@ -150,9 +148,8 @@ constexpr std::array kCommands{
     Command{ "Quieter", "Quieter", kDown, TurnVolume<DiscKey::Down, -kVolumeStep>, nullptr, nullptr, nullptr, true },
     Command{ "Mute", "Mute", kM, [](Player& player, int) { player.Transporting().cmdMuteClick(); }, nullptr,
         [](const Player& player) { return player.State().isMuted; } },
-    Command{ "ToggleFullScreen", "&Full Screen", kF,
-        [](Player& player, int) { player.Window().ToggleFullScreen(); }, nullptr,
-        [](const Player& player) { return player.Face().window->IsFullScreen(); } },
+    Command{ "ToggleFullScreen", "&Full Screen", kF, [](Player& player, int) { player.Window().ToggleFullScreen(); },
+        nullptr, [](const Player& player) { return player.Face().window->IsFullScreen(); } },
     Command{ "LeaveFullScreen", "Leave Full Screen", kEscape,
         [](Player& player, int) { player.Window().LeaveFullScreen(); } },
     Command{ "Snapshot", "S&napshot", kS, [](Player& player, int) { player.TakeSnapshot(); },

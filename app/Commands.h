@@ -7,8 +7,8 @@ namespace zentaro {
 
 class Player;
 
-/// One thing that can be asked of the player. Menus, keys, buttons, the tray and the desktop's media controls know it by
-/// its id; what it is called and what it does stands in one list.
+/// One thing that can be asked of the player. Menus, keys, buttons, the tray and the desktop's media controls know it
+/// by its id; what it is called and what it does stands in one list.
 struct Command {
     std::string_view id;      ///< the key of the command tree's item where it has one
     std::string_view caption; ///< "&" marks the access letter of menus

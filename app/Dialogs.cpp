@@ -2,11 +2,17 @@
 
 #include "app/Player.h"
 #include "app/frmMain.h"
+#include "platform/Folders.h"
 #include "platform/OpenDocument.h"
 #include "platform/TextFile.h"
+#include "playlist/OpenFiles.h"
+#include "shell/MessageDialog.h"
 #include "shell/QtText.h"
 #include "shell/frmAbout.h"
 #include "shell/frmSettings.h"
+
+#include <QApplication>
+#include <QFileDialog>
 
 #include <utility>
 
@@ -31,6 +37,16 @@ std::vector<FileTypeRow> Rows(const std::vector<AssociationChoice>& choices)
     return rows;
 }
 
+/// From "name|patterns" pairs to what Qt wants: "name (patterns)", with blanks between the patterns.
+QStringList QtFilters(const std::string& filter)
+{
+    QStringList filters;
+    const auto parts = ToQString(filter).split('|');
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
+        filters << parts[i] + " (" + QString(parts[i + 1]).replace(';', ' ') + ")";
+    return filters;
+}
+
 } // namespace
 
 Dialogs::Dialogs(frmMain& window, Player& player, std::string programFolder)
@@ -38,9 +54,56 @@ Dialogs::Dialogs(frmMain& window, Player& player, std::string programFolder)
     , m_player(player)
     , m_programFolder(std::move(programFolder))
 {
-    window.onShowOptions = [this] { ShowOptions(); };
-    window.onShowAbout = [this] { ShowAbout(); };
-    window.onShowHelp = [this] { ShowHelp(); };
+}
+
+void Dialogs::ShowNotice(const Notice& notice, std::function<void()> closed)
+{
+    // Above a dialog that is open: below it nobody could answer the box.
+    auto* const dialog = QApplication::activeModalWidget();
+    auto* const owner = dialog != nullptr ? dialog : static_cast<QWidget*>(&m_window);
+    auto* const box = new MessageDialog(notice, m_window.Pictures(), owner);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(box, &QDialog::finished, &m_window, [closed = std::move(closed)] { closed(); });
+    box->setModal(true);
+    box->show();
+}
+
+void Dialogs::AskForFiles(
+    const std::string& title, const std::string& filter, std::function<void(std::vector<std::string>)> chosen)
+{
+    auto* const dialog = new QFileDialog(&m_window, ToQString(title));
+    dialog->setFileMode(QFileDialog::ExistingFiles);
+    dialog->setNameFilters(QtFilters(filter));
+    AskForPaths(dialog, [chosen = std::move(chosen)](const std::vector<std::string>& paths) {
+        chosen(OpenFileResults(paths, platform::PathSeparator()));
+    });
+}
+
+void Dialogs::AskForSubtitles(std::function<void(std::string)> chosen)
+{
+    auto* const dialog = new QFileDialog(&m_window, "Open Subtitles");
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->setNameFilters({ "Subtitles (*.srt *.sub *.ass *.ssa *.vtt *.idx *.smi *.txt *.mpl)", "All files (*)" });
+    AskForPaths(dialog, [chosen = std::move(chosen)](const std::vector<std::string>& paths) {
+        chosen(paths.empty() ? std::string() : paths.front());
+    });
+}
+
+void Dialogs::AskForPaths(QFileDialog* dialog, std::function<void(std::vector<std::string>)> chosen)
+{
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    if (!m_lastFolder.isEmpty())
+        dialog->setDirectory(m_lastFolder);
+    QObject::connect(dialog, &QDialog::finished, &m_window, [this, dialog, chosen = std::move(chosen)](int result) {
+        std::vector<std::string> paths;
+        if (result == QDialog::Accepted) {
+            m_lastFolder = dialog->directory().path();
+            for (const auto& name : dialog->selectedFiles())
+                paths.push_back(ToPath(name));
+        }
+        chosen(std::move(paths));
+    });
+    dialog->open();
 }
 
 bool Dialogs::IsOneOpen()
@@ -54,8 +117,7 @@ void Dialogs::Open(QDialog* dialog)
 {
     m_dialog = dialog;
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    QObject::connect(dialog, &QDialog::finished, &m_window, [this] { m_player.DialogClosed(); });
-    // No loop of its own: it would hold up what it was opened in, such as a file that is just being loaded.
+    QObject::connect(dialog, &QDialog::finished, &m_window, [this] { m_player.Window().DialogClosed(); });
     dialog->setModal(true);
     dialog->show();
 }
@@ -64,8 +126,8 @@ void Dialogs::ShowOptions()
 {
     if (IsOneOpen())
         return;
-    auto* const options = new frmSettings(
-        PagesOf(m_player.Settings()), Rows(m_player.AssociationChoices()), m_window.Pictures(), &m_window);
+    auto* const options =
+        new frmSettings(PagesOf(m_player.Settings()), Rows(m_player.Types().Choices()), m_window.Pictures(), &m_window);
     QObject::connect(options, &frmSettings::Commit, &m_window,
         [this](const SettingsPages& pages) { m_player.CommitOptions(pages); });
     Open(options);
@@ -85,15 +147,20 @@ void Dialogs::ShowHelp()
 {
     const auto help = m_programFolder + platform::HelpFile();
     if (!platform::PathExists(help))
-        m_window.ShowNotice({ "The help is missing. It should be here:\r\n" + help });
+        Say("The help is missing. It should be here:\r\n" + help);
     else if (!platform::OpenDocument(help))
-        m_window.ShowNotice({ "There is no program that shows the help:\r\n" + help });
+        Say("There is no program that shows the help:\r\n" + help);
 }
 
 void Dialogs::OpenPage(const std::string& address)
 {
     if (!platform::OpenDocument(address))
-        m_window.ShowNotice({ "There is no browser that shows this page:\r\n" + address });
+        Say("There is no browser that shows this page:\r\n" + address);
+}
+
+void Dialogs::Say(const std::string& text)
+{
+    ShowNotice({ text }, [] {});
 }
 
 } // namespace zentaro

@@ -1,37 +1,49 @@
 #pragma once
 
+#include "app/PlayerFace.h"
+
 #include <QPointer>
+#include <QString>
 
 #include <string>
 
 class QDialog;
+class QFileDialog;
 
 namespace zentaro {
 
 class Player;
 class frmMain;
 
-/// The main window's dialogs and the help. Each is made when it is asked for and goes when it is closed. While one is
-/// open the user can do nothing else, but all else goes on: files play, and files of later starts arrive.
-class Dialogs {
+/// The windows that come over the main one, and the help. Each is made when it is asked for and goes when it is closed.
+/// While one is open the user can do nothing else, but all else goes on: files play, and files of later starts arrive.
+class Dialogs : public DialogFace {
 public:
     /// `programFolder`: with a trailing separator. All three live as long as the process.
     Dialogs(frmMain& window, Player& player, std::string programFolder);
 
+    void ShowNotice(const Notice& notice, std::function<void()> closed) override;
+    void AskForFiles(const std::string& title, const std::string& filter,
+        std::function<void(std::vector<std::string>)> chosen) override;
+    void AskForSubtitles(std::function<void(std::string)> chosen) override;
+    void ShowOptions() override;
+    void ShowAbout() override;
+    void ShowHelp() override;
+
 private:
-    void ShowOptions();
-    void ShowAbout();
-    void ShowHelp();
     void OpenPage(const std::string& address);
+    void Say(const std::string& text);
     /// True when there is a dialog already: it comes forward.
     bool IsOneOpen();
-    /// Returns at once.
     void Open(QDialog* dialog);
+    /// A dialog for files in the folder that was used last; `chosen` gets their paths, none on cancel.
+    void AskForPaths(QFileDialog* dialog, std::function<void(std::vector<std::string>)> chosen);
 
     frmMain& m_window;
     Player& m_player;
     std::string m_programFolder;
     QPointer<QDialog> m_dialog;
+    QString m_lastFolder;
 };
 
 } // namespace zentaro

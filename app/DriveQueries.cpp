@@ -1,6 +1,5 @@
 #include "app/DriveQueries.h"
 
-#include <thread>
 #include <utility>
 
 namespace zentaro {
@@ -16,13 +15,12 @@ void DriveQueries::Ask()
 {
     if (std::exchange(m_isAsking, true))
         return;
-    const auto work = [drives = m_drives, post = m_post, alive = std::weak_ptr(m_alive)] {
-        post([alive, found = drives->Find()] {
+    RunInBackground(m_post, [drives = m_drives, alive = std::weak_ptr(m_alive)] {
+        return [alive, found = drives->Find()] {
             if (const auto self = alive.lock())
                 (*self)->Answered(found);
-        });
-    };
-    std::thread(work).detach();
+        };
+    });
 }
 
 void DriveQueries::Answered(std::vector<platform::OpticalDrive> drives)

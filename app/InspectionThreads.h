@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Background.h"
 #include "inspect/Inspection.h"
 #include "inspect/ModPipes.h"
 #include "playlist/AddQueue.h"
@@ -17,9 +18,6 @@ namespace zentaro {
 /// usable and the following files can run ahead.
 class InspectionThreads : public InspectionRunner {
 public:
-    /// Runs a piece of work on the UI thread, later.
-    using Post = std::function<void(std::function<void()>)>;
-
     /// What all inspections share, asked for when the first one starts; its tools and working folder are set here for
     /// each one.
     using SharedContext = std::function<const InspectionContext&()>;

@@ -25,6 +25,7 @@ MediaLoop LoopOf(std::int32_t repeatMode)
     return repeatMode == kRepeatAll ? MediaLoop::Playlist : MediaLoop::None;
 }
 
+/// The command that chooses the mode.
 std::string_view CommandOf(MediaLoop loop)
 {
     if (loop == MediaLoop::Track)
@@ -139,7 +140,8 @@ void MediaRemote::Do(const MediaCommand& command)
     case MediaCommand::Kind::OpenFile:
         return m_player.Files().DropOnVideo({ command.path });
     case MediaCommand::Kind::AddFile:
-        return command.flag ? m_player.Files().DropOnVideo({ command.path }) : m_player.Files().DropOnList({ command.path });
+        return command.flag ? m_player.Files().DropOnVideo({ command.path })
+                            : m_player.Files().DropOnList({ command.path });
     case MediaCommand::Kind::RemoveTrack:
         return track ? RemoveTrack(*track) : void();
     case MediaCommand::Kind::GoToTrack:

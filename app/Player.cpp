@@ -189,8 +189,8 @@ void Player::EntryAdded()
     m_face.window->StateChanged();
 }
 
-void Player::AskForFiles(const std::string& title, const std::string& filter,
-    std::function<void(std::vector<std::string>)> chosen)
+void Player::AskForFiles(
+    const std::string& title, const std::string& filter, std::function<void(std::vector<std::string>)> chosen)
 {
     m_face.dialogs->AskForFiles(title, filter, std::move(chosen));
 }

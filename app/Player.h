@@ -48,8 +48,8 @@ public:
     /// Takes over what the options dialog holds, while it is open.
     void CommitOptions(const SettingsPages& pages);
 
-    /// Does what the command of this key is for, as the menu strip and its shortcuts ask for it. A key that no item has,
-    /// and an item that is disabled or hidden, do nothing.
+    /// Does what the command of this key is for, as the menu strip and its shortcuts ask for it. A key that no item
+    /// has, and an item that is disabled or hidden, do nothing.
     void RunCommand(std::string_view key);
     /// Adds the file of that slot of the history, and plays it.
     void PlayHistoryItem(int slot);

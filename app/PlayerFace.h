@@ -47,8 +47,8 @@ public:
     /// Shows a box; `closed` follows.
     virtual void ShowNotice(const Notice& notice, std::function<void()> closed) = 0;
     /// Asks for files, more than one at will: one text per folder, as ParseOpenFileResult reads it; none on cancel.
-    virtual void AskForFiles(const std::string& title, const std::string& filter,
-        std::function<void(std::vector<std::string>)> chosen) = 0;
+    virtual void AskForFiles(
+        const std::string& title, const std::string& filter, std::function<void(std::vector<std::string>)> chosen) = 0;
     /// Asks for one file of subtitles; empty on cancel.
     virtual void AskForSubtitles(std::function<void(std::string)> chosen) = 0;
     /// WindowControl::DialogClosed() follows.

@@ -17,11 +17,11 @@ Sequencer::Sequencer(Rooms rooms)
 
 void Sequencer::PlayItem(std::int16_t index, bool fullScreen)
 {
-    const auto* const entry = Entries().EntryAt(index);
-    if (entry == nullptr)
+    const auto entry = Entries().EntryAt(index);
+    if (!entry)
         return;
     auto& transport = m_rooms.transport;
-    const auto path = entry->FullPath;
+    const auto& path = entry->FullPath;
     transport.Open(
         DiscSession::ItemOf(*entry), { path, DiscSession::IsDiscLocation(path) }, m_rooms.settings.ItemOptions(path));
     transport.Play();

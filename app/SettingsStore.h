@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/ConfigFile.h"
+#include "base/Result.h"
 #include "playback/Engine.h"
 #include "shell/SettingsPages.h"
 #include "shell/WindowLayout.h"

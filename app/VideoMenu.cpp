@@ -1,8 +1,10 @@
 #include "app/VideoMenu.h"
 
+#include "app/Commands.h"
 #include "app/Player.h"
 #include "app/VideoChoices.h"
 #include "shell/MenuText.h"
+#include "shell/QtText.h"
 
 #include <QMenu>
 
@@ -30,19 +32,23 @@ void ShowVideoMenu(QWidget& window, Player& player, const QPoint& at)
     auto* const menu = new QMenu(&window);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     const auto choices = ReadVideoChoices(player);
-    const auto add = [&](QMenu* target, const char* caption, bool enabled, void (Player::*run)()) {
-        auto* const action = target->addAction(caption);
-        action->setEnabled(enabled);
-        // Later: the menu is to be gone before a box comes.
+    const auto add = [&](QMenu* target, const char* id, QString caption = {}) {
+        const auto& command = *FindCommand(id);
+        if (caption.isEmpty())
+            caption = ToQString(std::string(command.caption));
+        auto* const action = target->addAction(caption + '\t' + ToQString(std::string(ShownKey(command))));
+        action->setEnabled(command.isAvailable == nullptr || command.isAvailable(player));
+        // After this event: Qt closes the menu only then, and a dialog that the click opens must not lie under it.
         QObject::connect(
-            action, &QAction::triggered, &window, [&player, run] { (player.*run)(); }, Qt::QueuedConnection);
+            action, &QAction::triggered, &window, [&player, &command] { command.run(player, 0); },
+            Qt::QueuedConnection);
     };
     AddChoices(*menu, "&Audio Track", choices.audioTracks);
     auto* const subtitles = AddChoices(*menu, "&Subtitles", choices.subtitles);
     subtitles->setEnabled(choices.hasVideo);
     if (!choices.subtitles.empty())
         subtitles->addSeparator();
-    add(subtitles, "&Load File...", choices.hasVideo, &Player::LoadSubtitleFile);
+    add(subtitles, "LoadSubtitles");
     if (choices.titles.size() > 1)
         AddChoices(*menu, "&Title", choices.titles);
     if (choices.chapters.size() > 1)
@@ -51,9 +57,8 @@ void ShowVideoMenu(QWidget& window, Player& player, const QPoint& at)
     AddChoices(*menu, "As&pect Ratio", choices.aspectRatios);
     AddChoices(*menu, "&Deinterlace", choices.deinterlacing);
     menu->addSeparator();
-    add(menu, "S&napshot\tS", player.CanTakeSnapshot(), &Player::TakeSnapshot);
-    const bool isFullScreen = window.isFullScreen();
-    add(menu, isFullScreen ? "Leave &Full Screen\tF" : "&Full Screen\tF", true, &Player::ToggleFullScreen);
+    add(menu, "Snapshot");
+    add(menu, "ToggleFullScreen", window.isFullScreen() ? "Leave &Full Screen" : "");
     AddChoices(*menu, "Play&list", choices.docking);
     menu->popup(at);
 }

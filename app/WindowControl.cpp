@@ -32,9 +32,9 @@ void WindowControl::SetLoadedOptions()
 
 void WindowControl::ShowCaption()
 {
-    const auto* const entry = m_entries.SelectedEntry();
+    const auto entry = m_entries.SelectedEntry();
     m_caption = CaptionText({ m_settings.Settings().TitleBarMode, m_entries.List().SelectedText(),
-        entry != nullptr ? entry->FullPath : std::string() });
+        entry ? entry->FullPath : std::string() });
     m_face.window->StateChanged();
 }
 

@@ -1,41 +1,38 @@
 #include "app/frmMain.h"
 
+#include "app/CommandMenu.h"
+#include "app/Commands.h"
+#include "app/ContentPane.h"
+#include "app/ControlPanel.h"
 #include "app/Player.h"
 #include "app/VideoMenu.h"
-#include "platform/Folders.h"
+#include "app/WindowKeys.h"
+#include "app/WindowNotes.h"
+#include "app/frmMenu.h"
 #include "platform/QuitRequest.h"
 #include "platform/Window.h"
-#include "playback/TimeText.h"
 #include "playback/VideoFrame.h"
 #include "playlist/FancyList.h"
-#include "playlist/OpenFiles.h"
 #include "shell/Caption.h"
-#include "shell/DigitLabel.h"
 #include "shell/FullScreenBar.h"
-#include "shell/MessageDialog.h"
+#include "shell/MenuStrip.h"
 #include "shell/NoteBox.h"
 #include "shell/QtGeometry.h"
 #include "shell/QtText.h"
-#include "shell/SeekTrack.h"
 #include "shell/SkinButton.h"
 #include "shell/Style.h"
-#include "shell/VolumeKnob.h"
 
 #include <QAccessibleWidget>
 #include <QApplication>
-#include <QCloseEvent>
-#include <QEventLoop>
-#include <QFileDialog>
 #include <QHelpEvent>
-#include <QLabel>
 #include <QMimeData>
 #include <QPainter>
 #include <QScreen>
-#include <QSplitter>
+#include <QSystemTrayIcon>
 #include <QToolTip>
-#include <QWindow>
 
 #include <chrono>
+#include <utility>
 
 namespace zentaro {
 
@@ -44,37 +41,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr double kTwipsPerPixel = 15;
-constexpr int kDragDistance = 2;  // px
-constexpr int kSplitterWidth = 6; // px
-
-Qt::Edges ToQt(const WindowLayout::Edges& edges)
-{
-    Qt::Edges result;
-    result.setFlag(Qt::LeftEdge, edges.left);
-    result.setFlag(Qt::TopEdge, edges.top);
-    result.setFlag(Qt::RightEdge, edges.right);
-    result.setFlag(Qt::BottomEdge, edges.bottom);
-    return result;
-}
-
-Qt::CursorShape CursorFor(const WindowLayout::Edges& edges)
-{
-    if ((edges.left && edges.top) || (edges.right && edges.bottom))
-        return Qt::SizeFDiagCursor;
-    if ((edges.right && edges.top) || (edges.left && edges.bottom))
-        return Qt::SizeBDiagCursor;
-    if (edges.left || edges.right)
-        return Qt::SizeHorCursor;
-    return edges.Any() ? Qt::SizeVerCursor : Qt::ArrowCursor;
-}
-
-std::vector<Rect> ScreenAreas(QRect (QScreen::*area)() const)
-{
-    std::vector<Rect> areas;
-    for (const auto* const screen : QGuiApplication::screens())
-        areas.push_back(FromQt((screen->*area)()));
-    return areas;
-}
+constexpr auto kProgressDelay = 700ms;
 
 /// Screen readers look for a window around what has the focus; a plain widget would be a mere part of one.
 QAccessibleInterface* MakeAccessibleWindow(const QString&, QObject* object)
@@ -85,54 +52,100 @@ QAccessibleInterface* MakeAccessibleWindow(const QString&, QObject* object)
 
 } // namespace
 
-frmMain::frmMain(const QString& programFolder)
-    : QWidget(nullptr, Qt::FramelessWindowHint | Qt::Window)
+frmMain::frmMain(Player& player, VideoFrame* video, const QString& programFolder)
+    : m_player(player)
     , m_programFolder(programFolder)
-    , m_content(new QSplitter(this))
-    , m_video(new VideoFrame(programFolder + "Audio.JPG", m_content))
-    , m_time(new DigitLabel(this))
-    , m_rate(new QLabel(this))
-    , m_volumeNumber(new DigitLabel(this))
+    , m_video(video)
+    , m_list(new FancyList(player.Entries().List()))
+    , m_content(new ContentPane(*video, *m_list, this))
+    , m_controls(new ControlPanel(player, this))
+    , m_bar(new FullScreenBar(
+          m_skin, [this] { return m_controls->ButtonStates(); }, this))
+    , m_notes(new WindowNotes(player, *video, *m_content))
     , m_caption(kProgramName)
 {
     QAccessible::installFactory(&MakeAccessibleWindow);
     setObjectName("frmMain");
     setWindowTitle(kProgramName);
     setWindowIcon(QIcon(programFolder + "icons/zentaro.png"));
-    setMinimumSize(WindowLayout::kMinimumWidth, WindowLayout::kMinimumHeight);
-    resize(WindowLayout::kFirstWidth, WindowLayout::kFirstHeight);
-    setMouseTracking(true);
     setAcceptDrops(true);
-    m_content->setChildrenCollapsible(false);
-    m_content->setHandleWidth(kSplitterWidth);
     m_video->installEventFilter(this);
     m_video->setAcceptDrops(true);
     m_video->setFocusPolicy(Qt::ClickFocus);
     m_video->setAccessibleName("Video");
-    for (auto* const label : { m_time, m_rate, m_volumeNumber })
-        label->setAttribute(Qt::WA_TransparentForMouseEvents);
-    m_rate->setObjectName("lblRate");
-    m_rate->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_volumeNumber->setObjectName("lblVolume");
-    m_volumeNumber->setFont(style::SmallFont());
-    for (auto* const label : { m_rate, m_volumeNumber })
-        label->setForegroundRole(QPalette::PlaceholderText);
-    m_time->setObjectName("lblTime");
-    m_progressDelay.setSingleShot(true);
-    m_geometrySettled.setSingleShot(true);
-    m_geometrySettled.setInterval(200ms);
-    connect(&m_geometrySettled, &QTimer::timeout, this, &frmMain::KeepNormalGeometry);
-    connect(&m_progressDelay, &QTimer::timeout, this, [this] { m_list->ShowAddProgress(m_progress); });
-    m_tmrMovie.setInterval(500ms);
-    m_tmrRewind.setInterval(10ms);
-    m_tmrRewind.setTimerType(Qt::PreciseTimer);
-    m_tmrCheckDVD.setInterval(1000ms);
-    ShowIdle();
+    LetCoverVideo(*m_bar);
+    connect(&m_bar->LeaveButton(), &QAbstractButton::clicked, this, [this] { FillScreen(false); });
+    connect(m_bar, &FullScreenBar::PointerWanted, m_video, &VideoFrame::ShowPointer);
+    connect(m_controls, &ControlPanel::MinimizeAsked, this, &QWidget::showMinimized);
+    connect(m_controls, &ControlPanel::MaximizeAsked, this, &WindowFrame::ToggleMaximized);
+    connect(this, &WindowFrame::Resized, this, &frmMain::PlaceParts);
+    connect(this, &WindowFrame::FillsScreenChanged, this, &frmMain::FillsScreenNow);
+    connect(this, &WindowFrame::NormalSizeChanged, this,
+        [this](int width, int height) { m_player.WindowResized(width, height); });
+    MakeTimers();
+    MakeList();
+    MakeMenus();
+    PlaceParts();
+    m_controls->Show();
+    m_controls->OrderFocus(m_list);
 }
 
-WindowLayout frmMain::Layout() const
+void frmMain::MakeTimers()
 {
-    return { width(), height() };
+    const auto letWatch = [this] {
+        if (m_player.Discs().IsWatching() != m_tmrCheckDVD.isActive())
+            m_player.Discs().IsWatching() ? m_tmrCheckDVD.start() : m_tmrCheckDVD.stop();
+    };
+    m_tmrMovie.setInterval(500ms);
+    connect(&m_tmrMovie, &QTimer::timeout, this, [this, letWatch] {
+        m_player.OnPositionTick();
+        letWatch();
+        onTick();
+    });
+    m_tmrRewind.setInterval(10ms);
+    m_tmrRewind.setTimerType(Qt::PreciseTimer);
+    connect(&m_tmrRewind, &QTimer::timeout, this, [this] { m_player.Transporting().OnRewindTick(); });
+    m_tmrCheckDVD.setInterval(1000ms);
+    connect(&m_tmrCheckDVD, &QTimer::timeout, this, [this, letWatch] {
+        letWatch();
+        m_player.Discs().OnDVDTick();
+    });
+    m_progressDelay.setSingleShot(true);
+    m_progressDelay.setInterval(kProgressDelay);
+    connect(&m_progressDelay, &QTimer::timeout, this, [this] { m_list->ShowAddProgress(m_progress); });
+}
+
+void frmMain::MakeList()
+{
+    m_list->SetImageWidth(64);
+    m_list->SetImageHeight(64);
+    m_list->SetItemHeight(80);
+    m_list->setObjectName("FancyList1");
+    connect(m_list, &FancyList::Click, this, [this] { m_player.Sequence().ListClicked(); });
+    connect(m_list, &FancyList::DblClick, this, [this] { m_player.Sequence().ListDoubleClicked(); });
+    connect(m_list, &FancyList::MouseDown, this, [this](Qt::MouseButton button, Qt::KeyboardModifiers, int x, int y) {
+        if (button == Qt::RightButton)
+            ClassicMenus().Popup("mnuPlayListmenu", m_list->mapToGlobal(QPoint(x, y)));
+    });
+    connect(m_list, &FancyList::CancelAdding, this, [this] { m_player.Files().CancelAdding(); });
+    connect(m_list, &FancyList::OLEDragDrop, this,
+        [this](const QMimeData* dropped) { m_player.Files().DropOnList(DroppedPaths(*dropped)); });
+}
+
+void frmMain::MakeMenus()
+{
+    const auto* const commands = new CommandMenu(m_player, this);
+    m_strip = new MenuStrip(this);
+    for (auto* const menu : commands->TopMenus())
+        m_strip->addMenu(menu);
+    new WindowKeys(m_player, *this, { *m_list, *m_strip, *m_controls });
+}
+
+frmMenu& frmMain::ClassicMenus()
+{
+    if (m_menus == nullptr)
+        m_menus = new frmMenu(m_player, this);
+    return *m_menus;
 }
 
 ScreenExtent frmMain::Extent() const
@@ -143,12 +156,17 @@ ScreenExtent frmMain::Extent() const
 
 double frmMain::WindowLeft() const
 {
-    return m_normal.left() * kTwipsPerPixel;
+    return NormalGeometry().left() * kTwipsPerPixel;
 }
 
 double frmMain::WindowTop() const
 {
-    return m_normal.top() * kTwipsPerPixel;
+    return NormalGeometry().top() * kTwipsPerPixel;
+}
+
+void frmMain::SetWindowPosition(int left, int top)
+{
+    TakePlace(qRound(left / kTwipsPerPixel), qRound(top / kTwipsPerPixel));
 }
 
 void frmMain::ShowWindow()
@@ -158,92 +176,14 @@ void frmMain::ShowWindow()
         qWarning("%s", loaded.error().text.c_str());
     if (QGuiApplication::platformName() == "offscreen")
         qWarning("There is no display: the window is not seen, but files play. Ctrl+C ends the player.");
-    if (!m_placed) {
-        const auto room = screen()->availableGeometry();
-        QRect place({}, size().boundedTo(room.size()).expandedTo(minimumSize()));
-        place.moveCenter(room.center());
-        setGeometry(place);
-    }
-    KeepNormalGeometry();
+    PlaceFirst();
     // Else the first part that takes keys would have them.
     setFocus();
     // Not earlier: a messenger that waits for its player ends at once. Not later: the first file can take long.
     platform::OnQuitRequest([this] { close(); });
     show();
     m_tmrMovie.start();
-    SetTrayShown(m_hasTrayIcon);
-    // Window managers read the state of a shown window only.
-    if (m_topmost)
-        platform::SetTopmost(winId(), true);
-}
-
-void frmMain::SetWindowSize(int width, int height)
-{
-    if (isMaximized() || m_fullScreen)
-        return;
-    resize(QSize(width, height).boundedTo(screen()->availableSize()).expandedTo(minimumSize()));
-}
-
-void frmMain::SetWindowPosition(int left, int top)
-{
-    if (isMaximized() || m_fullScreen)
-        return;
-    const auto pixels = [](int twips) { return qRound(twips / kTwipsPerPixel); };
-    const auto place =
-        MoveOntoScreen({ pixels(left), pixels(top), width(), height() }, ScreenAreas(&QScreen::availableGeometry));
-    setGeometry(ToQt(place));
-    m_placed = true;
-}
-
-void frmMain::SetTopmost(bool topmost)
-{
-    m_topmost = topmost;
-    if (isVisible())
-        platform::SetTopmost(winId(), topmost);
-}
-
-QRect frmMain::FullScreenArea() const
-{
-    const auto screens = ScreenAreas(&QScreen::geometry);
-    return ToQt(ScreenOf(FromQt(geometry()), screens));
-}
-
-void frmMain::SetFullScreen(bool fullScreen)
-{
-    if (fullScreen == m_fullScreen)
-        return;
-    if (fullScreen) {
-        KeepNormalGeometry();
-        m_fullScreen = true;
-        m_wasMaximized = isMaximized();
-        showFullScreen();
-        KeepNormalGeometrySoon();
-        PlaceChildren();
-        m_video->setFocus();
-        m_bar->Begin();
-    } else {
-        m_fullScreen = false;
-        m_wasMaximized ? showMaximized() : showNormal();
-        if (!m_wasMaximized)
-            setGeometry(m_normal);
-        FullScreenLeft();
-    }
-}
-
-void frmMain::FullScreenLeft()
-{
-    m_player->Host().FullScreenLeft();
-    m_bar->End();
-    PlaceChildren();
-    OrderFocus();
-}
-
-void frmMain::ShowCaption(const std::string& text)
-{
-    m_caption = ToQString(text);
-    // Qt takes a lone "[*]" for its mark of changed documents.
-    setWindowTitle(QString(m_caption).replace("[*]", "[*][*]"));
-    update();
+    StateChanged();
 }
 
 void frmMain::FlashCaption()
@@ -251,163 +191,184 @@ void frmMain::FlashCaption()
     platform::FlashWindowOnce(winId());
 }
 
-void frmMain::ShowNotice(const Notice& notice)
+void frmMain::FocusVideo()
 {
-    // Above a dialog that is open: below it nobody could answer the box.
-    auto* const dialog = QApplication::activeModalWidget();
-    MessageDialog(notice, m_skin, dialog != nullptr ? dialog : this).exec();
+    m_video->setFocus();
 }
 
-std::vector<std::string> frmMain::AskForFiles(const std::string& title, const std::string& filter)
+void frmMain::PopupMenu(const std::string& menu)
 {
-    // "name|patterns" pairs; Qt wants "name (patterns)", with blanks between the patterns.
-    QStringList filters;
-    const auto parts = ToQString(filter).split('|');
-    for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
-        filters << parts[i] + " (" + QString(parts[i + 1]).replace(';', ' ') + ")";
-    std::vector<std::string> paths;
-    for (const auto& name : QFileDialog::getOpenFileNames(this, ToQString(title), {}, filters.join(";;")))
-        paths.push_back(ToPath(name));
-    return OpenFileResults(paths, platform::PathSeparator());
+    if (menu == "mnuOpenDVD")
+        ClassicMenus().PopupAbove(menu, m_controls->At(Button::Dvd).mapToGlobal(QPoint()));
+    else
+        ClassicMenus().Popup(menu, QCursor::pos());
 }
 
-std::string frmMain::AskForSubtitles()
+void frmMain::ShowNote(const std::string& text, const std::string& file)
 {
-    const QString filter = "Subtitles (*.srt *.sub *.ass *.ssa *.vtt *.idx *.smi *.txt *.mpl);;All files (*)";
-    return ToPath(QFileDialog::getOpenFileName(this, "Open Subtitles", {}, filter));
+    m_notes->Show(text, file);
 }
 
-void frmMain::PumpMessages(int times)
+void frmMain::StateChanged()
 {
-    for (int i = 0; i < times; ++i)
-        QCoreApplication::processEvents();
+    m_controls->Show();
+    m_video->ShowAudioLogo(m_player.State().showAudioLogo);
+    if (m_player.State().isRewinding != m_tmrRewind.isActive())
+        m_player.State().isRewinding ? m_tmrRewind.start() : m_tmrRewind.stop();
+    if (std::exchange(m_dock, m_player.Window().Dock()) != m_player.Window().Dock())
+        PlaceParts();
+    // Window managers read the state of a shown window only.
+    if (isVisible() && std::exchange(m_isTopmost, m_player.Window().IsTopmost()) != m_player.Window().IsTopmost())
+        platform::SetTopmost(winId(), m_isTopmost);
+    ShowCaption();
+    ShowTray();
+    ShowAddProgress();
+    m_notes->ShowState(FillsScreen() && !m_bar->isVisible());
+    m_bar->update();
+    update();
 }
 
-void frmMain::PumpFor(std::chrono::milliseconds time)
+void frmMain::ShowCaption()
 {
-    QEventLoop loop;
-    QTimer::singleShot(time, &loop, &QEventLoop::quit);
-    loop.exec();
+    const auto caption = ToQString(m_player.Window().Caption());
+    // Qt takes a lone "[*]" for its mark of changed documents.
+    if (std::exchange(m_caption, caption) != caption)
+        setWindowTitle(QString(caption).replace("[*]", "[*][*]"));
 }
 
-void frmMain::PumpUntil(const std::function<bool()>& done)
+void frmMain::ShowTray()
 {
-    while (!done())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-}
-
-void frmMain::KeepNormalGeometry()
-{
-    m_geometrySettled.stop();
-    // The window manager has ways of its own out of full screen. On the way in it can tell of other states first.
-    if (m_fullScreen && !isFullScreen() && !isMinimized() && size() != FullScreenArea().size()) {
-        m_fullScreen = false;
-        FullScreenLeft();
-    }
-    // Without a window manager nobody else gives the window its size; one that is asked for a size ends full screen.
-    if (m_fullScreen && isFullScreen() && size() != FullScreenArea().size())
-        windowHandle()->setGeometry(FullScreenArea());
-    if (isMaximized() || m_fullScreen || isMinimized())
+    const bool isWanted = m_player.Window().HasTrayIcon();
+    // A messenger reads the settings, too, and is to stay unseen.
+    if (!isVisible() || isWanted == (m_tray != nullptr))
         return;
-    m_normal = geometry();
-    if (m_player != nullptr)
-        m_player->WindowResized(width(), height());
+    delete m_tray.data();
+    if (!isWanted)
+        return;
+    m_tray = new QSystemTrayIcon(windowIcon(), this);
+    m_tray->setToolTip(kApplicationTitle);
+    // The right button opens it as soon as it goes down; the icon has nothing else to say.
+    m_tray->setContextMenu(ClassicMenus().Menu("mnuFileMenu"));
+    m_tray->show();
 }
 
-void frmMain::resizeEvent(QResizeEvent*)
+void frmMain::ShowAddProgress()
 {
-    PlaceChildren();
-    KeepNormalGeometrySoon();
+    const auto progress = m_player.Files().Adding();
+    if (std::exchange(m_progress, progress) == progress)
+        return;
+    // One file is opened in a moment; the line comes only when that moment grows long.
+    if (progress.total == 1)
+        m_progressDelay.start();
+    else
+        m_list->ShowAddProgress(progress);
 }
 
-void frmMain::moveEvent(QMoveEvent*)
+void frmMain::PlaceParts()
 {
-    KeepNormalGeometrySoon();
-}
-
-SkinButtons frmMain::ButtonStates() const
-{
-    SkinButtons buttons;
-    buttons.states.fill(ButtonState::Disabled);
-    for (const auto& [button, widget] : m_buttons) {
-        buttons.StateOf(button) = widget->State();
-        buttons.FadeOf(button) = widget->StateFade();
+    const bool fills = FillsScreen();
+    // What is hidden must not keep the keys, nor hand them to the next part.
+    if (m_dock == PlaylistDock::Hidden && m_list->hasFocus())
+        setFocus();
+    m_content->Arrange(m_dock, fills);
+    m_content->SetPlace(fills ? rect() : ToQt(Layout().Content()));
+    if (fills) {
+        for (auto* const part : std::initializer_list<QWidget*>{ m_content, m_bar, &m_notes->Box() })
+            part->raise();
+        m_bar->Place({ 0, height() - BarLayout::kHeight, width(), BarLayout::kHeight });
+        m_controls->PlaceOnBar(*m_bar, width());
+    } else {
+        m_strip->setGeometry(ToQt(Layout().MenuStrip()));
+        m_controls->PlaceOnWindow(Layout());
     }
-    buttons.FadeOf(Button::SoundOff) = buttons.FadeOf(Button::SoundOn);
-    buttons.StateOf(Button::SoundOff) = buttons.StateOf(Button::SoundOn);
-    buttons.isMuted = m_player->Host().IsMuted();
-    return buttons;
+}
+
+void frmMain::FillsScreenNow(bool fills)
+{
+    PlaceParts();
+    if (fills) {
+        m_video->setFocus();
+        m_bar->Begin();
+    } else {
+        m_player.Transporting().Host().FullScreenLeft();
+        m_bar->End();
+        m_controls->OrderFocus(m_list);
+    }
 }
 
 void frmMain::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    m_skin.Paint(painter, width(), height(), ButtonStates());
-    const auto caption = ToQt(Layout().Caption());
-    const auto line = QString(m_caption).replace('\n', ' ');
+    m_skin.Paint(painter, width(), height(), m_controls->ButtonStates());
     if (!isMaximized()) {
         // A hair of light keeps the window's edge on a dark desktop.
         painter.setPen(style::kHairline);
         painter.drawRect(0, 0, width() - 1, height() - 1);
     }
+    const auto caption = ToQt(Layout().Caption());
+    const auto line = QString(m_caption).replace('\n', ' ');
     painter.setPen(style::kText);
     painter.setFont(font());
     painter.drawText(caption, Qt::AlignVCenter | Qt::TextSingleLine,
         painter.fontMetrics().elidedText(line, Qt::ElideRight, caption.width()));
 }
 
-void frmMain::ToggleMaximized()
+bool frmMain::event(QEvent* event)
 {
-    isMaximized() ? showNormal() : showMaximized();
+    if (event->type() == QEvent::ToolTip) {
+        const auto* const help = static_cast<QHelpEvent*>(event);
+        const bool isOnCaption = Layout().Caption().Contains(help->pos().x(), help->pos().y());
+        QToolTip::showText(
+            help->globalPos(), isOnCaption ? "<p>" + m_caption.toHtmlEscaped() + "</p>" : QString(), this);
+        return true;
+    }
+    return WindowFrame::event(event);
 }
 
-void frmMain::UseCursorFor(const QPoint& at)
+bool frmMain::eventFilter(QObject* watched, QEvent* event)
 {
-    const bool isResizable = !isMaximized() && !m_fullScreen;
-    setCursor(isResizable ? CursorFor(Layout().EdgesAt(at.x(), at.y())) : Qt::ArrowCursor);
+    return (watched == m_video && VideoEvent(*event)) || WindowFrame::eventFilter(watched, event);
 }
 
-void frmMain::StartDrag()
+bool frmMain::VideoEvent(QEvent& event)
 {
-    const auto from = *std::exchange(m_dragFrom, std::nullopt);
-    if (m_fullScreen)
-        return;
-    const auto layout = Layout();
-    const auto edges = layout.EdgesAt(from.x(), from.y());
-    if (edges.Any() && !isMaximized())
-        windowHandle()->startSystemResize(ToQt(edges));
-    else if (layout.TitleBar().Contains(from.x(), from.y()))
-        windowHandle()->startSystemMove();
+    switch (event.type()) {
+    case QEvent::MouseButtonDblClick:
+        if (static_cast<QMouseEvent&>(event).button() == Qt::LeftButton)
+            RunCommand(m_player, "ToggleFullScreen");
+        return true;
+    case QEvent::ContextMenu:
+        ShowVideoMenu(*this, m_player, static_cast<QContextMenuEvent&>(event).globalPos());
+        return true;
+    case QEvent::Enter:
+        unsetCursor();
+        return false;
+    case QEvent::Move:
+    case QEvent::Resize:
+        m_notes->Place();
+        return false;
+    case QEvent::MouseMove:
+        m_bar->PointerSeen(static_cast<QMouseEvent&>(event).globalPosition().toPoint());
+        return false;
+    case QEvent::Wheel:
+        m_notes->TurnVolume(static_cast<QWheelEvent&>(event).angleDelta().y());
+        return true;
+    case QEvent::DragEnter:
+        dragEnterEvent(static_cast<QDragEnterEvent*>(&event));
+        return true;
+    case QEvent::Drop:
+        dropEvent(static_cast<QDropEvent*>(&event));
+        return true;
+    default:
+        return false;
+    }
 }
 
-void frmMain::mousePressEvent(QMouseEvent* event)
+void frmMain::wheelEvent(QWheelEvent* event)
 {
-    // A drag begins with the first movement: a mere click would leave the window hanging at the pointer where the
-    // window manager sees the release too late.
-    if (event->button() == Qt::LeftButton)
-        m_dragFrom = event->position().toPoint();
-}
-
-void frmMain::mouseReleaseEvent(QMouseEvent*)
-{
-    m_dragFrom.reset();
-}
-
-void frmMain::mouseMoveEvent(QMouseEvent* event)
-{
-    const auto at = event->position().toPoint();
-    const bool isDrag = m_dragFrom && event->buttons().testFlag(Qt::LeftButton);
-    if (!isDrag)
-        UseCursorFor(at);
-    else if ((at - *m_dragFrom).manhattanLength() > kDragDistance)
-        StartDrag();
-}
-
-void frmMain::mouseDoubleClickEvent(QMouseEvent* event)
-{
-    const auto at = event->position().toPoint();
-    if (event->button() == Qt::LeftButton && Layout().TitleBar().Contains(at.x(), at.y()))
-        ToggleMaximized();
+    // What the controls of full screen leave over belongs to the video around them.
+    if (FillsScreen())
+        m_notes->TurnVolume(event->angleDelta().y());
 }
 
 void frmMain::dragEnterEvent(QDragEnterEvent* event)
@@ -419,89 +380,24 @@ void frmMain::dragEnterEvent(QDragEnterEvent* event)
 void frmMain::dropEvent(QDropEvent* event)
 {
     AcceptAsCopy(*event);
-    QTimer::singleShot(0, this, [this, paths = DroppedPaths(*event->mimeData())] { m_player->DropOnVideo(paths); });
+    m_player.Files().DropOnVideo(DroppedPaths(*event->mimeData()));
 }
 
 void frmMain::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::WindowStateChange && m_player != nullptr) {
-        PlaceChildren();
-        m_buttons[Button::Maximize]->SetName(isMaximized() ? "Restore" : "Maximize", {});
-        KeepNormalGeometrySoon();
-    }
-    if (event->type() == QEvent::ActivationChange && !isActiveWindow() && m_player != nullptr)
-        m_player->ReleaseHeldButtons();
-    QWidget::changeEvent(event);
-}
-
-bool frmMain::event(QEvent* event)
-{
-    if (event->type() == QEvent::ShortcutOverride && FocusUsesKey(*static_cast<QKeyEvent*>(event))) {
-        event->accept();
-        return true;
-    }
-    if (event->type() == QEvent::ToolTip) {
-        const auto* const help = static_cast<QHelpEvent*>(event);
-        const bool isOnCaption = Layout().Caption().Contains(help->pos().x(), help->pos().y());
-        QToolTip::showText(
-            help->globalPos(), isOnCaption ? "<p>" + m_caption.toHtmlEscaped() + "</p>" : QString(), this);
-        return true;
-    }
-    return QWidget::event(event);
-}
-
-bool frmMain::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched != m_video)
-        return event->type() == QEvent::KeyPress && MoveSelection(*static_cast<QKeyEvent*>(event));
-    switch (event->type()) {
-    case QEvent::MouseButtonDblClick:
-        if (static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
-            m_player->Host().SetFullScreen(!m_fullScreen);
-        return true;
-    case QEvent::ContextMenu:
-        ShowVideoMenu(*this, *m_player, static_cast<QContextMenuEvent*>(event)->globalPos());
-        return true;
-    case QEvent::Enter:
-        unsetCursor();
-        break;
-    case QEvent::Move:
-    case QEvent::Resize:
-        if (m_note != nullptr && m_note->isVisible())
-            m_note->Place(NoteArea());
-        break;
-    case QEvent::MouseMove:
-        m_bar->PointerSeen(static_cast<QMouseEvent*>(event)->globalPosition().toPoint());
-        break;
-    case QEvent::Wheel:
-        TurnVolume(static_cast<QWheelEvent*>(event)->angleDelta().y());
-        return true;
-    case QEvent::DragEnter:
-        dragEnterEvent(static_cast<QDragEnterEvent*>(event));
-        return true;
-    case QEvent::Drop:
-        dropEvent(static_cast<QDropEvent*>(event));
-        return true;
-    default:
-        break;
-    }
-    return QWidget::eventFilter(watched, event);
-}
-
-void frmMain::wheelEvent(QWheelEvent* event)
-{
-    // What the controls of full screen leave over belongs to the video around them.
-    if (m_fullScreen)
-        TurnVolume(event->angleDelta().y());
+    if (event->type() == QEvent::WindowStateChange)
+        m_controls->Show();
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow())
+        m_player.Transporting().ReleaseHeldButtons();
+    WindowFrame::changeEvent(event);
 }
 
 void frmMain::closeEvent(QCloseEvent* event)
 {
     event->accept();
-    if (m_geometrySettled.isActive())
-        KeepNormalGeometry();
+    WindowFrame::closeEvent(event);
     m_tmrMovie.stop();
-    m_player->Unload();
+    m_player.Unload();
 }
 
 } // namespace zentaro

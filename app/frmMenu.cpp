@@ -1,6 +1,5 @@
 #include "app/frmMenu.h"
 
-#include "app/ClassicHandlers.h"
 #include "app/Player.h"
 #include "shell/MenuText.h"
 
@@ -15,12 +14,12 @@ frmMenu::frmMenu(Player& player, QWidget* owner)
     , m_owner(owner)
 {
     Rebuild();
-    m_player.ClassicMenus().onChange = [this] { Rebuild(); };
+    m_player.BothMenus().frmMenu.onChange = [this] { Rebuild(); };
 }
 
 frmMenu::~frmMenu()
 {
-    m_player.ClassicMenus().onChange = nullptr;
+    m_player.BothMenus().frmMenu.onChange = nullptr;
 }
 
 QMenu* frmMenu::Menu(const std::string& name) const
@@ -52,7 +51,7 @@ void frmMenu::KeepAbove()
 // Adds what is new, takes away what is gone and shows the rest as it is now.
 void frmMenu::Rebuild()
 {
-    auto& tree = m_player.ClassicMenus();
+    auto& tree = m_player.BothMenus().frmMenu;
     for (auto at = m_actions.begin(); at != m_actions.end();) {
         if (tree.Find(at->first.first, at->first.second) != nullptr) {
             ++at;
@@ -76,9 +75,10 @@ void frmMenu::Rebuild()
             action = new QAction(this);
             action->setSeparator(item.isSeparator);
             connect(action, &QAction::triggered, this, [this, name = item.name, index = item.index] {
-                // Later: the menu is to be gone before a box comes.
+                // After this event: Qt closes the menu only then, and a dialog that the click opens must not lie under
+                // it.
                 QTimer::singleShot(0, this, [this, name, index] {
-                    if (const auto* const clicked = m_player.ClassicMenus().Find(name, index))
+                    if (const auto* const clicked = m_player.BothMenus().frmMenu.Find(name, index))
                         ClickClassicItem(m_player, *clicked);
                     // A checkable action has changed its mark by itself.
                     Rebuild();

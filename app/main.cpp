@@ -1,3 +1,4 @@
+#include "app/Background.h"
 #include "app/Dialogs.h"
 #include "app/DriveQueries.h"
 #include "app/InspectionThreads.h"
@@ -28,6 +29,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <cstdio>
 #include <optional>
 #include <random>
 #include <utility>
@@ -40,11 +42,9 @@ constexpr auto kEngineDelay = std::chrono::milliseconds(100); // until the engin
 
 HandOverService RealHandOver()
 {
-    return { &platform::HandOverEnds::Listen, &platform::IsHandOverAlive,
-        [](const std::string& handle, const std::string& text) {
-            return platform::SendHandOverText(handle, text) != platform::HandOverOutcome::Silent;
-        },
-        [] { return platform::HandOverLock::Take(std::chrono::seconds(2)); } };
+    return { &platform::HandOverEnds::Listen, &platform::IsHandOverAlive, &platform::SendHandOverText,
+        [] { return platform::HandOverLock::Take(std::chrono::seconds(2)); },
+        [](const std::string& text) { std::fprintf(stderr, "%s\n", text.c_str()); } };
 }
 
 RandomSource RealRandom()
@@ -132,20 +132,22 @@ int main(int argc, char** argv)
 
     const auto separator = platform::PathSeparator();
     const auto programFolder = WithTrailingSeparator(platform::ExecutableFolder(), separator);
-    const auto settingsFolder = WithTrailingSeparator(platform::SettingsFolder(), separator);
     const auto workingFolder = MakeFolderOfThisRun();
     const auto store = platform::StringStore::Open();
     const auto power = platform::Power::Open();
     auto sleepInhibitor = platform::SleepInhibitor::Open();
+    const auto onWindowThread = [&](std::function<void()> work) {
+        QMetaObject::invokeMethod(&application, std::move(work), Qt::QueuedConnection);
+    };
+    const auto after = [&](std::chrono::milliseconds time, std::function<void()> work) {
+        QTimer::singleShot(time, &application, std::move(work));
+    };
 
-    frmMain window(ToQString(programFolder));
-    VlcEngines engines(window.Video(), workingFolder.empty() ? std::string() : workingFolder + "engine.log");
+    auto* const video = new VideoFrame(ToQString(programFolder) + "Audio.JPG", nullptr);
+    VlcEngines engines(*video, workingFolder.empty() ? std::string() : workingFolder + "engine.log");
     std::optional<InspectionBase> base;
     const auto inspectionContext = [&]() -> const InspectionContext& {
         return (base ? *base : base.emplace(programFolder)).context;
-    };
-    const auto onWindowThread = [&](std::function<void()> work) {
-        QMetaObject::invokeMethod(&application, std::move(work), Qt::QueuedConnection);
     };
     InspectionThreads inspections(inspectionContext, workingFolder, onWindowThread);
     DriveQueries drives(platform::Drives::Open(), onWindowThread);
@@ -158,30 +160,43 @@ int main(int argc, char** argv)
     const auto programPath = platform::ShortProgramPath();
     const auto shell = platform::AssociationShell::Open(programPath, programFolder);
     constexpr int iconSide = 64; // px: sharp in a list of a scaled display, too
-    const AssociationService associations{ shell.get(), programPath, programFolder,
-        { &platform::IconInFile, [](const std::string& file) { return LoadIconPicture(file, iconSide); } },
-        [&](std::function<void()> work) { QTimer::singleShot(std::chrono::seconds(2), &window, std::move(work)); } };
-    Player player({ window, engines, inspections, *store, *power, RealHandOver(), RealRandom(), &platform::PathExists,
-        endProcess, settingsFolder, separator, associations, [&] { drives.Ask(); },
-        [&] { return DecodePictureFile(programFolder + "DVD.jpg"); }, [&](bool held) { sleepInhibitor->Hold(held); } });
-    drives.onFound = [&](auto found) { player.DrivesFound(std::move(found)); };
+    Player player({
+        .engines = engines,
+        .inspections = inspections,
+        .store = *store,
+        .power = *power,
+        .handOver = RealHandOver(),
+        .random = RealRandom(),
+        .fileExists = &platform::PathExists,
+        .endProcess = endProcess,
+        .settingsFolder = WithTrailingSeparator(platform::SettingsFolder(), separator),
+        .separator = separator,
+        .discs = { [&] { drives.Ask(); }, [&] { return DecodePictureFile(programFolder + "DVD.jpg"); }, after },
+        .associations = { shell.get(), programPath, programFolder,
+            { &platform::IconInFile, [](const std::string& file) { return LoadIconPicture(file, iconSide); } } },
+        .after = after,
+        .runInBackground = [&](auto work) { RunInBackground(onWindowThread, std::move(work)); },
+        .holdOffSleep = [&](bool held) { sleepInhibitor->Hold(held); },
+    });
+    drives.onFound = [&](auto found) { player.Discs().DrivesFound(std::move(found)); };
     inspections.onCompleted = [&](int ticket, Inspection result) {
-        player.InspectionCompleted(ticket, std::move(result));
+        player.Files().InspectionCompleted(ticket, std::move(result));
     };
+    frmMain window(player, video, ToQString(programFolder));
+    Dialogs dialogs(window, player, programFolder);
+
     MediaRemote remote(player, RemoteWindow(window, workingFolder));
     const auto mediaControl = platform::MediaControl::Open([&](platform::MediaCommand command) {
         const auto obey = [&, asked = std::move(command)] {
             remote.Do(asked);
             // The desktop shows what it hears, and the next tick can be half a second away.
-            QTimer::singleShot(kEngineDelay, &window, [&] { window.onPositionShown(); });
+            QTimer::singleShot(kEngineDelay, &window, [&] { window.onTick(); });
         };
         QMetaObject::invokeMethod(&application, obey, Qt::QueuedConnection);
     });
     if (mediaControl)
-        window.onPositionShown = [&] { mediaControl->Publish(remote.Status()); };
-    Dialogs dialogs(window, player, programFolder);
-    window.Serve(player);
-    if (!player.Load(commandLine))
+        window.onTick = [&] { mediaControl->Publish(remote.Status()); };
+    if (!player.Load(commandLine, { &window, &dialogs }))
         endProcess();
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
         [&] { IgnoreFailure(player.WriteConfigurations()); });

@@ -28,8 +28,7 @@ double StepFrom(double position, int milliseconds, double length)
 
 } // namespace
 
-Transport::Transport(
-    EngineFactory& engines, std::function<void(bool)> showFullScreen, TransportObserver& observer)
+Transport::Transport(EngineFactory& engines, std::function<void(bool)> showFullScreen, TransportObserver& observer)
     : m_host(engines)
     , m_observer(observer)
 {

@@ -33,12 +33,12 @@ struct TransportState {
     bool showAudioLogo = false;
     bool isRewinding = false; ///< Transport::OnRewindTick is due every 10 ms
     bool isMuted = false;
-    int volume = 100;       ///< 0 to 100
-    double progress = 0;    ///< the share of the item that the seek bar shows as played, 0 to 1
-    double length = 0;      ///< ms; 0 or below while unknown
-    std::string timeText;   ///< elapsed and total, or a word in their place
-    std::string rateText;   ///< the rate label
-    double chosenRate = 1;  ///< as PlaybackRate::Value
+    int volume = 100;      ///< 0 to 100
+    double progress = 0;   ///< the share of the item that the seek bar shows as played, 0 to 1
+    double length = 0;     ///< ms; 0 or below while unknown
+    std::string timeText;  ///< elapsed and total, or a word in their place
+    std::string rateText;  ///< the rate label
+    double chosenRate = 1; ///< as PlaybackRate::Value
 };
 
 /// Hears what a transport does.

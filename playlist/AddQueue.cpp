@@ -20,8 +20,8 @@ std::string ProgressText(const AddProgress& progress)
     return "Adding " + std::to_string(progress.current) + " of " + std::to_string(progress.total);
 }
 
-AddQueue::AddQueue(Playlist& playlist, InspectionState& inspected, AddQueueHost& host, InspectionRunner& runner,
-    AddQueueLimits limits)
+AddQueue::AddQueue(
+    Playlist& playlist, InspectionState& inspected, AddQueueHost& host, InspectionRunner& runner, AddQueueLimits limits)
     : m_playlist(playlist)
     , m_inspected(inspected)
     , m_host(host)

@@ -17,8 +17,8 @@ class LibraryHost : public AddQueueHost {
 public:
     /// Asks for files, more than one at will, and returns; `chosen` is called when the dialog is closed, never from
     /// within: one text per folder, as ParseOpenFileResult reads it, none on cancel.
-    virtual void AskForFiles(const std::string& title, const std::string& filter,
-        std::function<void(std::vector<std::string>)> chosen) = 0;
+    virtual void AskForFiles(
+        const std::string& title, const std::string& filter, std::function<void(std::vector<std::string>)> chosen) = 0;
     /// Runs `work` beside the window and then, on its thread, what `work` has given back.
     virtual void RunInBackground(std::function<std::function<void()>()> work) = 0;
 };
@@ -41,7 +41,8 @@ public:
     void LoadThumb(const std::string& title, const std::string& path, bool playFlag, bool playNow,
         std::function<void(AddOutcome)> decided = {});
     /// Asks for files and adds them; the first one plays unless `addOnly`. `then` is called when the dialog is closed.
-    void OpenFiles(bool addOnly, std::function<void()> then = [] {});
+    void OpenFiles(
+        bool addOnly, std::function<void()> then = [] {});
     /// Asks for files to add; where nothing is selected, the first entry will be.
     void AddVideoFile();
     /// Files or folders were dropped: those that are no media are left out.

@@ -76,8 +76,7 @@ LoadThumb::LoadThumb(
         m_boxes.push_back(DuplicateNotice(m_request));
         return;
     }
-    inspected.TakeOver(
-        { m_inspection.ok, m_inspection.errorText, m_inspection.mediaInfo, m_inspection.thumbnail, {} });
+    inspected.TakeOver({ m_inspection.ok, m_inspection.errorText, m_inspection.mediaInfo, m_inspection.thumbnail, {} });
     m_boxes = m_inspection.notices;
     if (!m_inspection.ok) {
         m_outcome = AddOutcome::Refused;

@@ -1,0 +1,213 @@
+#include "app/WindowFrame.h"
+
+#include "shell/QtGeometry.h"
+
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QWindow>
+
+#include <chrono>
+#include <utility>
+#include <vector>
+
+namespace zentaro {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int kDragDistance = 2;  // px
+constexpr auto kSettling = 200ms; // the window system tells a new size before it tells the state that it belongs to
+
+Qt::Edges ToQt(const WindowLayout::Edges& edges)
+{
+    Qt::Edges result;
+    result.setFlag(Qt::LeftEdge, edges.left);
+    result.setFlag(Qt::TopEdge, edges.top);
+    result.setFlag(Qt::RightEdge, edges.right);
+    result.setFlag(Qt::BottomEdge, edges.bottom);
+    return result;
+}
+
+Qt::CursorShape CursorFor(const WindowLayout::Edges& edges)
+{
+    if ((edges.left && edges.top) || (edges.right && edges.bottom))
+        return Qt::SizeFDiagCursor;
+    if ((edges.right && edges.top) || (edges.left && edges.bottom))
+        return Qt::SizeBDiagCursor;
+    if (edges.left || edges.right)
+        return Qt::SizeHorCursor;
+    return edges.Any() ? Qt::SizeVerCursor : Qt::ArrowCursor;
+}
+
+std::vector<Rect> ScreenAreas(QRect (QScreen::*area)() const)
+{
+    std::vector<Rect> areas;
+    for (const auto* const screen : QGuiApplication::screens())
+        areas.push_back(FromQt((screen->*area)()));
+    return areas;
+}
+
+} // namespace
+
+WindowFrame::WindowFrame()
+    : QWidget(nullptr, Qt::FramelessWindowHint | Qt::Window)
+{
+    setMinimumSize(WindowLayout::kMinimumWidth, WindowLayout::kMinimumHeight);
+    resize(WindowLayout::kFirstWidth, WindowLayout::kFirstHeight);
+    setMouseTracking(true);
+    m_geometrySettled.setSingleShot(true);
+    m_geometrySettled.setInterval(kSettling);
+    connect(&m_geometrySettled, &QTimer::timeout, this, &WindowFrame::KeepNormalGeometry);
+}
+
+void WindowFrame::TakeSize(int width, int height)
+{
+    if (!isMaximized() && !m_fullScreen)
+        resize(QSize(width, height).boundedTo(screen()->availableSize()).expandedTo(minimumSize()));
+}
+
+void WindowFrame::TakePlace(int left, int top)
+{
+    if (isMaximized() || m_fullScreen)
+        return;
+    const Rect wanted{ left, top, width(), height() };
+    setGeometry(zentaro::ToQt(MoveOntoScreen(wanted, ScreenAreas(&QScreen::availableGeometry))));
+    m_isPlaced = true;
+}
+
+void WindowFrame::PlaceFirst()
+{
+    if (!m_isPlaced) {
+        const auto room = screen()->availableGeometry();
+        QRect place({}, size().boundedTo(room.size()).expandedTo(minimumSize()));
+        place.moveCenter(room.center());
+        setGeometry(place);
+    }
+    KeepNormalGeometry();
+}
+
+QRect WindowFrame::FullScreenArea() const
+{
+    const auto screens = ScreenAreas(&QScreen::geometry);
+    return zentaro::ToQt(ScreenOf(FromQt(geometry()), screens));
+}
+
+void WindowFrame::FillScreen(bool fill)
+{
+    if (fill == m_fullScreen)
+        return;
+    if (fill) {
+        KeepNormalGeometry();
+        m_wasMaximized = isMaximized();
+        m_fullScreen = true;
+        showFullScreen();
+        m_geometrySettled.start();
+    } else {
+        m_fullScreen = false;
+        m_wasMaximized ? showMaximized() : showNormal();
+        if (!m_wasMaximized)
+            setGeometry(m_normal);
+    }
+    emit FillsScreenChanged(fill);
+}
+
+void WindowFrame::ToggleMaximized()
+{
+    isMaximized() ? showNormal() : showMaximized();
+}
+
+void WindowFrame::KeepNormalGeometry()
+{
+    m_geometrySettled.stop();
+    // The window manager has ways of its own out of full screen. On the way in it can tell of other states first.
+    if (m_fullScreen && !isFullScreen() && !isMinimized() && size() != FullScreenArea().size()) {
+        m_fullScreen = false;
+        emit FillsScreenChanged(false);
+    }
+    // Without a window manager nobody else gives the window its size; one that is asked for a size ends full screen.
+    if (m_fullScreen && isFullScreen() && size() != FullScreenArea().size())
+        windowHandle()->setGeometry(FullScreenArea());
+    if (isMaximized() || m_fullScreen || isMinimized())
+        return;
+    m_normal = geometry();
+    emit NormalSizeChanged(width(), height());
+}
+
+void WindowFrame::resizeEvent(QResizeEvent*)
+{
+    emit Resized();
+    m_geometrySettled.start();
+}
+
+void WindowFrame::moveEvent(QMoveEvent*)
+{
+    m_geometrySettled.start();
+}
+
+void WindowFrame::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::WindowStateChange) {
+        emit Resized();
+        m_geometrySettled.start();
+    }
+    QWidget::changeEvent(event);
+}
+
+void WindowFrame::closeEvent(QCloseEvent* event)
+{
+    if (m_geometrySettled.isActive())
+        KeepNormalGeometry();
+    QWidget::closeEvent(event);
+}
+
+void WindowFrame::UseCursorFor(const QPoint& at)
+{
+    const bool isResizable = !isMaximized() && !m_fullScreen;
+    setCursor(isResizable ? CursorFor(Layout().EdgesAt(at.x(), at.y())) : Qt::ArrowCursor);
+}
+
+void WindowFrame::StartDrag()
+{
+    const auto from = *std::exchange(m_dragFrom, std::nullopt);
+    if (m_fullScreen)
+        return;
+    const auto edges = Layout().EdgesAt(from.x(), from.y());
+    if (edges.Any() && !isMaximized())
+        windowHandle()->startSystemResize(ToQt(edges));
+    else if (Layout().TitleBar().Contains(from.x(), from.y()))
+        windowHandle()->startSystemMove();
+}
+
+void WindowFrame::mousePressEvent(QMouseEvent* event)
+{
+    // A drag begins with the first movement: a mere click would leave the window hanging at the pointer where the
+    // window manager sees the release too late.
+    if (event->button() == Qt::LeftButton)
+        m_dragFrom = event->position().toPoint();
+}
+
+void WindowFrame::mouseReleaseEvent(QMouseEvent*)
+{
+    m_dragFrom.reset();
+}
+
+void WindowFrame::mouseMoveEvent(QMouseEvent* event)
+{
+    const auto at = event->position().toPoint();
+    const bool isDrag = m_dragFrom && event->buttons().testFlag(Qt::LeftButton);
+    if (!isDrag)
+        UseCursorFor(at);
+    else if ((at - *m_dragFrom).manhattanLength() > kDragDistance)
+        StartDrag();
+}
+
+void WindowFrame::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const auto at = event->position().toPoint();
+    if (event->button() == Qt::LeftButton && Layout().TitleBar().Contains(at.x(), at.y()))
+        ToggleMaximized();
+}
+
+} // namespace zentaro

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "shell/WindowLayout.h"
+
+#include <QTimer>
+#include <QWidget>
+
+#include <optional>
+
+namespace zentaro {
+
+/// A window without a frame of the system: moved by its title bar and resized at its edges by the system on the user's
+/// behalf, maximised, filled over the screen and brought back.
+class WindowFrame : public QWidget {
+    Q_OBJECT
+
+public:
+    WindowFrame();
+
+    WindowLayout Layout() const { return { width(), height() }; }
+    bool FillsScreen() const { return m_fullScreen; }
+    /// Also while it fills the screen and was maximised before.
+    bool CountsAsMaximized() const { return m_fullScreen ? m_wasMaximized : isMaximized(); }
+    /// Its place while neither maximised nor full screen, in logical pixels.
+    const QRect& NormalGeometry() const { return m_normal; }
+
+    /// Logical pixels; nothing while it is maximised or fills the screen. A screen that is too small limits it.
+    void TakeSize(int width, int height);
+    void TakePlace(int left, int top);
+    /// Gives it its first place, in the middle of the screen, unless it was given one.
+    void PlaceFirst();
+    void FillScreen(bool fill);
+    void ToggleMaximized();
+
+signals:
+    /// It fills the screen from now on, or no longer, by whoever's hand.
+    void FillsScreenChanged(bool fills);
+    /// Its usual size, in logical pixels, while neither maximised, minimised nor full screen.
+    void NormalSizeChanged(int width, int height);
+    /// Its parts are to be placed anew.
+    void Resized();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    /// All of the screen that shows most of the window.
+    QRect FullScreenArea() const;
+    void KeepNormalGeometry();
+    void UseCursorFor(const QPoint& at);
+    /// Hands a drag to the system: a resize at an edge, a move of the title bar.
+    void StartDrag();
+
+    QTimer m_geometrySettled;
+    QRect m_normal;
+    std::optional<QPoint> m_dragFrom; // where the left button went down on something that can be dragged
+    bool m_fullScreen = false;
+    bool m_wasMaximized = false; // before full screen
+    bool m_isPlaced = false;
+};
+
+} // namespace zentaro

@@ -1,0 +1,81 @@
+#include "app/WindowNotes.h"
+
+#include "app/Player.h"
+#include "playback/VideoFrame.h"
+#include "shell/NoteBox.h"
+#include "shell/QtText.h"
+
+#include <QFile>
+#include <QImageReader>
+
+#include <utility>
+
+namespace zentaro {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kNoteTime = 5s;
+constexpr auto kChangeTime = 1500ms;
+
+} // namespace
+
+WindowNotes::WindowNotes(Player& player, QWidget& video, QWidget& content)
+    : m_player(player)
+    , m_video(video)
+    , m_content(content)
+    , m_box(new NoteBox(content.window()))
+    , m_shownVolume(VolumeText())
+{
+    LetCoverVideo(*m_box);
+}
+
+QRect WindowNotes::Area() const
+{
+    const auto& covered = m_video.isVisible() ? m_video : m_content;
+    return { covered.mapTo(covered.window(), QPoint()), covered.size() };
+}
+
+void WindowNotes::Show(const std::string& text, const std::string& file)
+{
+    QImageReader reader(QFile::decodeName(file.c_str()));
+    const auto room = (QSizeF(NoteBox::kPictureRoom) * m_box->devicePixelRatio()).toSize();
+    reader.setScaledSize(reader.size().scaled(room, Qt::KeepAspectRatio));
+    m_box->Show(Area(), ToQString(text), file.empty() ? QImage() : reader.read(), kNoteTime);
+}
+
+void WindowNotes::Place()
+{
+    if (m_box->isVisible())
+        m_box->Place(Area());
+}
+
+void WindowNotes::ShowChange(const QString& text)
+{
+    m_box->Show(Area(), text, {}, kChangeTime);
+}
+
+QString WindowNotes::VolumeText() const
+{
+    const auto& state = m_player.State();
+    return QString("Volume %1 %").arg(state.volume) + (state.isMuted ? " (muted)" : "");
+}
+
+void WindowNotes::TurnVolume(int eighths)
+{
+    m_player.Transporting().TurnVolume(eighths);
+    ShowChange(VolumeText());
+}
+
+void WindowNotes::ShowState(bool isAlone)
+{
+    const auto volume = VolumeText();
+    const auto rate = m_player.State().chosenRate;
+    const bool isVolumeNew = std::exchange(m_shownVolume, volume) != volume;
+    const bool isRateNew = std::exchange(m_shownRate, rate) != rate;
+    if (isAlone && (isVolumeNew || isRateNew))
+        ShowChange(isVolumeNew ? volume : ToQString(RateLabelText(rate)));
+}
+
+} // namespace zentaro

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QString>
+
+#include <chrono>
+#include <string>
+
+class QImage;
+class QRect;
+class QWidget;
+
+namespace zentaro {
+
+class NoteBox;
+class Player;
+
+/// The short lines over the video: what has happened, and the volume and speed where nothing else shows them.
+class WindowNotes {
+public:
+    /// `content` holds the video, and what stands in its place.
+    WindowNotes(Player& player, QWidget& video, QWidget& content);
+
+    NoteBox& Box() { return *m_box; }
+    /// With a small copy of the picture in `file`, unless that is empty.
+    void Show(const std::string& text, const std::string& file);
+    /// The wheel over the video, in eighths of a degree.
+    void TurnVolume(int eighths);
+    /// Volume and speed may be new; `isAlone` where no control shows them.
+    void ShowState(bool isAlone);
+    /// The video has moved.
+    void Place();
+
+private:
+    QRect Area() const;
+    QString VolumeText() const;
+    void ShowChange(const QString& text);
+
+    Player& m_player;
+    QWidget& m_video;
+    QWidget& m_content;
+    NoteBox* m_box;
+    QString m_shownVolume;
+    double m_shownRate = 1;
+};
+
+} // namespace zentaro
