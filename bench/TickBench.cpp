@@ -1,7 +1,8 @@
 // What the position timer costs every 500 ms beside the engine's own reads: the rules, and the real window with what it
 // paints after them. The engine answers at once.
 #include "app/frmMain.h"
-#include "tests/live/StillWorld.h"
+#include "playback/VideoFrame.h"
+#include "tests/world/World.h"
 
 #include <QApplication>
 #include <benchmark/benchmark.h>
@@ -61,11 +62,12 @@ void BM_PositionTickRules(benchmark::State& state)
 {
     const Folder folder;
     InstantEngines engines;
-    StillWorld world(engines, folder.path, [] { return 0.5; });
-    world.player.Load("");
-    world.player.LoadThumb("a", "/a.avi", false, true);
+    World world(folder.path, &engines);
+    world.Load();
+    world.player->Files().LoadThumb("a", "/a.avi", false, true);
+    world.Settle();
     for (auto _ : state)
-        world.player.OnPositionTick();
+        world.player->OnPositionTick();
 }
 BENCHMARK(BM_PositionTickRules)->Unit(benchmark::kMicrosecond);
 
@@ -73,15 +75,15 @@ void BM_PositionTickWithItsWindow(benchmark::State& state)
 {
     const Folder folder;
     InstantEngines engines;
-    frmMain window(QString::fromStdString(folder.path));
-    StillWorld world(
-        engines, folder.path, [] { return 0.5; }, &window);
-    window.Serve(world.player);
-    world.player.Load("");
-    world.player.LoadThumb("a", "/a.avi", false, true);
+    World world(folder.path, &engines);
+    auto& player = world.Make();
+    frmMain window(player, new VideoFrame({}, nullptr), QString::fromStdString(folder.path));
+    player.Load("", { &window, &world.dialogs });
+    player.Files().LoadThumb("a", "/a.avi", false, true);
+    world.Settle();
     QCoreApplication::processEvents();
     for (auto _ : state) {
-        world.player.OnPositionTick();
+        player.OnPositionTick();
         QCoreApplication::processEvents();
     }
 }

@@ -14,8 +14,8 @@ struct Session {
     {
         std::string shown;
         for (int slot = 0; slot < kHistorySlots; ++slot) {
-            const auto& item = *commands.Find(HistoryKey(slot));
-            const auto& twin = *classic.Find("mnuRecent", slot);
+            const auto& item = *menus.SmartMenuXP1.Find(HistoryKey(slot));
+            const auto& twin = *menus.frmMenu.Find("mnuRecent", slot);
             EXPECT_TRUE(item.caption == twin.caption && item.visible == twin.visible && item.enabled == twin.enabled);
             EXPECT_EQ(history.PathAt(slot), twin.tag);
             if (item.visible)
@@ -25,9 +25,8 @@ struct Session {
     }
 
     std::unique_ptr<platform::StringStore> store = platform::StringStore::Open();
-    CommandTree commands;
-    ClassicTree classic;
-    History history{ *store, commands, classic };
+    Menus menus;
+    History history{ *store, menus };
 };
 
 class RecentFiles : public platform::PrivateUser { };
@@ -55,10 +54,10 @@ TEST_F(RecentFiles, shift_once_they_are_ten_and_the_store_keeps_the_newest_ten_t
     EXPECT_EQ(run.Shown(), "T0/0 T1/1 T2/2 T3/3 T4/4 T5/5 T6/6 T7/7 T8/8 T9/9 ");
     run.Play(10);
     EXPECT_EQ(run.Shown(), "T1/1 T2/2 T3/3 T4/4 T5/5 T6/6 T7/7 T8/8 T9/9 T10/10 ");
-    EXPECT_FALSE(run.commands.Find("History9")->visible); // takes over a slot that was never filled
+    EXPECT_FALSE(run.menus.SmartMenuXP1.Find("History9")->visible); // takes over a slot that was never filled
     run.Play(11);
     EXPECT_EQ(run.Shown(), "T2/2 T3/3 T4/4 T5/5 T6/6 T7/7 T8/8 T9/9 T10/10 T11/11 ");
-    EXPECT_FALSE(run.commands.Find("History8")->visible);
+    EXPECT_FALSE(run.menus.SmartMenuXP1.Find("History8")->visible);
     run.Play(5);
     EXPECT_EQ(run.history.PathAt(10), "/11");
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <mutex>
 
 using namespace zentaro;
@@ -36,4 +37,5 @@ TEST(InspectionThreads, a_cancelled_inspection_gives_no_result_and_a_late_one_fi
     for (const auto& work : posted)
         work();
     EXPECT_EQ(results, 0);
+    EXPECT_TRUE(std::filesystem::is_empty(folder.Path())); // each inspection has taken its own folder away
 }

@@ -15,19 +15,18 @@ protected:
     platform::MediaStatus Do(const platform::MediaCommand& command)
     {
         remote->Do(command);
+        world.Settle();
         return remote->Status();
     }
     void StartRemote(int count)
     {
         StartWithEntries(count, kPlayContinuous, kRepeatAll);
-        remote.emplace(*player,
-            MediaRemote::Window{ [] {}, [] {}, [this] { return screen.isFullScreen; },
+        remote.emplace(*world.player,
+            MediaRemote::Window{ [] {}, [] {}, [this] { return world.window.isFullScreen; },
                 [](std::uint64_t, const Picture&) { return std::string(); } });
-        engines.trace.length = 60'000;
-        engines.trace.time = 10'000;
+        trace.length = 60'000;
+        trace.time = 10'000;
     }
-    std::size_t Starts() const { return engines.trace.played.size(); }
-
     std::optional<MediaRemote> remote;
 };
 
@@ -50,18 +49,17 @@ TEST_F(MediaRemoteTest, play_and_pause_say_what_is_wanted_and_never_toggle)
     EXPECT_EQ(remote->Status().track.id, 0U);
     Do({ .kind = Kind::Pause });
     Do({ .kind = Kind::Stop });
-    EXPECT_EQ(engines.trace.stops, 1);
+    EXPECT_EQ(trace.stops, 1);
     EXPECT_EQ(Do({ .kind = Kind::PlayPause }).playback, Playback::Playing);
     EXPECT_EQ(Starts(), 2U);
 }
 
 TEST_F(MediaRemoteTest, without_an_entry_play_asks_nobody_for_files)
 {
-    screen.chosen = { "/asked.avi" };
     StartRemote(0);
     for (const auto kind : { Kind::Play, Kind::PlayPause, Kind::Next, Kind::Stop })
         EXPECT_EQ(Do({ .kind = kind }).playback, Playback::Stopped);
-    EXPECT_EQ(player->Entries().Count(), 0);
+    EXPECT_EQ(world.dialogs.asked, 0);
     EXPECT_FALSE(platform::CanPlay(remote->Status()));
 }
 
@@ -82,15 +80,23 @@ TEST_F(MediaRemoteTest, modes_rate_and_volume_follow_and_unwanted_numbers_become
 {
     StartRemote(2);
     EXPECT_EQ(Do({ .kind = Kind::SetLoop, .loop = platform::MediaLoop::Track }).loop, platform::MediaLoop::Track);
-    EXPECT_EQ(player->Settings().RepeatMode, kRepeatSingle);
-    player->PBNormal();
+    EXPECT_EQ(world.player->Settings().RepeatMode, kRepeatSingle);
+    world.player->Sequence().PBNormal();
     remote->Status();
     EXPECT_TRUE(Do({ .kind = Kind::SetShuffle, .flag = true }).shuffle);
+    int draws = 0;
+    world.random = [&draws] { return draws++ % 2 * 0.9; };
+    EXPECT_TRUE(Do({ .kind = Kind::SetShuffle, .flag = true }).shuffle);
+    world.player->Entries().Order().At(0);
+    const int drawn = draws;
+    EXPECT_TRUE(Do({ .kind = Kind::SetShuffle, .flag = true }).shuffle);
+    world.player->Entries().Order().At(0);
+    EXPECT_EQ(draws, drawn); // the order stays
     EXPECT_FALSE(Do({ .kind = Kind::SetShuffle, .flag = false }).shuffle);
-    EXPECT_EQ(player->Settings().PlayMode, kPlayNormal);
+    EXPECT_EQ(world.player->Settings().PlayMode, kPlayNormal);
     for (const auto& [wanted, got] : { std::pair(1.9, 2.0), { 100, 16 }, { 0.01, 0.125 }, { -1, 0.125 } }) {
         Do({ .kind = Kind::SetRate, .number = wanted });
-        EXPECT_EQ(player->Rate().Value(), got);
+        EXPECT_EQ(world.player->State().chosenRate, got);
     }
     EXPECT_EQ(Do({ .kind = Kind::SetRate, .number = 0 }).playback, Playback::Paused);
     EXPECT_EQ(Do({ .kind = Kind::SetVolume, .number = 0.5 }).volume, 0.5);
@@ -104,14 +110,15 @@ TEST_F(MediaRemoteTest, tracks_keep_their_numbers_and_an_item_taken_off_the_list
     const auto tracks = *remote->Status().tracks;
     EXPECT_EQ(Do({ .kind = Kind::GoToTrack, .track = tracks[2].id }).track, tracks[2]);
     EXPECT_EQ(*Do({ .kind = Kind::RemoveTrack, .track = tracks[0].id }).tracks, (std::vector{ tracks[1], tracks[2] }));
-    EXPECT_EQ(player->Entries().List().SelectedText(), tracks[2].title);
+    EXPECT_EQ(world.player->Entries().List().SelectedText(), tracks[2].title);
     EXPECT_EQ(Do({ .kind = Kind::RemoveTrack, .track = tracks[2].id }).track, tracks[2]);
     Do({ .kind = Kind::GoToTrack, .track = tracks[2].id });
     EXPECT_EQ(remote->Status().playback, Playback::Playing);
     EXPECT_EQ(Starts(), 2U);
     // A track that was chosen goes before a disc that was loaded.
-    player->DrivesFound({ { "/dev/sr0", "MOVIE", true, {} } });
-    player->dvdsList_Click(0);
-    player->LoadThumb("", "/d.avi", false, false);
+    world.player->Discs().DrivesFound({ { "/dev/sr0", "MOVIE", true, {} } });
+    world.player->Discs().dvdsList_Click(0);
+    world.Elapse(std::chrono::milliseconds(500));
+    Add("/d.avi", false);
     EXPECT_EQ(Do({ .kind = Kind::GoToTrack, .track = remote->Status().tracks->back().id }).track.path, "/d.avi");
 }

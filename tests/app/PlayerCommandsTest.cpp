@@ -1,185 +1,271 @@
 #include "tests/app/PlayerFixture.h"
 
+#include <set>
+
 using namespace zentaro;
+
+TEST(Commands, every_item_of_both_trees_and_every_key_has_one_meaning)
+{
+    std::set<std::string_view> ids;
+    std::set<std::string_view> keys;
+    for (const auto& command : AllCommands()) {
+        EXPECT_TRUE(ids.insert(command.id).second) << command.id;
+        for (const auto key : command.keys)
+            EXPECT_TRUE(key.empty() || keys.insert(key).second) << key;
+    }
+    const CommandTree tree;
+    for (const auto& item : tree.Items()) {
+        const bool isCommand =
+            item.kind != CommandKind::Separator && !tree.HasSubmenu(item) && !item.key.starts_with("DVDList");
+        EXPECT_EQ(ids.count(item.command), isCommand ? 1u : 0u) << item.key;
+    }
+    const ClassicTree classic;
+    for (const auto& item : classic.Items())
+        EXPECT_EQ(ids.count(item.command), item.isSeparator || classic.IsMenu(item) ? 0u : 1u) << item.name;
+    // The access letter, the shortcut and the place of each item, as far as one number can tell: it changes when any of
+    // them does, and then the menus must be looked at.
+    std::uint32_t sum = 0;
+    for (const auto& item : tree.Items()) {
+        for (const char c : item.parent + "/" + item.key + "=" + item.caption + "|" + item.shortcut)
+            sum = sum * 31 + static_cast<unsigned char>(c);
+    }
+    for (const auto& item : classic.Items()) {
+        for (const char c : item.parent + "/" + item.name + "=" + item.caption)
+            sum = sum * 31 + static_cast<unsigned char>(c);
+    }
+    EXPECT_EQ(sum, 3293727848u);
+    EXPECT_EQ(tree.Find("AfterPlay")->shortcut, "Ctrl+P");
+}
 
 TEST_F(PlayerTest, commands_by_key_move_playback_and_modes)
 {
-    auto& loaded = StartWithEntries(3, kPlayContinuous, kRepeatAll);
-    EXPECT_EQ(Checked(kPlayModeKeys), "PMContinuous ");
-    EXPECT_EQ(Checked(kRepeatModeKeys), "RMRepeatAll ");
-    EXPECT_EQ(Checked(kAfterPlayKeys), "Donothing ");
-    loaded.RunCommand("Next");
+    auto& player = StartWithEntries(3, kPlayContinuous, kRepeatAll);
+    EXPECT_EQ(Checked(kPlayModeKeys) + Checked(kRepeatModeKeys) + Checked(kAfterPlayKeys),
+        "PMContinuous RMRepeatAll Donothing ");
+    player.RunCommand("Next");
     EXPECT_EQ(LastPlayed(), "/b.avi");
-    loaded.RunCommand("Previous");
+    player.RunCommand("Previous");
     EXPECT_EQ(LastPlayed(), "/a.avi");
-    loaded.RunCommand("PlayPause");
-    EXPECT_EQ(engines.trace.state, Engine::kPaused);
-    loaded.RunCommand("FullScreen");
-    EXPECT_TRUE(screen.isFullScreen);
+    player.RunCommand("PlayPause");
+    EXPECT_EQ(trace.state, Engine::kPaused);
+    player.RunCommand("FullScreen");
+    EXPECT_TRUE(world.window.isFullScreen);
     for (const double rate : { 2, 4, 8, 16 }) {
-        loaded.RunCommand("IncreaseSpeed");
-        EXPECT_EQ(engines.trace.rateSet, rate);
+        player.RunCommand("IncreaseSpeed");
+        EXPECT_EQ(trace.rateSet, rate);
     }
     EXPECT_FALSE(IsEnabled("IncreaseSpeed"));
-    loaded.RunCommand("DecreaseSpeed");
-    EXPECT_EQ(engines.trace.rateSet, 8);
+    player.RunCommand("DecreaseSpeed");
+    EXPECT_EQ(player.State().rateText, "Playing rate:8x");
     EXPECT_TRUE(IsEnabled("IncreaseSpeed"));
-    loaded.RunCommand("ResetSpeed");
-    EXPECT_EQ(engines.trace.rateSet, 1);
+    player.RunCommand("ResetSpeed");
+    EXPECT_EQ(trace.rateSet, 1);
     for (const auto& [keys, value] : { std::pair(kPlayModeKeys, &PlayerSettings::PlayMode),
              std::pair(kRepeatModeKeys, &PlayerSettings::RepeatMode) }) {
         for (std::size_t i = keys.size(); i-- > 0;) {
-            loaded.RunCommand(keys[i]);
-            EXPECT_EQ(loaded.Settings().*value, static_cast<std::int32_t>(i));
+            player.RunCommand(keys[i]);
+            EXPECT_EQ(player.Settings().*value, static_cast<std::int32_t>(i));
             EXPECT_EQ(Checked(keys), std::string(keys[i]) + " ");
         }
     }
     for (std::size_t i = kAfterPlayKeys.size(); i-- > 0;) {
-        loaded.RunCommand(kAfterPlayKeys[i]);
-        EXPECT_EQ(loaded.AfterPlaying().AfterPlayAction(), static_cast<std::int16_t>(i));
+        player.RunCommand(kAfterPlayKeys[i]);
+        EXPECT_EQ(player.Sequence().AfterPlaying().AfterPlayAction(), static_cast<std::int16_t>(i));
         EXPECT_EQ(Checked(kAfterPlayKeys), std::string(kAfterPlayKeys[i]) + " ");
     }
-    loaded.RunCommand("Stop");
+    player.RunCommand("Stop");
     for (const auto* const key : { "Stop", "FullScreen", "IncreaseSpeed", "DecreaseSpeed", "ResetSpeed" })
         EXPECT_FALSE(IsEnabled(key)) << key;
-    EXPECT_EQ(screen.closes, 0);
-    loaded.RunCommand("Exit");
-    EXPECT_EQ(screen.closes, 1);
+    EXPECT_EQ(world.window.closes, 0);
+    player.RunCommand("Exit");
+    EXPECT_EQ(world.window.closes, 1);
 }
 
 TEST_F(PlayerTest, commands_on_the_list_come_and_go_with_its_entries)
 {
-    auto& loaded = StartWithEntries(2, kPlayNormal, kNoRepeat);
-    loaded.RunCommand("Remove");
+    auto& player = StartWithEntries(2, kPlayNormal, kNoRepeat);
+    player.RunCommand("Remove");
     EXPECT_TRUE(IsEnabled("RemoveAll"));
-    loaded.Entries().List().SetSelectedItem(0);
-    loaded.RunCommand("Remove");
-    EXPECT_EQ(loaded.Entries().Count(), 0);
+    player.Entries().List().SetSelectedItem(0);
+    player.RunCommand("Remove");
+    EXPECT_EQ(player.Entries().Count(), 0);
     EXPECT_TRUE(IsEnabled("Remove"));
     for (const auto* const key : { "RemoveAll", "Next", "Previous" })
         EXPECT_FALSE(IsEnabled(key)) << key;
-
-    loaded.cmdStopClick();
-    loaded.RunCommand("PlayPause"); // the dialog is cancelled
+    Run("Stop");
+    player.RunCommand("PlayPause");
+    EXPECT_FALSE(IsEnabled("Stop"));
+    world.dialogs.Choose({}); // cancelled
     EXPECT_TRUE(IsEnabled("Stop"));
 
-    const auto played = engines.trace.played.size();
-    screen.chosen = { std::string("/clips\0c.avi\0d.avi", 18) };
-    loaded.Entries().List().Clear();
-    loaded.RunCommand("AddVideoFile");
+    const auto played = Starts();
+    player.RunCommand("AddVideoFile");
+    world.dialogs.Choose({ std::string("/clips\0c.avi\0d.avi", 18) });
     EXPECT_FALSE(IsEnabled("Next"));
-    while (inspections.AnswerOne(loaded))
-        ;
-    EXPECT_EQ(loaded.Entries().List().SelectedItem(), 0);
-    EXPECT_EQ(engines.trace.played.size(), played);
+    world.Settle();
+    EXPECT_EQ(player.Entries().List().SelectedItem(), 0);
+    EXPECT_EQ(Starts(), played);
     for (const auto* const key : { "Remove", "RemoveAll", "Next", "Previous" })
         EXPECT_TRUE(IsEnabled(key)) << key;
-    loaded.RunCommand("RemoveAll");
-    EXPECT_EQ(loaded.Entries().Count(), 0);
+    player.RunCommand("RemoveAll");
+    EXPECT_EQ(player.Entries().Count(), 0);
     EXPECT_FALSE(IsEnabled("RemoveAll"));
-
-    loaded.RunCommand("OpenFile");
-    while (inspections.AnswerOne(loaded))
-        ;
-    EXPECT_EQ(LastPlayed(), "/clips/c.avi");
 }
 
 TEST_F(PlayerTest, dialogs_are_never_under_a_window_that_stays_on_top)
 {
-    auto settings = DefaultSettings("/", {});
-    settings.AlwaysOnTop = settings.ShowInTray = -1;
-    WriteConfig(FormatConfigurations(settings));
-    Start();
-    EXPECT_TRUE(screen.isTopmost && screen.hasTrayIcon);
-    screen.log.str({});
+    Store([](PlayerSettings& settings) { settings.AlwaysOnTop = settings.ShowInTray = -1; });
+    auto& window = Start().Window();
+    EXPECT_TRUE(window.IsTopmost() && window.HasTrayIcon());
     for (const auto* const key : { "Options", "About", "HelpTopics" })
-        player->RunCommand(key);
-    EXPECT_EQ(screen.log.str(), "options 0 about 0 help ");
-    player->DialogClosed();
-    EXPECT_TRUE(screen.isTopmost);
-    player->Unload();
-    EXPECT_FALSE(screen.hasTrayIcon);
+        world.player->RunCommand(key);
+    EXPECT_EQ(world.dialogs.log.str(), "options about help ");
+    EXPECT_FALSE(window.IsTopmost());
+    world.player->CommitOptions(PagesOf(world.player->Settings()));
+    EXPECT_FALSE(window.IsTopmost());
+    window.DialogClosed();
+    EXPECT_TRUE(window.IsTopmost());
+    world.player->Unload();
+    EXPECT_FALSE(window.HasTrayIcon());
 }
 
 TEST_F(PlayerTest, keys_without_a_command_do_nothing)
 {
-    auto& loaded = StartWithEntries(1, kPlayNormal, kNoRepeat);
-    loaded.RunCommand("Stop");
-    screen.log.str({});
+    auto& player = StartWithEntries(1, kPlayNormal, kNoRepeat);
+    player.RunCommand("Stop");
     for (const auto* const key : { "", "exit", "Exit ", "File", "AfterPlay", "DVDList", "DVDList0", "DVDList1",
-             "History", "History1", "History10", "History11", "Stop", "FullScreen" })
-        loaded.RunCommand(key);
-    EXPECT_EQ(screen.log.str(), "");
-    EXPECT_TRUE(screen.boxes.empty());
-    EXPECT_FALSE(screen.closes || screen.isFullScreen);
-    EXPECT_EQ(engines.trace.played.size(), 1u);
+             "History", "History1", "History10", "History11", "Stop", "FullScreen", "Play" })
+        player.RunCommand(key);
+    EXPECT_FALSE(world.dialogs.asked || world.window.closes || world.window.isFullScreen);
+    EXPECT_EQ(Starts(), 1u);
 }
 
 TEST_F(PlayerTest, what_was_played_can_be_played_again_after_a_restart)
 {
+    auto& files = Start().Files();
+    files.LoadThumb("A & a", "/a.avi", false, true);
+    files.LoadThumb("B", "/b.avi", false, true);
+    world.Settle();
     Start();
-    player->LoadThumb("A & a", "/a.avi", false, true);
-    player->LoadThumb("B", "/b.avi", false, true);
-    Start();
-    engines.trace.played.clear();
+    trace.played.clear();
     EXPECT_TRUE(IsEnabled("History0"));
-    player->RunCommand("History1");
-    EXPECT_EQ(player->Entries().EntryAt(0)->Title, "B");
-    ClickClassicItem(*player, *player->ClassicMenus().Find("mnuRecent", 0));
-    EXPECT_EQ(player->Entries().EntryAt(1)->Title, "A & a");
+    world.player->RunCommand("History1");
+    world.Settle();
+    EXPECT_EQ(world.player->Entries().EntryAt(0)->Title, "B");
+    ClickClassicItem(*world.player, *world.player->BothMenus().frmMenu.Find("mnuRecent", 0));
+    world.Settle();
+    EXPECT_EQ(world.player->Entries().EntryAt(1)->Title, "A & a");
     // One that is in the list already plays the list's last entry.
-    player->RunCommand("History1");
-    EXPECT_EQ(engines.trace.played, (std::vector<std::string>{ "/b.avi", "/a.avi", "/a.avi" }));
-    EXPECT_EQ(screen.boxes.size(), 1u);
+    world.player->RunCommand("History1");
+    world.dialogs.CloseBox();
+    EXPECT_EQ(trace.played, (std::vector<std::string>{ "/b.avi", "/a.avi", "/a.avi" }));
 }
 
 TEST_F(PlayerTest, classic_menus_do_the_same_and_take_the_states_when_they_open)
 {
-    auto& loaded = StartWithEntries(3, kPlayNormal, kNoRepeat);
-    auto& menus = loaded.ClassicMenus();
-    const auto click = [&](const char* name, int index = 0) { ClickClassicItem(loaded, *menus.Find(name, index)); };
+    auto& player = StartWithEntries(3, kPlayNormal, kNoRepeat);
+    auto& menus = player.BothMenus().frmMenu;
+    const auto click = [&](const char* name, int index = 0) { ClickClassicItem(player, *menus.Find(name, index)); };
     click("mnuNext");
     EXPECT_EQ(LastPlayed(), "/b.avi");
     click("mnuPrev");
     EXPECT_EQ(LastPlayed(), "/a.avi");
     click("mnufullscreen");
-    EXPECT_TRUE(screen.isFullScreen);
+    EXPECT_TRUE(world.window.isFullScreen);
     click("mnuPBShuffle");
     click("mnuRMRepeatAll");
     click("mnuAfterPlaying", 2);
-    EXPECT_EQ(loaded.AfterPlaying().AfterPlayAction(), 2);
     EXPECT_EQ(Checked(kPlayModeKeys) + Checked(kRepeatModeKeys) + Checked(kAfterPlayKeys),
         "PMShuffle RMRepeatAll RestartTheComputer ");
-
-    loaded.RunCommand("PMContinuous");
-    loaded.RunCommand("RMSingleRepeat");
-    loaded.RunCommand("ExitZentaro");
-    for (const auto* const menu : { "mnuPlayBackMenu", "mnuPlayListmenu", "mnuAfterMenu" })
-        OpenClassicMenu(loaded, menu);
+    player.RunCommand("PMContinuous");
+    player.RunCommand("RMSingleRepeat");
+    player.RunCommand("ExitZentaro");
+    OpenClassicMenu(player, "mnuPlayBackMenu");
     std::string checked;
     for (const auto& item : menus.Items())
         checked += item.checked ? item.name + std::to_string(item.index) + " " : "";
     EXPECT_EQ(checked, "mnuPBCont0 mnuRMSingleRepeat0 mnuAfterPlaying1 ");
     EXPECT_TRUE(menus.Find("mnuincspeed")->enabled && menus.Find("mnustop")->enabled);
-
     click("mnustop");
-    EXPECT_FALSE(loaded.MediaControlsEnabled());
+    EXPECT_FALSE(IsLoaded());
     click("mnuplay");
-    EXPECT_TRUE(loaded.MediaControlsEnabled());
+    EXPECT_TRUE(IsLoaded());
     click("mnuPlayListRemove");
-    EXPECT_EQ(loaded.Entries().Count(), 2);
+    EXPECT_EQ(player.Entries().Count(), 2);
     click("mnuPlayListRemoveAll");
-    loaded.cmdStopClick();
-    for (const auto* const menu : { "mnuPlayBackMenu", "mnuPlayListmenu" })
-        OpenClassicMenu(loaded, menu);
+    EXPECT_TRUE(IsEnabled("RemoveAll")); // the other tree's items are left alone
+    Run("Stop");
+    OpenClassicMenu(player, "mnuPlayListmenu");
     for (const auto* const name :
         { "mnuincspeed", "mnudecSpeed", "mnuresSpeed", "mnustop", "mnuNext", "mnuPrev", "mnuPlayListRemoveAll" })
         EXPECT_FALSE(menus.Find(name)->enabled) << name;
+    OpenClassicMenu(player, "mnuOpenDVD");
+    EXPECT_EQ(world.driveQuestions, 1);
     click("dvdsList");
-    click("mnuplay"); // an empty list asks for files
-    screen.chosen = { "/clips/new.avi" };
+    click("mnuPlayListAdd");
+    world.dialogs.Choose({ "/added.avi" });
+    world.Settle();
     click("mnuplay");
-    while (inspections.AnswerOne(loaded))
-        ;
-    EXPECT_EQ(LastPlayed(), "/clips/new.avi");
+    EXPECT_EQ(LastPlayed(), "/added.avi");
+}
+
+TEST_F(PlayerTest, keys_seek_and_turn_the_volume_and_space_starts_what_is_not_loaded)
+{
+    auto& player = StartWithEntries(2, kPlayNormal, kNoRepeat);
+    trace.length = 100'000;
+    trace.time = 50'000;
+    Run("SeekForward");
+    EXPECT_NEAR(trace.time, 55'000, 1);
+    Run("SeekFarBack");
+    EXPECT_NEAR(trace.time, 25'000, 1);
+    Run("JumpToTenth", 9);
+    EXPECT_NEAR(trace.time, 90'000, 1);
+    Run("SeekFarForward"); // and not past the end
+    EXPECT_LT(trace.time, trace.length);
+    Run("Quieter");
+    EXPECT_EQ(trace.volume, 95);
+    Run("Louder");
+    Run("Louder");
+    EXPECT_EQ(player.State().volume, 100);
+    Run("PlayOrPause");
+    EXPECT_EQ(trace.state, Engine::kPaused);
+    Run("Stop");
+    player.Entries().List().SetSelectedItem(1);
+    Run("PlayOrPause");
+    EXPECT_EQ(LastPlayed(), "/b.avi");
+    Run("Stop");
+    player.Entries().List().SetSelectedItem(1);
+    Run("Remove"); // leaves the selection behind the last entry
+    Run("PlayOrPause");
+    EXPECT_EQ(LastPlayed(), "/a.avi");
+    Run("PlayList");
+    EXPECT_EQ(player.Window().Dock(), PlaylistDock::Hidden);
+    player.Window().DockPlaylist(PlaylistDock::Top);
+    EXPECT_EQ(player.Settings().PlaylistPosition, 2);
+    player.Sequence().ListDoubleClicked();
+    EXPECT_EQ(player.Window().Dock(), PlaylistDock::Hidden);
+    Run("PlayList");
+    EXPECT_EQ(player.Window().Dock(), PlaylistDock::Top);
+}
+
+TEST_F(PlayerTest, what_is_held_ends_with_the_item_and_with_the_next_one)
+{
+    auto& player = StartWithEntries(2, kPlayContinuous, kRepeatAll);
+    for (const auto end : { 0, 1, 2 }) {
+        player.Transporting().cmdffMouseDown();
+        player.Transporting().RewindPressed();
+        EXPECT_EQ(trace.rateSet, 10);
+        EXPECT_TRUE(player.State().isRewinding);
+        if (end == 0)
+            EndItem();
+        else if (end == 1)
+            player.Sequence().cmdNextClick();
+        else
+            player.Transporting().cmdStopClick();
+        EXPECT_NE(trace.rateSet, 10) << end;
+        EXPECT_FALSE(player.State().isRewinding) << end;
+        trace.rateSet = 0;
+        player.Transporting().cmdffMouseUp(); // comes too late for anything
+        EXPECT_EQ(trace.rateSet, 0) << end;
+    }
 }

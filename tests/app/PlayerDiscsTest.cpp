@@ -1,6 +1,7 @@
 #include "tests/app/PlayerFixture.h"
 
 using namespace zentaro;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -9,124 +10,147 @@ platform::OpticalDrive Disc(const std::string& name, const std::string& label)
     return { name, label, true, label };
 }
 
+class DiscsTest : public PlayerTest {
+protected:
+    DiscSession& Discs() { return world.player->Discs(); }
+    void Choose(int index)
+    {
+        Discs().dvdsList_Click(index);
+        world.Elapse(500ms);
+    }
+    /// The drives answer, after a tick that lets the watcher see to them.
+    void TickAndFind(const std::vector<platform::OpticalDrive>& drives)
+    {
+        world.player->OnPositionTick();
+        Discs().DrivesFound(drives);
+        world.Elapse(500ms);
+        world.Elapse(500ms);
+    }
+};
+
 } // namespace
 
-TEST_F(PlayerTest, a_disc_replaces_the_list_and_plays_by_its_root_after_half_a_second)
+TEST_F(DiscsTest, a_disc_replaces_the_list_and_plays_by_its_root_after_half_a_second)
 {
-    StartWithEntries(2, kPlayContinuous, kRepeatAll);
-    player->DrivesFound({ Disc("/dev/sr0", "MOVIE") });
+    auto& player = StartWithEntries(2, kPlayContinuous, kRepeatAll);
+    Discs().DrivesFound({ Disc("/dev/sr0", "MOVIE") });
     EXPECT_EQ(LastPlayed(), "/a.avi"); // while something plays the answer only fills the menus
-    screen.whilePumping = [&] {
-        player->OnPositionTick();
-        EXPECT_EQ(screen.timeText, "LOADING...");
-        EXPECT_EQ(engines.trace.plays, 1);
-    };
-    player->dvdsList_Click(0);
+    Discs().dvdsList_Click(0);
+    world.Elapse(499ms);
+    player.OnPositionTick();
+    EXPECT_EQ(player.State().timeText, "LOADING...");
+    EXPECT_EQ(trace.plays, 1);
+    world.Elapse(1ms);
     EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr0>");
-    EXPECT_EQ(engines.trace.plays, 2);
-    EXPECT_NE(screen.log.str().find("for 500 "), std::string::npos);
-    ASSERT_EQ(player->Entries().Count(), 1);
-    const auto entry = player->Entries().EntryAt(0);
-    EXPECT_EQ(
-        entry->Title + "|" + entry->FullPath + "|" + entry->MediaInfo, "MOVIE (/dev/sr0)|dvd:///dev/sr0|Video DVD");
-    EXPECT_EQ(player->Entries().List().SelectedItem(), 0);
-    EXPECT_EQ(screen.caption, "Zentaro - (dvd:///dev/sr0)");
-    EXPECT_TRUE(player->NavigateDisc(DiscKey::Down));
-    engines.trace.title = 1; // no menu any more
-    EXPECT_FALSE(player->NavigateDisc(DiscKey::Down));
-    EXPECT_EQ(engines.trace.keys, std::vector{ DiscKey::Down });
+    EXPECT_EQ(trace.plays, 2);
+    ASSERT_EQ(player.Entries().Count(), 1);
+    const auto entry = *player.Entries().EntryAt(0);
+    EXPECT_EQ(entry.Title + "|" + entry.FullPath + "|" + entry.MediaInfo, "MOVIE (/dev/sr0)|dvd:///dev/sr0|Video DVD");
+    EXPECT_EQ(player.Entries().List().PlayingItem(), 0);
+    EXPECT_EQ(player.Entries().List().SelectedItem(), 0);
+    EXPECT_EQ(player.Window().Caption(), "Zentaro - (dvd:///dev/sr0)");
+    EXPECT_EQ(trace.options[2], "snapshot-path=C:\\\\MOVIE Images");
+    Run("Quieter"); // goes to the menu of the disc
+    Run("PlaySelected");
+    trace.title = 1; // no menu any more
+    Run("Quieter");
+    EXPECT_EQ(trace.keys, (std::vector{ DiscKey::Down, DiscKey::Activate }));
+    EXPECT_EQ(trace.volume, 95);
 }
 
-TEST_F(PlayerTest, a_disc_ends_by_the_engines_word_alone_and_nothing_follows)
+TEST_F(DiscsTest, a_disc_ends_by_the_engines_word_alone_and_nothing_follows)
 {
-    StartWithEntries(1, kPlayNormal, kNoRepeat);
-    player->DoAfter(1);
-    player->DrivesFound({ Disc("/dev/sr0", "MOVIE") });
-    player->dvdsList_Click(0);
-    engines.trace.time = engines.trace.length = 4'800; // a menu waits
-    player->OnPositionTick();
-    EXPECT_TRUE(player->MediaControlsEnabled());
+    auto& player = StartWithEntries(1, kPlayNormal, kNoRepeat);
+    player.Sequence().DoAfter(1);
+    Discs().DrivesFound({ Disc("/dev/sr0", "MOVIE") });
+    Choose(0);
+    trace.time = trace.length = 4'800; // a menu waits
+    player.OnPositionTick();
+    EXPECT_TRUE(IsLoaded());
     EndItem();
-    EXPECT_FALSE(player->MediaControlsEnabled());
-    EXPECT_FALSE(player->NavigateDisc(DiscKey::Down));
-    EXPECT_EQ(power.powerOffs + power.restarts, 0);
-    const auto engineCount = engines.trace.played.size();
-    player->CMDPlayClick(); // the same engine goes on with the disc
-    EXPECT_EQ(engines.trace.played.size(), engineCount);
-    EXPECT_TRUE(player->MediaControlsEnabled());
+    EXPECT_FALSE(IsLoaded());
+    EXPECT_FALSE(Discs().Navigate(DiscKey::Down));
+    EXPECT_EQ(world.power.powerOffs + world.power.restarts, 0);
+    const auto engines = Starts();
+    player.Sequence().CMDPlayClick(); // the same engine goes on with the disc
+    EXPECT_EQ(Starts(), engines);
+    EXPECT_TRUE(IsLoaded());
     // From the list it plays in an engine of its own, and is a disc all the same.
-    player->PlayItem(0, false);
+    player.Sequence().PlayEntry(0);
     EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr0>");
-    EXPECT_EQ(player->SmartMenuXP1().Find("History1")->caption, "MOVIE (/dev/sr0)");
-    engines.trace.time = engines.trace.length = 4'800;
-    player->OnPositionTick();
-    EXPECT_TRUE(player->MediaControlsEnabled());
-    player->LoadThumb("", "/b.avi", false, true);
-    player->OnPositionTick();
-    EXPECT_FALSE(player->MediaControlsEnabled());
-    EXPECT_EQ(power.restarts, 1);
+    EXPECT_EQ(player.BothMenus().SmartMenuXP1.Find("History1")->caption, "MOVIE (/dev/sr0)");
+    trace.time = trace.length = 4'800;
+    player.OnPositionTick();
+    EXPECT_TRUE(IsLoaded());
+    Add("/b.avi", true);
+    player.OnPositionTick();
+    EXPECT_FALSE(IsLoaded());
+    EXPECT_EQ(world.power.restarts, 1);
 }
 
-TEST_F(PlayerTest, what_happens_while_a_disc_is_awaited_holds)
+TEST_F(DiscsTest, what_happens_while_a_disc_is_awaited_holds)
 {
-    StartWithEntries(1, kPlayNormal, kNoRepeat);
-    player->DrivesFound({ Disc("/dev/sr0", "MOVIE"), Disc("/dev/sr1", "OTHER") });
-    screen.whilePumping = [&] { player->cmdStopClick(); };
-    player->dvdsList_Click(0);
-    EXPECT_FALSE(player->MediaControlsEnabled());
-    screen.whilePumping = [&] { player->LoadThumb("", "/b.avi", false, true); };
-    player->dvdsList_Click(0);
+    auto& player = StartWithEntries(1, kPlayNormal, kNoRepeat);
+    Discs().DrivesFound({ Disc("/dev/sr0", "MOVIE"), Disc("/dev/sr1", "OTHER") });
+    const auto meanwhile = [&](const std::function<void()>& work) {
+        Discs().dvdsList_Click(0);
+        work();
+        world.Elapse(500ms);
+    };
+    meanwhile([&] { Run("Stop"); });
+    EXPECT_FALSE(IsLoaded());
+    meanwhile([&] { Add("/b.avi", true); });
     EXPECT_EQ(LastPlayed(), "/b.avi");
-    screen.whilePumping = [&] { player->dvdsList_Click(1); };
-    player->dvdsList_Click(0);
+    meanwhile([&] { Discs().dvdsList_Click(1); });
     EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr1>");
-    EXPECT_TRUE(player->MediaControlsEnabled());
-    screen.whilePumping = [&] { player->RemoveAll(); };
-    player->dvdsList_Click(0);
-    screen.whilePumping = [&] { player->Unload(); };
-    player->dvdsList_Click(0);
-    EXPECT_FALSE(player->MediaControlsEnabled());
+    EXPECT_TRUE(IsLoaded());
+    meanwhile([&] { player.Sequence().RemoveAll(); });
+    EXPECT_FALSE(IsLoaded());
 }
 
-TEST_F(PlayerTest, a_disc_that_cannot_be_played_is_said_and_an_empty_drive_does_nothing)
+TEST_F(DiscsTest, a_disc_that_cannot_be_played_is_said_and_an_empty_drive_does_nothing)
 {
-    StartWithEntries(1, kPlayNormal, kNoRepeat);
-    player->dvdsList_Click(0);
-    player->DrivesFound({ { "/dev/sr0", {}, false, {} }, { "/dev/sr1", "DATA", false, {} } });
-    player->dvdsList_Click(0);
-    player->dvdsList_Click(7);
-    EXPECT_EQ(player->Entries().Count(), 1);
+    auto& player = StartWithEntries(1, kPlayNormal, kNoRepeat);
+    Choose(0);
+    Discs().DrivesFound({ { "/dev/sr0", {}, false, {} }, { "/dev/sr1", "DATA", false, {} } });
+    Choose(0);
+    Choose(7);
+    EXPECT_EQ(player.Entries().Count(), 1);
     EXPECT_EQ(LastPlayed(), "/a.avi");
-    player->dvdsList_Click(1);
-    engines.trace.state = Engine::kFailed;
-    player->OnPositionTick();
-    EXPECT_EQ(screen.boxes, std::vector<std::string>{ "Zentaro: Please insert a valid DVD." });
-    EXPECT_EQ(screen.timeText, "");
+    Choose(1);
+    trace.state = Engine::kFailed;
+    player.OnPositionTick();
+    EXPECT_EQ(world.dialogs.boxes, std::vector<std::string>{ "Zentaro: Please insert a valid DVD." });
+    EXPECT_EQ(player.State().timeText, "");
+    trace.takesItems = false;
+    Choose(1);
+    EXPECT_EQ(world.dialogs.boxes.size(), 2u);
+    EXPECT_FALSE(IsLoaded());
 }
 
-TEST_F(PlayerTest, the_watcher_starts_each_video_disc_once_while_nothing_plays)
+TEST_F(DiscsTest, the_watcher_starts_each_video_disc_once_while_nothing_plays)
 {
     const auto movie = Disc("/dev/sr0", "MOVIE");
-    Start();
-    player->OnDVDTick();
-    EXPECT_EQ(driveQuestions, 0);
-    player->DrivesFound({ movie });
-    EXPECT_TRUE(engines.trace.played.empty()); // not before the first tick
-    player->OnPositionTick();
-    player->OnDVDTick();
-    EXPECT_EQ(driveQuestions, 1);
-    player->DrivesFound({ { "/dev/sr0", "DATA", false, {} } });
-    EXPECT_TRUE(engines.trace.played.empty());
-    player->DrivesFound({ movie });
-    EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr0>");
-    EXPECT_FALSE(player->IsWatchingDiscs());
-    EXPECT_TRUE(IsEnabled("Remove") && IsEnabled("Next"));
-    player->cmdStopClick();
+    auto& player = Start();
+    Discs().OnDVDTick();
+    EXPECT_EQ(world.driveQuestions, 0);
+    Discs().DrivesFound({ movie });
+    EXPECT_TRUE(trace.played.empty()); // not before the first tick
+    player.OnPositionTick();
+    Discs().OnDVDTick();
+    EXPECT_EQ(world.driveQuestions, 1);
+    Discs().DrivesFound({ { "/dev/sr0", "DATA", false, {} } });
+    EXPECT_TRUE(trace.played.empty());
     TickAndFind({ movie });
-    EXPECT_TRUE(player->IsWatchingDiscs());
-    EXPECT_EQ(engines.trace.played.size(), 1U); // stopped, and still in the drive
+    EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr0>");
+    EXPECT_FALSE(Discs().IsWatching());
+    EXPECT_TRUE(IsEnabled("Remove") && IsEnabled("Next"));
+    Run("Stop");
+    TickAndFind({ movie });
+    EXPECT_TRUE(Discs().IsWatching());
+    EXPECT_EQ(Starts(), 1U); // stopped, and still in the drive
     TickAndFind({ { "/dev/sr0", {}, false, {} } });
     TickAndFind({ movie, Disc("/dev/sr1", "OTHER") });
-    EXPECT_EQ(engines.trace.played.size(), 3U); // the second replaces the first
+    EXPECT_EQ(Starts(), 3U); // the second replaces the first
     EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr1>");
 }

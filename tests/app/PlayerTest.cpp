@@ -1,87 +1,102 @@
 #include "tests/app/PlayerFixture.h"
 
 using namespace zentaro;
-
-namespace {
-
-constexpr const char* kCommandKey = "Software\\Quorvane Zentaro\\Setting:txtHwnd";
-constexpr const char* kProbeKey = "Software\\Quorvane Zentaro\\Setting:txtHwnd1";
-
-} // namespace
+using namespace std::chrono_literals;
 
 TEST_F(PlayerTest, types_are_taken_once_the_start_is_over_or_when_it_ends)
 {
-    auto settings = DefaultSettings("/", {});
-    settings.Associations[20] = -1;
-    WriteConfig(FormatConfigurations(settings));
+    Store([](PlayerSettings& settings) { settings.Associations[20] = -1; });
     Start("/clips/a.avi");
-    EXPECT_EQ(associations.ours, -1);
-    later();
-    EXPECT_EQ(associations.ours, 1);
-    EXPECT_EQ(store.values[".avi:"] + store.values[".avi:OldAss"], "Zentaro.aviother.desktop");
-    associations.ours = -1;
-    player->Unload();
-    EXPECT_EQ(associations.ours, -1);
+    EXPECT_EQ(world.associations.ours, -1);
+    world.Elapse(2s);
+    EXPECT_EQ(world.associations.ours, 1);
+    EXPECT_EQ(world.store.values[".avi:"] + world.store.values[".avi:OldAss"], "Zentaro.aviother.desktop");
+    world.associations.ours = -1;
+    world.player->Unload();
+    EXPECT_EQ(world.associations.ours, -1);
 
-    Start("/clips/a.avi");
-    player->Unload();
-    EXPECT_EQ(associations.ours, 1);
-    associations.ours = -1;
-    later();
-    EXPECT_EQ(associations.ours, -1);
-}
-
-TEST_F(PlayerTest, a_call_that_nobody_answers_makes_a_player)
-{
-    store.values = { { kCommandKey, "1" }, { kProbeKey, "4712" } };
-    otherPlayerLives = true;
-    sendSucceeds = false;
-    Start();
-    EXPECT_TRUE(isPlayer);
-    EXPECT_EQ(sent, std::vector<std::string>{ "4712:Hello" });
-    EXPECT_EQ(store.values[kCommandKey], "4711");
+    Start("/clips/a.avi").Unload();
+    EXPECT_EQ(world.associations.ours, 1);
+    world.associations.ours = -1;
+    world.Elapse(2s);
+    EXPECT_EQ(world.associations.ours, -1);
 }
 
 TEST_F(PlayerTest, the_files_of_starts_play_in_fresh_engines_one_at_a_time)
 {
-    auto settings = DefaultSettings("/", {});
-    settings.LaunchFullScreen = -1;
-    WriteConfig(FormatConfigurations(settings));
+    Store([](PlayerSettings& settings) { settings.LaunchFullScreen = -1; });
     Start("/clips/a b.avi");
-    EXPECT_EQ(screen.caption, "Zentaro - (/clips/a b.avi)");
-    EXPECT_TRUE(screen.isFullScreen);
-    EXPECT_EQ(engines.trace.options[2], "snapshot-path=C:\\\\a b.avi Images");
-    player->Host().SetVolume(40);
-    player->Host().ToggleMute();
-    player->ReceiveText("");
-    player->ReceiveText("/clips/no media.txt");
-    EXPECT_EQ(engines.trace.played, (std::vector<std::string>{ "/clips/a b.avi", "/clips/no media.txt" }));
-    EXPECT_EQ(engines.trace.mostAlive, 1);
-    EXPECT_EQ(engines.trace.volume, 40);
-    EXPECT_TRUE(engines.trace.muted);
-    EXPECT_EQ(engines.trace.rateSet, 0); // a fresh engine runs at 1.0 by itself
-    EXPECT_TRUE(screen.isFullScreen);    // it survives the change of the item
-    EXPECT_NE(screen.log.str().find("flash pump 6"), std::string::npos);
-    player->PlayItem(static_cast<std::int16_t>(player->Entries().Count()), false);
-    player->PlayItem(-1, false);
-    EXPECT_EQ(engines.trace.played.size(), 2u);
+    EXPECT_EQ(world.player->Window().Caption(), "Zentaro - (/clips/a b.avi)");
+    EXPECT_TRUE(world.window.isFullScreen);
+    EXPECT_EQ(trace.options[2], "snapshot-path=C:\\\\a b.avi Images");
+    world.player->Transporting().SetVolume(40);
+    Run("Mute");
+    int done = 0;
+    const auto tell = [&] { ++done; };
+    world.receive("", tell);
+    EXPECT_EQ(done, 1);
+    world.receive("/clips/no media.txt", tell);
+    EXPECT_EQ(done, 1);
+    world.Settle();
+    EXPECT_EQ(done, 2);
+    EXPECT_EQ(trace.played, (std::vector<std::string>{ "/clips/a b.avi", "/clips/no media.txt" }));
+    EXPECT_EQ(trace.mostAlive, 1);
+    EXPECT_EQ(trace.volume, 40);
+    EXPECT_TRUE(trace.muted);
+    EXPECT_EQ(trace.rateSet, 0);            // a fresh engine runs at 1.0 by itself
+    EXPECT_TRUE(world.window.isFullScreen); // it survives the change of the item
+    EXPECT_EQ(world.window.log.str(), "show flash ");
+    world.player->Sequence().PlayItem(static_cast<std::int16_t>(world.player->Entries().Count()), false);
+    world.player->Sequence().PlayItem(-1, false);
+    EXPECT_EQ(Starts(), 2u);
 }
 
-TEST_F(PlayerTest, the_end_saves_where_the_window_is_unless_it_is_maximised)
+TEST_F(PlayerTest, senders_wait_neither_for_each_other_nor_for_a_box)
 {
-    Start();
-    screen.left = -1200.5;
-    player->WindowResized(640, 480);
-    player->Unload();
-    EXPECT_TRUE(ended);
+    Start("/clips/first.avi");
+    std::string done;
+    const auto tell = [&](char who) { return [&done, who] { done += who; }; };
+    world.receive("/pipe.avi", tell('a')); // its inspection never ends
+    world.receive("/bad.avi", tell('b'));
+    world.receive("/good.avi", tell('c'));
+    world.Answer(world.inspections.atWork.rbegin()->first);
+    EXPECT_EQ(done, "c");
+    EXPECT_EQ(LastPlayed(), "/good.avi");
+    world.Answer(world.inspections.atWork.rbegin()->first);
+    EXPECT_EQ(done, "cb");
+    EXPECT_EQ(world.dialogs.OpenBoxes(), 1u);
+    world.receive("/good.avi", tell('d')); // said at once to be there already, and the last entry plays after the box
+    EXPECT_EQ(done, "cbd");
+    EXPECT_EQ(Starts(), 2u);
+    world.dialogs.CloseBox();
+    world.dialogs.CloseBox();
+    EXPECT_EQ(Starts(), 3u);
+    world.player->Unload();
+    EXPECT_EQ(done, "cbda"); // nobody is kept waiting by a player that ends
+    EXPECT_EQ(world.receive, nullptr);
+}
+
+TEST_F(PlayerTest, the_end_saves_where_the_window_is_unless_it_is_maximised_or_still_starting)
+{
+    world.Load("/clips/a.avi");
+    world.window.left = 900;
+    world.player->WindowResized(999, 999); // by the start itself
+    IgnoreFailure(world.player->WriteConfigurations());
+    EXPECT_EQ(ParseConfigurations(*ConfigText())->WindowWidth, 388);
+    EXPECT_NE(ParseConfigurations(*ConfigText())->WindowLeft, 900);
+    world.Settle();
+    world.window.left = -1200.5;
+    world.player->WindowResized(640, 480);
+    world.player->Unload();
+    EXPECT_TRUE(world.ended);
     auto saved = *ParseConfigurations(*ConfigText());
     EXPECT_EQ(saved.WindowLeft, -1200);
     EXPECT_EQ(saved.WindowWidth, 640);
 
-    screen.maximized = true;
-    screen.left = 0;
-    player->WindowResized(1280, 800);
-    player->Unload();
+    world.window.maximized = true;
+    world.window.left = 0;
+    world.player->WindowResized(1280, 800);
+    world.player->Unload();
     saved = *ParseConfigurations(*ConfigText());
     EXPECT_EQ(saved.WindowLeft, -1200);
     EXPECT_EQ(saved.WindowWidth, 640);
@@ -91,126 +106,185 @@ TEST_F(PlayerTest, a_file_that_is_gone_or_read_only_at_the_end_stays_so)
 {
     Start();
     const auto before = ConfigText();
-    screen.left = 999;
+    world.window.left = 999;
     fs::permissions(ConfigPath(), fs::perms::owner_read);
-    EXPECT_FALSE(player->WriteConfigurations());
+    EXPECT_FALSE(world.player->WriteConfigurations());
     EXPECT_EQ(ConfigText(), before);
     fs::permissions(ConfigPath(), fs::perms::owner_all);
     fs::remove(ConfigPath());
-    EXPECT_FALSE(player->WriteConfigurations());
+    EXPECT_FALSE(world.player->WriteConfigurations());
     EXPECT_FALSE(fs::exists(ConfigPath()));
 }
 
 TEST_F(PlayerTest, continuous_play_goes_round_and_normal_play_stops)
 {
-    auto& loaded = StartWithEntries(2, kPlayContinuous, kRepeatAll);
+    auto& player = StartWithEntries(2, kPlayContinuous, kRepeatAll);
     EndItem();
     EXPECT_EQ(LastPlayed(), "/b.avi");
     EndItem();
     EXPECT_EQ(LastPlayed(), "/a.avi");
-    loaded.SetRepeatMode(kRepeatSingle);
+    player.Sequence().SetRepeatMode(kRepeatSingle);
     EndItem();
     EXPECT_EQ(LastPlayed(), "/a.avi");
-    EXPECT_EQ(engines.trace.played.size(), 4u);
-    loaded.PBNormal();
-    loaded.SetRepeatMode(kRepeatAll);
+    EXPECT_EQ(Starts(), 4u);
+    player.Sequence().PBNormal();
+    player.Sequence().SetRepeatMode(kRepeatAll);
     EndItem();
-    EXPECT_EQ(engines.trace.played.size(), 4u);
-    EXPECT_FALSE(loaded.MediaControlsEnabled());
-    loaded.OnPositionTick();
-    EXPECT_EQ(screen.timeText, "00:00:00 / 00:00:00");
-    loaded.cmdNextClick();
-    EXPECT_EQ(engines.trace.played.size(), 4u); // nothing is loaded
+    EXPECT_EQ(Starts(), 4u);
+    EXPECT_FALSE(IsLoaded());
+    EXPECT_EQ(player.State().timeText, "00:00:00 / 00:00:00");
+    player.Sequence().cmdNextClick();
+    EXPECT_EQ(Starts(), 4u); // nothing is loaded
+}
+
+TEST_F(PlayerTest, a_new_play_mode_builds_a_new_order)
+{
+    auto& player = StartWithEntries(3, kPlayContinuous, kRepeatAll);
+    // Slots 2, 0 and 1 for the three entries.
+    world.random = [draws = std::vector{ 0.9, 0.1, 0.5 }, next = 0U]() mutable { return draws[next++ % 3]; };
+    player.Sequence().PBShuffle();
+    EndItem();
+    EXPECT_EQ(LastPlayed(), "/c.avi");
+    player.Sequence().PBCont();
+    player.Entries().List().SetSelectedItem(0);
+    player.Sequence().ListClicked();
+    EndItem();
+    EXPECT_EQ(LastPlayed(), "/b.avi");
 }
 
 TEST_F(PlayerTest, an_order_that_names_a_removed_entry_plays_nothing)
 {
-    auto& loaded = StartWithEntries(3, kPlayContinuous, kRepeatAll);
-    loaded.RemoveSelected(); // the order is now "1", "2" for two entries
+    auto& player = StartWithEntries(3, kPlayContinuous, kRepeatAll);
+    player.Sequence().RemoveSelected(); // the order is now "1", "2" for two entries
     EndItem();
-    EXPECT_EQ(engines.trace.played.size(), 1u);
-    EXPECT_FALSE(loaded.MediaControlsEnabled());
+    EXPECT_EQ(Starts(), 1u);
+    EXPECT_FALSE(IsLoaded());
+}
+
+TEST_F(PlayerTest, repeat_one_asks_for_files_when_its_list_was_emptied)
+{
+    auto& player = StartWithEntries(1, kPlayContinuous, kRepeatSingle);
+    player.Sequence().RemoveAll();
+    EndItem();
+    EXPECT_EQ(world.dialogs.asked, 1);
+    EXPECT_FALSE(IsLoaded());
 }
 
 TEST_F(PlayerTest, a_round_in_which_nothing_plays_stops_with_a_note)
 {
-    auto& loaded = StartWithEntries(3, kPlayContinuous, kRepeatAll);
-    engines.trace.state = Engine::kFailed;
-    for (int tick = 0; tick < 10; ++tick)
-        loaded.OnPositionTick();
-    EXPECT_EQ(engines.trace.played.size(), 3u);
-    EXPECT_FALSE(loaded.MediaControlsEnabled());
-    EXPECT_FALSE(screen.note.empty());
-    EXPECT_TRUE(screen.boxes.empty());
+    auto& player = StartWithEntries(3, kPlayContinuous, kRepeatAll);
+    const auto fail = [&](int ticks) {
+        trace.state = Engine::kFailed;
+        for (int tick = 0; tick < ticks; ++tick)
+            player.OnPositionTick();
+        trace.state = Engine::kPlaying;
+    };
+    fail(2);
+    EndItem(); // one that played begins the count anew
+    trace.time = trace.length = 0;
+    fail(2);
+    EXPECT_TRUE(IsLoaded());
+    player.Sequence().cmdNextClick(); // and so does the user's choice
+    fail(2);
+    EXPECT_TRUE(IsLoaded());
+    EXPECT_TRUE(world.window.notes.empty());
+    fail(1);
+    EXPECT_FALSE(IsLoaded());
+    EXPECT_EQ(world.window.notes.size(), 1u);
+    EXPECT_TRUE(world.dialogs.boxes.empty());
 }
 
 TEST_F(PlayerTest, chosen_files_are_added_and_only_the_first_plays)
 {
-    Start();
-    screen.chosen = { std::string("/clips\0c.avi\0d.avi", 18), "/more/e.avi" };
-    player->CMDPlayClick(); // an empty list asks for files
-    while (inspections.AnswerOne(*player))
-        ;
-    EXPECT_EQ(player->Entries().Count(), 3);
-    EXPECT_EQ(player->Entries().EntryAt(2)->Title, "e.avi");
-    EXPECT_EQ(engines.trace.played, std::vector<std::string>{ "/clips/c.avi" });
+    Start().Sequence().CMDPlayClick(); // an empty list asks for files
+    world.dialogs.Choose({ std::string("/clips\0c.avi\0d.avi", 18), "/more/e.avi" });
+    world.Settle();
+    EXPECT_EQ(world.player->Entries().Count(), 3);
+    EXPECT_EQ(world.player->Entries().EntryAt(2)->Title, "e.avi");
+    EXPECT_EQ(trace.played, std::vector<std::string>{ "/clips/c.avi" });
 }
 
 TEST_F(PlayerTest, the_after_play_action_runs_at_the_end_of_the_sequence_only)
 {
-    auto& loaded = StartWithEntries(2, kPlayContinuous, kNoRepeat);
-    loaded.DoAfter(2);
+    auto& player = StartWithEntries(2, kPlayContinuous, kNoRepeat);
+    player.Sequence().DoAfter(2);
     EndItem();
-    EXPECT_EQ(power.powerOffs + power.restarts, 0);
+    EXPECT_EQ(world.power.powerOffs + world.power.restarts, 0);
     EndItem();
-    EXPECT_EQ(power.powerOffs, 1);
-    EXPECT_EQ(engines.trace.played.size(), 2u);
-    loaded.SetRepeatMode(kRepeatAll);
-    loaded.CMDPlayClick();
+    EXPECT_EQ(world.power.powerOffs, 1);
+    EXPECT_EQ(Starts(), 2u);
+    player.Sequence().SetRepeatMode(kRepeatAll);
+    player.Sequence().CMDPlayClick();
     EndItem();
     EndItem();
-    EXPECT_EQ(power.powerOffs, 1);
+    EXPECT_EQ(world.power.powerOffs, 1);
 }
 
-TEST_F(PlayerTest, what_is_held_ends_with_the_item_and_the_rate_starts_anew)
+TEST_F(PlayerTest, sleep_is_held_off_while_a_video_plays_and_the_settings_want_it)
 {
-    auto& loaded = StartWithEntries(2, kPlayContinuous, kRepeatAll);
-    loaded.IncreaseRate();
-    EXPECT_EQ(engines.trace.rateSet, 2);
-    loaded.cmdffMouseDown();
-    EXPECT_EQ(engines.trace.rateSet, 10);
-    loaded.RewindPressed();
-    loaded.cmdStopClick();
-    EXPECT_EQ(engines.trace.rateSet, 1);
-    EXPECT_FALSE(loaded.IsRewinding());
-    EXPECT_EQ(screen.rateText, "Playing rate:1x");
-    loaded.CMDPlayClick();
-    EXPECT_EQ(loaded.Rate().Value(), 1);
-    EXPECT_EQ(screen.rateText, "Loading...");
+    auto& player = StartWithEntries(1, kPlayNormal, kNoRepeat);
+    trace.state = 1; // opening
+    player.OnPositionTick();
+    EXPECT_FALSE(world.isSleepHeldOff);
+    trace.state = Engine::kPlaying;
+    player.OnPositionTick();
+    EXPECT_TRUE(world.isSleepHeldOff);
+    trace.hasVideo = false;
+    player.OnPositionTick();
+    EXPECT_FALSE(world.isSleepHeldOff);
+    trace.hasVideo = true;
+    player.OnPositionTick();
+    player.Transporting().cmdStopClick();
+    EXPECT_FALSE(world.isSleepHeldOff);
+    auto pages = PagesOf(player.Settings());
+    pages.disableScreenSaver = false;
+    player.CommitOptions(pages);
+    player.Sequence().CMDPlayClick();
+    player.OnPositionTick();
+    EXPECT_FALSE(world.isSleepHeldOff);
 }
 
 TEST_F(PlayerTest, a_snapshot_takes_the_next_free_name_in_the_folder_of_its_file)
 {
-    auto settings = DefaultSettings("/", {});
-    settings.SnapshotPath = (folder / "new" / "shots").string();
-    settings.SnapshotPrefix = "up/IMG_";
-    WriteConfig(FormatConfigurations(settings));
-    Start().LoadThumb("", "/clips/a.avi", false, true);
-    player->OnPositionTick();
+    Store([&](PlayerSettings& settings) {
+        settings.SnapshotPath = (folder / "new" / "shots").string();
+        settings.SnapshotPrefix = "up/IMG_";
+    });
+    Start("/clips/a.avi").OnPositionTick();
+    trace.takeSnapshot = [](const std::string& file) { return static_cast<bool>(std::ofstream(file) << "picture"); };
     // With this test's separator on every system.
     const auto images = fs::path((folder / "new" / "shots").string() + "/a.avi Images");
-    player->TakeSnapshot();
-    EXPECT_EQ(screen.note, "Saved up_IMG_00001.png|" + images.string() + "/up_IMG_00001.png");
-    player->TakeSnapshot();
-    player->TakeSnapshot();
+    const auto take = [&] {
+        Run("Snapshot");
+        return world.window.notes.back();
+    };
+    EXPECT_EQ(take(), "Saved up_IMG_00001.png|" + images.string() + "/up_IMG_00001.png");
+    take();
+    take();
     fs::remove(images / "up_IMG_00002.png");
-    player->TakeSnapshot();
-    EXPECT_TRUE(screen.note.starts_with("Saved up_IMG_00002.png|"));
-
+    EXPECT_TRUE(take().starts_with("Saved up_IMG_00002.png|"));
     fs::remove_all(images);
     std::ofstream(images) << "in the way";
-    player->TakeSnapshot();
-    EXPECT_EQ(screen.note, "No snapshot could be saved in " + images.string());
-    player->cmdStopClick();
-    EXPECT_FALSE(player->CanTakeSnapshot());
+    EXPECT_EQ(take(), "No snapshot could be saved in " + images.string());
+    Run("Stop");
+    EXPECT_FALSE(world.player->CanTakeSnapshot());
+}
+
+TEST_F(PlayerTest, drops_come_in_their_order_and_one_that_plays_waits_for_none)
+{
+    auto& files = Start().Files();
+    files.DropOnList({ "/b.avi", "/no.txt", "/c.avi" });
+    files.DropOnVideo({ "/a.avi" });
+    files.DropOnList({ "/d.avi" });
+    std::rotate(world.background.begin(), world.background.begin() + 1, world.background.end()); // b and c are slow
+    world.Settle();
+    std::string titles;
+    for (int i = 0; i < world.player->Entries().Count(); ++i)
+        titles += world.player->Entries().PathAt(i);
+    EXPECT_EQ(titles, "/a.avi/b.avi/c.avi/d.avi");
+    EXPECT_EQ(trace.played, std::vector<std::string>{ "/a.avi" });
+    files.DropOnVideo({ "/late.avi" });
+    world.player->Unload();
+    world.Settle();
+    EXPECT_EQ(world.player->Entries().Count(), 4);
 }

@@ -53,7 +53,7 @@ TEST(StartRole, a_media_file_goes_to_the_running_player_and_anything_else_ends_s
     EXPECT_EQ(Decide("C:\\a.avi", kRunning, true), (StartRole{ Kind::Messenger, "4711", "C:\\a.avi" }));
     EXPECT_EQ(Decide("C:\\a.avi *Add", kRunning, true), (StartRole{ Kind::Messenger, "4711", "C:\\a.avi *Add" }));
     EXPECT_EQ(Decide("C:\\a.txt", kRunning, true), (StartRole{ Kind::Messenger, "", "" }));
-    EXPECT_EQ(Decide("", kRunning, true), (StartRole{ Kind::Caller, "4712", "Hello" }));
+    EXPECT_EQ(Decide("", kRunning, true), (StartRole{ Kind::Messenger, "4712", "Hello" }));
 }
 
 TEST(StartRole, a_player_that_is_gone_or_not_wanted_is_passed_over)

@@ -23,22 +23,22 @@ class Discs : public LivePlayer {
 protected:
     Discs()
     {
-        player.PBCont();
-        player.DoAfter(1);
+        player.Sequence().PBCont();
+        player.Sequence().DoAfter(1);
     }
     /// The only drive, with a disc in it, is chosen from the menu.
     void PlayDisc(const std::string& drive)
     {
-        player.DrivesFound({ { drive, "MOVIE", true, {} } });
-        player.dvdsList_Click(0);
+        player.Discs().DrivesFound({ { drive, "MOVIE", true, {} } });
+        player.Discs().dvdsList_Click(0);
     }
     bool RunUntilIn(int title)
     {
-        return RunUntil([&] { return player.Titles().present == title && watch.time > 0; });
+        return RunUntil([&] { return player.Discs().Titles().present == title && watch.time > 0; });
     }
     bool RunUntilIdle()
     {
-        return RunUntil([&] { return !player.MediaControlsEnabled(); });
+        return RunUntil([&] { return !player.State().mediaControlsEnabled; });
     }
 };
 
@@ -49,23 +49,23 @@ TEST_F(Discs, AFolderPlaysAndItsMenuWaitsForTheUser)
     // The menu's clock stands still short of its end, where a file's would count as ended.
     ASSERT_TRUE(RunUntil([&] { return watch.length > 0 && watch.time > 0.75 * watch.length; }));
     RunFor(3s);
-    EXPECT_TRUE(player.MediaControlsEnabled());
-    EXPECT_EQ(player.Titles().present, 0);
-    EXPECT_TRUE(player.NavigateDisc(DiscKey::Right));
-    EXPECT_TRUE(player.NavigateDisc(DiscKey::Activate));
+    EXPECT_TRUE(player.State().mediaControlsEnabled);
+    EXPECT_EQ(player.Discs().Titles().present, 0);
+    EXPECT_TRUE(player.Discs().Navigate(DiscKey::Right));
+    EXPECT_TRUE(player.Discs().Navigate(DiscKey::Activate));
     ASSERT_TRUE(RunUntilIn(2));
-    EXPECT_FALSE(player.NavigateDisc(DiscKey::Right));
-    player.SetTitle(1);
+    EXPECT_FALSE(player.Discs().Navigate(DiscKey::Right));
+    player.Discs().SetTitle(1);
     ASSERT_TRUE(RunUntilIn(1));
-    EXPECT_EQ(player.Chapters().captions.size(), 3U);
-    player.SetTitle(2);
+    EXPECT_EQ(player.Discs().Chapters().captions.size(), 3U);
+    player.Discs().SetTitle(2);
     ASSERT_TRUE(RunUntilIn(2));
     ASSERT_TRUE(RunUntilIdle());
     RunFor(1100ms);
-    EXPECT_FALSE(player.MediaControlsEnabled());
+    EXPECT_FALSE(player.State().mediaControlsEnabled);
     EXPECT_EQ(watch.played, std::vector<std::string>{ "dvd://" + Movie().folder });
     EXPECT_EQ(world.power.restarts, 0);
-    EXPECT_EQ(world.screen.boxes, 0);
+    EXPECT_EQ(world.dialogs.boxes.size(), 0U);
 }
 
 TEST_F(Discs, AnImageInsertedIntoADrivePlaysByItselfAndEndsWhenItIsPulledOut)
@@ -78,14 +78,14 @@ TEST_F(Discs, AnImageInsertedIntoADrivePlaysByItselfAndEndsWhenItIsPulledOut)
         [](auto work) { QMetaObject::invokeMethod(qApp, std::move(work), Qt::QueuedConnection); });
     bool isFound = false;
     drives.onFound = [&](auto found) {
-        player.DrivesFound(std::move(found));
+        player.Discs().DrivesFound(std::move(found));
         isFound = true;
     };
     world.askForDrives = [&] { drives.Ask(); };
     const auto letWatch = [&] {
         isFound = false;
         player.OnPositionTick();
-        player.OnDVDTick();
+        player.Discs().OnDVDTick();
         return RunUntil([&] { return isFound; });
     };
     service.AddDrive(image);
@@ -94,9 +94,9 @@ TEST_F(Discs, AnImageInsertedIntoADrivePlaysByItselfAndEndsWhenItIsPulledOut)
 
     service.InsertDisc(image, "MOVIE");
     ASSERT_TRUE(letWatch());
-    EXPECT_EQ(player.Drives().Labels(), std::vector{ "MOVIE (" + image + ")" });
+    EXPECT_EQ(player.BothMenus().frmMenu.Find("dvdsList")->caption, "MOVIE (" + image + ")");
     ASSERT_TRUE(RunUntilIn(0));
-    EXPECT_TRUE(player.NavigateDisc(DiscKey::Activate));
+    EXPECT_TRUE(player.Discs().Navigate(DiscKey::Activate));
     ASSERT_TRUE(RunUntilIn(1));
     std::filesystem::resize_file(image, 0);
     service.RemoveDisc(image);
@@ -112,7 +112,7 @@ TEST_F(Discs, WhatIsNoVideoDiscIsSaidOnce)
     PlayDisc(folder);
     ASSERT_TRUE(RunUntilIdle());
     RunFor(1100ms);
-    EXPECT_EQ(world.screen.boxes, 1);
+    EXPECT_EQ(world.dialogs.boxes.size(), 1U);
 }
 
 TEST_F(Discs, AnAnswerThatNeverComesHoldsUpNothing)

@@ -23,11 +23,11 @@ protected:
         m_rate = rate;
         m_rated = 0;
         watch.played.clear();
-        player.CMDPlayClick();
+        player.Sequence().CMDPlayClick();
     }
     bool RunUntilIdle()
     {
-        return RunUntilAtRate([&] { return !player.MediaControlsEnabled(); });
+        return RunUntilAtRate([&] { return !player.State().mediaControlsEnabled; });
     }
     /// Nothing more is played and no after-play action is run.
     void ExpectIdleStays()
@@ -37,7 +37,7 @@ protected:
         RunFor(1100ms);
         EXPECT_EQ(watch.played.size(), played);
         EXPECT_EQ(world.power.restarts, restarts);
-        EXPECT_FALSE(player.MediaControlsEnabled());
+        EXPECT_FALSE(player.State().mediaControlsEnabled);
     }
 
 private:
@@ -47,8 +47,8 @@ private:
             [&] {
                 if (watch.played.size() != m_rated && !done()) {
                     m_rated = watch.played.size();
-                    while (player.Rate().Value() < m_rate)
-                        player.IncreaseRate();
+                    while (player.State().chosenRate < m_rate)
+                        player.Transporting().IncreaseRate();
                 }
                 return done();
             },
@@ -61,9 +61,9 @@ private:
 
 TEST_F(Ends, ClipsOfAllLengthsEndOnceEachAtEveryRate)
 {
-    player.PBCont();
-    player.SetRepeatMode(kNoRepeat);
-    player.DoAfter(1);
+    player.Sequence().PBCont();
+    player.Sequence().SetRepeatMode(kNoRepeat);
+    player.Sequence().DoAfter(1);
     std::vector<std::string> clips;
     for (const double seconds : { 0.3, 1.4, 1.6 })
         clips.push_back(Clips::Make("for-" + std::to_string(seconds) + ".mp4", seconds));
@@ -89,8 +89,8 @@ TEST_F(Ends, ClipsOfAllLengthsEndOnceEachAtEveryRate)
 
 TEST_F(Ends, EveryKindOfFileEndsOnceAndIsFollowedByTheNext)
 {
-    player.PBCont();
-    player.SetRepeatMode(kNoRepeat);
+    player.Sequence().PBCont();
+    player.Sequence().SetRepeatMode(kNoRepeat);
     std::vector<std::string> clips;
     for (const auto* const kind : { "mp4", "mkv", "avi", "mpg", "wmv", "mp3", "wav", "ogg", "wma", "m4a" })
         clips.push_back(Clips::Make(std::string("kind.") + kind, 1.6));
@@ -104,7 +104,7 @@ TEST_F(Ends, EveryKindOfFileEndsOnceAndIsFollowedByTheNext)
         ExpectIdleStays();
         EXPECT_EQ(watch.played, clips);
     }
-    EXPECT_EQ(world.screen.notes, 0);
+    EXPECT_TRUE(world.window.notes.empty());
 }
 
 } // namespace

@@ -6,14 +6,13 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <random>
 
 namespace zentaro::live {
 
 namespace {
 
 constexpr auto kTick = 500ms;
-constexpr auto kRewindTick = 10ms;
+constexpr auto kStep = 10ms;
 
 class WatchedEngine : public Engine {
 public:
@@ -107,14 +106,13 @@ LivePlayer::LivePlayer()
     : folder(MakeFolder())
     , frame("", nullptr)
     , engines(frame)
-    , world(engines, folder, [random = std::mt19937(1)]() mutable { return std::uniform_real_distribution()(random); })
-    , player(world.player)
+    , world(folder, &engines)
+    , player(world.Make())
     , watch(engines.watch)
 {
-    world.screen.pump = [] { QCoreApplication::processEvents(); };
     frame.resize(320, 240);
     frame.show();
-    player.Load("");
+    player.Load("", { &world.window, &world.dialogs });
 }
 
 LivePlayer::~LivePlayer()
@@ -139,8 +137,9 @@ bool LivePlayer::RunUntil(const std::function<bool()>& done, std::chrono::millis
     while (!done()) {
         if (std::chrono::steady_clock::now() >= end)
             return false;
-        Pump(kRewindTick);
-        player.OnRewindTick();
+        Pump(kStep);
+        world.Elapse(kStep);
+        player.Transporting().OnRewindTick();
         if (std::chrono::steady_clock::now() < tick)
             continue;
         tick += kTick;
@@ -152,7 +151,8 @@ bool LivePlayer::RunUntil(const std::function<bool()>& done, std::chrono::millis
 void LivePlayer::AddEntries(const std::vector<std::string>& paths)
 {
     for (const auto& path : paths)
-        player.LoadThumb(path, path, false, false);
+        player.Files().LoadThumb(path, path, false, false);
+    world.Settle();
 }
 
 } // namespace zentaro::live

@@ -3,7 +3,7 @@
 #include "playback/VideoFrame.h"
 #include "playback/VlcEngine.h"
 #include "tests/desktop/Wait.h"
-#include "tests/live/StillWorld.h"
+#include "tests/world/World.h"
 
 #include <gtest/gtest.h>
 
@@ -47,7 +47,7 @@ protected:
     LivePlayer();
     ~LivePlayer() override;
 
-    /// A tick every 500 ms and one every 10 ms while rewind is held, until `done`; false when it never came true.
+    /// A tick every 500 ms, and the world goes on every 10 ms, until `done`; false when it never came true.
     bool RunUntil(const std::function<bool()>& done, std::chrono::milliseconds limit = desktop::kPatience);
     void RunFor(std::chrono::milliseconds time)
     {
@@ -60,7 +60,7 @@ protected:
     std::string folder;
     VideoFrame frame;
     WatchedEngines engines;
-    StillWorld world;
+    World world;
     Player& player;
     Watch& watch;
 };

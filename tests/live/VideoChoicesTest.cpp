@@ -44,7 +44,7 @@ TEST_F(VideoMenuOfAnItem, OffersWhatTheEngineHasAndStartsAnewWithTheNext)
 {
     EXPECT_TRUE(ReadVideoChoices(player).audioTracks.empty());
     AddEntries({ MakeFilm() });
-    player.CMDPlayClick();
+    player.Sequence().CMDPlayClick();
     ASSERT_TRUE(RunUntilVideo());
     auto choices = ReadVideoChoices(player);
     ASSERT_EQ(choices.audioTracks.size(), 3U);
@@ -54,9 +54,10 @@ TEST_F(VideoMenuOfAnItem, OffersWhatTheEngineHasAndStartsAnewWithTheNext)
     choices.audioTracks[2].choose();
     EXPECT_TRUE(BecomesPresent(&VideoChoices::audioTracks, 2));
 
-    world.screen.subtitles = folder + "Ä & 100% #1.srt";
-    desktop::WriteWholeFile(world.screen.subtitles, "1\n00:00:00,000 --> 00:00:59,000\nHello\n");
-    player.LoadSubtitleFile();
+    const auto file = folder + "Ä & 100% #1.srt";
+    desktop::WriteWholeFile(file, "1\n00:00:00,000 --> 00:00:59,000\nHello\n");
+    LoadSubtitleFile(player);
+    world.dialogs.chooseSubtitles(file);
     EXPECT_TRUE(BecomesPresent(&VideoChoices::subtitles, 1));
     ReadVideoChoices(player).subtitles[0].choose();
     EXPECT_TRUE(BecomesPresent(&VideoChoices::subtitles, 0));
@@ -71,14 +72,14 @@ TEST_F(VideoMenuOfAnItem, OffersWhatTheEngineHasAndStartsAnewWithTheNext)
     choices.deinterlacing[4].choose();
     EXPECT_EQ(Present(ReadVideoChoices(player).deinterlacing), 3); // "Automatic" is gone
     RunFor(1s);
-    EXPECT_TRUE(player.MediaControlsEnabled());
+    EXPECT_TRUE(player.State().mediaControlsEnabled);
 
-    player.PlayItem(0, false);
+    player.Sequence().PlayItem(0, false);
     ASSERT_TRUE(RunUntilVideo());
     choices = ReadVideoChoices(player);
     EXPECT_EQ(Present(choices.aspectRatios), 0);
     EXPECT_EQ(choices.deinterlacing[0].caption, "Automatic");
-    player.cmdStopClick();
+    player.Transporting().cmdStopClick();
     for (const auto* const group : { &choices.audioTracks, &choices.aspectRatios, &choices.deinterlacing })
         group->back().choose(); // the menu was left open
     EXPECT_FALSE(ReadVideoChoices(player).hasVideo);

@@ -1,74 +1,43 @@
 #include "playlist/AddQueue.h"
 #include "playlist/DroppedFiles.h"
-
-#include <map>
-#include <set>
+#include "tests/world/FakeInspections.h"
 
 #include <gtest/gtest.h>
+
+#include <deque>
+#include <utility>
 
 namespace zentaro {
 namespace {
 
-/// A world of files whose inspections have a fixed result: "bad" ones fail, "odd" ones raise a box of their own.
-Inspection ResultFor(const std::string& path)
-{
-    Inspection result;
-    result.ok = path.find("bad") == std::string::npos;
-    if (path.find("odd") != std::string::npos)
-        result.notices.push_back({ "odd " + path });
-    result.mediaInfo = "info of " + path;
-    result.errorText = result.ok ? "" : "broken";
-    return result;
-}
-
 struct Host : AddQueueHost {
-    void ShowNotice(const Notice& notice) override
+    void ShowNotice(const Notice& notice, std::function<void()> closed) override
     {
         boxes.push_back(notice);
-        if (whileBoxIsOpen)
-            std::exchange(whileBoxIsOpen, nullptr)();
+        open.push_back(std::move(closed));
     }
-    void PlayItem(int index, bool) override
-    {
-        played.push_back(index);
-        if (whilePlaying)
-            std::exchange(whilePlaying, nullptr)();
-    }
+    void PlayItem(int index, bool) override { played.push_back(index); }
     std::int32_t PlayMode() const override { return kPlayContinuous; }
     void EntryAdded() override { ++added; }
-    void InspectionTaken(const Inspection&) override { }
-    void AddProgressChanged(const AddProgress& progress) override { progressTexts.push_back(ProgressText(progress)); }
+    void AddProgressChanged() override { progress += ProgressText(queue->Progress()) + ";"; }
 
+    AddQueue* queue = nullptr;
     std::vector<Notice> boxes;
+    std::deque<std::function<void()>> open;
     std::vector<int> played;
-    std::vector<std::string> progressTexts;
-    std::function<void()> whileBoxIsOpen;
-    std::function<void()> whilePlaying;
+    std::string progress;
     int added = 0;
-};
-
-struct Runner : InspectionRunner {
-    void Start(int ticket, const std::string& path) override
-    {
-        started.push_back(path);
-        atWork[ticket] = path;
-        most = std::max(most, atWork.size());
-    }
-    void Cancel(int ticket) override { atWork.erase(ticket); }
-
-    std::map<int, std::string> atWork;
-    std::vector<std::string> started;
-    std::size_t most = 0;
 };
 
 class AddQueueTest : public testing::Test {
 protected:
-    void Add(const std::vector<std::string>& names, bool playFirst = false)
+    AddQueueTest() { host.queue = &queue; }
+    void Add(const std::vector<std::string>& names, AddTurn turn = AddTurn::AfterOthers)
     {
         std::vector<std::string> paths;
         for (const auto& name : names)
             paths.push_back("/v/" + name);
-        queue.Add(AddRequests(paths, '/', playFirst));
+        queue.Add(AddRequests(paths, '/', turn == AddTurn::AtOnce), turn);
     }
     void Finish(const std::string& name)
     {
@@ -82,58 +51,59 @@ protected:
     {
         const auto path = runner.atWork.at(ticket);
         runner.atWork.erase(ticket);
-        queue.Completed(ticket, ResultFor(path));
+        queue.Completed(ticket, FakeInspections::ResultFor(path));
     }
-    /// The newest inspection always ends first.
+    void CloseBox()
+    {
+        const auto closed = std::move(host.open.front());
+        host.open.pop_front();
+        closed();
+    }
+    /// The newest inspection always ends first; boxes are closed as they come.
     void FinishAll()
     {
-        while (!runner.atWork.empty())
-            Finish(runner.atWork.rbegin()->first);
+        while (!runner.atWork.empty() || !host.open.empty())
+            host.open.empty() ? Finish(runner.atWork.rbegin()->first) : CloseBox();
     }
-    static std::vector<std::string> Titles(const Playlist& list)
+    std::string Titles() const
     {
-        std::vector<std::string> titles;
-        for (int i = 0; i < list.Count(); ++i)
-            titles.push_back(list.EntryAt(i)->Title);
+        std::string titles;
+        for (int i = 0; i < playlist.Count(); ++i)
+            titles += playlist.EntryAt(i)->Title + " ";
         return titles;
     }
+
     Playlist playlist{ [] { return 0.0; } };
+    InspectionState inspected;
     Host host;
-    Runner runner;
-    AddQueue queue{ playlist, host, runner, { .running = 3, .window = 6 } };
+    FakeInspections runner;
+    AddQueue queue{ playlist, inspected, host, runner, { .running = 3, .window = 6, .waitedFor = 2 } };
 };
 
 TEST_F(AddQueueTest, ASlowFirstFileChangesNothingInEntriesOrderAndBoxes)
 {
-    const std::vector<std::string> names{ "slow.avi", "b.avi", "bad1.avi", "b.avi", "bad1.avi", "odd.avi",
-        "odd-bad.avi", "slow.avi", "c.avi" };
-    Add(names, true);
+    Add({ "slow.avi", "b.avi", "bad1.avi", "b.avi", "bad1.avi", "odd.avi", "odd-bad.avi", "slow.avi", "c.avi" });
     while (runner.atWork.size() > 1)
         Finish(runner.atWork.rbegin()->first);
     EXPECT_EQ(playlist.Count(), 0);
-    EXPECT_EQ(host.progressTexts, (std::vector<std::string>{ "Adding 1 of 9" }));
+    EXPECT_EQ(host.progress, "Adding 1 of 9;");
     FinishAll();
-
-    Playlist oneByOne{ [] { return 0.0; } };
-    Host plain;
-    std::size_t inspections = 0;
-    for (const auto& name : names) {
-        LoadThumb(oneByOne, plain, { name, "/v/" + name, false, name == "slow.avi" && oneByOne.Count() == 0 }, [&] {
-            ++inspections;
-            return ResultFor("/v/" + name);
-        });
-    }
-    EXPECT_EQ(Titles(playlist), Titles(oneByOne));
-    EXPECT_EQ(playlist.Order().Count(), oneByOne.Order().Count());
-    EXPECT_EQ(host.played, plain.played);
-    EXPECT_EQ(host.added, plain.added);
-    EXPECT_EQ(runner.started.size(), inspections);
+    EXPECT_EQ(Titles(), "slow.avi b.avi odd.avi c.avi ");
+    EXPECT_EQ(playlist.Order().Count(), 4);
+    EXPECT_EQ(host.added, 4);
+    EXPECT_TRUE(host.played.empty());
+    EXPECT_EQ(runner.started.size(), 7u); // duplicates are not looked into
     EXPECT_LE(runner.most, 3u);
-    ASSERT_EQ(host.boxes.size(), 4u);
-    ASSERT_EQ(plain.boxes.size(), 7u);
-    EXPECT_TRUE(std::equal(host.boxes.begin(), host.boxes.begin() + 3, plain.boxes.begin()));
-    EXPECT_EQ(host.boxes[3], GatherNotices({ plain.boxes.begin() + 3, plain.boxes.end() }));
-    EXPECT_EQ(host.progressTexts.back(), "");
+    const Notice bad1{ "Cannot open file </v/bad1.avi>\r\nNo good." };
+    const auto duplicate = [](const std::string& name) {
+        return Notice{ "\"" + name + "\" is already in your playlist", NoticeIcon::Information, "Media Player" };
+    };
+    EXPECT_EQ(host.boxes,
+        (std::vector{ bad1, duplicate("b.avi"), bad1,
+            GatherNotices({ { "odd /v/odd.avi" }, { "odd /v/odd-bad.avi" },
+                { "Cannot open file </v/odd-bad.avi>\r\nNo good." }, duplicate("slow.avi") }) }));
+    EXPECT_TRUE(host.progress.ends_with("Adding 9 of 9;;"));
+    EXPECT_EQ(inspected.StreamInfoText, "info of /v/c.avi");
 }
 
 TEST_F(AddQueueTest, AFewSlowFilesDoNotLetResultsPileUp)
@@ -146,120 +116,130 @@ TEST_F(AddQueueTest, AFewSlowFilesDoNotLetResultsPileUp)
     EXPECT_EQ(playlist.Count(), 8);
 }
 
-TEST_F(AddQueueTest, FilesAddedWhileABoxIsOpenJoinTheBatchAndWaitForIt)
+TEST_F(AddQueueTest, WhatSomebodyWaitsForPassesBatchesBoxesAndToolsThatNeverEnd)
 {
-    host.whileBoxIsOpen = [&] {
-        Add({ "late.avi" });
-        FinishAll();
-        EXPECT_EQ(playlist.Count(), 0);
-        EXPECT_EQ(host.progressTexts.back(), "Adding 1 of 3");
-    };
-    Add({ "bad.avi", "a.avi" });
+    Add({ "pipe.avi", "bad.avi", "b.avi", "c.avi", "d.avi" });
+    Add({ "hangs.avi" }, AddTurn::AtOnce);
+    Add({ "now.avi", "then.avi" }, AddTurn::AtOnce);
+    Finish("now.avi");
+    EXPECT_EQ(Titles(), "now.avi ");
+    EXPECT_EQ(host.played, std::vector{ 0 });
+    Finish("then.avi"); // in the place of the one before; the batch keeps its three
+    EXPECT_EQ(runner.atWork.size(), 4u);
+    Add({ "bad-now.avi" }, AddTurn::AtOnce);
+    Finish("bad-now.avi");
+    EXPECT_EQ(host.open.size(), 1u);
+    Finish("pipe.avi");
     Finish("bad.avi");
-    EXPECT_EQ(Titles(playlist), (std::vector<std::string>{ "a.avi", "late.avi" }));
-    EXPECT_EQ(host.progressTexts.back(), "");
+    Finish("b.avi");
+    EXPECT_EQ(Titles(), "now.avi then.avi pipe.avi ");
+    EXPECT_EQ(host.open.size(), 2u);
+    CloseBox();
+    EXPECT_EQ(playlist.Count(), 3); // it was the other file's box
+    CloseBox();
+    EXPECT_EQ(Titles(), "now.avi then.avi pipe.avi b.avi ");
+    // Three at once: the third one waits for a place.
+    Add({ "e.avi" }, AddTurn::AtOnce);
+    Add({ "f.avi" }, AddTurn::AtOnce);
+    EXPECT_EQ(std::count(runner.started.begin(), runner.started.end(), "/v/f.avi"), 1);
+    FinishAll();
+    EXPECT_TRUE(Titles().ends_with("c.avi d.avi ") || playlist.Count() == 9);
+}
+
+TEST_F(AddQueueTest, TheOutcomeIsToldOnceAndNeverLaterThanABox)
+{
+    std::string told;
+    const auto add = [&](const char* name) {
+        queue.Add({ { name, name, false, true, false,
+                      [&told, name](
+                          AddOutcome outcome) { told += name + std::to_string(static_cast<int>(outcome)) + " "; } } },
+            AddTurn::AtOnce);
+    };
+    add("a");
+    Finish(runner.atWork.begin()->first);
+    EXPECT_EQ(told, "a0 ");
+    add("a");
+    add("bad");
+    Finish(runner.atWork.begin()->first);
+    EXPECT_EQ(told, "a0 a1 bad2 ");
+    EXPECT_EQ(host.played, std::vector{ 0 });
+    CloseBox();
+    CloseBox();
+    EXPECT_EQ(host.played, (std::vector{ 0, 0 })); // the list's last entry
+    add("odd");
+    Finish(runner.atWork.begin()->first);
+    EXPECT_EQ(told, "a0 a1 bad2 odd0 ");
+    EXPECT_EQ(playlist.Count(), 1);
+    add("odd"); // another way is quicker while the box is open
+    Finish(runner.atWork.begin()->first);
+    FinishAll();
+    EXPECT_EQ(playlist.Count(), 2);
+    add("late");
+    queue.Cancel();
+    EXPECT_TRUE(told.ends_with("late3 "));
 }
 
 TEST_F(AddQueueTest, CancelKeepsWhatIsAddedEndsTheRestAndShowsTheGatheredBoxes)
 {
     Add({ "bad1.avi", "bad2.avi", "bad3.avi", "bad4.avi", "a.avi", "b.avi", "c.avi" });
-    for (const auto* name : { "bad1.avi", "bad2.avi", "bad3.avi", "bad4.avi", "a.avi" })
+    for (const auto* name : { "bad1.avi", "bad2.avi", "bad3.avi", "bad4.avi", "a.avi" }) {
         Finish(name);
+        while (!host.open.empty())
+            CloseBox();
+    }
     EXPECT_EQ(host.boxes.size(), 3u);
     const auto late = runner.atWork.begin()->first;
     queue.Cancel();
     EXPECT_TRUE(runner.atWork.empty());
     EXPECT_EQ(host.boxes.size(), 4u);
-    EXPECT_EQ(host.progressTexts.back(), "");
-    queue.Completed(late, ResultFor("/v/b.avi"));
-    EXPECT_EQ(Titles(playlist), (std::vector<std::string>{ "a.avi" }));
+    EXPECT_EQ(queue.Progress(), AddProgress());
+    queue.Completed(late, FakeInspections::ResultFor("/v/b.avi"));
+    EXPECT_EQ(Titles(), "a.avi ");
     Add({ "d.avi" });
-    EXPECT_EQ(host.progressTexts.back(), "Adding 1 of 1");
+    EXPECT_TRUE(host.progress.ends_with(";Adding 1 of 1;"));
+    Add({ "bad5.avi", "e.avi" });
     FinishAll();
-    EXPECT_EQ(playlist.Count(), 2);
+    EXPECT_EQ(Titles(), "a.avi d.avi e.avi ");
 }
 
-TEST_F(AddQueueTest, CancelFromABoxOrWhileTheFirstFileStartsToPlayEndsTheBatch)
+TEST_F(AddQueueTest, CancelFromABoxLeavesOnlyTheBox)
 {
-    host.whileBoxIsOpen = [&] {
-        queue.Cancel();
-        EXPECT_EQ(host.progressTexts.back(), "");
-    };
     Add({ "bad.avi", "a.avi" });
-    FinishAll();
+    Finish("bad.avi");
+    queue.Cancel();
+    EXPECT_EQ(queue.Progress(), AddProgress());
+    CloseBox();
     EXPECT_EQ(playlist.Count(), 0);
-
-    host.whilePlaying = [&] { queue.Cancel(); };
-    Add({ "a.avi", "b.avi", "c.avi" }, true);
-    Finish("a.avi");
-    EXPECT_EQ(Titles(playlist), (std::vector<std::string>{ "a.avi" }));
     EXPECT_TRUE(runner.atWork.empty());
 }
 
-TEST_F(AddQueueTest, ClosingFromABoxUnwindsWithoutAnotherWord)
+TEST_F(AddQueueTest, ClosingUnwindsWithoutAnotherWord)
 {
-    host.whileBoxIsOpen = [&] { queue.Close(); };
-    Add({ "odd-bad.avi", "odd.avi", "c.avi" }, true);
-    const auto spoken = host.progressTexts.size();
-    FinishAll();
-    EXPECT_EQ(host.boxes.size(), 1u);
-    EXPECT_TRUE(host.played.empty());
-    EXPECT_EQ(host.progressTexts.size(), spoken);
+    Add({ "odd.avi", "odd-bad.avi", "c.avi" }, AddTurn::AtOnce);
+    Finish("odd.avi");
+    const auto spoken = host.progress;
+    queue.Close();
+    CloseBox();
+    EXPECT_TRUE(host.open.empty() && host.played.empty() && runner.atWork.empty());
+    EXPECT_EQ(host.progress, spoken);
     Add({ "d.avi" });
     EXPECT_TRUE(runner.atWork.empty());
 }
 
-TEST_F(AddQueueTest, ARunnerMayAnswerAtOnce)
+TEST_F(AddQueueTest, ManyFilesAndDuplicatesNeedNoDeepStack)
 {
-    struct Immediate : InspectionRunner {
-        void Start(int ticket, const std::string& path) override { queue->Completed(ticket, ResultFor(path)); }
-        void Cancel(int) override { }
-        AddQueue* queue = nullptr;
-    } immediate;
-    AddQueue direct(playlist, host, immediate);
-    immediate.queue = &direct;
-    std::vector<std::string> paths;
+    std::vector<std::string> names;
     for (int i = 0; i < 20'000; ++i)
-        paths.push_back("/v/" + std::to_string(i % 15'000) + ".avi");
-    direct.Add(AddRequests(paths, '/', false));
+        names.push_back(std::to_string(i % 15'000) + ".avi");
+    Add(names);
+    FinishAll();
     EXPECT_EQ(playlist.Count(), 15'000);
     EXPECT_EQ(playlist.Order().At(14'999), 14'999);
     EXPECT_EQ(host.boxes.size(), 4u);
     EXPECT_EQ(host.boxes.back().title, "Media Player");
 }
 
-TEST(LoadThumbTest, ADuplicateSaysSoAndPlaysTheLastEntry)
-{
-    Playlist playlist{ [] { return 0.0; } };
-    Host host;
-    const auto add = [&](const char* name, bool playNow) {
-        return LoadThumb(playlist, host, { name, name, false, playNow }, [&] { return ResultFor(name); });
-    };
-    EXPECT_EQ(add("a.avi", false), AddOutcome::Added);
-    EXPECT_EQ(playlist.List().SelectedItem(), FancyListItems::kNone);
-    add("b.avi", true);
-    add("c.avi", true);
-    EXPECT_EQ(add("a.avi", true), AddOutcome::Duplicate);
-    EXPECT_EQ(host.played, (std::vector{ 1, 2, 2 }));
-    EXPECT_EQ(playlist.Order().Position(), 2);
-    EXPECT_EQ(host.boxes,
-        (std::vector{ Notice{ "\"a.avi\" is already in your playlist", NoticeIcon::Information, "Media Player" } }));
-    EXPECT_EQ(add("bad.avi", true), AddOutcome::Refused);
-    EXPECT_EQ(host.boxes.back(), (Notice{ "Cannot open file <bad.avi>\r\nbroken" }));
-    EXPECT_EQ(host.played.size(), 3u);
-}
-
-TEST(LoadThumbTest, ASelectionLostWhileTheOnlyEntryStartsPlaysItAgain)
-{
-    Playlist playlist{ [] { return 0.0; } };
-    Host host;
-    host.whilePlaying = [&] { playlist.List().Press(FancyListItems::kNone); };
-    LoadThumb(playlist, host, { "a.avi", "a.avi", false, true }, [] { return ResultFor("a.avi"); });
-    EXPECT_EQ(host.played, (std::vector{ 0, 0 }));
-    EXPECT_EQ(playlist.List().SelectedItem(), 0);
-}
-
-TEST(LoadThumbTest, TheSecondLineNamesWhatIsKnown)
+TEST(DetailTextTest, TheSecondLineNamesWhatIsKnown)
 {
     EXPECT_EQ(DetailText({}), "");
     EXPECT_EQ(DetailText({ .duration = 65.5, .width = 1280, .height = 720, .fileSize = 12'345'678 }),

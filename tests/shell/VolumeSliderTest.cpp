@@ -1,4 +1,4 @@
-#include "playback/VolumeSlider.h"
+#include "shell/VolumeSlider.h"
 
 #include <gtest/gtest.h>
 
@@ -44,15 +44,6 @@ TEST(VolumeSlider, every_pixel_of_a_slider_of_a_hundred_is_its_own_percent)
         EXPECT_EQ(slider.PointerOnSlider(3 + percent), percent);
 }
 
-TEST(VolumeSlider, a_move_over_the_knob_counts_from_the_knob)
-{
-    auto slider = SliderOf(110);
-    slider.SetVolume(40);
-    EXPECT_EQ(slider.PointerOnKnob(5), 42);
-    EXPECT_EQ(slider.KnobLeft(), 42);
-    EXPECT_FALSE(slider.PointerOnKnob(-40));
-}
-
 TEST(VolumeSlider, the_knob_stands_where_a_press_gives_the_same_volume)
 {
     for (const double width : { 110.0, 137.0, 310.0 }) {
@@ -64,25 +55,4 @@ TEST(VolumeSlider, the_knob_stands_where_a_press_gives_the_same_volume)
             EXPECT_EQ(slider.KnobLeft(), knob);
         }
     }
-}
-
-TEST(VolumeSlider, wheel_and_keys_stay_between_0_and_100)
-{
-    auto slider = SliderOf(110);
-    EXPECT_FALSE(slider.Wheel(120));
-    EXPECT_EQ(slider.Wheel(-240), 90);
-    slider.SetVolume(3);
-    EXPECT_EQ(slider.Wheel(-120), 0);
-    EXPECT_EQ(slider.KnobLeft(), 0);
-    EXPECT_FALSE(slider.StepBy(-1));
-    EXPECT_EQ(slider.StepBy(1'000), 100);
-}
-
-TEST(VolumeSlider, parts_of_a_notch_add_up_until_the_wheel_turns_back)
-{
-    auto slider = SliderOf(110);
-    EXPECT_FALSE(slider.Wheel(-80));
-    EXPECT_EQ(slider.Wheel(-80), 95);
-    EXPECT_FALSE(slider.Wheel(100));
-    EXPECT_EQ(slider.Wheel(20), 100);
 }

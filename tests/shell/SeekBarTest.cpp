@@ -1,4 +1,4 @@
-#include "playback/SeekBar.h"
+#include "shell/SeekBar.h"
 
 #include <gtest/gtest.h>
 
@@ -54,7 +54,6 @@ TEST_F(SeekBarTest, nothing_seeks_while_the_controls_are_off_or_the_track_has_no
     bar.SetProgress(40);
     EXPECT_FALSE(bar.PressOnTrack(100, kLeft, !kOn) || bar.MoveOnTrack(100, kLeft, !kOn));
     EXPECT_FALSE(bar.PointerOnFill(10, kLeft, !kOn) || bar.PressOnTrack(100, kOther, !kOn));
-    EXPECT_FALSE(bar.StepBy(5'000, 0.5, 60'000, !kOn) || bar.JumpTo(0.5, !kOn));
     EXPECT_EQ(bar.TimeUnder(100, 60'000, !kOn), "");
     EXPECT_EQ(bar.FillWidth(), 80);
     EXPECT_FALSE(SeekBar().PressOnTrack(-10, kLeft, kOn));
@@ -77,15 +76,4 @@ TEST_F(SeekBarTest, the_time_under_the_pointer_is_the_one_a_press_seeks_to)
     EXPECT_EQ(bar.TimeUnder(100, 7'450'000, kOn), "01:02:05");
     EXPECT_EQ(bar.TimeUnder(-1, 7'450'000, kOn), "00:00:00");
     EXPECT_EQ(bar.TimeUnder(100, 0, kOn), "");
-}
-
-TEST_F(SeekBarTest, keys_step_by_time_and_stop_short_of_both_ends)
-{
-    EXPECT_EQ(bar.StepBy(-5'000, 0.5, 20'000, kOn), 0.25);
-    EXPECT_EQ(bar.FillWidth(), 50);
-    EXPECT_EQ(bar.StepBy(-5'000, 0.1, 20'000, kOn), 0);
-    EXPECT_EQ(bar.StepBy(30'000, 0.5, 20'000, kOn), 0.975);
-    EXPECT_EQ(bar.StepBy(5'000, 0.99, 20'000, kOn), 0.99);
-    EXPECT_DOUBLE_EQ(bar.StepBy(-5'000, 0.5, 0, kOn).value(), 0.49);
-    EXPECT_DOUBLE_EQ(bar.StepBy(5'000, 0.5, -1, kOn).value(), 0.51);
 }

@@ -1,0 +1,131 @@
+#include "playback/Transport.h"
+#include "tests/world/FakeEngine.h"
+
+#include <gtest/gtest.h>
+
+using namespace zentaro;
+
+namespace {
+
+class TransportTest : public testing::Test, protected TransportObserver {
+protected:
+    void MediaControlsSet(bool enabled) override { said += enabled ? "on " : "off "; }
+    void RateChanged(const RateChange&) override { said += "rate "; }
+    void TransportChanged() override { ++changes; }
+
+    void PlayItem(TransportItem::Kind kind = TransportItem::Kind::File)
+    {
+        ASSERT_TRUE(transport.Open({ kind, "/a.avi", "a" }, { "/a.avi", false }, {}));
+        transport.Play();
+        transport.ItemStarted();
+    }
+
+    FakeEngines engines;
+    EngineTrace& trace = engines.trace;
+    std::string said;
+    int changes = 0;
+    Transport transport{ engines, [](bool) {}, *this };
+    const TransportState& state = transport.State();
+};
+
+} // namespace
+
+TEST_F(TransportTest, an_item_is_shown_as_the_engine_tells_it_and_ends_once)
+{
+    PlayItem();
+    EXPECT_EQ(state.rateText, "Loading...");
+    trace.time = 15'000;
+    trace.length = 60'000;
+    EXPECT_FALSE(transport.OnPositionTick());
+    EXPECT_EQ(state.timeText + " " + state.rateText, "00:00:15 / 00:01:00 Playing rate:1x");
+    EXPECT_EQ(state.progress, 0.25);
+    EXPECT_EQ(state.length, 60'000);
+    EXPECT_TRUE(state.isWatched && state.hasVideoOutput && !state.showAudioLogo);
+    trace.hasVideo = false;
+    transport.OnPositionTick();
+    EXPECT_TRUE(state.showAudioLogo && !state.isWatched && !state.hasVideoOutput);
+    trace.time = trace.length;
+    const auto end = transport.OnPositionTick();
+    ASSERT_TRUE(end);
+    EXPECT_FALSE(end->isDisc || end->hasFailed);
+    EXPECT_FALSE(transport.OnPositionTick());
+    EXPECT_EQ(said, "on off ");
+    transport.cmdStopClick();
+    EXPECT_EQ(state.timeText, "00:00:00 / 00:00:00");
+    EXPECT_FALSE(state.showAudioLogo);
+    EXPECT_EQ(state.progress, 0);
+}
+
+TEST_F(TransportTest, steps_stop_short_of_both_ends_and_need_an_item)
+{
+    transport.SeekBy(5'000);
+    transport.Seek(0.5);
+    EXPECT_EQ(state.progress, 0);
+    PlayItem();
+    trace.length = 20'000;
+    const auto stepFrom = [&](double time, int milliseconds) {
+        trace.time = time;
+        transport.SeekBy(milliseconds);
+        EXPECT_DOUBLE_EQ(state.progress * trace.length, trace.time);
+        return trace.time;
+    };
+    EXPECT_EQ(stepFrom(10'000, -5'000), 5'000);
+    EXPECT_EQ(stepFrom(2'000, -5'000), 0);
+    EXPECT_NEAR(stepFrom(10'000, 30'000), 19'500, 1);
+    EXPECT_NEAR(stepFrom(19'800, 5'000), 19'800, 1); // who is there already is not thrown back
+}
+
+TEST_F(TransportTest, the_wheel_adds_parts_of_a_notch_until_it_turns_back)
+{
+    transport.TurnVolume(120);
+    EXPECT_EQ(state.volume, 100);
+    transport.TurnVolume(-80);
+    EXPECT_EQ(state.volume, 100);
+    transport.TurnVolume(-80);
+    EXPECT_EQ(state.volume, 95);
+    transport.TurnVolume(100);
+    EXPECT_EQ(state.volume, 95);
+    transport.TurnVolume(20);
+    EXPECT_EQ(state.volume, 100);
+    transport.TurnVolume(-120 * 50);
+    EXPECT_EQ(state.volume, 0);
+    PlayItem();
+    EXPECT_EQ(trace.volume, 0); // a fresh engine is told
+}
+
+TEST_F(TransportTest, the_chosen_rate_holds_for_an_item_and_what_is_held_ends_with_it)
+{
+    PlayItem();
+    transport.IncreaseRate();
+    EXPECT_EQ(trace.rateSet, 2);
+    EXPECT_EQ(state.rateText, "Playing rate:2x");
+    transport.cmdffMouseDown();
+    transport.RewindPressed();
+    EXPECT_TRUE(state.isRewinding);
+    trace.length = 10'000;
+    trace.time = 5'000;
+    transport.OnRewindTick();
+    EXPECT_EQ(trace.time, 4'990);
+    PlayItem();
+    EXPECT_FALSE(state.isRewinding);
+    EXPECT_EQ(state.chosenRate, 1);
+    transport.RewindPressed();
+    trace.state = Engine::kEnded;
+    transport.OnPositionTick();
+    EXPECT_FALSE(state.isRewinding);
+    transport.IncreaseRate(); // without an item it is only remembered
+    EXPECT_EQ(state.chosenRate, 2);
+    EXPECT_EQ(trace.rateSet, 0);
+}
+
+TEST_F(TransportTest, openings_and_stops_put_what_was_begun_out_of_date)
+{
+    const auto before = transport.Generation();
+    PlayItem(TransportItem::Kind::DriveDisc);
+    EXPECT_TRUE(transport.Item().IsDisc());
+    const auto opened = transport.Generation();
+    transport.cmdStopClick();
+    EXPECT_TRUE(before != opened && opened != transport.Generation());
+    trace.takesItems = false;
+    EXPECT_FALSE(transport.Open({}, {}, {}));
+}
