@@ -156,7 +156,7 @@ QAccessibleInterface* FancyListAccessible::childAt(int x, int y) const
         return Row(row);
     // The rows go on behind the line at the bottom, so only the widgets are asked.
     for (int i = list.Count(); i < childCount(); ++i) {
-        if (auto* const widget = child(i); widget->rect().contains(x, y) && !widget->state().invisible)
+        if (auto* const widget = child(i); widget->rect().contains(x, y))
             return widget;
     }
     return nullptr;

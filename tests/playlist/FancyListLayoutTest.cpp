@@ -117,6 +117,7 @@ TEST_F(FancyListLayoutTest, WhatPlaysAndWhatTheKeysReachIsBroughtIntoSightByTheS
     EXPECT_EQ(valueAfterPlaying(1), 60);
     EXPECT_EQ(valueAfterPlaying(20), 60);
     EXPECT_EQ(items.PlayingItem(), kNone);
+    layout->SetScrollValue(5);
     EXPECT_EQ(valueAfterPlaying(0), 0);
     EXPECT_EQ(valueAfterPlaying(2), 0);
     layout->SetScrollValue(500);
