@@ -63,18 +63,7 @@ TEST_F(FancyListLayoutTest, RowsRangeAndRectanglesFollowTheScrollValue)
     EXPECT_EQ(layout->RowAt(0), 0) << "rows without height are harmless";
 }
 
-TEST_F(FancyListLayoutTest, TheScrollBarHidesAtTheBottomOfWholeRows)
-{
-    layout->SetSurfaceSize(300, 480);
-    Add(6);
-    EXPECT_FALSE(layout->ScrollBarVisible());
-    Add(1);
-    EXPECT_TRUE(layout->ScrollBarVisible());
-    layout->SetScrollValue(layout->ScrollMax());
-    EXPECT_FALSE(layout->ScrollBarVisible());
-}
-
-TEST_F(FancyListLayoutTest, TheThumbOfTheScrollBarWalksItsWholeWay)
+TEST_F(FancyListLayoutTest, TheThumbOfTheScrollBarWalksItsWholeWayAndHidesAtTheBottomOfWholeRows)
 {
     Add(10);
     EXPECT_EQ(layout->ScrollThumb(8).Height(), 310);
@@ -85,6 +74,15 @@ TEST_F(FancyListLayoutTest, TheThumbOfTheScrollBarWalksItsWholeWay)
     EXPECT_EQ(layout->ScrollThumb(8).bottom, 498);
     EXPECT_EQ(layout->ScrollValueForThumb(layout->ScrollThumb(8).top), layout->ScrollMax());
     EXPECT_EQ(layout->ScrollValueForThumb(-100), 0);
+    layout->SetSurfaceSize(300, 480);
+    EXPECT_TRUE(layout->ScrollBarVisible());
+    layout->SetScrollValue(layout->ScrollMax());
+    EXPECT_FALSE(layout->ScrollBarVisible());
+    playlist.RemoveAll();
+    Add(7);
+    EXPECT_TRUE(layout->ScrollBarVisible());
+    items.RemoveItem(6);
+    EXPECT_FALSE(layout->ScrollBarVisible());
 }
 
 TEST_F(FancyListLayoutTest, TheWheelMovesByHalvesRoundedToEvenAndStopsAtTheEnds)

@@ -28,6 +28,7 @@ TEST(OpenFilesTest, AFolderIsFollowedByItsNames)
     EXPECT_EQ(*ParseOpenFileResult("/v\0b.avi\0a\\.avi"sv, '/'), expected);
     EXPECT_EQ(*ParseOpenFileResult("/v/\0b.avi\0a\\.avi"sv, '/'), expected);
     EXPECT_EQ(*ParseOpenFileResult("/v\0"sv, '/'), (Files{ { "", "/v/" } }));
+    EXPECT_FALSE(ParseOpenFileResult("/v\0a.avi\0b.avi\0a.avi"sv, '/')) << "a name that comes twice";
 }
 
 TEST(OpenFilesTest, PathsOfADialogBecomeOneAnswerForEachFolder)
@@ -43,11 +44,6 @@ TEST(OpenFilesTest, TheTitleIsTheNameAndOnlyTheFirstOneCanPlay)
     EXPECT_EQ(requests[0].title + "|" + requests[1].path, "a.avi|C:\\Video\\b.avi");
     EXPECT_TRUE(requests[0].playNow && !requests[1].playNow);
     EXPECT_FALSE(AddRequests(files, '\\', false)[0].playNow);
-}
-
-TEST(OpenFilesTest, ANameThatComesTwiceStopsTheWholeChoice)
-{
-    EXPECT_FALSE(ParseOpenFileResult("/v\0a.avi\0b.avi\0a.avi"sv, '/'));
 }
 
 } // namespace
