@@ -152,8 +152,14 @@ QAccessibleInterface* FancyListAccessible::childAt(int x, int y) const
     const auto at = list.mapFromGlobal(QPoint(x, y));
     const bool onSurface =
         at.x() >= 0 && at.x() < list.Layout().SurfaceWidth() && at.y() >= 0 && at.y() < list.Layout().SurfaceHeight();
-    const int row = onSurface ? list.Layout().RowAt(at.y()) : FancyListItems::kNone;
-    return row != FancyListItems::kNone ? Row(row) : QAccessibleWidget::childAt(x, y);
+    if (const int row = onSurface ? list.Layout().RowAt(at.y()) : FancyListItems::kNone; row != FancyListItems::kNone)
+        return Row(row);
+    // The rows go on behind the line at the bottom, so only the widgets are asked.
+    for (int i = list.Count(); i < childCount(); ++i) {
+        if (auto* const widget = child(i); widget->rect().contains(x, y))
+            return widget;
+    }
+    return nullptr;
 }
 
 int FancyListAccessible::indexOfChild(const QAccessibleInterface* child) const

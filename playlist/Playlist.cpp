@@ -78,13 +78,11 @@ bool Playlist::MoveSelection(SelectionMove move, std::int32_t playMode)
 {
     const int before = m_list.SelectedItem();
     const int last = Count() - 1;
-    // A removal can leave the selection behind the last entry.
-    const int from = std::min(before, Count());
     int row = 0;
     if (move == SelectionMove::Up)
-        row = std::max(from - 1, 0);
+        row = std::max(before - 1, 0);
     else if (move == SelectionMove::Down)
-        row = std::min(from + 1, last);
+        row = std::min(before + 1, last);
     else if (move == SelectionMove::ToLast)
         row = last;
     m_list.SetSelectedItem(row);

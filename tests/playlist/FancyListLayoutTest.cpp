@@ -30,7 +30,7 @@ protected:
     void Add(int count)
     {
         for (int i = 0; i < count; ++i)
-            items.AddItem("row " + std::to_string(i), {});
+            playlist.Append({ "row " + std::to_string(i), "/v/" + std::to_string(i), {}, "" });
     }
     Playlist playlist{ [] { return 0.5; } };
     FancyListItems& items = playlist.List();
@@ -38,16 +38,11 @@ protected:
     std::optional<FancyListLayout> layout{ std::in_place, items, screen };
 };
 
-TEST_F(FancyListLayoutTest, AnEmptyListHasNoRowsNoRangeAndNoScrollBar)
-{
-    EXPECT_LT(layout->VisibleRows().last, layout->VisibleRows().first);
-    EXPECT_EQ(layout->ScrollMax(), 0);
-    EXPECT_FALSE(layout->ScrollBarVisible());
-    EXPECT_EQ(layout->RowAt(0), kNone);
-}
-
 TEST_F(FancyListLayoutTest, RowsRangeAndRectanglesFollowTheScrollValue)
 {
+    EXPECT_LT(layout->VisibleRows().last, layout->VisibleRows().first);
+    EXPECT_EQ(layout->RowAt(0), kNone);
+    EXPECT_EQ(layout->ScrollMax(), 0);
     Add(20);
     EXPECT_EQ(layout->ScrollMax(), 20 * 80 - 500);
     EXPECT_EQ(layout->VisibleRows(), (ListRows{ 0, 7 }));
@@ -58,60 +53,49 @@ TEST_F(FancyListLayoutTest, RowsRangeAndRectanglesFollowTheScrollValue)
     EXPECT_EQ(layout->TextRect(1), (ListRect{ 80, -12, 292, 60 }));
     layout->SetThumbnails(false);
     EXPECT_EQ(layout->TextRect(1).left, 8);
-    EXPECT_EQ(layout->RowAt(59), 1);
-    EXPECT_EQ(layout->RowAt(60), 2);
-    EXPECT_EQ(layout->RowAt(-101), kNone);
+    EXPECT_EQ((std::vector{ layout->RowAt(-101), layout->RowAt(59), layout->RowAt(60) }), (std::vector{ kNone, 1, 2 }));
     layout->SetScrollValue(5000);
     EXPECT_EQ(layout->VisibleRows().last, 19);
     EXPECT_EQ(layout->RowAt(500), kNone);
     layout->SetItemHeight(100);
     EXPECT_EQ(layout->ScrollMax(), 20 * 100 - 500);
+    layout->SetItemHeight(0);
+    EXPECT_EQ(layout->RowAt(0), 0) << "rows without height are harmless";
 }
 
-TEST_F(FancyListLayoutTest, TheScrollBarHidesAtTheBottomOfWholeRows)
+TEST_F(FancyListLayoutTest, TheThumbOfTheScrollBarWalksItsWholeWayAndHidesAtTheBottomOfWholeRows)
 {
-    layout->SetSurfaceSize(300, 480);
-    Add(6);
-    EXPECT_FALSE(layout->ScrollBarVisible());
-    Add(1);
-    EXPECT_TRUE(layout->ScrollBarVisible());
-    layout->SetScrollValue(layout->ScrollMax());
-    EXPECT_FALSE(layout->ScrollBarVisible());
-}
-
-TEST_F(FancyListLayoutTest, TheThumbOfTheScrollBarWalksItsWholeWay)
-{
-    Add(500);
+    Add(10);
+    EXPECT_EQ(layout->ScrollThumb(8).Height(), 310);
+    Add(490);
     EXPECT_EQ(layout->ScrollBar(8), (ListRect{ 288, 2, 296, 498 }));
     EXPECT_EQ(layout->ScrollThumb(8), (ListRect{ 288, 2, 296, 30 }));
     layout->SetScrollValue(layout->ScrollMax());
     EXPECT_EQ(layout->ScrollThumb(8).bottom, 498);
     EXPECT_EQ(layout->ScrollValueForThumb(layout->ScrollThumb(8).top), layout->ScrollMax());
     EXPECT_EQ(layout->ScrollValueForThumb(-100), 0);
-    items.Clear();
-    Add(10);
-    EXPECT_EQ(layout->ScrollThumb(8).Height(), 310);
+    layout->SetSurfaceSize(300, 480);
+    EXPECT_TRUE(layout->ScrollBarVisible());
+    layout->SetScrollValue(layout->ScrollMax());
+    EXPECT_FALSE(layout->ScrollBarVisible());
+    playlist.RemoveAll();
+    Add(7);
+    EXPECT_TRUE(layout->ScrollBarVisible());
+    items.RemoveItem(6);
+    EXPECT_FALSE(layout->ScrollBarVisible());
 }
 
 TEST_F(FancyListLayoutTest, TheWheelMovesByHalvesRoundedToEvenAndStopsAtTheEnds)
 {
     Add(20);
-    layout->Scroll(-120); // 7.5
-    EXPECT_EQ(layout->ScrollValue(), 8);
-    layout->Scroll(-8); // 8.5
-    EXPECT_EQ(layout->ScrollValue(), 8);
-    layout->Scroll(1'000'000);
-    EXPECT_EQ(layout->ScrollValue(), 0);
-    layout->Scroll(-1'000'000);
-    EXPECT_EQ(layout->ScrollValue(), 1100);
-}
-
-TEST_F(FancyListLayoutTest, AShrunkenRangeTakesTheViewAlong)
-{
-    Add(20);
-    layout->SetScrollValue(1100);
+    std::vector<int> values;
+    for (const int delta : { -120, -8, 1'000'000, -1'000'000 }) { // 7.5 and then 8.5 pixels
+        layout->Scroll(delta);
+        values.push_back(layout->ScrollValue());
+    }
+    EXPECT_EQ(values, (std::vector{ 8, 8, 0, 1100 }));
     items.RemoveItem(3);
-    EXPECT_EQ(layout->ScrollValue(), 1020);
+    EXPECT_EQ(layout->ScrollValue(), 1020) << "a shrunken range takes the view along";
     layout->SetSurfaceSize(300, 600);
     EXPECT_EQ(layout->ScrollValue(), 920);
     items.Clear();
@@ -119,7 +103,7 @@ TEST_F(FancyListLayoutTest, AShrunkenRangeTakesTheViewAlong)
     EXPECT_EQ(layout->ScrollValue(), 0);
 }
 
-TEST_F(FancyListLayoutTest, ARowIsBroughtIntoSightByTheShortestWay)
+TEST_F(FancyListLayoutTest, WhatPlaysAndWhatTheKeysReachIsBroughtIntoSightByTheShortestWay)
 {
     Add(20);
     const auto valueAfterPlaying = [&](int row) {
@@ -129,126 +113,84 @@ TEST_F(FancyListLayoutTest, ARowIsBroughtIntoSightByTheShortestWay)
     EXPECT_EQ(valueAfterPlaying(5), 0);
     EXPECT_EQ(valueAfterPlaying(6), 7 * 80 - 500);
     EXPECT_EQ(valueAfterPlaying(1), 60);
+    EXPECT_EQ(valueAfterPlaying(20), 60);
+    EXPECT_EQ(items.PlayingItem(), kNone);
+    layout->SetScrollValue(5);
     EXPECT_EQ(valueAfterPlaying(0), 0);
-    EXPECT_EQ(valueAfterPlaying(20), 0);
-    layout->SetSurfaceSize(300, 40);
-    EXPECT_EQ(valueAfterPlaying(3), 240);
-}
-
-TEST_F(FancyListLayoutTest, KeysBringTheSelectionIntoSightOtherChangesLeaveTheView)
-{
-    for (int i = 0; i < 20; ++i)
-        playlist.Append({ "a", "/v/" + std::to_string(i), {}, "" });
-    items.SetPlayingItem(2);
+    EXPECT_EQ(valueAfterPlaying(2), 0);
     layout->SetScrollValue(500);
     items.SetSelectedItem(1);
     playlist.RemoveSelected();
-    items.SetPlayingItem(kNone);
     items.Press(0);
-    EXPECT_EQ(layout->ScrollValue(), 500);
+    EXPECT_EQ(layout->ScrollValue(), 500) << "other changes leave the view";
     playlist.MoveSelection(SelectionMove::Up, kPlayContinuous);
     EXPECT_EQ(layout->ScrollValue(), 0);
     playlist.MoveSelection(SelectionMove::ToLast, kPlayContinuous);
     EXPECT_EQ(layout->ScrollValue(), layout->ScrollMax());
+    layout->SetSurfaceSize(300, 40);
+    EXPECT_EQ(valueAfterPlaying(3), 240) << "a row higher than the surface shows its top";
 }
 
-TEST_F(FancyListLayoutTest, ASelectionOutsideTheListIsIgnoredAndAPressBesideTheRowsClearsIt)
+TEST_F(FancyListLayoutTest, SelectionAndMarkStayWithTheirRowsAndInsideTheList)
 {
-    EXPECT_EQ(items.SelectedText(), "");
-    Add(3);
-    items.SetSelectedItem(1);
-    items.SetSelectedItem(3);
-    items.SetSelectedItem(-1);
-    EXPECT_EQ(items.SelectedItem(), 1);
-    EXPECT_EQ(items.SelectedText(), "row 1");
-    items.Press(layout->RowAt(240));
-    EXPECT_EQ(items.SelectedItem(), kNone);
-    items.Press(3);
-    EXPECT_EQ(items.SelectedItem(), kNone);
-}
-
-TEST_F(FancyListLayoutTest, RemovingSelectsWhatMovedUpOrPointsPastTheEnd)
-{
-    Add(3);
-    items.SetSelectedItem(0);
+    const auto marks = [&] { return std::pair(items.SelectedItem(), items.PlayingItem()); };
+    Add(4);
     items.SetPlayingItem(2);
+    for (const int row : { 1, 4, -1 })
+        items.SetSelectedItem(row);
+    EXPECT_EQ(items.SelectedText(), "row 1");
+    items.Press(4);
+    EXPECT_EQ(marks(), std::pair(kNone, 2));
     items.RemoveItem(1);
-    EXPECT_EQ(items.SelectedItem(), 1);
-    EXPECT_EQ(items.PlayingItem(), 1);
-    items.RemoveItem(2);
-    items.RemoveItem(-1);
-    EXPECT_EQ(items.Count(), 2);
+    EXPECT_EQ(marks(), std::pair(1, 1));
+    for (const int row : { 3, -1, 2 })
+        items.RemoveItem(row);
+    EXPECT_EQ(marks(), std::pair(1, 1));
     items.RemoveItem(1);
-    EXPECT_EQ(items.SelectedItem(), 1);
+    EXPECT_EQ(marks(), std::pair(1, kNone)) << "one past the end";
     EXPECT_EQ(items.SelectedText(), "");
-    EXPECT_EQ(items.PlayingItem(), kNone);
     items.SetPlayingItem(0);
     items.Clear();
-    EXPECT_EQ(items.SelectedItem(), kNone);
-    EXPECT_EQ(items.PlayingItem(), kNone);
+    EXPECT_EQ(marks(), std::pair(kNone, kNone));
 }
 
 TEST_F(FancyListLayoutTest, EachChangeTellsTheScreenByItsOwnRule)
 {
     Add(20);
-    // Each: repaints with and without Refresh, and news of the list in either case.
-    struct {
-        std::function<void()> change;
-        int repaints, silentRepaints, news;
-    } const rules[] = {
-        { [&] { layout->SetPadding(8); }, 1, 0, 0 },
-        { [&] { layout->SetImageWidth(64); }, 1, 0, 0 },
-        { [&] { layout->SetImageHeight(64); }, 1, 0, 0 },
-        { [&] { layout->SetItemHeight(80); }, 1, 0, 0 },
-        { [&] { layout->SetNoThumbBlack(false); }, 1, 0, 0 },
-        { [&] { layout->SetThumbnails(true); }, 0, 0, 0 },
-        { [&] { layout->Scroll(-16); }, 1, 1, 0 },
-        { [&] { layout->SetSurfaceSize(300, 500); }, 1, 1, 0 },
-        { [&] { items.SetRefresh(items.Refresh()); }, 1, 1, 0 },
-        { [&] { items.AddItem("x", {}); }, 1, 0, 1 },
-        { [&] { items.RemoveItem(20); }, 1, 0, 1 },
-        { [&] { items.SetSelectedItem(3); }, 1, 0, 1 },
-        { [&] { items.SetSelectedItem(99); }, 0, 0, 0 },
-        { [&] { items.Press(kNone); }, 1, 0, 1 },
-        { [&] { items.SetPlayingItem(4); }, 1, 0, 0 },
-    };
-    for (const bool refresh : { true, false }) {
+    const std::vector<std::function<void()>> changes{ [&] { layout->SetPadding(8); },
+        [&] { layout->SetImageWidth(64); }, [&] { layout->SetImageHeight(64); }, [&] { layout->SetItemHeight(80); },
+        [&] { layout->SetNoThumbBlack(false); }, [&] { layout->SetThumbnails(true); }, [&] { layout->Scroll(-16); },
+        [&] { layout->SetSurfaceSize(300, 500); }, [&] { items.AddItem("x", {}); }, [&] { items.RemoveItem(20); },
+        [&] { items.SetSelectedItem(3); }, [&] { items.SetSelectedItem(99); }, [&] { items.Press(kNone); },
+        [&] { items.SetPlayingItem(4); }, [&] { items.SetRefresh(items.Refresh()); } };
+    const auto told = [&](bool refresh) {
         items.SetRefresh(refresh);
-        for (const auto& rule : rules) {
-            SCOPED_TRACE(testing::Message() << "rule " << &rule - rules << ", refresh " << refresh);
+        std::string counts;
+        for (const auto& change : changes) {
             screen.repaints = screen.changes = 0;
-            rule.change();
-            EXPECT_EQ(screen.repaints, refresh ? rule.repaints : rule.silentRepaints);
-            EXPECT_EQ(screen.changes, rule.news);
+            change();
+            counts += std::to_string(screen.repaints) + (screen.changes == 1 ? "! " : " ");
         }
-    }
+        return counts;
+    };
+    EXPECT_EQ(told(true), "1 1 1 1 1 0 1 1 1! 1! 1! 0 1! 1 1 ");
+    EXPECT_EQ(told(false), "0 0 0 0 0 0 1 1 0! 0! 0! 0 0! 0 1 ");
     layout.reset();
-    screen.changes = 0;
     items.Clear();
     EXPECT_EQ(screen.changes, 0);
 }
 
 TEST(FitThumbTest, PicturesKeepTheirProportionsInTheMiddleOfTheBox)
 {
-    const ListRect box{ 8, 8, 72, 72 };
-    EXPECT_EQ(FancyListLayout::FitThumb(640, 480, box), (ListRect{ 8, 16, 72, 64 }));
-    EXPECT_EQ(FancyListLayout::FitThumb(480, 640, box), (ListRect{ 16, 8, 64, 72 }));
-    EXPECT_EQ(FancyListLayout::FitThumb(16, 16, box), box);
-    // 64 x 36.5 px are drawn 36 high; the rest of 28 halves evenly.
-    EXPECT_EQ(FancyListLayout::FitThumb(128, 73, box), (ListRect{ 8, 22, 72, 58 }));
-    // 63 px wide leaves half a pixel at each side, which rounds to none.
-    EXPECT_EQ(FancyListLayout::FitThumb(63, 64, box), (ListRect{ 8, 8, 71, 72 }));
-    EXPECT_EQ(FancyListLayout::FitThumb(0, 0, box).Width(), 0);
-    EXPECT_EQ(FancyListLayout::FitThumb(1, 5000, box), (ListRect{ 40, 8, 40, 72 }));
+    const auto fit = [](int width, int height) { return FancyListLayout::FitThumb(width, height, { 8, 8, 72, 72 }); };
+    EXPECT_EQ(fit(640, 480), (ListRect{ 8, 16, 72, 64 }));
+    EXPECT_EQ(fit(480, 640), (ListRect{ 16, 8, 64, 72 }));
+    EXPECT_EQ(fit(16, 16), (ListRect{ 8, 8, 72, 72 }));
+    EXPECT_EQ(fit(128, 73), (ListRect{ 8, 22, 72, 58 })); // 36.5 px are drawn 36 high; the rest of 28 halves evenly
+    EXPECT_EQ(fit(63, 64), (ListRect{ 8, 8, 71, 72 }));   // half a pixel at each side rounds to none
+    EXPECT_EQ(fit(0, 128), (ListRect{ 40, 8, 40, 136 })) << "no size, no scale";
+    EXPECT_EQ(fit(1, 5000), (ListRect{ 40, 8, 40, 72 }));
     EXPECT_EQ(FancyListLayout::FitThumb(10, 10, { 8, 8, 8, 8 }).Width(), 0);
-}
-
-TEST_F(FancyListLayoutTest, RowsWithoutHeightAreHarmless)
-{
-    layout->SetItemHeight(0);
-    Add(1);
-    EXPECT_EQ(layout->VisibleRows().last, 0);
-    EXPECT_EQ(layout->RowAt(0), 0);
 }
 
 } // namespace

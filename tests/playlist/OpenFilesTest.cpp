@@ -28,25 +28,22 @@ TEST(OpenFilesTest, AFolderIsFollowedByItsNames)
     EXPECT_EQ(*ParseOpenFileResult("/v\0b.avi\0a\\.avi"sv, '/'), expected);
     EXPECT_EQ(*ParseOpenFileResult("/v/\0b.avi\0a\\.avi"sv, '/'), expected);
     EXPECT_EQ(*ParseOpenFileResult("/v\0"sv, '/'), (Files{ { "", "/v/" } }));
+    EXPECT_FALSE(ParseOpenFileResult("/v\0a.avi\0b.avi\0a.avi"sv, '/')) << "a name that comes twice";
 }
 
 TEST(OpenFilesTest, PathsOfADialogBecomeOneAnswerForEachFolder)
 {
-    const auto results = OpenFileResults({ "/v/a.avi", "/w/a.avi", "/v/b.avi", "/v/c.avi", "/d.avi" }, '/');
-    ASSERT_EQ(results,
+    EXPECT_EQ(OpenFileResults({ "/v/a.avi", "/w/a.avi", "/v/b.avi", "/v/c.avi", "/d.avi" }, '/'),
         (std::vector{ std::string("/v/\0a.avi\0b.avi\0c.avi"sv), std::string("/w/a.avi"), std::string("/d.avi") }));
-    const auto files = *ParseOpenFileResult(results[0], '/');
-    EXPECT_EQ(files.back(), (OpenedFile{ "c.avi", "/v/c.avi" }));
-    const auto requests =
-        AddRequests({ { "Video\\a.avi", "C:\\Video\\a.avi" }, { "b.avi", "C:\\Video\\b.avi" } }, '\\', true);
-    EXPECT_EQ(requests[0].title, "a.avi");
-    EXPECT_TRUE(requests[0].playNow);
-    EXPECT_FALSE(requests[1].playNow);
 }
 
-TEST(OpenFilesTest, ANameThatComesTwiceStopsTheWholeChoice)
+TEST(OpenFilesTest, TheTitleIsTheNameAndOnlyTheFirstOneCanPlay)
 {
-    EXPECT_FALSE(ParseOpenFileResult("/v\0a.avi\0b.avi\0a.avi"sv, '/'));
+    const Files files{ { "Video\\a.avi", "C:\\Video\\a.avi" }, { "b.avi", "C:\\Video\\b.avi" } };
+    const auto requests = AddRequests(files, '\\', true);
+    EXPECT_EQ(requests[0].title + "|" + requests[1].path, "a.avi|C:\\Video\\b.avi");
+    EXPECT_TRUE(requests[0].playNow && !requests[1].playNow);
+    EXPECT_FALSE(AddRequests(files, '\\', false)[0].playNow);
 }
 
 } // namespace
