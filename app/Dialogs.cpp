@@ -2,8 +2,8 @@
 
 #include "app/Player.h"
 #include "app/frmMain.h"
-#include "platform/OpenDocument.h"
-#include "platform/TextFile.h"
+#include "platform/AssociationShell.h"
+#include "platform/Files.h"
 #include "shell/QtText.h"
 #include "shell/frmAbout.h"
 #include "shell/frmSettings.h"

@@ -2,8 +2,7 @@
 
 #include "base/Numbers.h"
 #include "base/Paths.h"
-#include "platform/Folders.h"
-#include "platform/TextFile.h"
+#include "platform/Files.h"
 #include "shell/Caption.h"
 
 #include <utility>

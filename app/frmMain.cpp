@@ -2,8 +2,8 @@
 
 #include "app/Player.h"
 #include "app/VideoMenu.h"
-#include "platform/Folders.h"
-#include "platform/QuitRequest.h"
+#include "platform/Files.h"
+#include "platform/Process.h"
 #include "platform/Window.h"
 #include "playback/TimeText.h"
 #include "playback/VideoFrame.h"

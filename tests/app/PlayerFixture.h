@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/ClassicHandlers.h"
-#include "platform/TextFile.h"
+#include "platform/Files.h"
 #include "tests/live/StillWorld.h"
 
 #include <gtest/gtest.h>
