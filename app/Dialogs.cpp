@@ -2,9 +2,8 @@
 
 #include "app/Player.h"
 #include "app/frmMain.h"
-#include "platform/Folders.h"
-#include "platform/OpenDocument.h"
-#include "platform/TextFile.h"
+#include "platform/AssociationShell.h"
+#include "platform/Files.h"
 #include "playlist/OpenFiles.h"
 #include "shell/MessageDialog.h"
 #include "shell/QtText.h"

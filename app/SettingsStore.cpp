@@ -1,8 +1,7 @@
 #include "app/SettingsStore.h"
 
 #include "base/Numbers.h"
-#include "platform/Folders.h"
-#include "platform/TextFile.h"
+#include "platform/Files.h"
 #include "playback/EngineOptions.h"
 #include "playback/Snapshot.h"
 

@@ -1,8 +1,7 @@
 #include "app/Snapshots.h"
 
 #include "base/Paths.h"
-#include "platform/Folders.h"
-#include "platform/TextFile.h"
+#include "platform/Files.h"
 #include "playback/Snapshot.h"
 
 namespace zentaro {

@@ -9,7 +9,7 @@
 #include "app/WindowKeys.h"
 #include "app/WindowNotes.h"
 #include "app/frmMenu.h"
-#include "platform/QuitRequest.h"
+#include "platform/Process.h"
 #include "platform/Window.h"
 #include "playback/VideoFrame.h"
 #include "playlist/FancyList.h"

@@ -52,9 +52,10 @@ void ModAssoc::AssociateType(std::int16_t index)
         return;
     const auto row = AssociationRowAt(index, m_separator);
     const auto icon = m_programFolder + row.iconFile;
-    RegisterVerb(row.progId, row.description, "open", icon, "");
-    RegisterVerb(row.progId, row.description, "Add To Playlist", icon, " *Add");
-    TakeExtension(row.extension, row.progId);
+    // A type whose commands are missing would belong to nobody.
+    if (RegisterVerb(row.progId, row.description, "open", icon, "")
+        && RegisterVerb(row.progId, row.description, "Add To Playlist", icon, " *Add"))
+        TakeExtension(row.extension, row.progId);
 }
 
 void ModAssoc::UnassociateType(std::int16_t index)
@@ -87,15 +88,14 @@ void ModAssoc::Adopt()
     }
 }
 
-void ModAssoc::RegisterVerb(const std::string& progId, const std::string& description, const std::string& verb,
+bool ModAssoc::RegisterVerb(const std::string& progId, const std::string& description, const std::string& verb,
     const std::string& icon, const std::string& suffix)
 {
     const auto shell = progId + "\\shell";
-    Write(Root::ClassesRoot, progId, "", description);
-    Write(Root::ClassesRoot, shell, "", "");
-    Write(Root::ClassesRoot, shell + "\\" + verb, "", "");
-    Write(Root::ClassesRoot, shell + "\\" + verb + "\\command", "", m_programPath + " %1" + suffix);
-    Write(Root::ClassesRoot, progId + "\\DefaultIcon", "", icon.empty() ? m_programPath : icon);
+    return Write(Root::ClassesRoot, progId, "", description) && Write(Root::ClassesRoot, shell, "", "")
+        && Write(Root::ClassesRoot, shell + "\\" + verb, "", "")
+        && Write(Root::ClassesRoot, shell + "\\" + verb + "\\command", "", m_programPath + " %1" + suffix)
+        && Write(Root::ClassesRoot, progId + "\\DefaultIcon", "", icon.empty() ? m_programPath : icon);
 }
 
 std::int16_t ModAssoc::IsOurs(const std::string& extension, const std::string& progId)

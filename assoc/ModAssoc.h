@@ -30,8 +30,9 @@ public:
     /// The store learns to whom other hands have given types since it was written.
     void AdoptLiveOwners();
 
-    /// One command of a type: `suffix` follows the file's name. An empty icon stands for the program's own.
-    void RegisterVerb(const std::string& progId, const std::string& description, const std::string& verb,
+    /// One command of a type: `suffix` follows the file's name. An empty icon stands for the program's own. False when
+    /// the store has not taken all of it.
+    bool RegisterVerb(const std::string& progId, const std::string& description, const std::string& verb,
         const std::string& icon, const std::string& suffix);
     /// 1 or 0.
     std::int16_t IsOurs(const std::string& extension, const std::string& progId);

@@ -15,10 +15,10 @@ endfunction()
 # Windows; nothing elsewhere.
 function(zentaro_windows_manifest target)
   if(WIN32)
-    target_sources(${target} PRIVATE "${PROJECT_SOURCE_DIR}/platform/zentaro.rc")
-    set_source_files_properties("${PROJECT_SOURCE_DIR}/platform/zentaro.rc" TARGET_DIRECTORY ${target}
-      PROPERTIES OBJECT_DEPENDS "${PROJECT_SOURCE_DIR}/platform/zentaro.manifest")
-    target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/platform")
+    target_sources(${target} PRIVATE "${PROJECT_SOURCE_DIR}/cmake/zentaro.rc")
+    set_source_files_properties("${PROJECT_SOURCE_DIR}/cmake/zentaro.rc" TARGET_DIRECTORY ${target}
+      PROPERTIES OBJECT_DEPENDS "${PROJECT_SOURCE_DIR}/cmake/zentaro.manifest")
+    target_include_directories(${target} PRIVATE "${PROJECT_SOURCE_DIR}/cmake")
   endif()
 endfunction()
 

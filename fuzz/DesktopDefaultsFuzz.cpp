@@ -1,10 +1,10 @@
-#include "platform/DesktopDefaults.h"
-#include "platform/DesktopEntry.h"
+#include "desktop/DesktopDefaults.h"
+#include "desktop/DesktopEntry.h"
 
 #include <cstdint>
 #include <cstdlib>
 
-using namespace zentaro::platform;
+using namespace zentaro::desktop;
 
 /// The user's file of defaults, and behind a NUL byte what the installed programs are made for.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

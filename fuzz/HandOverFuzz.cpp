@@ -1,8 +1,8 @@
-#include "platform/HandOverRules.h"
+#include "desktop/HandOverRules.h"
 
 #include <cstdlib>
 
-using namespace zentaro::platform;
+using namespace zentaro::desktop;
 
 /// The first byte says how large the pieces are in which the rest arrives.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

@@ -1,4 +1,4 @@
-#include "platform/MprisRules.h"
+#include "desktop/MprisRules.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -7,7 +7,7 @@
 /// Whatever a program of the session sends as a URI or as a track: it is understood or refused. A path has one URI.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size)
 {
-    using namespace zentaro::platform;
+    using namespace zentaro::desktop;
     const std::string_view text(reinterpret_cast<const char*>(bytes), size);
     MprisLoop(text);
     if (const auto track = MprisTrackOf(text); track != 0 && MprisTrackOf(MprisTrackPath(track)) != track)

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "base/Picture.h"
+#include "base/Result.h"
+
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -44,5 +48,16 @@ public:
 /// This executable as a command line of the association store begins: on Windows its short path, elsewhere its
 /// absolute path with the quotes that a desktop entry asks for.
 std::string ShortProgramPath();
+
+/// Where the help begins, below the program folder: one file on Windows, pages for the browser elsewhere.
+std::string HelpFile();
+
+/// Opens a file (an absolute path) or a web address in the program that the user has chosen for it, and does not wait.
+/// Fails when the system knows no such program.
+Result<void> OpenDocument(const std::string& target);
+
+/// The icon at that place of a program or a library; a negative number is the icon's own number there. No picture when
+/// there is none, and on systems whose programs hold no icons.
+Picture IconInFile(const std::string& file, std::int32_t index);
 
 } // namespace zentaro::platform

@@ -1,12 +1,15 @@
 #include "platform/AssociationShell.h"
-#include "platform/ChildProcess.h"
-#include "platform/DesktopDefaults.h"
-#include "platform/DesktopEntry.h"
-#include "platform/TextFile.h"
-#include "platform/TypeIcons_linux.h"
 
+#include "desktop/DesktopDefaults.h"
+#include "desktop/DesktopEntry.h"
+#include "platform/DesktopFiles_linux.h"
+#include "platform/Files.h"
+
+#include <QDesktopServices>
+#include <QFile>
 #include <QMimeDatabase>
 #include <QStandardPaths>
+#include <QUrl>
 
 #include <algorithm>
 #include <cctype>
@@ -16,67 +19,21 @@
 #include <system_error>
 
 namespace zentaro::platform {
+
+using namespace desktop;
+
 namespace {
 
 namespace fs = std::filesystem;
-using std::chrono_literals::operator""s;
 
-// bytes; such files are far shorter
-constexpr std::size_t kFileLimit = 1 << 20;
-constexpr std::size_t kCacheLimit = 8 << 20;
+constexpr std::size_t kCacheLimit = 8 << 20; // bytes
 
 const std::string kOpenEntryFile = std::string("applications/") + kOpenEntry;
 const std::string kAddEntryFile = std::string("applications/") + kAddEntry;
 
-/// The user's own folder first.
-std::vector<std::string> FoldersOf(QStandardPaths::StandardLocation location)
-{
-    std::vector<std::string> folders;
-    for (const auto& folder : QStandardPaths::standardLocations(location))
-        folders.push_back(folder.toStdString());
-    return folders;
-}
-
 bool Contains(const std::vector<std::string>& list, const std::string& text)
 {
     return std::find(list.begin(), list.end(), text) != list.end();
-}
-
-std::optional<std::string> ReadWhole(const std::string& path)
-{
-    auto text = ReadTextFile(path, kFileLimit);
-    return text && text->size() < kFileLimit ? text : std::nullopt;
-}
-
-/// The names of the files of defaults in a folder, the first one counting most.
-std::vector<std::string> DefaultsNames()
-{
-    std::vector<std::string> names;
-    const char* desktops = std::getenv("XDG_CURRENT_DESKTOP");
-    std::string rest = desktops ? desktops : "";
-    while (!rest.empty()) {
-        auto name = rest.substr(0, rest.find(':'));
-        rest.erase(0, name.size() + 1);
-        std::transform(name.begin(), name.end(), name.begin(), [](unsigned char c) { return std::tolower(c); });
-        if (!name.empty() && name.find('/') == std::string::npos)
-            names.push_back(name + "-mimeapps.list");
-    }
-    names.push_back("mimeapps.list");
-    return names;
-}
-
-/// The value of a key in the entry's main group.
-std::string EntryValue(const std::string& text, const std::string& key)
-{
-    const auto start = text.find("[Desktop Entry]");
-    if (start == std::string::npos)
-        return {};
-    const auto main = text.substr(start, text.find("\n[", start) - start);
-    const auto at = main.find("\n" + key + "=");
-    if (at == std::string::npos)
-        return {};
-    const auto first = at + key.size() + 2;
-    return main.substr(first, main.find_first_of("\r\n", first) - first);
 }
 
 /// What this system calls the files with that extension.
@@ -88,51 +45,6 @@ std::string UsualType(const std::string& extension)
             return name;
     }
     return types.empty() ? "" : types.front();
-}
-
-/// Does nothing where the tool is missing.
-void RunTool(const std::string& name, const std::vector<std::string>& arguments, bool wait)
-{
-    const auto tool = FindTool(name, "");
-    if (!tool)
-        return;
-    const auto process = ShellStart({ *tool, arguments, "", 0, !wait });
-    if (process && wait)
-        process->HasEnded(3s);
-}
-
-/// Makes the file hold the text, or go when there is none. True when it had to change, nothing when it would not.
-std::optional<bool> BringFileInLine(const std::string& path, const std::optional<std::string>& text)
-{
-    std::error_code error;
-    if (!text) {
-        const bool removed = fs::remove(path, error);
-        return error ? std::nullopt : std::optional(removed);
-    }
-    if (ReadTextFile(path, kFileLimit) == text)
-        return false;
-    fs::create_directories(fs::path(path).parent_path(), error);
-    return ReplaceTextFile(path, *text) ? std::optional(true) : std::nullopt;
-}
-
-/// The text of an installed desktop entry. A dash in its name may stand for a folder.
-std::optional<std::string> ReadEntry(const std::vector<std::string>& dataFolders, const std::string& name)
-{
-    std::vector<std::string> files = { name };
-    for (auto dash = name.find('-'); dash != std::string::npos; dash = name.find('-', dash + 1)) {
-        files.push_back(name);
-        files.back()[dash] = '/';
-    }
-    for (const auto& folder : dataFolders) {
-        for (const auto& file : files) {
-            auto text = ReadWhole(folder + "/applications/" + file);
-            if (!text)
-                continue;
-            // One that is hidden is as good as removed, for all folders that follow.
-            return EntryValue(*text, "Hidden") == "true" ? std::nullopt : std::move(text);
-        }
-    }
-    return std::nullopt;
 }
 
 /// The desktop by its common files, which every desktop environment reads.
@@ -184,7 +96,8 @@ public:
         const auto facts = Facts(types);
         const auto& owned = facts.mimeTypes;
         // Only what we have taken is given back: who has made this player the default by other means means it.
-        const auto before = TypesOfEntry();
+        const auto before = TakenTypes();
+        const auto addEntry = ReadDesktopFile(DataPath(kAddEntryFile));
         for (const auto& name : owned)
             m_defaults.Take(name);
         for (const auto& name : before) {
@@ -202,8 +115,7 @@ public:
             return true;
         }
         RevertDefaults();
-        if (before.empty())
-            BringFileInLine(DataPath(kAddEntryFile), std::nullopt);
+        BringFileInLine(DataPath(kAddEntryFile), addEntry);
         return false;
     }
 
@@ -218,7 +130,7 @@ private:
     bool ReadOwnDefaults(const std::string& path)
     {
         const bool exists = PathExists(path);
-        const auto text = ReadWhole(path);
+        const auto text = ReadDesktopFile(path);
         m_ownFiles.push_back({ path, text });
         m_defaults.own.emplace_back(text.value_or(""));
         return !exists || (text && MayWriteFile(path));
@@ -227,7 +139,7 @@ private:
     void ReadOtherDefaults(const std::string& folder)
     {
         for (const auto& name : DefaultsNames()) {
-            if (const auto text = ReadWhole(folder + "/" + name))
+            if (const auto text = ReadDesktopFile(folder + "/" + name))
                 m_defaults.others.emplace_back(*text);
         }
     }
@@ -241,10 +153,10 @@ private:
         return m_entries[name] = isName ? ReadEntry(m_dataFolders, name) : std::nullopt;
     }
 
-    /// What the entry that we have written last was for.
-    std::vector<std::string> TypesOfEntry() const
+    /// The types that we have taken last: those for which "Add To Playlist" is on offer.
+    std::vector<std::string> TakenTypes() const
     {
-        const auto list = EntryValue(ReadWhole(DataPath(kOpenEntryFile)).value_or(""), "MimeType");
+        const auto list = EntryValue(ReadDesktopFile(DataPath(kAddEntryFile)).value_or(""), "MimeType");
         return MimeApps("[x]\nx=" + list).Programs("x", "x");
     }
 
@@ -294,11 +206,19 @@ private:
         return facts.mimeTypes.empty() ? std::nullopt : std::optional(make(facts));
     }
 
+    /// An entry of all users, as a package installs it, which one of the same name in the user's folder would hide.
+    bool HasCommonEntry() const
+    {
+        return ReadEntry({ m_dataFolders.begin() + 1, m_dataFolders.end() }, kOpenEntry).has_value();
+    }
+
     /// False when one of the two entries cannot be written.
     bool WriteEntries(const DesktopEntryFacts& facts) const
     {
         const auto add = BringFileInLine(DataPath(kAddEntryFile), TextOf(facts, &AddEntryText));
-        const auto open = add ? BringFileInLine(DataPath(kOpenEntryFile), TextOf(facts, &OpenEntryText)) : add;
+        // The common entry also says for which types this program is on offer without being their default.
+        const auto text = HasCommonEntry() ? std::nullopt : TextOf(facts, &OpenEntryText);
+        const auto open = add ? BringFileInLine(DataPath(kOpenEntryFile), text) : add;
         if (!open)
             return false;
         if (*add || *open)
@@ -363,6 +283,25 @@ std::string ShortProgramPath()
 {
     std::error_code ignored;
     return ExecQuoted(fs::read_symlink("/proc/self/exe", ignored).string());
+}
+
+std::string HelpFile()
+{
+    return "help/index.html";
+}
+
+Result<void> OpenDocument(const std::string& target)
+{
+    const auto bytes = QByteArray::fromStdString(target);
+    const auto url = IsAbsolutePath(target) ? QUrl::fromLocalFile(QFile::decodeName(bytes)) : QUrl::fromEncoded(bytes);
+    if (!QDesktopServices::openUrl(url))
+        return Error{ 0, "No program opens " + target };
+    return {};
+}
+
+Picture IconInFile(const std::string&, std::int32_t)
+{
+    return {};
 }
 
 } // namespace zentaro::platform

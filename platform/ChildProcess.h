@@ -34,7 +34,13 @@ struct ChildCommand {
 enum class StartStep { Pipe = 2001, PipeState = 2002, Process = 2003 };
 
 /// The error for a step that failed with the system's `code`.
-Error StartError(StartStep step, std::int64_t code);
+inline Error StartError(StartStep step, std::int64_t code)
+{
+    const auto* text = step == StartStep::Pipe ? "Could not create pipe LastError "
+        : step == StartStep::PipeState         ? "Could not set pipe state LastError "
+                                               : "Could not create piped process. LastError ";
+    return { static_cast<std::int32_t>(step), text + std::to_string(code) };
+}
 
 /// A process of ours that can be waited for and ended. It is waited for (on Linux: reaped) at the latest when the
 /// object goes; one that still runs then is terminated.

@@ -1,6 +1,6 @@
 #include "platform/ChildProcess.h"
 
-#include "platform/FileDescriptor_linux.h"
+#include "platform/Files_linux.h"
 
 #include <algorithm>
 #include <array>

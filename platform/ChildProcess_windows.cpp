@@ -1,5 +1,5 @@
 #include "platform/ChildProcess.h"
-#include "platform/PipeState_windows.h"
+#include "platform/System_windows.h"
 
 #include <algorithm>
 #include <array>

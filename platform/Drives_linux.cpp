@@ -1,6 +1,6 @@
 #include "platform/Drives_linux.h"
 
-#include "platform/SystemBus_linux.h"
+#include "platform/Bus_linux.h"
 
 #include <algorithm>
 #include <cstdarg>

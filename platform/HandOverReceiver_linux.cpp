@@ -8,6 +8,8 @@
 
 namespace zentaro::platform {
 
+using namespace desktop;
+
 bool IsOwnUserAt(int socket)
 {
     ucred peer{};

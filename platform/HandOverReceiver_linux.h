@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/FileDescriptor_linux.h"
+#include "desktop/HandOverRules.h"
+#include "platform/Files_linux.h"
 #include "platform/HandOver.h"
-#include "platform/HandOverRules.h"
 
 #include <QObject>
 #include <QSocketNotifier>
@@ -40,7 +40,7 @@ public:
     QTimer patience; ///< for the sender's next piece, then for the text to be opened
 
 private:
-    HandOverFrameReader m_reader;
+    desktop::HandOverFrameReader m_reader;
 };
 
 /// Receives texts at one listening socket without ever waiting for a sender or for an earlier text, on its own thread.

@@ -1,8 +1,7 @@
+#include "desktop/HandOverRules.h"
+#include "platform/Files_linux.h"
 #include "platform/HandOver.h"
 #include "platform/HandOverReceiver_linux.h"
-#include "platform/HandOverRules.h"
-#include "platform/RuntimeFolder_linux.h"
-#include "platform/SystemError_linux.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -18,6 +17,9 @@
 #include <thread>
 
 namespace zentaro::platform {
+
+using namespace desktop;
+
 namespace {
 
 using namespace std::chrono_literals;

@@ -1,6 +1,6 @@
+#include "desktop/HandOverRules.h"
 #include "platform/HandOver.h"
-#include "platform/HandOverRules.h"
-#include "platform/SystemError_windows.h"
+#include "platform/System_windows.h"
 
 #include <memory>
 #include <optional>
@@ -9,6 +9,9 @@
 #include <windows.h>
 
 namespace zentaro::platform {
+
+using namespace desktop;
+
 namespace {
 
 using Clock = std::chrono::steady_clock;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/BusThread_linux.h"
+#include "platform/Bus_linux.h"
 #include "platform/MediaControl.h"
 
 #include <memory>
@@ -40,5 +40,16 @@ private:
     MediaStatus m_shown; // only for the bus's thread
     std::unique_ptr<BusThread> m_thread;
 };
+
+/// What the bus may ask of the object and tell it, by interface; the user data is an MprisControl.
+extern const sd_bus_vtable kMprisRootTable[];
+extern const sd_bus_vtable kMprisPlayerTable[];
+extern const sd_bus_vtable kMprisTrackListTable[];
+
+inline constexpr double kMprisMicroseconds = 1000; ///< in a millisecond
+/// Parts of answers and signals. Below 0 when the message does not take them.
+int AppendMetadata(sd_bus_message* message, const MediaTrack& track, const MediaStatus& status);
+int AppendTrackPaths(sd_bus_message* message, const MediaTracks& tracks);
+std::string MprisTrackPathOrNone(std::uint64_t track);
 
 } // namespace zentaro::platform

@@ -1,11 +1,9 @@
 #include "platform/Power_windows.h"
-
-#include "platform/SystemError_windows.h"
+#include "platform/System_windows.h"
 
 #include <utility>
 
 namespace zentaro::platform {
-
 namespace {
 
 constexpr DWORD kUnspecifiedReason = 0xFFFFFFFF;
@@ -43,6 +41,30 @@ Result<void> WindowsPower::Exit(UINT flags)
 std::unique_ptr<Power> Power::Open()
 {
     return std::make_unique<WindowsPower>(&ExitWindowsEx);
+}
+
+WindowsSleepInhibitor::WindowsSleepInhibitor(StateFunction setState)
+    : m_setState(std::move(setState))
+{
+}
+
+WindowsSleepInhibitor::~WindowsSleepInhibitor()
+{
+    Hold(false);
+}
+
+void WindowsSleepInhibitor::Hold(bool held)
+{
+    if (std::exchange(m_held, held) == held)
+        return;
+    // Without ES_CONTINUOUS it would only start the idle clock anew.
+    const EXECUTION_STATE wanted = held ? ES_DISPLAY_REQUIRED | ES_SYSTEM_REQUIRED : 0;
+    m_setState(ES_CONTINUOUS | wanted);
+}
+
+std::unique_ptr<SleepInhibitor> SleepInhibitor::Open()
+{
+    return std::make_unique<WindowsSleepInhibitor>(&SetThreadExecutionState);
 }
 
 } // namespace zentaro::platform

@@ -11,4 +11,10 @@ void EndProcess()
     ExitProcess(code);
 }
 
+// The end of a session reaches the window as a message.
+void OnQuitRequest(std::function<void()>) { }
+
+// The system's sound functions report by return value only.
+void SilenceSoundLibrary() { }
+
 } // namespace zentaro::platform

@@ -35,6 +35,9 @@ public:
 };
 
 /// The key below CurrentUser of the per-user settings store: an application title and a section.
-std::string SettingsKey(const std::string& title, const std::string& section);
+inline std::string SettingsKey(const std::string& title, const std::string& section)
+{
+    return "Software\\" + title + "\\" + section;
+}
 
 } // namespace zentaro::platform

@@ -1,6 +1,5 @@
-#include "platform/FileDescriptor_linux.h"
-#include "platform/RuntimeFolder_linux.h"
-#include "platform/StoreNames.h"
+#include "desktop/StoreNames.h"
+#include "platform/Files_linux.h"
 #include "platform/StringStore.h"
 
 #include <QDateTime>
@@ -18,6 +17,9 @@
 #include <utility>
 
 namespace zentaro::platform {
+
+using namespace desktop;
+
 namespace {
 
 QVariant ToVariant(const std::string& text)

@@ -1,5 +1,5 @@
 #include "platform/StringStore.h"
-#include "platform/SystemError_windows.h"
+#include "platform/System_windows.h"
 
 #include <optional>
 #include <type_traits>

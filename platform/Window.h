@@ -16,4 +16,8 @@ void SetTopmost(NativeWindow window, bool topmost);
 /// Draws the user's attention to the window once; it is not brought to the front.
 void FlashWindowOnce(NativeWindow window);
 
+/// True when the display that this process draws on is driven by a graphics card. Without one, drawing through OpenGL
+/// is far slower than plain copies.
+bool HasGraphicsCard();
+
 } // namespace zentaro::platform

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <initializer_list>
 #include <memory>
 #include <xcb/xcb.h>
 
@@ -75,6 +76,21 @@ void SetTopmost(NativeWindow window, bool topmost)
 void FlashWindowOnce(NativeWindow window)
 {
     RequestState(window, kAddState, "_NET_WM_STATE_DEMANDS_ATTENTION");
+}
+
+bool HasGraphicsCard()
+{
+    const Connection display(xcb_connect(nullptr, nullptr));
+    if (xcb_connection_has_error(display.get()) != 0)
+        return false;
+    // A server without a card offers none of the ways in which a client hands it finished card memory.
+    for (const char* const name : { "DRI3", "DRI2", "NV-GLX" }) {
+        const auto cookie = xcb_query_extension(display.get(), static_cast<std::uint16_t>(std::strlen(name)), name);
+        const Reply<xcb_query_extension_reply_t> reply(xcb_query_extension_reply(display.get(), cookie, nullptr));
+        if (reply && reply->present != 0)
+            return true;
+    }
+    return false;
 }
 
 } // namespace zentaro::platform

@@ -1,3 +1,4 @@
+#include "platform/MediaControl.h"
 #include "platform/Window.h"
 
 #include <windows.h>
@@ -18,6 +19,18 @@ void SetTopmost(NativeWindow window, bool topmost)
 void FlashWindowOnce(NativeWindow window)
 {
     FlashWindow(reinterpret_cast<HWND>(window), TRUE);
+}
+
+// Direct3D brings a software renderer of its own and chooses by itself.
+bool HasGraphicsCard()
+{
+    return true;
+}
+
+// Media keys reach the window as messages.
+std::unique_ptr<MediaControl> MediaControl::Open(std::function<void(MediaCommand)>)
+{
+    return nullptr;
 }
 
 } // namespace zentaro::platform

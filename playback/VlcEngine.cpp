@@ -1,7 +1,7 @@
 #include "playback/VlcEngine.h"
 
-#include "platform/Graphics.h"
-#include "platform/SoundLibrary.h"
+#include "platform/Process.h"
+#include "platform/Window.h"
 #include "playback/VideoFrame.h"
 
 #include <QGuiApplication>

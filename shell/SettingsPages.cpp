@@ -1,7 +1,7 @@
 #include "shell/SettingsPages.h"
 
 #include "base/Paths.h"
-#include "platform/Folders.h"
+#include "platform/Files.h"
 
 #include <algorithm>
 

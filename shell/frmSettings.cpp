@@ -1,7 +1,7 @@
 #include "shell/frmSettings.h"
 
 #include "base/Paths.h"
-#include "platform/Folders.h"
+#include "platform/Files.h"
 #include "shell/MessageDialog.h"
 #include "shell/QtText.h"
 #include "shell/Style.h"

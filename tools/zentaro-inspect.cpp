@@ -5,8 +5,7 @@
 #include "inspect/DiskFiles.h"
 #include "inspect/QtServices.h"
 #include "inspect/clsSource.h"
-#include "platform/Folders.h"
-#include "platform/TextFile.h"
+#include "platform/Files.h"
 #include "tools/DictionaryJson.h"
 
 #include <QCoreApplication>

@@ -1,5 +1,5 @@
 #include "app/MediaRemote.h"
-#include "platform/MprisRules.h"
+#include "desktop/MprisRules.h"
 #include "tests/app/PlayerFixture.h"
 
 using namespace zentaro;
@@ -60,7 +60,7 @@ TEST_F(MediaRemoteTest, without_an_entry_play_asks_nobody_for_files)
     for (const auto kind : { Kind::Play, Kind::PlayPause, Kind::Next, Kind::Stop })
         EXPECT_EQ(Do({ .kind = kind }).playback, Playback::Stopped);
     EXPECT_EQ(world.dialogs.asked, 0);
-    EXPECT_FALSE(platform::CanPlay(remote->Status()));
+    EXPECT_FALSE(desktop::CanPlay(remote->Status()));
 }
 
 TEST_F(MediaRemoteTest, seeking_stays_in_the_item_or_goes_on_to_the_next)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/Commands.h"
-#include "platform/TextFile.h"
+#include "platform/Files.h"
 #include "tests/world/World.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "assoc/ModAssoc.h"
-#include "platform/DesktopEntry.h"
-#include "platform/TextFile.h"
+#include "desktop/DesktopEntry.h"
+#include "platform/Files.h"
 #include "tests/platform/PrivateUser.h"
 
 #include <fstream>
@@ -53,7 +53,7 @@ protected:
     }
     static std::string TypeOf(std::string_view extension)
     {
-        return platform::MimeTypesOf("." + std::string(extension)).front();
+        return desktop::MimeTypesOf("." + std::string(extension)).front();
     }
     static void Save(const std::string& path, const std::string& text) { std::ofstream(path) << text; }
     static std::string Load(const std::string& path) { return ReadTextFile(path, 1'000'000).value_or("missing"); }
@@ -85,7 +85,7 @@ protected:
     void Start(const AssociationFlags& flags) const
     {
         const auto store = platform::StringStore::Open();
-        const auto path = platform::ExecQuoted(program);
+        const auto path = desktop::ExecQuoted(program);
         const auto shell = platform::AssociationShell::Open(path, programFolder + "/");
         ModAssoc(*store, *shell, path, programFolder + "/", '/').ApplyAssociations(flags);
     }

@@ -2,7 +2,7 @@
 #include "inspect/DiskFiles.h"
 #include "inspect/QtServices.h"
 #include "inspect/clsSource.h"
-#include "platform/Folders.h"
+#include "platform/Files.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "platform/CommandLine.h"
+#include "desktop/CommandLine.h"
 
 #include <gtest/gtest.h>
 
-namespace zentaro::platform {
+namespace zentaro::desktop {
 namespace {
 
 TEST(CommandLine, the_programs_own_name_is_cut_off_quoted_or_not)
@@ -25,4 +25,4 @@ TEST(CommandLine, only_an_argument_that_is_one_whole_file_name_is_made_absolute)
 }
 
 } // namespace
-} // namespace zentaro::platform
+} // namespace zentaro::desktop

@@ -1,5 +1,5 @@
-#include "platform/RuntimeFolder_linux.h"
-#include "platform/TextFile.h"
+#include "platform/Files.h"
+#include "platform/Files_linux.h"
 #include "tests/platform/PrivateUser.h"
 
 #include <csignal>

@@ -172,7 +172,7 @@ TEST_F(HandOverOnLinux, a_sender_waits_for_its_own_token_and_for_no_other)
     EXPECT_EQ(OutcomeOf(third), Silent);
     for (const auto& token : tokens)
         token();
-    EXPECT_EQ(SendHandOverText("77", std::string(kHandOverTextLimit + 1, 'a')), Silent);
+    EXPECT_EQ(SendHandOverText("77", std::string(desktop::kHandOverTextLimit + 1, 'a')), Silent);
 }
 
 TEST_F(HandOverOnLinux, a_text_that_is_not_opened_in_time_counts_as_taken_over_for_both_sides)

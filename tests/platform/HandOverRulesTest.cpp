@@ -1,8 +1,8 @@
-#include "platform/HandOverRules.h"
+#include "desktop/HandOverRules.h"
 
 #include <gtest/gtest.h>
 
-namespace zentaro::platform {
+namespace zentaro::desktop {
 namespace {
 
 std::optional<std::string> ReadIn(const std::string& bytes, std::size_t pieceSize)
@@ -49,4 +49,4 @@ TEST(HandOverHandle, is_a_plain_number_that_is_not_zero)
 }
 
 } // namespace
-} // namespace zentaro::platform
+} // namespace zentaro::desktop

@@ -1,8 +1,8 @@
-#include "platform/MprisRules.h"
+#include "desktop/MprisRules.h"
 
 #include <gmock/gmock.h>
 
-using namespace zentaro::platform;
+using namespace zentaro::desktop;
 using namespace std::chrono_literals;
 using testing::ElementsAre;
 

@@ -1,4 +1,4 @@
-#include "platform/SleepInhibitor_linux.h"
+#include "platform/Power_linux.h"
 #include "tests/platform/PrivateBus.h"
 
 #include <QCoreApplication>

@@ -1,9 +1,9 @@
-#include "platform/StoreNames.h"
+#include "desktop/StoreNames.h"
 
 #include <gtest/gtest.h>
 #include <set>
 
-namespace zentaro::platform {
+namespace zentaro::desktop {
 namespace {
 
 TEST(StoreNames, are_readable_and_differ_for_different_values)
@@ -19,4 +19,4 @@ TEST(StoreNames, are_readable_and_differ_for_different_values)
 }
 
 } // namespace
-} // namespace zentaro::platform
+} // namespace zentaro::desktop

@@ -1,5 +1,5 @@
+#include "platform/Files.h"
 #include "platform/StringStore.h"
-#include "platform/TextFile.h"
 #include "tests/platform/PrivateUser.h"
 
 namespace zentaro::platform {

@@ -1,4 +1,4 @@
-#include "platform/TextFile.h"
+#include "platform/Files.h"
 #include "tests/platform/WorkingFolder.h"
 
 #include <filesystem>

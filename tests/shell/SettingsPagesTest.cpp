@@ -1,6 +1,6 @@
 #include "shell/SettingsPages.h"
 #include "base/Paths.h"
-#include "platform/Folders.h"
+#include "platform/Files.h"
 
 #include <gtest/gtest.h>
 

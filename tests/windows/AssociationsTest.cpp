@@ -1,5 +1,5 @@
 #include "assoc/ModAssoc.h"
-#include "platform/FileIcon.h"
+#include "platform/AssociationShell.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>

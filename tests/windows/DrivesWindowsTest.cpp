@@ -1,6 +1,5 @@
 #include "platform/Drives.h"
-#include "platform/Folders.h"
-#include "platform/TextFile.h"
+#include "platform/Files.h"
 
 #include <gtest/gtest.h>
 

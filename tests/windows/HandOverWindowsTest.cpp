@@ -1,5 +1,5 @@
+#include "platform/Files.h"
 #include "platform/HandOver.h"
-#include "platform/TextFile.h"
 #include "tests/platform/WorkingFolder.h"
 
 #include <functional>

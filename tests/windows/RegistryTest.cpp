@@ -1,4 +1,4 @@
-#include "platform/Folders.h"
+#include "platform/Files.h"
 #include "platform/StringStore.h"
 
 #include <gtest/gtest.h>

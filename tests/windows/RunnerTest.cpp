@@ -1,5 +1,5 @@
 #include "inspect/ModPipes.h"
-#include "platform/PipeState_windows.h"
+#include "platform/System_windows.h"
 
 #include <gtest/gtest.h>
 

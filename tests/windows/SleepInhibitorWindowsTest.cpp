@@ -1,4 +1,4 @@
-#include "platform/SleepInhibitor_windows.h"
+#include "platform/Power_windows.h"
 
 #include <gmock/gmock.h>
 
