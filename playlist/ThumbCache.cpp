@@ -1,5 +1,7 @@
 #include "playlist/ThumbCache.h"
 
+#include "base/QtPicture.h"
+
 #include <algorithm>
 
 namespace zentaro {
@@ -16,11 +18,9 @@ bool IsOpaque(const Picture& picture)
 
 QImage Scale(const Picture& picture, const QSize& size)
 {
-    const QImage whole(reinterpret_cast<const uchar*>(picture.Pixels()), picture.Width(), picture.Height(),
-        4 * static_cast<qsizetype>(picture.Width()), QImage::Format_ARGB32);
     // A picture without transparency is copied without blending.
     const auto format = IsOpaque(picture) ? QImage::Format_RGB32 : QImage::Format_ARGB32_Premultiplied;
-    return whole.convertToFormat(format).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return ToQImage(picture).convertToFormat(format).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 } // namespace

@@ -141,25 +141,32 @@ double Skin::Middle(SkinImage image) const
     return top < bottom ? (top + bottom) / 2.0 / picture.height() : 0.5;
 }
 
-void Skin::DrawAll(QPainter& painter, const std::vector<SkinDraw>& draws)
-{
-    for (const auto& draw : draws)
-        Draw(painter, draw.image, draw.rect);
-}
-
 void Skin::DrawBackGround(QPainter& painter, int width, int height)
 {
-    DrawAll(painter, BackgroundPass(width, height, m_rects));
+    auto menuButton = m_rects.menuButtons.begin();
+    for (const auto& [image, rect] : BackgroundPass(width, height)) {
+        const auto drawn = Draw(painter, image, rect);
+        if (image == SkinImage::TitleBar)
+            m_rects.titleBar = drawn;
+        else if (image == SkinImage::MenuButton)
+            *menuButton++ = drawn;
+    }
 }
 
 void Skin::Paint(QPainter& painter, int width, int height, const SkinButtons& buttons)
 {
-    for (const auto& [image, rect] : PaintPass(width, height, buttons, m_rects)) {
-        if (image < SkinImage::FirstButton)
+    Rect drawn;
+    for (const auto& [image, rect] : PaintPass(width, height, buttons)) {
+        if (image < SkinImage::FirstButton) {
             Draw(painter, image, rect);
-        else
-            DrawButton(painter, ButtonOf(image), buttons, rect);
+            continue;
+        }
+        drawn = DrawButton(painter, ButtonOf(image), buttons, rect);
+        m_rects.buttons[static_cast<std::size_t>(ButtonOf(image))] = drawn;
     }
+    // The sound buttons come last and share one place, whichever of them shows.
+    for (const auto sound : { Button::SoundOn, Button::SoundOff })
+        m_rects.buttons[static_cast<std::size_t>(sound)] = drawn;
 }
 
 Rect Skin::DrawButton(QPainter& painter, Button button, const SkinButtons& buttons, const Rect& rect)

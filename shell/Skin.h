@@ -14,6 +14,13 @@ class QPainter;
 
 namespace zentaro {
 
+/// Where the passes drew last what takes the pointer (px).
+struct SkinRects {
+    Rect titleBar;
+    std::array<Rect, 3> menuButtons{};
+    std::array<Rect, kButtonCount> buttons{};
+};
+
 /// The window's pictures: loaded once, kept decoded, and drawn in the two passes.
 class Skin {
 public:
@@ -27,7 +34,8 @@ public:
     /// rectangle without area draw nothing. The painter may be moved and scaled, not turned.
     Rect Draw(QPainter& painter, SkinImage image, const Rect& rect);
 
-    /// The background pass, for a client area of that size (logical px).
+    /// The background pass, for a client area of that size (logical px): for whoever wants the window's still picture
+    /// without its buttons. The paint pass does not need it.
     void DrawBackGround(QPainter& painter, int width, int height);
     /// A button in its state; while that changes, a mixture of two pictures.
     Rect DrawButton(QPainter& painter, Button button, const SkinButtons& buttons, const Rect& rect);
@@ -38,7 +46,6 @@ public:
     /// The middle, as a share of the height, of what the picture shows in its place; halfway for an empty one.
     double Middle(SkinImage image) const;
 
-    /// What takes the pointer, where the passes drew it last.
     const SkinRects& Rects() const { return m_rects; }
 
 private:
@@ -55,7 +62,6 @@ private:
 
     Rect DrawPicture(QPainter& painter, const Rect& rect, const std::function<QImage(const QSize&)>& picture);
     QImage ScaledCopy(SkinImage image, const QSize& size);
-    void DrawAll(QPainter& painter, const std::vector<SkinDraw>& draws);
 
     std::array<QImage, kSkinImageCount> m_images;
     QCache<CopyKey, QImage> m_copies; // the cost is in KiB

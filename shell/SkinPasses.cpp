@@ -145,24 +145,21 @@ std::vector<SkinFile> SkinLoadOrder()
     return files;
 }
 
-std::vector<SkinDraw> BackgroundPass(int width, int height, SkinRects& rects)
+std::vector<SkinDraw> BackgroundPass(int width, int height)
 {
     const WindowLayout layout(width, height);
-    rects.titleBar = layout.TitleBar();
-    rects.menuButtons = { Rect{ 18, 28, 43, 23 }, Rect{ 62, 28, 43, 23 }, Rect{ 106, 28, 43, 23 } };
-
     std::vector<SkinDraw> draws;
     draws.push_back({ SkinImage::Menu, { 15, 31, width - 15, 19 } });
     draws.push_back({ SkinImage::MenuBar, { 15, 50, width - 15, 6 } });
-    for (const auto& rect : rects.menuButtons)
-        draws.push_back({ SkinImage::MenuButton, rect });
-    draws.push_back({ SkinImage::TitleBar, rects.titleBar });
+    for (const int left : { 18, 62, 106 })
+        draws.push_back({ SkinImage::MenuButton, { left, 28, 43, 23 } });
+    draws.push_back({ SkinImage::TitleBar, layout.TitleBar() });
     AppendBand(draws, width, height);
     AppendPanel(draws, layout.Panel());
     return draws;
 }
 
-std::vector<SkinDraw> PaintPass(int width, int height, const SkinButtons& buttons, SkinRects& rects)
+std::vector<SkinDraw> PaintPass(int width, int height, const SkinButtons& buttons)
 {
     const WindowLayout layout(width, height);
     std::vector<SkinDraw> draws;
@@ -173,9 +170,7 @@ std::vector<SkinDraw> PaintPass(int width, int height, const SkinButtons& button
     AppendPanel(draws, layout.Panel());
 
     const auto draw = [&](Button button) {
-        const auto rect = layout.ButtonRect(button);
-        rects.buttons[static_cast<std::size_t>(button)] = rect;
-        draws.push_back({ ButtonImage(button, buttons.StateOf(button)), rect });
+        draws.push_back({ ButtonImage(button, buttons.StateOf(button)), layout.ButtonRect(button) });
     };
     for (const auto button : kPaintedButtons)
         draw(button);

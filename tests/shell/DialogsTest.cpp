@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QCheckBox>
 #include <QScreen>
 #include <QTabWidget>
 #include <QtTest/QTest>
@@ -50,6 +51,44 @@ TEST(DialogsTest, EveryOptionIsReachedByTabAndReadOut)
     EXPECT_EQ(ReachedByTab(about), (std::set<std::string>{ "OK", "The web page of VLC" }));
 }
 
+TEST(DialogsTest, EveryBoxSetsTheOptionThatItNames)
+{
+    const std::pair<const char*, bool SettingsPages::*> boxes[] = {
+        { "Always on &top", &SettingsPages::alwaysOnTop },
+        { "Icon in the tra&y", &SettingsPages::showInTray },
+        { "Remember the posit&ion", &SettingsPages::rememberLastPos },
+        { "Remember the si&ze", &SettingsPages::rememberLastSize },
+        { "&Keep History of recently Opened files.", &SettingsPages::keepHistory },
+        { "&Launch Files in Fullscreen.", &SettingsPages::launchFullScreen },
+        { "&Use new player for each media file played.", &SettingsPages::useNewPlayer },
+        { "Disable the screen sa&ver", &SettingsPages::disableScreenSaver },
+        { "Show a small previe&w in the window", &SettingsPages::snapshotPreview },
+    };
+    for (const auto& [name, field] : boxes) {
+        SettingsPages before;
+        before.snapshotPath = "/snapshots";
+        auto after = before;
+        after.*field = true;
+        Skin skin;
+        frmSettings dialog(before, std::vector<FileTypeRow>(24), skin, nullptr);
+        std::vector<SettingsPages> committed;
+        QObject::connect(
+            &dialog, &frmSettings::Commit, [&](const SettingsPages& pages) { committed.push_back(pages); });
+        const auto press = [&dialog](const QString& text) {
+            for (auto* const button : dialog.findChildren<QAbstractButton*>()) {
+                if (button->text() == text)
+                    button->click();
+            }
+        };
+        press(name);
+        press("&Apply");
+        press("&Apply"); // nothing is left to apply
+        press(name);
+        press("OK");
+        EXPECT_EQ(committed, (std::vector{ after, before })) << name;
+    }
+}
+
 TEST(DialogsTest, NoticesOfAnyLengthFitTheScreen)
 {
     Skin skin;
@@ -69,11 +108,3 @@ TEST(DialogsTest, NoticesOfAnyLengthFitTheScreen)
 
 } // namespace
 } // namespace zentaro
-
-int main(int argc, char** argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    testing::InitGoogleTest(&argc, argv);
-    QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
-}

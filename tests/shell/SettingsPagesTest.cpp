@@ -1,58 +1,102 @@
 #include "shell/SettingsPages.h"
-#include "base/Paths.h"
 #include "platform/Files.h"
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace zentaro {
 namespace {
 
-std::string SomeFolder()
-{
-    return platform::PicturesFolder();
-}
+struct FlagPair {
+    bool SettingsPages::*shown;
+    std::int16_t PlayerSettings::*stored;
+};
+constexpr FlagPair kFlags[] = {
+    { &SettingsPages::alwaysOnTop, &PlayerSettings::AlwaysOnTop },
+    { &SettingsPages::keepHistory, &PlayerSettings::KeepHistory },
+    { &SettingsPages::launchFullScreen, &PlayerSettings::LaunchFullScreen },
+    { &SettingsPages::rememberLastPos, &PlayerSettings::RememberLastPos },
+    { &SettingsPages::rememberLastSize, &PlayerSettings::RememberLastSize },
+    { &SettingsPages::useNewPlayer, &PlayerSettings::UseNewPlayer },
+    { &SettingsPages::disableScreenSaver, &PlayerSettings::DisableScreenSaver },
+    { &SettingsPages::showInTray, &PlayerSettings::ShowInTray },
+    { &SettingsPages::snapshotPreview, &PlayerSettings::SnapshotPreview },
+};
 
-TEST(SettingsPagesTest, APageThatChangesNothingTurnsFlagsIntoMinusOneAndNothingElse)
+/// Every flag off, and what no page shows away from its default.
+PlayerSettings Dark()
 {
     PlayerSettings settings;
+    for (const auto& flag : kFlags)
+        settings.*flag.stored = 0;
+    settings.SnapshotPath = platform::PicturesFolder();
     settings.Language = "Deutsch";
-    settings.KeepHistory = 7;
-    settings.SnapshotPath = SomeFolder();
-    settings.SnapshotPng = 1; // on no page
-    settings.Associations[23] = 1;
-    settings.PlaylistPosition = 4;
+    settings.SnapshotPng = 7;
     settings.WindowLeft = -1200;
-    auto expected = settings;
-    expected.KeepHistory = expected.DisableScreenSaver = expected.SnapshotPreview = expected.Associations[23] = -1;
-    const auto written = WithPages(settings, PagesOf(settings));
-    EXPECT_EQ(written, expected);
-    EXPECT_EQ(WithPages(written, PagesOf(written)), written);
+    return settings;
 }
 
-TEST(SettingsPagesTest, NumbersThatNameNoChoiceShowAsWhatTheyActLike)
+TEST(SettingsPagesTest, EveryFlagHasAPlaceOfItsOwnOnTheWayThereAndBack)
 {
-    PlayerSettings settings;
-    settings.TitleBarMode = -4;
-    settings.PlaylistPosition = 5;
+    for (const auto& [shown, stored] : kFlags) {
+        auto settings = Dark();
+        settings.*stored = 7; // on like any number but 0; the way back makes it -1
+        auto pages = PagesOf(Dark());
+        pages.*shown = true;
+        EXPECT_EQ(PagesOf(settings), pages) << "flag " << &stored - &kFlags[0].stored;
+        settings.*stored = -1;
+        EXPECT_EQ(WithPages(Dark(), pages), settings);
+        EXPECT_EQ(WithPages(settings, PagesOf(Dark())), Dark());
+    }
+    for (std::size_t type = 0; type < 24; ++type) {
+        auto settings = Dark();
+        settings.Associations[type] = -1;
+        auto pages = PagesOf(Dark());
+        pages.associations[type] = true;
+        EXPECT_EQ(PagesOf(settings), pages);
+        EXPECT_EQ(WithPages(Dark(), pages), settings);
+    }
+}
+
+TEST(SettingsPagesTest, ChoicesAndTextsGoThereAndBackAndOtherNumbersShowAsWhatTheyActLike)
+{
+    for (int position = 0; position <= 5; ++position) {
+        auto settings = Dark();
+        settings.TitleBarMode = static_cast<std::int16_t>(position - 1);
+        settings.PlaylistPosition = position;
+        settings.SnapshotPath += "/one";
+        settings.SnapshotPrefix = "two";
+        auto pages = PagesOf(settings);
+        EXPECT_EQ(pages.titleBarMode, position == 1 || position == 2 ? position - 1 : 2);
+        EXPECT_EQ(pages.playlistPosition, position % 5);
+        EXPECT_EQ(pages.snapshotPath, settings.SnapshotPath);
+        EXPECT_EQ(pages.snapshotPrefix, "two");
+        pages.snapshotPath = "three";
+        const auto written = WithPages(Dark(), pages);
+        EXPECT_EQ(written.TitleBarMode, pages.titleBarMode);
+        EXPECT_EQ(written.PlaylistPosition, pages.playlistPosition);
+        EXPECT_EQ(written.SnapshotPath, "three");
+        EXPECT_EQ(written.SnapshotPrefix, "two");
+    }
+    auto settings = Dark();
     settings.SnapshotPath = "neither here nor there";
-    const auto pages = PagesOf(settings);
-    EXPECT_EQ(pages.titleBarMode, 2);
-    EXPECT_EQ(pages.playlistPosition, 0);
-    EXPECT_EQ(pages.snapshotPath, platform::PicturesFolder());
+    EXPECT_EQ(PagesOf(settings).snapshotPath, platform::PicturesFolder());
 }
 
 TEST(SettingsPagesTest, WhatTheFileWouldCutIsRefused)
 {
     SettingsPages pages;
-    pages.snapshotPath = SomeFolder();
+    pages.snapshotPath = platform::PicturesFolder();
     pages.snapshotPrefix = "IMG 1_";
     EXPECT_FALSE(FaultIn(pages));
-    for (const auto* const prefix : { "a,b", "\"a", " a", "a/b", "a\\b", "a?" }) {
+    for (const auto* const prefix :
+        { "a,b", "\"a", " a", "a\rb", "a\nb", "a/b", "a\\b", "a:", "a*", "a?", "a\"", "<", ">", "|" }) {
         pages.snapshotPrefix = prefix;
         ASSERT_TRUE(FaultIn(pages)) << prefix;
         EXPECT_EQ(FaultIn(pages)->field, PageFault::Field::SnapshotPrefix);
     }
-    for (const auto& path : { std::string(), std::string("pictures"), SomeFolder() + ",old" }) {
+    for (const auto& path : { std::string(), std::string("pictures"), platform::PicturesFolder() + ",old" }) {
         pages.snapshotPath = path;
         ASSERT_TRUE(FaultIn(pages)) << path;
         EXPECT_EQ(FaultIn(pages)->field, PageFault::Field::SnapshotPath);
@@ -70,6 +114,12 @@ TEST(SettingsPagesTest, AFamilyIsChosenAndGivenUpAsAWhole)
     EXPECT_EQ(ChosenOf(chosen, matroska), Chosen::All);
     ToggleGroup(chosen, matroska);
     EXPECT_EQ(chosen, (std::array<bool, 24>{}));
+    EXPECT_EQ(ChosenOf(chosen, matroska), Chosen::None);
+    std::multiset<std::size_t> all;
+    for (const auto& family : FileTypeFamilies())
+        all.insert(family.members.begin(), family.members.end());
+    EXPECT_EQ(all.size(), 24U);
+    EXPECT_EQ(std::set<std::size_t>(all.begin(), all.end()).size(), 24U);
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 #include "shell/QtText.h"
 #include "shell/SeekTrack.h"
 #include "shell/VolumeKnob.h"
-#include "tests/shell/SkinTable.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -44,14 +43,14 @@ public:
 
     QRgb Color(SkinImage image) const { return m_colors[static_cast<std::size_t>(image)]; }
 
-    /// What a window of that size shows when the images lie as the table says.
-    QImage Expected(const std::vector<SkinDraw>& table, int width, int height, int scale = 1) const
+    /// What a window of that size shows when the images lie as the pass says.
+    QImage Expected(const std::vector<SkinDraw>& pass, const QSize& size, int scale = 1) const
     {
-        QImage image(width * scale, height * scale, QImage::Format_RGB32);
+        QImage image(size * scale, QImage::Format_RGB32);
         image.fill(kUnpainted);
         QPainter painter(&image);
         painter.scale(scale, scale);
-        for (const auto& [picture, rect] : table) {
+        for (const auto& [picture, rect] : pass) {
             if (rect.width > 0 && rect.height > 0)
                 painter.fillRect(rect.left, rect.top, rect.width, rect.height, QColor(Color(picture)));
         }
@@ -66,78 +65,82 @@ public:
     QString folder = m_dir.path() + '/';
 };
 
-template <class Pass> QImage Painted(int width, int height, double scale, const Pass& pass)
-{
-    QImage image(qRound(width * scale), qRound(height * scale), QImage::Format_RGB32);
-    image.fill(kUnpainted);
-    image.setDevicePixelRatio(scale);
-    QPainter painter(&image);
-    pass(painter);
-    painter.end();
-    image.setDevicePixelRatio(1);
-    return image;
-}
+class SkinTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        for (std::size_t i = 0; i < kButtonCount; ++i)
+            m_buttons.states[i] = static_cast<ButtonState>(i % kButtonStateCount);
+        ASSERT_TRUE(m_skin.Load(m_flat.folder));
+    }
 
-QImage PaintedWindow(Skin& skin, const TestSize& size, const SkinButtons& buttons, double scale = 1)
-{
-    return Painted(size.width, size.height, scale,
-        [&](QPainter& painter) { skin.Paint(painter, size.width, size.height, buttons); });
-}
+    template <class Pass> static QImage Painted(const QSize& size, double scale, const Pass& pass)
+    {
+        QImage image((QSizeF(size) * scale).toSize(), QImage::Format_RGB32);
+        image.fill(kUnpainted);
+        image.setDevicePixelRatio(scale);
+        QPainter painter(&image);
+        pass(painter);
+        painter.end();
+        image.setDevicePixelRatio(1);
+        return image;
+    }
+    QImage Window(Skin& skin, const QSize& size, double scale = 1)
+    {
+        return Painted(
+            size, scale, [&](QPainter& painter) { skin.Paint(painter, size.width(), size.height(), m_buttons); });
+    }
 
-QImage PaintedBackground(Skin& skin, const TestSize& size)
-{
-    return Painted(
-        size.width, size.height, 1, [&](QPainter& painter) { skin.DrawBackGround(painter, size.width, size.height); });
-}
+    const FlatSkin m_flat;
+    Skin m_skin;
+    SkinButtons m_buttons; // every state on some button
+};
 
-TEST(Skin, every_pixel_belongs_to_the_image_that_lies_on_top)
+TEST_F(SkinTest, every_pixel_belongs_to_the_image_that_lies_on_top_and_the_pointers_places_are_kept)
 {
-    const FlatSkin flat;
-    Skin skin;
-    ASSERT_TRUE(skin.Load(flat.folder));
-    auto buttons = MixedButtons();
-    for (const auto& size : kTestSizes) {
-        EXPECT_EQ(PaintedBackground(skin, size),
-            flat.Expected(BackgroundTable(size.width, size.height), size.width, size.height));
-        for (const auto sound : { Button::SoundOn, Button::SoundOff }) {
-            buttons.isMuted = sound == Button::SoundOff;
-            const auto table = PaintTable(size, buttons, sound);
-            EXPECT_EQ(PaintedWindow(skin, size, buttons), flat.Expected(table, size.width, size.height));
-            EXPECT_EQ(PaintedWindow(skin, size, buttons, 2), flat.Expected(table, size.width, size.height, 2));
+    for (const QSize size : { QSize(20, 20), QSize(360, 320), QSize(801, 600) }) {
+        const int width = size.width();
+        const int height = size.height();
+        EXPECT_EQ(Painted(size, 1, [&](QPainter& painter) { m_skin.DrawBackGround(painter, width, height); }),
+            m_flat.Expected(BackgroundPass(width, height), size));
+        for (const bool isMuted : { false, true }) {
+            m_buttons.isMuted = isMuted;
+            const auto pass = PaintPass(width, height, m_buttons);
+            EXPECT_EQ(Window(m_skin, size), m_flat.Expected(pass, size));
+            EXPECT_EQ(Window(m_skin, size, 2), m_flat.Expected(pass, size, 2));
         }
+        const auto& rects = m_skin.Rects();
+        EXPECT_EQ(rects.titleBar, (Rect{ 0, 0, width, 31 }));
+        EXPECT_EQ(rects.menuButtons[0], (Rect{ 18, 28, 43, 23 }));
+        EXPECT_EQ(rects.menuButtons[2], (Rect{ 106, 28, 43, 23 }));
+        for (std::size_t i = 0; i < kButtonCount; ++i)
+            EXPECT_EQ(rects.buttons[i], WindowLayout(width, height).ButtonRect(static_cast<Button>(i))) << i;
     }
 }
 
-TEST(Skin, a_fade_begins_and_ends_with_the_pictures_themselves)
+TEST_F(SkinTest, a_fade_begins_and_ends_with_the_pictures_themselves)
 {
-    const FlatSkin flat;
-    Skin skin;
-    ASSERT_TRUE(skin.Load(flat.folder));
-    auto buttons = MixedButtons();
-    buttons.StateOf(Button::Play) = ButtonState::Over;
+    m_buttons.StateOf(Button::Play) = ButtonState::Over;
     const auto shot = [&](double share) {
-        buttons.FadeOf(Button::Play) = { ButtonState::Press, share };
-        return PaintedWindow(skin, kTestSizes[0], buttons).pixelColor(200, 450);
+        m_buttons.FadeOf(Button::Play) = { ButtonState::Press, share };
+        return Window(m_skin, { 388, 515 }).pixelColor(200, 450);
     };
-    const QColor from = flat.Color(ButtonImage(Button::Play, ButtonState::Press));
-    const QColor to = flat.Color(ButtonImage(Button::Play, ButtonState::Over));
+    const QColor from = m_flat.Color(ButtonImage(Button::Play, ButtonState::Press));
+    const QColor to = m_flat.Color(ButtonImage(Button::Play, ButtonState::Over));
     EXPECT_EQ(shot(0), from);
     EXPECT_EQ(shot(1), to);
-    EXPECT_NEAR(shot(0.5).green(), (from.green() + to.green()) / 2, 1);
-    EXPECT_NEAR(shot(0.5).blue(), (from.blue() + to.blue()) / 2, 1);
+    EXPECT_NEAR(shot(0.25).green(), (3 * from.green() + to.green()) / 4, 2);
+    EXPECT_NEAR(shot(0.25).blue(), (3 * from.blue() + to.blue()) / 4, 2);
 }
 
-TEST(Skin, neighbours_meet_without_a_gap_at_a_broken_scale_factor)
+TEST_F(SkinTest, neighbours_meet_without_a_gap_at_a_broken_scale_factor)
 {
-    const FlatSkin flat;
-    Skin skin;
-    ASSERT_TRUE(skin.Load(flat.folder));
     std::set<QRgb> known;
     for (std::size_t i = 0; i < kSkinImageCount; ++i)
-        known.insert(flat.Color(static_cast<SkinImage>(i)));
+        known.insert(m_flat.Color(static_cast<SkinImage>(i)));
     for (const double scale : { 1.25, 1.5, 1.75 }) {
-        // Sizes that such a screen can show to the pixel.
-        const auto shot = PaintedWindow(skin, { 388, 516, 160 }, MixedButtons(), scale);
+        // A size that such a screen can show to the pixel.
+        const auto shot = Window(m_skin, { 388, 516 }, scale);
         for (int y = 0; y < shot.height(); ++y) {
             for (int x = 0; x < shot.width(); ++x)
                 ASSERT_TRUE(known.contains(shot.pixel(x, y))) << x << ',' << y << " at " << scale;
@@ -145,41 +148,44 @@ TEST(Skin, neighbours_meet_without_a_gap_at_a_broken_scale_factor)
     }
 }
 
-TEST(Skin, a_rectangle_without_area_draws_nothing_and_comes_back)
+TEST_F(SkinTest, a_rectangle_without_area_draws_nothing_and_the_middle_is_that_of_what_shows)
 {
-    const FlatSkin flat;
-    Skin skin;
-    ASSERT_TRUE(skin.Load(flat.folder));
-    const auto shot = Painted(20, 20, 1, [&](QPainter& painter) {
+    const auto shot = Painted({ 20, 20 }, 1, [&](QPainter& painter) {
         for (const Rect& rect : { Rect{ 9, 9, -5, 4 }, Rect{ 9, 9, 4, -5 }, Rect{ 9, 9, 0, 4 } })
-            EXPECT_EQ(skin.Draw(painter, SkinImage::TitleBar, rect), rect);
+            EXPECT_EQ(m_skin.Draw(painter, SkinImage::TitleBar, rect), rect);
     });
-    EXPECT_EQ(shot, flat.Expected({}, 20, 20));
+    EXPECT_EQ(shot, m_flat.Expected({}, { 20, 20 }));
+
+    QImage sign(10, 10, QImage::Format_ARGB32);
+    sign.fill(Qt::transparent);
+    for (const int y : { 2, 3, 4, 5 })
+        sign.setPixelColor(3, y, Qt::white);
+    sign.setPixelColor(3, 9, QColor(0, 0, 0, 128)); // a faint shadow
+    sign.save(m_flat.folder + "Normal/Play.png");
+    ASSERT_TRUE(m_skin.Load(m_flat.folder));
+    EXPECT_EQ(m_skin.Middle(ButtonImage(Button::Play, ButtonState::Normal)), 0.4);
+    EXPECT_EQ(Skin().Middle(SkinImage::About), 0.5);
 }
 
-TEST(Skin, the_first_bad_file_ends_the_load_and_the_rest_draws_nothing)
+TEST_F(SkinTest, the_first_bad_file_ends_the_load_and_the_rest_draws_nothing)
 {
-    const FlatSkin flat;
     // Bad are one in the middle and two later ones; what is no picture counts like what is missing.
-    QFile noPicture(flat.folder + "BGCC.jpg");
-    ASSERT_TRUE(noPicture.open(QFile::WriteOnly));
+    QFile noPicture(m_flat.folder + "BGCC.jpg");
+    ASSERT_TRUE(noPicture.open(QFile::WriteOnly | QFile::Truncate));
     noPicture.write("no picture");
     noPicture.close();
-    QFile::remove(flat.folder + "BGCR.jpg");
-    QFile::remove(flat.folder + "Normal/Play.png");
-    const auto size = kTestSizes[0];
-    auto table = PaintTable(size, {}, Button::SoundOn);
-    std::erase_if(table, [](const SkinDraw& draw) {
-        return draw.image != SkinImage::BGCL && draw.image != SkinImage::BGDC && draw.image != SkinImage::BGDL
-            && draw.image != SkinImage::BGDR;
-    });
+    QFile::remove(m_flat.folder + "BGCR.jpg");
+    QFile::remove(m_flat.folder + "Normal/Play.png");
+    auto pass = PaintPass(388, 515, m_buttons);
+    const std::set<SkinImage> loaded{ SkinImage::BGCL, SkinImage::BGDC, SkinImage::BGDL, SkinImage::BGDR };
+    std::erase_if(pass, [&](const SkinDraw& draw) { return !loaded.contains(draw.image); });
     // Often enough for the threads to show an order of their own.
     for (int i = 0; i < 20; ++i) {
         Skin skin;
-        const auto loaded = skin.Load(flat.folder);
-        ASSERT_FALSE(loaded);
-        EXPECT_TRUE(loaded.error().text.ends_with("/BGCC.jpg")) << loaded.error().text;
-        EXPECT_EQ(PaintedWindow(skin, size, {}), flat.Expected(table, size.width, size.height));
+        const auto failed = skin.Load(m_flat.folder);
+        ASSERT_FALSE(failed);
+        EXPECT_TRUE(failed.error().text.ends_with("/BGCC.jpg")) << failed.error().text;
+        EXPECT_EQ(Window(skin, { 388, 515 }), m_flat.Expected(pass, { 388, 515 }));
     }
 }
 
@@ -212,11 +218,3 @@ TEST(Sliders, are_sliders_to_a_screen_reader)
 
 } // namespace
 } // namespace zentaro
-
-int main(int argc, char** argv)
-{
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application(argc, argv);
-    testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}
