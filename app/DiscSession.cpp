@@ -38,6 +38,16 @@ TransportItem DiscSession::ItemOf(const PlaylistEntry& entry)
     return { TransportItem::Kind::File, entry.FullPath, entry.FullPath };
 }
 
+void DiscSession::Watch()
+{
+    if (m_watcher.IsOn())
+        return;
+    m_watcher.SwitchOn();
+    // What came while something played was not looked at.
+    if (m_service.isTold)
+        m_service.askForDrives();
+}
+
 void DiscSession::OnDVDTick()
 {
     if (m_watcher.IsOn())

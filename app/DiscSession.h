@@ -25,6 +25,8 @@ struct DiscService {
     std::function<void()> askForDrives = [] {};
     /// What the list shows for a disc.
     std::function<Picture()> readPicture = [] { return Picture(); };
+    /// The machine tells of discs that come, through DiscSession::OnDVDTick.
+    bool isTold = false;
     /// Calls back after that time, on this thread.
     std::function<void(std::chrono::milliseconds, std::function<void()>)> after;
 };
@@ -52,9 +54,11 @@ public:
     /// The disc has played to its end, or never began to.
     void Ended(bool failed);
 
-    /// The watcher's timer is to run, every 1000 ms.
     bool IsWatching() const { return m_watcher.IsOn(); }
-    void Watch() { m_watcher.SwitchOn(); }
+    void Watch();
+    /// The watcher's timer is to run, every 1000 ms: nobody tells of discs that come.
+    bool IsPolling() const { return m_watcher.IsOn() && !m_service.isTold; }
+    /// The timer's tick, or the word that drives have changed.
     void OnDVDTick();
 
     /// False while no menu of a disc is shown: then the key means what it means elsewhere.

@@ -23,6 +23,16 @@ void DriveQueries::Ask()
     });
 }
 
+bool DriveQueries::Watch()
+{
+    return m_drives->Watch([post = m_post, alive = std::weak_ptr(m_alive)] {
+        post([alive] {
+            if (const auto self = alive.lock())
+                (*self)->onChange();
+        });
+    });
+}
+
 void DriveQueries::Answered(std::vector<platform::OpticalDrive> drives)
 {
     m_isAsking = false;

@@ -18,8 +18,13 @@ public:
     /// Receives the answers, on the window's thread.
     std::function<void(std::vector<platform::OpticalDrive>)> onFound;
 
+    /// Called, on the window's thread, when a drive or a disc may have come or gone.
+    std::function<void()> onChange = [] {};
+
     /// Nothing while the last question is still out.
     void Ask();
+    /// True when the system will tell of changes; else one has to ask now and then.
+    bool Watch();
 
 private:
     void Answered(std::vector<platform::OpticalDrive> drives);

@@ -156,6 +156,12 @@ void Player::OnPositionTick()
         m_discs.Watch();
 }
 
+bool Player::NeedsTicks() const
+{
+    return State().mediaControlsEnabled || m_discs.IsStarting() || m_library.Adding().total > 0 || m_starting
+        || !m_discs.IsWatching();
+}
+
 void Player::MediaControlsSet(bool enabled)
 {
     m_menus.SmartMenuXP1.SetEnabled({ "Stop", "FullScreen", "IncreaseSpeed", "DecreaseSpeed", "ResetSpeed" }, enabled);

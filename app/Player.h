@@ -56,8 +56,10 @@ public:
     /// As the functions of app/Snapshots.h.
     void TakeSnapshot();
     bool CanTakeSnapshot() const;
-    /// The position timer's tick, every 500 ms.
+    /// The position timer's tick, every 500 ms while NeedsTicks(), and once after.
     void OnPositionTick();
+    /// An item is loaded, a disc awaited, or files are being added.
+    bool NeedsTicks() const;
     /// The window has a new size in logical pixels, by the user's hand or by the settings.
     void WindowResized(int width, int height);
     /// A text has come from a later start; `done` is called when its file is open or refused.

@@ -7,8 +7,8 @@
 #include "app/Player.h"
 #include "app/VideoMenu.h"
 #include "app/WindowKeys.h"
+#include "app/WindowMenus.h"
 #include "app/WindowNotes.h"
-#include "app/frmMenu.h"
 #include "platform/Process.h"
 #include "platform/Window.h"
 #include "playback/VideoFrame.h"
@@ -28,7 +28,6 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QScreen>
-#include <QSystemTrayIcon>
 #include <QToolTip>
 
 #include <chrono>
@@ -54,6 +53,7 @@ QAccessibleInterface* MakeAccessibleWindow(const QString&, QObject* object)
 
 frmMain::frmMain(Player& player, VideoFrame* video, const QString& programFolder)
     : m_player(player)
+    , m_timers(player, this)
     , m_programFolder(programFolder)
     , m_video(video)
     , m_list(new FancyList(player.Entries().List()))
@@ -61,6 +61,7 @@ frmMain::frmMain(Player& player, VideoFrame* video, const QString& programFolder
     , m_controls(new ControlPanel(player, this))
     , m_bar(new FullScreenBar(
           m_skin, [this] { return m_controls->ButtonStates(); }, this))
+    , m_menus(new WindowMenus(player, *this))
     , m_notes(new WindowNotes(player, *video, *m_content))
     , m_caption(kProgramName)
 {
@@ -82,37 +83,14 @@ frmMain::frmMain(Player& player, VideoFrame* video, const QString& programFolder
     connect(this, &WindowFrame::FillsScreenChanged, this, &frmMain::FillsScreenNow);
     connect(this, &WindowFrame::NormalSizeChanged, this,
         [this](int width, int height) { m_player.WindowResized(width, height); });
-    MakeTimers();
+    m_progressDelay.setSingleShot(true);
+    m_progressDelay.setInterval(kProgressDelay);
+    connect(&m_progressDelay, &QTimer::timeout, this, [this] { m_list->ShowAddProgress(m_progress); });
     MakeList();
     MakeMenus();
     PlaceParts();
     m_controls->Show();
     m_controls->OrderFocus(m_list);
-}
-
-void frmMain::MakeTimers()
-{
-    const auto letWatch = [this] {
-        if (m_player.Discs().IsWatching() != m_tmrCheckDVD.isActive())
-            m_player.Discs().IsWatching() ? m_tmrCheckDVD.start() : m_tmrCheckDVD.stop();
-    };
-    m_tmrMovie.setInterval(500ms);
-    connect(&m_tmrMovie, &QTimer::timeout, this, [this, letWatch] {
-        m_player.OnPositionTick();
-        letWatch();
-        onTick();
-    });
-    m_tmrRewind.setInterval(10ms);
-    m_tmrRewind.setTimerType(Qt::PreciseTimer);
-    connect(&m_tmrRewind, &QTimer::timeout, this, [this] { m_player.Transporting().OnRewindTick(); });
-    m_tmrCheckDVD.setInterval(1000ms);
-    connect(&m_tmrCheckDVD, &QTimer::timeout, this, [this, letWatch] {
-        letWatch();
-        m_player.Discs().OnDVDTick();
-    });
-    m_progressDelay.setSingleShot(true);
-    m_progressDelay.setInterval(kProgressDelay);
-    connect(&m_progressDelay, &QTimer::timeout, this, [this] { m_list->ShowAddProgress(m_progress); });
 }
 
 void frmMain::MakeList()
@@ -125,7 +103,7 @@ void frmMain::MakeList()
     connect(m_list, &FancyList::DblClick, this, [this] { m_player.Sequence().ListDoubleClicked(); });
     connect(m_list, &FancyList::MouseDown, this, [this](Qt::MouseButton button, Qt::KeyboardModifiers, int x, int y) {
         if (button == Qt::RightButton)
-            ClassicMenus().Popup("mnuPlayListmenu", m_list->mapToGlobal(QPoint(x, y)));
+            m_menus->Popup("mnuPlayListmenu", m_list->mapToGlobal(QPoint(x, y)));
     });
     connect(m_list, &FancyList::CancelAdding, this, [this] { m_player.Files().CancelAdding(); });
     connect(m_list, &FancyList::OLEDragDrop, this,
@@ -139,13 +117,6 @@ void frmMain::MakeMenus()
     for (auto* const menu : commands->TopMenus())
         m_strip->addMenu(menu);
     new WindowKeys(m_player, *this, { *m_list, *m_strip, *m_controls });
-}
-
-frmMenu& frmMain::ClassicMenus()
-{
-    if (m_menus == nullptr)
-        m_menus = new frmMenu(m_player, this);
-    return *m_menus;
 }
 
 ScreenExtent frmMain::Extent() const
@@ -182,7 +153,6 @@ void frmMain::ShowWindow()
     // Not earlier: a messenger that waits for its player ends at once. Not later: the first file can take long.
     platform::OnQuitRequest([this] { close(); });
     show();
-    m_tmrMovie.start();
     StateChanged();
 }
 
@@ -199,9 +169,9 @@ void frmMain::FocusVideo()
 void frmMain::PopupMenu(const std::string& menu)
 {
     if (menu == "mnuOpenDVD")
-        ClassicMenus().PopupAbove(menu, m_controls->At(Button::Dvd).mapToGlobal(QPoint()));
+        m_menus->PopupAbove(menu, m_controls->At(Button::Dvd).mapToGlobal(QPoint()));
     else
-        ClassicMenus().Popup(menu, QCursor::pos());
+        m_menus->Popup(menu, QCursor::pos());
 }
 
 void frmMain::ShowNote(const std::string& text, const std::string& file)
@@ -213,17 +183,18 @@ void frmMain::StateChanged()
 {
     m_controls->Show();
     m_video->ShowAudioLogo(m_player.State().showAudioLogo);
-    if (m_player.State().isRewinding != m_tmrRewind.isActive())
-        m_player.State().isRewinding ? m_tmrRewind.start() : m_tmrRewind.stop();
     if (std::exchange(m_dock, m_player.Window().Dock()) != m_player.Window().Dock())
         PlaceParts();
     // Window managers read the state of a shown window only.
     if (isVisible() && std::exchange(m_isTopmost, m_player.Window().IsTopmost()) != m_player.Window().IsTopmost())
         platform::SetTopmost(winId(), m_isTopmost);
     ShowCaption();
-    ShowTray();
+    // A messenger reads the settings, too, and is to stay unseen.
+    if (isVisible())
+        m_menus->ShowTray(m_player.Window().HasTrayIcon());
     ShowAddProgress();
     m_notes->ShowState(FillsScreen() && !m_bar->isVisible());
+    m_timers.Follow();
     m_bar->update();
     update();
 }
@@ -234,22 +205,6 @@ void frmMain::ShowCaption()
     // Qt takes a lone "[*]" for its mark of changed documents.
     if (std::exchange(m_caption, caption) != caption)
         setWindowTitle(QString(caption).replace("[*]", "[*][*]"));
-}
-
-void frmMain::ShowTray()
-{
-    const bool isWanted = m_player.Window().HasTrayIcon();
-    // A messenger reads the settings, too, and is to stay unseen.
-    if (!isVisible() || isWanted == (m_tray != nullptr))
-        return;
-    delete m_tray.data();
-    if (!isWanted)
-        return;
-    m_tray = new QSystemTrayIcon(windowIcon(), this);
-    m_tray->setToolTip(kApplicationTitle);
-    // The right button opens it as soon as it goes down; the icon has nothing else to say.
-    m_tray->setContextMenu(ClassicMenus().Menu("mnuFileMenu"));
-    m_tray->show();
 }
 
 void frmMain::ShowAddProgress()
@@ -396,7 +351,6 @@ void frmMain::closeEvent(QCloseEvent* event)
 {
     event->accept();
     WindowFrame::closeEvent(event);
-    m_tmrMovie.stop();
     m_player.Unload();
 }
 

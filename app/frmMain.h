@@ -1,16 +1,12 @@
 #pragma once
 
 #include "app/PlayerFace.h"
+#include "app/PlayerTimers.h"
 #include "app/WindowFrame.h"
 #include "playlist/AddQueue.h"
 #include "shell/Skin.h"
 
-#include <QPointer>
-
-#include <functional>
-
 class QMimeData;
-class QSystemTrayIcon;
 
 namespace zentaro {
 
@@ -21,8 +17,8 @@ class FullScreenBar;
 class MenuStrip;
 class Player;
 class VideoFrame;
+class WindowMenus;
 class WindowNotes;
-class frmMenu;
 
 /// The main window: it shows the player's state and passes on what the user does; it decides nothing.
 class frmMain : public WindowFrame, public WindowFace {
@@ -32,9 +28,7 @@ public:
     /// `programFolder`: with a trailing separator. The window takes the video frame over.
     frmMain(Player& player, VideoFrame* video, const QString& programFolder);
 
-    /// Called at every tick of the position timer.
-    std::function<void()> onTick = [] {};
-
+    PlayerTimers& Timers() { return m_timers; }
     Skin& Pictures() { return m_skin; }
 
     ScreenExtent Extent() const override;
@@ -64,19 +58,16 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void MakeTimers();
     void MakeList();
     void MakeMenus();
     bool VideoEvent(QEvent& event);
     void PlaceParts();
     void FillsScreenNow(bool fills);
     void ShowCaption();
-    void ShowTray();
     void ShowAddProgress();
-    /// Made on first use.
-    frmMenu& ClassicMenus();
 
     Player& m_player;
+    PlayerTimers m_timers;
     QString m_programFolder;
     Skin m_skin;
     VideoFrame* m_video;
@@ -84,13 +75,9 @@ private:
     ContentPane* m_content;
     ControlPanel* m_controls;
     FullScreenBar* m_bar;
+    WindowMenus* m_menus;
     WindowNotes* m_notes;
     MenuStrip* m_strip = nullptr;
-    frmMenu* m_menus = nullptr;
-    QPointer<QSystemTrayIcon> m_tray;
-    QTimer m_tmrMovie;
-    QTimer m_tmrRewind;
-    QTimer m_tmrCheckDVD;
     QTimer m_progressDelay;
     AddProgress m_progress;
     QString m_caption;

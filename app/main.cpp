@@ -148,6 +148,7 @@ int main(int argc, char** argv)
     };
     InspectionThreads inspections(inspectionContext, workingFolder, onWindowThread);
     DriveQueries drives(platform::Drives::Open(), onWindowThread);
+    const bool isToldOfDiscs = drives.Watch();
     const auto endProcess = [&] {
         inspections.CancelAll();
         platform::RemoveFolder(workingFolder);
@@ -168,13 +169,15 @@ int main(int argc, char** argv)
         .endProcess = endProcess,
         .settingsFolder = WithTrailingSeparator(platform::SettingsFolder(), separator),
         .separator = separator,
-        .discs = { [&] { drives.Ask(); }, [&] { return DecodePictureFile(programFolder + "DVD.jpg"); }, after },
+        .discs = { [&] { drives.Ask(); }, [&] { return DecodePictureFile(programFolder + "DVD.jpg"); }, isToldOfDiscs,
+            after },
         .associations = { shell.get(), programPath, programFolder,
             { &platform::IconInFile, [](const std::string& file) { return LoadIconPicture(file, iconSide); } } },
         .after = after,
         .runInBackground = [&](auto work) { RunInBackground(onWindowThread, std::move(work)); },
         .holdOffSleep = [&](bool held) { sleepInhibitor->Hold(held); },
     });
+    drives.onChange = [&] { player.Discs().OnDVDTick(); };
     drives.onFound = [&](auto found) { player.Discs().DrivesFound(std::move(found)); };
     inspections.onCompleted = [&](int ticket, Inspection result) {
         player.Files().InspectionCompleted(ticket, std::move(result));
@@ -187,12 +190,12 @@ int main(int argc, char** argv)
         const auto obey = [&, asked = std::move(command)] {
             remote.Do(asked);
             // The desktop shows what it hears, and the next tick can be half a second away.
-            QTimer::singleShot(kEngineDelay, &window, [&] { window.onTick(); });
+            QTimer::singleShot(kEngineDelay, &window, [&] { window.Timers().Follow(); });
         };
         QMetaObject::invokeMethod(&application, obey, Qt::QueuedConnection);
     });
     if (mediaControl)
-        window.onTick = [&] { mediaControl->Publish(remote.Status()); };
+        window.Timers().settled = [&] { mediaControl->Publish(remote.Status()); };
     if (!player.Load(commandLine, { &window, &dialogs }))
         endProcess();
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -22,6 +23,10 @@ public:
     /// In the system's order; none when the system cannot say. Mounts nothing. A drive that spins up can hold the
     /// answer up for many seconds, so never on the window's thread. One call at a time.
     virtual std::vector<OpticalDrive> Find() = 0;
+
+    /// From now on `onChange` is called, on any thread, when a drive or a disc may have come or gone. False where the
+    /// system does not tell: then Find() is to be asked now and then.
+    virtual bool Watch(std::function<void()> /*onChange*/) { return false; }
 
     static std::unique_ptr<Drives> Open();
 };

@@ -225,6 +225,7 @@ public:
     RandomSource random = [] { return 0.0; };
     bool isSleepHeldOff = false;
     std::function<void()> askForDrives = [] {};
+    bool isToldOfDiscs = false;
     int driveQuestions = 0;
     bool ended = false;
     std::unique_ptr<Player> player;
@@ -255,7 +256,7 @@ private:
         };
         return { m_engines, inspections, store, power, HandOver(), [this] { return random(); },
             [](const std::string& path) { return path != "/clips/missing.avi"; }, [this] { ended = true; }, folder, '/',
-            { [this] { ++driveQuestions, askForDrives(); }, [] { return Picture(); }, after },
+            { [this] { ++driveQuestions, askForDrives(); }, [] { return Picture(); }, isToldOfDiscs, after },
             { &associations, "zentaro", "/program/", {} }, after,
             [this](auto work) { background.push_back(std::move(work)); },
             [this](bool held) { isSleepHeldOff = held; } };
