@@ -1,29 +1,16 @@
 #pragma once
 
+#include "tests/platform/EventLoop.h"
 #include "tests/platform/PrivateBus.h"
 
-#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 
-#include <chrono>
 #include <functional>
 #include <optional>
 
 namespace zentaro::platform {
-
-/// Runs the event loop until the condition holds; false when that takes too long.
-template <class Condition> bool RunUntil(Condition condition)
-{
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
-    bool holds = condition();
-    while (!holds && std::chrono::steady_clock::now() < end) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-        holds = condition();
-    }
-    return holds;
-}
 
 /// Services of these names on a test's bus, which answer every call with a function, or later.
 class BusService : public QDBusVirtualObject {
@@ -57,8 +44,7 @@ private:
 /// A bus of the test's own, and an event loop in which services on it answer.
 class OnPrivateBus : public testing::Test {
 protected:
-    int count = 0;
-    QCoreApplication application{ count, nullptr };
+    EventLoop loop;
     PrivateBus bus;
 };
 
