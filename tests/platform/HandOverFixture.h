@@ -17,6 +17,9 @@ std::unique_ptr<StartedProcess> StartPeer(std::vector<std::string> arguments, co
 /// The path of this program.
 const std::string& OwnProgram();
 
+/// Longer than RunUntil() waits.
+inline constexpr HandOverLimits kNever{ std::chrono::minutes(2), std::chrono::minutes(2) };
+
 using Sending = std::future<HandOverOutcome>;
 
 /// A player of the test's own, and senders.
@@ -25,7 +28,7 @@ protected:
     HandOverTest() { UseAsRuntimeFolder(folder.Path()); }
 
     /// Texts come to `received`, their tokens to `tokens`.
-    void Listen(HandOverLimits limits = { std::chrono::seconds(30), std::chrono::seconds(30) })
+    void Listen(HandOverLimits limits = kNever)
     {
         ends = std::move(*HandOverEnds::ListenWithin(limits));
         ends->Deliver(Keep());
@@ -37,8 +40,7 @@ protected:
             tokens.push_back(std::move(done));
         };
     }
-    static Sending Send(const std::string& handle, const std::string& text,
-        HandOverLimits limits = { std::chrono::seconds(30), std::chrono::seconds(30) })
+    static Sending Send(const std::string& handle, const std::string& text, HandOverLimits limits = kNever)
     {
         return std::async(std::launch::async, [=] { return SendHandOverTextWithin(handle, text, limits); });
     }

@@ -46,7 +46,7 @@ TEST_F(HandOverOnLinux, a_full_queue_is_given_up_too_and_what_a_killed_player_le
     do {
         senders.push_back(ConnectSilently(ends->CommandHandle()));
     } while (senders.back());
-    EXPECT_EQ(Send(ends->CommandHandle(), "no-room.avi", { 200ms, 30s }).get(), Silent);
+    EXPECT_EQ(Send(ends->CommandHandle(), "no-room.avi", { 200ms, 2min }).get(), Silent);
     EXPECT_TRUE(IsHandOverAlive(ends->CommandHandle()));
     const auto own = AddressOf(ends->CommandHandle());
     ends.reset();
@@ -60,7 +60,7 @@ TEST_F(HandOverOnLinux, silent_senders_are_let_go_and_waiting_ones_make_room)
     const auto address = AddressOf("77");
     ASSERT_EQ(bind(listening.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
     ASSERT_EQ(listen(listening.Number(), 8), 0);
-    HandOverReceiver receiver(listening.Number(), Keep(), { 50ms, 30s, 2 });
+    HandOverReceiver receiver(listening.Number(), Keep(), { 50ms, 2min, 2 });
     const auto silent = ConnectSilently("77");
     const auto alsoSilent = ConnectSilently("77");
     std::vector<Sending> sendings;
