@@ -1,11 +1,8 @@
 #pragma once
 
-#include "tests/desktop/Picture.h"
-
-#include <optional>
 #include <string>
 
-namespace zentaro::desktop {
+namespace zentaro::trial {
 
 /// Media files made by ffmpeg, kept for the whole run of the test program.
 class Clips {
@@ -15,13 +12,9 @@ public:
     static std::string Make(const std::string& name, double seconds = 20);
     /// A moving picture without sound.
     static std::string MakeSilent(const std::string& name, double seconds = 20);
-    /// A picture that tells its own time, see ShownTime, and a tone. At most 25 s.
-    static std::string MakeClock(const std::string& name, double seconds = 20);
+    /// A picture that ffmpeg draws like this, and a tone.
+    static std::string MakeOf(const std::string& picture, const std::string& name, double seconds);
     static bool IsSoundOnly(const std::string& name);
 };
 
-/// The time (s, in tenths) that a clip of MakeClock shows within this picture of the video's place; nothing when no
-/// whole frame of one is there.
-std::optional<double> ShownTime(const Picture& video);
-
-} // namespace zentaro::desktop
+} // namespace zentaro::trial
