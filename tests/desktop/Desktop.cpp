@@ -84,24 +84,24 @@ std::vector<unsigned long> Desktop::Numbers(Window window, const char* property)
     return numbers;
 }
 
-std::vector<Window> Desktop::WindowsOf(pid_t process) const
+std::vector<Window> Desktop::Of(pid_t process, std::vector<Window> windows) const
 {
-    auto windows = m_windowManager.Id() > 0 ? Numbers(m_root, "_NET_CLIENT_LIST") : Children(m_root);
     std::erase_if(windows, [&](Window window) {
         return Numbers(window, "_NET_WM_PID") != std::vector{ static_cast<unsigned long>(process) };
     });
     return windows;
 }
 
+std::vector<Window> Desktop::WindowsOf(pid_t process) const
+{
+    return Of(process, m_windowManager.Id() > 0 ? Numbers(m_root, "_NET_CLIENT_LIST") : Children(m_root));
+}
+
 std::vector<Window> Desktop::MenusOf(pid_t process) const
 {
-    auto windows = Children(m_root);
-    const auto tip = Atom("_NET_WM_WINDOW_TYPE_TOOLTIP");
-    std::erase_if(windows, [&](Window window) {
-        const auto types = Numbers(window, "_NET_WM_WINDOW_TYPE");
-        return Numbers(window, "_NET_WM_PID") != std::vector{ static_cast<unsigned long>(process) }
-        || std::find(types.begin(), types.end(), tip) != types.end();
-    });
+    auto windows = Of(process, Children(m_root));
+    std::erase_if(
+        windows, [&](Window window) { return Has(window, "_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_TOOLTIP"); });
     return windows;
 }
 
@@ -125,10 +125,10 @@ Rect Desktop::Place(Window window) const
     return { left, top, facts.width, facts.height };
 }
 
-bool Desktop::HasState(Window window, const char* state) const
+bool Desktop::Has(Window window, const char* property, const char* value) const
 {
-    const auto states = Numbers(window, "_NET_WM_STATE");
-    return std::find(states.begin(), states.end(), Atom(state)) != states.end();
+    const auto values = Numbers(window, property);
+    return std::find(values.begin(), values.end(), Atom(value)) != values.end();
 }
 
 bool Desktop::IsActive(Window window) const

@@ -38,7 +38,7 @@ public:
     std::string Title(Window window) const;
     /// The client area on the screen.
     Rect Place(Window window) const;
-    bool HasState(Window window, const char* state) const;
+    bool HasState(Window window, const char* state) const { return Has(window, "_NET_WM_STATE", state); }
     bool IsActive(Window window) const;
     void Activate(Window window);
     /// Asks the window manager to close it, as its own close button would.
@@ -73,6 +73,8 @@ public:
 private:
     void StartServer();
     void StartWindowManager();
+    std::vector<Window> Of(pid_t process, std::vector<Window> windows) const;
+    bool Has(Window window, const char* property, const char* value) const;
     unsigned long Atom(const char* name) const;
     void Send(Window to, Window window, const char* message, std::initializer_list<long> values) const;
     /// What xdotool is to do.

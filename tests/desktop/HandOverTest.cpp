@@ -105,7 +105,7 @@ TEST_F(HandOver, WithOnePlayerPerFileTheSecondTakesOver)
 TEST_F(HandOver, OfTwentyStartsAtOnceOnePlayerReceivesAllFiles)
 {
     const platform::PrivateBus bus;
-    const auto clip = Clips::MakeSilent("small.mp4", 30);
+    const auto clip = Clips::Make("clip.mp4");
     std::vector<Process> starts;
     for (int i = 0; i < 20; ++i) {
         starts.push_back(Start({ CopyOf(clip, "at-once-" + std::to_string(i) + ".mp4") }, ".",

@@ -34,7 +34,7 @@ TEST_F(LongRun, ManyFilesOneAfterTheOtherLeaveMemoryThreadsAndWindowsLevel)
     constexpr int kFiles = 100;
     auto player = StartAndShow();
     const auto handle = Published("txtHwnd");
-    const auto clip = Clips::MakeSilent("small.mp4", 30);
+    const auto clip = Clips::Make("small.mp4", 30);
     const auto descriptors = [&] {
         const std::filesystem::directory_iterator entries("/proc/" + std::to_string(player.process.Id()) + "/fd");
         return std::distance(begin(entries), end(entries));

@@ -24,17 +24,12 @@ constexpr int kClientShift = 21;
 // A window that is painted anew changes once or twice; what plays goes on.
 constexpr int kMovements = 4;
 
-/// The player stands beside this program's folder.
-fs::path BuiltProgramFolder()
-{
-    return fs::path(Helper("")).parent_path() / "../bin";
-}
-
-/// A program finds its folder by its own resolved path, so it is copied; what lies beside it is linked.
+/// The player stands beside this program's folder. A program finds its folder by its own resolved path, so it is
+/// copied; what lies beside it is linked.
 void CopyProgramFolder(const fs::path& folder)
 {
     fs::create_directory(folder);
-    for (const auto& entry : fs::directory_iterator(fs::canonical(BuiltProgramFolder()))) {
+    for (const auto& entry : fs::directory_iterator(fs::canonical(fs::path(Helper("")).parent_path() / "../bin"))) {
         const auto name = entry.path().filename();
         if (name == "zentaro")
             fs::copy_file(entry.path(), folder / name);
@@ -65,23 +60,15 @@ void EnterOwnWorld(const std::string& home, const std::string& display)
 }
 
 /// Keeps what was on the screen when something failed.
-class ScreenshotOnFailure : public testing::EmptyTestEventListener {
-public:
-    explicit ScreenshotOnFailure(Desktop& screen)
-        : m_screen(screen)
-    {
-    }
-
-private:
+struct Witness : testing::EmptyTestEventListener {
     void OnTestPartResult(const testing::TestPartResult& result) override
     {
-        const auto path = fs::temp_directory_path() / ("failed-" + std::to_string(++m_results) + ".png");
-        if (result.failed() && m_screen.Grab(m_screen.Area()).save(QString::fromStdString(path)))
+        const auto path = fs::temp_directory_path() / ("failed-" + std::to_string(++results) + ".png");
+        if (result.failed() && screen.Grab(screen.Area()).save(QString::fromStdString(path)))
             std::cout << "What was on the screen: " << path << '\n';
     }
-
-    Desktop& m_screen;
-    int m_results = 0;
+    Desktop screen;
+    int results = 0;
 };
 
 } // namespace
@@ -184,30 +171,6 @@ bool ShownPlayer::PictureMoves() const
     });
 }
 
-bool ShownPlayer::ShowsAudioLogo() const
-{
-    const QImage logo(QString::fromStdString(BuiltProgramFolder() / "Audio.JPG"));
-    // Its coarse look: how it was scaled does not matter.
-    const auto blocks = [](const QImage& picture) {
-        return picture.scaled(8, 8, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    };
-    return WaitUntil([&] {
-        const auto video = m_desktop->Grab(Video());
-        return !video.isNull() && ShareThatDiffers(blocks(video), blocks(logo)) < 0.05;
-    });
-}
-
-bool ShownPlayer::ClockRuns() const
-{
-    for (int change = 0; change < 2; ++change) {
-        const auto label = OnScreen(Layout().TimeLabel());
-        const auto before = m_desktop->Grab(label);
-        if (!WaitUntil([&] { return m_desktop->Grab(label) != before; }))
-            return false;
-    }
-    return true;
-}
-
 std::optional<int> ShownPlayer::Close()
 {
     m_desktop->Close(window);
@@ -230,12 +193,12 @@ void PlayerDesk::TearDown()
 
 Desktop& PlayerDesk::Screen()
 {
-    static Desktop desktop;
-    [[maybe_unused]] static const bool isWatched = [] {
-        testing::UnitTest::GetInstance()->listeners().Append(new ScreenshotOnFailure(desktop));
-        return true;
+    static auto& witness = *[] {
+        auto* const made = new Witness;
+        testing::UnitTest::GetInstance()->listeners().Append(made); // which deletes it at the end
+        return made;
     }();
-    return desktop;
+    return witness.screen;
 }
 
 PlayerSettings PlayerDesk::StoredSettings() const

@@ -37,10 +37,6 @@ public:
 
     /// Whether the video changes from look to look, never black.
     bool PictureMoves() const;
-    /// Whether the video's place shows the picture that stands for sound.
-    bool ShowsAudioLogo() const;
-    /// Whether the time label changes twice.
-    bool ClockRuns() const;
     /// Closes the window as its user would and waits for the end of the process: its exit code.
     std::optional<int> Close();
 

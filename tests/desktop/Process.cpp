@@ -40,7 +40,7 @@ Process::Process(const std::vector<std::string>& command, const std::string& fol
     _exit(127);
 }
 
-Process& Process::operator=(Process&& other) noexcept
+Process& Process::Swap(Process& other)
 {
     std::swap(m_id, other.m_id);
     std::swap(m_output, other.m_output);

@@ -15,8 +15,8 @@ public:
     Process() = default;
     /// `command` is what env(1) understands: variables as NAME=value, then the program and its arguments.
     explicit Process(const std::vector<std::string>& command, const std::string& folder = ".");
-    Process(Process&& other) noexcept { *this = std::move(other); }
-    Process& operator=(Process&& other) noexcept;
+    Process(Process&& other) noexcept { Swap(other); }
+    Process& operator=(Process&& other) noexcept { return Swap(other); }
     ~Process() { Kill(); }
 
     pid_t Id() const { return m_id; }
@@ -30,6 +30,8 @@ public:
     std::string Output() const;
 
 private:
+    Process& Swap(Process& other);
+
     pid_t m_id = -1;
     int m_output = -1;
     std::optional<int> m_result;

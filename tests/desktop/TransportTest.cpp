@@ -48,7 +48,7 @@ protected:
     {
         auto player = StartAndShow({ "*Add" });
         for (const auto& name : names)
-            EXPECT_EQ(Start({ CopyOf(Clips::MakeOf(kClockPicture, "clock.mp4", kLength), name) }).WaitForEnd(), 0);
+            EXPECT_EQ(Start({ CopyOf(Clips::Make("clock.mp4", kLength, kClockPicture), name) }).WaitForEnd(), 0);
         Screen().Activate(player.window);
         // The window manager has placed the window, and all of it is painted.
         EXPECT_TRUE(WaitUntil([&] {
