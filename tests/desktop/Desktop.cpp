@@ -14,6 +14,7 @@ namespace zentaro::trial {
 namespace {
 
 constexpr int kIconSize = 24; // px
+constexpr auto kHandPause = 20ms;
 
 } // namespace
 
@@ -260,19 +261,38 @@ void Desktop::WaitForFreePointer()
     XSync(m_display, False);
 }
 
-bool Desktop::Drag(int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere)
+bool Desktop::Drag(
+    int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere, std::chrono::milliseconds limit)
 {
     constexpr int kSteps = 8;
     Hold(fromX, fromY);
     int step = 0;
     // Whoever follows the hand late gets one more small movement to see where it is.
-    const bool came = WaitUntil([&] {
-        step = step < kSteps ? step + 1 : kSteps - step % 2;
-        MoveTo(fromX + (toX - fromX) * step / kSteps, fromY + (toY - fromY) * step / kSteps);
-        return step == kSteps && isThere();
-    });
+    const bool came = WaitUntil(
+        [&] {
+            step = step < kSteps ? step + 1 : kSteps - step % 2;
+            MoveTo(fromX + (toX - fromX) * step / kSteps, fromY + (toY - fromY) * step / kSteps);
+            std::this_thread::sleep_for(kHandPause);
+            return step == kSteps && isThere();
+        },
+        limit);
     Release();
     return came;
+}
+
+bool Desktop::DragWindow(Window window, int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere)
+{
+    // A busy machine's window manager can take hold of a window when the hand is on its way already: then once more
+    // from where the hand let go.
+    return WaitUntil([&] {
+        const auto before = Place(window);
+        if (Drag(fromX, fromY, toX, toY, isThere, 5s))
+            return true;
+        const auto now = Place(window);
+        fromX += now.left != before.left ? now.left - before.left : now.Right() - before.Right();
+        fromY += now.top != before.top ? now.top - before.top : now.Bottom() - before.Bottom();
+        return false;
+    });
 }
 
 bool Desktop::DropFiles(int x, int y, const std::vector<std::string>& paths)

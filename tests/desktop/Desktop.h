@@ -64,7 +64,10 @@ public:
     /// Positive: away from the user.
     void Wheel(int x, int y, int steps) { Click(x, y, steps > 0 ? 4 : 5, std::abs(steps)); }
     /// With the left button, which is let go when `isThere`; whether it came so far.
-    bool Drag(int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere);
+    bool Drag(int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere,
+        std::chrono::milliseconds limit = kPatience);
+    /// The same with the title bar or an edge of a window, until it has come.
+    bool DragWindow(Window window, int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere);
     /// Drags files from another program's window to a place of the screen; false when nobody takes them there.
     bool DropFiles(int x, int y, const std::vector<std::string>& paths);
     /// Opens a panel at the top left of the screen and takes the next icon for the tray into it; 0 when none came.
