@@ -36,12 +36,14 @@ void Sequencer::PlayItem(std::int16_t index, bool fullScreen)
 void Sequencer::PlayChosen(int index, bool fullScreen)
 {
     m_failuresInRow = 0;
+    m_rooms.window.BringFilmForward();
     PlayItem(ItemNumber(index), fullScreen);
 }
 
 void Sequencer::PlayEntry(int index)
 {
     m_failuresInRow = 0;
+    m_rooms.window.BringFilmForward();
     Entries().List().SetSelectedItem(index);
     PlaySelected();
 }
@@ -51,6 +53,7 @@ void Sequencer::CMDPlayClick()
     if (Entries().Count() == 0)
         return m_rooms.library.OpenFiles(false);
     m_failuresInRow = 0;
+    m_rooms.window.BringFilmForward();
     if (m_rooms.transport.Item().kind == TransportItem::Kind::DriveDisc)
         m_rooms.discs.Play();
     else
