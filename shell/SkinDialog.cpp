@@ -5,6 +5,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QStyle>
 #include <QWindow>
 
@@ -45,6 +46,11 @@ SkinDialog::SkinDialog(const QString& title, Skin& skin, QWidget* owner)
     setContentsMargins(0, kTitleHeight, 0, 0);
     m_close->setFocusPolicy(Qt::NoFocus); // Esc is the key for it
     connect(m_close, &SkinButton::clicked, this, &QDialog::reject);
+}
+
+QSize SkinDialog::Room() const
+{
+    return (parentWidget() != nullptr ? parentWidget() : this)->screen()->availableSize();
 }
 
 void SkinDialog::showEvent(QShowEvent* event)
@@ -88,6 +94,22 @@ void SkinDialog::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton && event->position().y() < kTitleHeight)
         windowHandle()->startSystemMove();
+}
+
+SkinScroll::SkinScroll(QWidget* content, QWidget* parent)
+    : QScrollArea(parent)
+{
+    setFrameShape(NoFrame);
+    setFocusPolicy(Qt::NoFocus); // Tab goes through the content, which follows
+    setWidgetResizable(true);
+    setWidget(content);
+    for (auto* const through : { content, viewport() })
+        through->setAutoFillBackground(false);
+}
+
+QSize SkinScroll::sizeHint() const
+{
+    return widget()->sizeHint();
 }
 
 SkinPushButton::SkinPushButton(const QString& text, Skin& skin, QWidget* parent)
