@@ -33,7 +33,7 @@ constexpr Part kParts[] = {
     { "Inter", "the typeface", "SIL Open Font License 1.1" },
 };
 
-/// A link that the first Tab reaches: a label alone wants one for itself and another one for its link.
+/// A label with a link that one press of Tab reaches. In a plain label Tab stops twice, at the label and at its link.
 class LinkLabel : public QLabel {
 public:
     using QLabel::QLabel;
@@ -65,15 +65,6 @@ protected:
 private:
     Skin& m_skin;
 };
-
-QLabel* SecondText(const QString& text, QWidget* parent)
-{
-    auto* const label = new QLabel(text, parent);
-    auto colours = label->palette();
-    colours.setColor(QPalette::WindowText, style::kSecondText);
-    label->setPalette(colours);
-    return label;
-}
 
 QLayout* Head(Skin& skin, QWidget* page)
 {
