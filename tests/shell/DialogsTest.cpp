@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QScreen>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTextEdit>
 #include <QtTest/QTest>
