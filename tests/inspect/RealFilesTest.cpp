@@ -231,3 +231,16 @@ TEST_F(RealFiles, avi_files_of_a_current_muxer_are_read_and_only_regular_files)
     for (const auto& path : { m_folder.Path(), Path("missing"), Path("fifo"), std::string("/dev/zero"), std::string() })
         EXPECT_FALSE(clsAVIDelay().OpenFile(path)) << path;
 }
+
+TEST_F(RealFiles, a_picture_is_saved_and_decoded_with_every_bit)
+{
+    const std::vector<std::uint32_t> pixels{ 0xFF102030, 0x80405060, 0xFF708090, 0x01FF0000, 0xFFFFFFFF, 0xFF000001 };
+    const std::string name = "\xC3\xA4 picture"; // without an extension
+    ASSERT_TRUE(SavePictureFile(Picture(3, 2, pixels), Path(name)));
+    const auto decoded = DecodePictureFile(Path(name));
+    ASSERT_EQ(decoded.Width(), 3);
+    ASSERT_EQ(decoded.Height(), 2);
+    EXPECT_EQ(std::vector(decoded.Pixels(), decoded.Pixels() + 6), pixels);
+    EXPECT_FALSE(SavePictureFile({}, Path("empty")));
+    EXPECT_TRUE(DecodePictureFile(Path("missing")).IsEmpty());
+}
