@@ -58,6 +58,21 @@ TEST_F(Settings, PlaceAndSizeComeBackWhenTheyAreToBeRemembered)
     EXPECT_TRUE(WaitUntil([&] { return player.Place() == Screen().Area(); }));
     EXPECT_CLOSES_CLEANLY(player);
     EXPECT_EQ(ReadWholeFile(ConfigPath()), before);
+
+    // Places that the screen has not, or no longer wholly. What the start does to the size is nobody's choice.
+    for (const auto& [left, top] : { std::pair{ -1200, 5000 }, { 1200, 780 } }) {
+        StoreSettings([&](PlayerSettings& settings) {
+            settings.RememberLastPos = 1;
+            settings.WindowLeft = left * 15;
+            settings.WindowTop = top * 15;
+            settings.WindowWidth = 600;
+        });
+        auto lost = StartAndShow();
+        EXPECT_TRUE(WaitUntil([&] { return SharedArea(lost.Place(), Screen().Area()) == 388 * 515; }));
+        std::this_thread::sleep_for(400ms);
+        EXPECT_CLOSES_CLEANLY(lost);
+        EXPECT_EQ(StoredSettings().WindowWidth, 600);
+    }
 }
 
 TEST_F(Settings, ADamagedFileIsReplacedByTheDefaults)

@@ -120,5 +120,29 @@ TEST_F(MainWindow, PlaysWithoutAWindowManager)
     EXPECT_ENDED_CLEANLY(player);
 }
 
+TEST_F(MainWindow, KeepsItsPartsAndDialogsInSightOnASmallScreen)
+{
+    StoreSettings([](PlayerSettings& settings) { settings.PlaylistPosition = 2; }); // above the video
+    Desktop small(480, 320);
+    auto player = Show(Start({ Clips::Make("clip.mp4") }, ".", { "DISPLAY=" + small.Name() }), small);
+    const auto isInSight = [&small](const Rect& place) {
+        return place.width > 0 && SharedArea(place, small.Area()) == 1LL * place.width * place.height;
+    };
+    EXPECT_TRUE(player.PictureMoves());
+    EXPECT_TRUE(isInSight(player.Place()));
+    EXPECT_LE(player.Video().Bottom(), player.OnScreen(player.Layout().Panel()).top);
+    for (const auto* const menu : { "alt+t", "alt+h" }) {
+        small.Activate(player.window);
+        small.Press(menu);
+        EXPECT_TRUE(player.WaitForMenus(1));
+        small.Press("Return");
+        EXPECT_TRUE(player.WaitForDialogs(1));
+        EXPECT_TRUE(isInSight(small.Place(player.Dialogs().at(0)))) << menu;
+        small.Press("Escape");
+        EXPECT_TRUE(player.WaitForDialogs(0));
+    }
+    EXPECT_CLOSES_CLEANLY(player);
+}
+
 } // namespace
 } // namespace zentaro::trial

@@ -188,6 +188,15 @@ TEST_F(SkinTest, the_first_bad_file_ends_the_load_and_the_rest_draws_nothing)
         EXPECT_TRUE(failed.error().text.ends_with("/BGCC.jpg")) << failed.error().text;
         EXPECT_EQ(Window(skin, { 388, 515 }), m_flat.Expected(pass, { 388, 515 }));
     }
+    // Nor does a button that fades between two of them paint, or complain of it.
+    static int said = 0;
+    Skin skin;
+    ASSERT_FALSE(skin.Load(m_flat.folder));
+    m_buttons.FadeOf(Button::Play) = { ButtonState::Press, 0.5 };
+    const auto before = qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) { ++said; });
+    EXPECT_EQ(Window(skin, { 388, 515 }), m_flat.Expected(pass, { 388, 515 }));
+    qInstallMessageHandler(before);
+    EXPECT_EQ(said, 0);
 }
 
 TEST(Sliders, are_sliders_to_a_screen_reader)
