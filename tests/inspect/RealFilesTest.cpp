@@ -3,6 +3,7 @@
 #include "inspect/QtServices.h"
 #include "inspect/clsSource.h"
 #include "platform/Files.h"
+#include "platform/Leftovers.h"
 
 #include <gtest/gtest.h>
 
