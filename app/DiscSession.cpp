@@ -35,7 +35,8 @@ TransportItem DiscSession::ItemOf(const PlaylistEntry& entry)
 {
     if (IsDiscLocation(entry.FullPath) || entry.FullPath.size() == kDriveRootLength)
         return { TransportItem::Kind::Disc, entry.FullPath, entry.Title.substr(0, entry.Title.rfind(" (")) };
-    return { TransportItem::Kind::File, entry.FullPath, entry.FullPath };
+    const bool hasVideo = entry.MediaInfo.find(" (Video)") != std::string::npos;
+    return { TransportItem::Kind::File, entry.FullPath, entry.FullPath, hasVideo };
 }
 
 void DiscSession::Watch()

@@ -40,11 +40,17 @@ void History::AddToHistory(const std::string& path, const std::string& title)
             return;
     }
     const bool isEmpty = TitleAt(0) == kNoHistory;
-    if (!isEmpty && count >= kFull) {
+    // Together: each change by itself would wait for the disk.
+    m_store.BeginBatch();
+    if (!isEmpty && count >= kFull)
         ShiftDown(path, title);
-        return;
-    }
-    const int slot = isEmpty ? 0 : count;
+    else
+        Record(isEmpty ? 0 : count, path, title);
+    IgnoreFailure(m_store.CommitBatch());
+}
+
+void History::Record(int slot, const std::string& path, const std::string& title)
+{
     Fill(slot, title, path);
     Write(slot, path, title);
 }

@@ -28,6 +28,7 @@ private:
     std::string Read(const char* key, int slot);
     void Write(int slot, const std::string& path, const std::string& title);
     void Fill(int slot, const std::string& caption, const std::string& path);
+    void Record(int slot, const std::string& path, const std::string& title);
     void ShiftDown(const std::string& path, const std::string& title);
 
     platform::StringStore& m_store;

@@ -221,7 +221,9 @@ void MediaRemote::RemoveTrack(int index)
     const int selected = list.SelectedItem();
     list.SetSelectedItem(index);
     m_player.RunCommand("Remove");
-    if (selected != index)
+    if (selected < 0)
+        list.Press(FancyListItems::kNone);
+    else if (selected != index)
         list.SetSelectedItem(selected > index ? selected - 1 : selected);
 }
 

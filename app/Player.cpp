@@ -91,8 +91,8 @@ void Player::ReceiveText(const std::string& text, platform::HandOverDone done)
 void Player::Unload()
 {
     m_library.Close();
-    m_associations.ApplyPostponed(Settings().Associations);
     IgnoreFailure(WriteConfigurations());
+    m_associations.ApplyPostponed(Settings().Associations);
     m_world.holdOffSleep(false);
     // The engine goes with the process: stopping it first would make the end wait for its threads.
     m_window.RemoveTrayIcon();

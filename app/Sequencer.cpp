@@ -1,5 +1,7 @@
 #include "app/Sequencer.h"
 
+#include "base/Paths.h"
+
 #include <limits>
 #include <utility>
 
@@ -36,12 +38,14 @@ void Sequencer::PlayItem(std::int16_t index, bool fullScreen)
 void Sequencer::PlayChosen(int index, bool fullScreen)
 {
     m_failuresInRow = 0;
+    m_way = Way::ByTheModes;
     PlayItem(ItemNumber(index), fullScreen);
 }
 
 void Sequencer::PlayEntry(int index)
 {
     m_failuresInRow = 0;
+    m_way = Way::ByTheModes;
     Entries().List().SetSelectedItem(index);
     PlaySelected();
 }
@@ -51,6 +55,7 @@ void Sequencer::CMDPlayClick()
     if (Entries().Count() == 0)
         return m_rooms.library.OpenFiles(false);
     m_failuresInRow = 0;
+    m_way = Way::ByTheModes;
     if (m_rooms.transport.Item().kind == TransportItem::Kind::DriveDisc)
         m_rooms.discs.Play();
     else
@@ -86,20 +91,25 @@ void Sequencer::PlayPause()
 
 void Sequencer::cmdNextClick()
 {
-    if (m_rooms.transport.State().mediaControlsEnabled)
-        StepTo(Entries().StepNext());
+    if (!m_rooms.transport.State().mediaControlsEnabled)
+        return;
+    m_failuresInRow = 0;
+    StepOn(Way::Forward);
 }
 
 void Sequencer::cmdPreviousClick()
 {
-    if (m_rooms.transport.State().mediaControlsEnabled)
-        StepTo(Entries().StepPrevious());
+    if (!m_rooms.transport.State().mediaControlsEnabled)
+        return;
+    m_failuresInRow = 0;
+    StepOn(Way::Back);
 }
 
-void Sequencer::StepTo(std::optional<int> index)
+void Sequencer::StepOn(Way way)
 {
-    if (index)
-        PlayChosen(*index, false);
+    m_way = way;
+    if (const auto index = way == Way::Back ? Entries().StepPrevious() : Entries().StepNext())
+        PlayItem(ItemNumber(*index), false);
 }
 
 void Sequencer::ListClicked()
@@ -158,32 +168,63 @@ void Sequencer::DoAfterFinishPlay()
 
 bool Sequencer::IsRoundOfFailures() const
 {
-    const bool isOneEnough = m_rooms.settings.Settings().RepeatMode == kRepeatSingle;
+    const bool isOneEnough = m_way == Way::ByTheModes && m_rooms.settings.Settings().RepeatMode == kRepeatSingle;
     return m_failuresInRow >= (isOneEnough ? 1 : m_rooms.library.Entries().Count());
 }
 
 void Sequencer::ItemEnded(bool failed)
 {
-    m_failuresInRow = failed ? m_failuresInRow + 1 : 0;
+    if (failed)
+        return ItemFailed();
+    m_failuresInRow = 0;
+    m_way = Way::ByTheModes;
     const auto& settings = m_rooms.settings.Settings();
-    const auto next = Entries().OnEndOfItem(settings.PlayMode, settings.RepeatMode);
+    Follow(Entries().OnEndOfItem(settings.PlayMode, settings.RepeatMode), true);
+}
+
+void Sequencer::Follow(const EndOfItem& next, bool hasPlayed)
+{
     if (next.action == EndOfItem::Action::StopAndAfterPlay) {
         m_rooms.transport.cmdStopClick();
-        DoAfterFinishPlay();
-    } else if (failed && IsRoundOfFailures()) {
-        m_failuresInRow = 0;
-        m_rooms.transport.cmdStopClick();
-        m_rooms.face.window->ShowNote("Nothing in the playlist can be played");
+        if (hasPlayed)
+            DoAfterFinishPlay();
     } else if (next.action == EndOfItem::Action::RestartSame) {
         m_rooms.transport.cmdStopClick();
         if (Entries().Count() > 0)
             PlaySelected();
         else
             m_rooms.library.OpenFiles(false); // emptied while its last item played
-    } else {
-        // An index that a removal has left behind plays nothing.
+    } else if (Entries().EntryAt(next.index)) {
         PlayItem(ItemNumber(next.index), false);
+    } else {
+        GoIdle(); // the order names an entry that was removed
     }
+}
+
+// What has not played has not ended: nothing that belongs to the end of playback follows.
+void Sequencer::ItemFailed()
+{
+    ++m_failuresInRow;
+    const auto path = m_rooms.transport.Item().path;
+    if (IsRoundOfFailures()) {
+        m_failuresInRow = 0;
+        m_rooms.transport.cmdStopClick();
+        const bool isOnly = Entries().Count() <= 1;
+        m_rooms.face.window->ShowNote(isOnly ? FileNamePart(path, m_rooms.settings.Separator()) + " cannot be played"
+                                             : "Nothing in the playlist can be played");
+        return;
+    }
+    m_rooms.face.window->ShowNote(FileNamePart(path, m_rooms.settings.Separator()) + " cannot be played");
+    if (m_way != Way::ByTheModes)
+        return StepOn(m_way);
+    const auto& settings = m_rooms.settings.Settings();
+    Follow(Entries().OnEndOfItem(settings.PlayMode, settings.RepeatMode), false);
+}
+
+void Sequencer::GoIdle()
+{
+    m_rooms.transport.cmdStopClick();
+    m_rooms.window.ClearCaption();
 }
 
 } // namespace zentaro

@@ -7,7 +7,6 @@
 #include "playback/AfterPlay.h"
 
 #include <cstdint>
-#include <optional>
 
 namespace zentaro {
 
@@ -65,14 +64,22 @@ public:
     void ItemEnded(bool failed);
 
 private:
+    enum class Way { ByTheModes, Forward, Back };
+
     void PlaySelected();
-    void StepTo(std::optional<int> index);
+    void StepOn(Way way);
+    /// What the end of an item asks for; the after-play action only when it `hasPlayed`.
+    void Follow(const EndOfItem& next, bool hasPlayed);
+    void ItemFailed();
     bool IsRoundOfFailures() const;
+    void GoIdle();
     Playlist& Entries() { return m_rooms.library.Entries(); }
 
     Rooms m_rooms;
     AfterPlay m_afterPlay;
     int m_failuresInRow = 0; // items that ended without having played
+    /// Where the user is on the way to: what cannot be played is passed in that direction.
+    Way m_way = Way::ByTheModes;
 };
 
 } // namespace zentaro

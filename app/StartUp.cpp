@@ -26,7 +26,9 @@ StartupRequest ReadCommandLine(
     auto text = commandLine;
     if (text.find('"') != std::string::npos && !fileExists(WithoutAdd(text)))
         std::erase(text, '"');
-    return { WithoutAdd(text), text, !text.ends_with(kAddSuffix) };
+    const auto path = WithoutAdd(text);
+    const auto tidy = TidyPath(path);
+    return { tidy, tidy + text.substr(path.size()), !text.ends_with(kAddSuffix) };
 }
 
 StartRole DecideRole(const StartupRequest& request, const PublishedHandles& handles, bool useNewPlayer,

@@ -13,7 +13,7 @@ struct StartupRequest {
 };
 
 /// Takes the command line apart. Quotes are removed, unless the text with them names an existing file: then they belong
-/// to its name.
+/// to its name. The path of a file that is there is written the shortest way, so that it counts once.
 StartupRequest ReadCommandLine(
     const std::string& commandLine, const std::function<bool(const std::string&)>& fileExists);
 

@@ -38,6 +38,12 @@ void WindowControl::ShowCaption()
     m_face.window->StateChanged();
 }
 
+void WindowControl::ClearCaption()
+{
+    m_caption = kProgramName;
+    m_face.window->StateChanged();
+}
+
 void WindowControl::RemoveTrayIcon()
 {
     m_hasTrayIcon = false;

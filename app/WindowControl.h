@@ -24,6 +24,8 @@ public:
     void SetLoadedOptions();
     /// The caption of the selected entry.
     void ShowCaption();
+    /// Nothing is loaded that the caption could name.
+    void ClearCaption();
     void RemoveTrayIcon();
     /// The window has a new size in logical pixels, by the user's hand or by the settings.
     void WindowResized(int width, int height);

@@ -1,6 +1,8 @@
 #include "base/Paths.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 namespace zentaro {
 
@@ -15,6 +17,22 @@ std::string WithTrailingSeparator(std::string path, char separator)
     if (path.empty() || path.back() != separator)
         path += separator;
     return path;
+}
+
+std::string TidyPath(const std::string& path)
+{
+    namespace fs = std::filesystem;
+    try {
+        const fs::path original(std::u8string(path.begin(), path.end()));
+        const auto tidy = original.lexically_normal();
+        std::error_code error;
+        if (!fs::equivalent(original, tidy, error) || error)
+            return path;
+        const auto text = tidy.u8string();
+        return { text.begin(), text.end() };
+    } catch (const std::system_error&) {
+        return path; // a name that is no text on this system
+    }
 }
 
 std::string LowerExtension(std::string_view path, char separator)

@@ -19,6 +19,10 @@ std::string FileNamePart(std::string_view path, char separator);
 /// The path with exactly what it needs to be a folder that a file name can follow.
 std::string WithTrailingSeparator(std::string path, char separator);
 
+/// The shortest way to write the path: without "." and ".." and doubled separators. What names something else then, as
+/// behind a link to a folder, and what names nothing, stays as it is.
+std::string TidyPath(const std::string& path);
+
 /// The text after the last dot of the file name, lower-cased (ASCII letters only); empty when there is none.
 std::string LowerExtension(std::string_view path, char separator);
 

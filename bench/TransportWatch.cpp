@@ -22,7 +22,7 @@
 namespace {
 
 using namespace zentaro;
-using namespace zentaro::desktop;
+using namespace zentaro::trial;
 using Clock = std::chrono::steady_clock;
 
 constexpr int kVideoWidth = 1280;
@@ -45,14 +45,15 @@ Band BandOf(std::uint32_t pixel)
 }
 
 /// What runs from one side of `row` to the other, but for its ends.
-Band BandIn(const Picture& row)
+Band BandIn(const QImage& row)
 {
-    if (row.pixels.empty())
+    if (row.isNull())
         return Band::None;
-    const auto band = BandOf(row.pixels[row.pixels.size() / 2]);
-    const auto share =
-        std::count_if(row.pixels.begin(), row.pixels.end(), [&](std::uint32_t pixel) { return BandOf(pixel) == band; });
-    return share * 10 >= static_cast<long>(row.pixels.size()) * 9 ? band : Band::None;
+    const auto band = BandOf(row.pixel(row.width() / 2, 0));
+    int share = 0;
+    for (int x = 0; x < row.width(); ++x)
+        share += BandOf(row.pixel(x, 0)) == band;
+    return share * 10 >= row.width() * 9 ? band : Band::None;
 }
 
 class Watched {
@@ -64,7 +65,7 @@ public:
         if (name == "zentaro")
             StoreSettings(command.front());
         setenv("DISPLAY", desktop.Name().c_str(), 1);
-        process = Process({ .program = command.front(), .arguments = { command.begin() + 1, command.end() } });
+        process = Process(command);
         WaitUntil([&] { return (m_window = FindWindow()) != 0; });
         if (name == "zentaro")
             HideList();
@@ -90,8 +91,8 @@ public:
         for (int y = 0; y < kScreenHeight; y += 8) {
             const auto line = m_desktop.Grab({ 0, y, kScreenWidth, 1 });
             int start = 0;
-            for (int x = 0; x <= line.width; ++x) {
-                if (x < line.width && BandOf(line.pixels[static_cast<std::size_t>(x)]) != Band::None)
+            for (int x = 0; x <= line.width(); ++x) {
+                if (x < line.width() && BandOf(line.pixel(x, 0)) != Band::None)
                     continue;
                 if (x - start > m_row.width)
                     m_row = { start, y, x - start, 1 };

@@ -16,11 +16,11 @@
 namespace {
 
 using namespace zentaro;
-using namespace zentaro::desktop;
+using namespace zentaro::trial;
 using Clock = std::chrono::steady_clock;
 namespace fs = std::filesystem;
 
-constexpr double kPainted = 20; // of 255: brighter than an unpainted window
+constexpr int kPainted = 20; // of 255: brighter than an unpainted window
 constexpr auto kSettled = 2s;
 
 class Watched {
@@ -28,9 +28,9 @@ public:
     Watched(Desktop& desktop, const std::vector<std::string>& command)
         : m_desktop(desktop)
     {
-        m_process = Process({ .program = command.front(),
-            .arguments = { command.begin() + 1, command.end() },
-            .environment = { { "DISPLAY", desktop.Name() }, { "TMPDIR", m_folder } } });
+        std::vector<std::string> words = { "DISPLAY=" + desktop.Name(), "TMPDIR=" + m_folder };
+        words.insert(words.end(), command.begin(), command.end());
+        m_process = Process(words);
     }
     ~Watched()
     {
@@ -81,7 +81,7 @@ private:
             return false;
         m_window = windows.back();
         const auto place = Place();
-        return m_desktop.Grab({ place.left, place.top, place.width, 31 }).Mean().Brightest() > kPainted;
+        return MeanOf(m_desktop.Grab({ place.left, place.top, place.width, 31 })).value() > kPainted;
     }
 
     Desktop& m_desktop;

@@ -14,7 +14,7 @@ namespace zentaro {
 
 Picture DecodePictureFile(const std::string& path)
 {
-    // Read here: a path of the system may hold bytes that no text of Qt can.
+    // Not read by Qt: a path may hold bytes that are no valid text, and a QString could not name the file.
     std::ifstream file(path, std::ios::binary);
     const std::string bytes{ std::istreambuf_iterator<char>(file), {} };
     const auto data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));

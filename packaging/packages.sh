@@ -36,14 +36,14 @@ dpkg-dev                finds what the .deb depends on
 packages_screenless='
 xvfb                    a display in memory
 openbox                 a window manager for it
-xdotool                 finds the window and closes it
+xdotool                 finds the window, presses its keys and closes it
 '
 packages_test='
 libgtest-dev            GoogleTest
 libgmock-dev            GoogleMock
 googletest              their sources, cross-built for Windows
-libxcb-xtest0-dev       the desktop tests press keys and buttons
-libxcb-keysyms1-dev     which key has which code
+libx11-dev              the tests of the real window look at windows
+libxtst-dev             and move the pointer
 dbus                    a session bus of the tests own
 desktop-file-utils      checks and collects desktop entries
 shared-mime-info        the types of files, and what adds to them

@@ -12,7 +12,7 @@ namespace {
 constexpr int kNotch = 120;                       // eighths of a degree
 constexpr int kVolumePerNotch = 5;                // percent
 constexpr double kStepWithoutLength = 0.01;       // of the item
-constexpr double kEndMargin = 500;                // ms before the end: from there an item ends by itself
+constexpr double kEndMargin = 1500;               // ms before the end: nearer to it the clock takes an item as ended
 constexpr double kEndMarginWithoutLength = 0.001; // of the item
 
 /// Where a step of so many ms lands in an item of that length (ms).
@@ -65,6 +65,10 @@ void Transport::Play()
 void Transport::ItemStarted()
 {
     m_rate.ItemStarted();
+    m_state.progress = 0;
+    m_state.length = 0;
+    // The logo of the sound before must not cover the first pictures; between two sounds it stays.
+    m_state.showAudioLogo = m_state.showAudioLogo && !m_item.hasVideo;
     EnableMediaControls(true);
     ShowRate(true);
     m_observer.TransportChanged();

@@ -21,6 +21,7 @@ struct TransportItem {
     Kind kind = Kind::File;
     std::string path; ///< the current item path
     std::string name; ///< names the folder of its snapshots
+    bool hasVideo = true; ///< as far as is known before it plays
 
     bool IsDisc() const { return kind != Kind::File; }
 };

@@ -140,10 +140,10 @@ std::vector<std::string> DroppedMediaFiles(const std::vector<std::string>& paths
     for (const auto& path : paths) {
         std::error_code error;
         if (fs::is_directory(ToPath(path), error)) {
-            if (!reader.Read(path, files))
+            if (!reader.Read(TidyPath(path), files))
                 break;
         } else if (IsSupportedFile(path, separator)) {
-            files.push_back(path);
+            files.push_back(TidyPath(path));
         }
     }
     return files;

@@ -7,7 +7,8 @@
 
 namespace zentaro {
 
-// The typeface has such digits as a feature that the toolkit cannot ask for: they are set one by one.
+// The typeface has digits of one width, but only as an option that Qt cannot switch on. So this label draws each digit
+// by itself, in a place as wide as the widest of them.
 DigitLabel::DigitLabel(QWidget* parent)
     : QLabel(parent)
 {

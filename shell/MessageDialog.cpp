@@ -39,12 +39,13 @@ QPixmap SignOf(NoticeIcon icon, const QWidget& widget)
 QString Readable(const std::string& notice)
 {
     const auto text = ToQString(notice);
-    // Breaking an endless name into lines takes minutes, and nobody reads it.
+    // Qt needs minutes to break a name of a million letters into lines, and nobody would read it: the middle goes.
     return text.size() <= kLongestNotice ? text
                                          : text.left(kLongestNotice / 2) + " ... " + text.right(kLongestNotice / 2);
 }
 
-/// Text that breaks anywhere where it must: paths have no blanks. As high as it needs, or it scrolls.
+/// Text that is broken in the middle of a word where it must be, because a long path has no blanks. It is as high as
+/// its lines need, and scrolls when that is higher than it may be.
 class MessageText : public QTextEdit {
 public:
     MessageText(const QString& text, int highest, QWidget* parent)

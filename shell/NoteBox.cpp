@@ -47,14 +47,14 @@ void NoteBox::Show(const QRect& area, const QString& text, const QImage& picture
 
 void NoteBox::Place(const QRect& area)
 {
-    // Read from afar where the video is large.
+    // A large video is watched from further away: larger letters.
     auto letters = parentWidget()->font();
     if (area.width() >= kLargeArea)
         letters.setPixelSize(kLargeLetters);
     setFont(letters);
     const int frame = 2 * kPadding + kMark;
     const int widest = std::max(area.width() - 2 * kDistance - frame, 0);
-    // What was taken goes on playing below.
+    // The picture must not hide the video, which goes on playing below.
     const QSize pictureRoom = kPictureRoom.boundedTo({ area.width() / 2, area.height() / 3 });
     m_pictureSize = m_picture.isNull() ? QSize(0, 0) : m_picture.size().scaled(pictureRoom, Qt::KeepAspectRatio);
     m_shownText = fontMetrics().elidedText(m_text, Qt::ElideMiddle, kMostLines * widest);
@@ -62,7 +62,7 @@ void NoteBox::Place(const QRect& area)
         const QRect room(0, 0, widest, area.height());
         return fontMetrics().boundingRect(room, kTextFlags | wrapping, m_shownText).size();
     };
-    // A long name has no place to break at.
+    // A long name without blanks is broken in the middle of the word.
     m_wrapping = sizeOf(Qt::TextWordWrap).width() > widest ? Qt::TextWrapAnywhere : Qt::TextWordWrap;
     const auto text = sizeOf(m_wrapping);
     const int pictureHeight = m_picture.isNull() ? 0 : m_pictureSize.height() + kGap;

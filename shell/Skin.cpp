@@ -80,8 +80,6 @@ Result<void> Skin::Load(const QString& folder)
             threads.emplace_back(decode);
         decode();
     }
-    m_copies.clear();
-    m_images.fill({});
     for (std::size_t i = 0; i < files.size(); ++i) {
         if (decoded[i].isNull())
             return Error{ 0, "cannot load the picture " + ToText(folder) + files[i].name };

@@ -26,8 +26,8 @@ class Skin {
 public:
     Skin();
 
-    /// Decodes every file below `folder` (with a trailing separator). The first one, in load order, that cannot be
-    /// loaded ends the load: it and the later ones stay empty, and the error's text names it.
+    /// To be called once. Decodes every file below `folder` (with a trailing separator). The first one, in load order,
+    /// that cannot be loaded ends the load: it and the later ones stay empty, and the error's text names it.
     Result<void> Load(const QString& folder);
 
     /// Stretches the whole image into the rectangle (logical px) and gives the rectangle back. An empty image and a

@@ -3,8 +3,11 @@
 #include "shell/SkinButton.h"
 #include "shell/Style.h"
 
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QShortcut>
+#include <QTabBar>
 #include <QStyle>
 #include <QWindow>
 
@@ -34,6 +37,46 @@ Rect WholeOf(const QWidget& widget)
     return { 0, 0, widget.width(), widget.height() };
 }
 
+class SkinTabBar : public QTabBar {
+public:
+    SkinTabBar(Skin& skin, QWidget* parent)
+        : QTabBar(parent)
+        , m_skin(skin)
+    {
+        setDrawBase(false);
+        setExpanding(false);
+        setFocusPolicy(Qt::StrongFocus);
+    }
+
+protected:
+    QSize tabSizeHint(int index) const override
+    {
+        return { fontMetrics().size(Qt::TextShowMnemonic, tabText(index)).width() + kTabRoom, kTabHeight };
+    }
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Skin& m_skin;
+};
+
+void SkinTabBar::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    for (int i = 0; i < count(); ++i) {
+        const bool isChosen = i == currentIndex();
+        const auto place = tabRect(i);
+        painter.setOpacity(isChosen ? 1 : kTabBehind);
+        m_skin.Draw(painter, SkinImage::TabButton, { place.x() + 1, place.y(), place.width() - 2, place.height() });
+        painter.setOpacity(1);
+        auto colours = palette();
+        colours.setColor(QPalette::WindowText, isChosen ? style::kText : style::kSecondText);
+        style()->drawItemText(
+            &painter, place, Qt::AlignCenter | Qt::TextShowMnemonic, colours, true, tabText(i), QPalette::WindowText);
+        if (isChosen && hasFocus())
+            DrawFocusRing(painter, QRectF(place).adjusted(6.5, 5.5, -6.5, -4.5));
+    }
+}
+
 } // namespace
 
 SkinDialog::SkinDialog(const QString& title, Skin& skin, QWidget* owner)
@@ -52,7 +95,7 @@ void SkinDialog::showEvent(QShowEvent* event)
     QDialog::showEvent(event);
     if (event->spontaneous() || parentWidget() == nullptr)
         return;
-    // Qt leaves room for a frame that this dialog has not.
+    // Qt would place the dialog as if it had a window frame, and it would not lie in the middle.
     QRect place(QPoint(), size());
     place.moveCenter(parentWidget()->window()->geometry().center());
     const auto room = parentWidget()->screen()->availableGeometry();
@@ -77,7 +120,7 @@ void SkinDialog::paintEvent(QPaintEvent*)
         painter, ButtonImage(Button::Close, m_close->State()), { close.x(), close.y(), close.width(), close.height() });
     painter.setPen(style::kText);
     painter.drawText(QRect(14, 0, close.left() - 14, kTitleHeight), Qt::AlignVCenter, windowTitle());
-    // A dark line outside, a light one inside: the edge shows on the player as on any desktop.
+    // A dark line outside and a light one inside it: one of the two shows, whatever lies behind.
     painter.setPen(style::kBase);
     painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
     painter.setPen(QColor(255, 255, 255, kOutline));
@@ -120,36 +163,20 @@ void SkinPushButton::paintEvent(QPaintEvent*)
         DrawFocusRing(painter, QRectF(rect()).adjusted(1.5, 1.5, -1.5, -2.5));
 }
 
-SkinTabBar::SkinTabBar(Skin& skin, QWidget* parent)
-    : QTabBar(parent)
-    , m_skin(skin)
+SkinTabs::SkinTabs(Skin& skin, QWidget* parent)
+    : QTabWidget(parent)
 {
-    setDrawBase(false);
-    setExpanding(false);
-    setFocusPolicy(Qt::StrongFocus);
+    setTabBar(new SkinTabBar(skin, this));
+    setDocumentMode(true);
+    // A tab widget knows these keys by itself, but only those that its children leave: a combo box keeps them.
+    TurnPages(QKeySequence::NextChild, 1);
+    TurnPages(QKeySequence::PreviousChild, -1);
 }
 
-QSize SkinTabBar::tabSizeHint(int index) const
+void SkinTabs::TurnPages(QKeySequence::StandardKey keys, int by)
 {
-    return { fontMetrics().size(Qt::TextShowMnemonic, tabText(index)).width() + kTabRoom, kTabHeight };
-}
-
-void SkinTabBar::paintEvent(QPaintEvent*)
-{
-    QPainter painter(this);
-    for (int i = 0; i < count(); ++i) {
-        const bool isChosen = i == currentIndex();
-        const auto place = tabRect(i);
-        painter.setOpacity(isChosen ? 1 : kTabBehind);
-        m_skin.Draw(painter, SkinImage::TabButton, { place.x() + 1, place.y(), place.width() - 2, place.height() });
-        painter.setOpacity(1);
-        auto colours = palette();
-        colours.setColor(QPalette::WindowText, isChosen ? style::kText : style::kSecondText);
-        style()->drawItemText(
-            &painter, place, Qt::AlignCenter | Qt::TextShowMnemonic, colours, true, tabText(i), QPalette::WindowText);
-        if (isChosen && hasFocus())
-            DrawFocusRing(painter, QRectF(place).adjusted(6.5, 5.5, -6.5, -4.5));
-    }
+    connect(new QShortcut(keys, this), &QShortcut::activated, this,
+        [this, by] { setCurrentIndex((currentIndex() + by + count()) % count()); });
 }
 
 SkinLine::SkinLine(Qt::Orientation orientation, Skin& skin, QWidget* parent)
@@ -164,6 +191,15 @@ void SkinLine::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     m_skin.Draw(painter, m_orientation == Qt::Horizontal ? SkinImage::HLine : SkinImage::VLine, WholeOf(*this));
+}
+
+QLabel* SecondText(const QString& text, QWidget* parent)
+{
+    auto* const label = new QLabel(text, parent);
+    auto colours = label->palette();
+    colours.setColor(QPalette::WindowText, style::kSecondText);
+    label->setPalette(colours);
+    return label;
 }
 
 } // namespace zentaro

@@ -4,7 +4,9 @@
 
 #include <QDialog>
 #include <QPushButton>
-#include <QTabBar>
+#include <QTabWidget>
+
+class QLabel;
 
 namespace zentaro {
 
@@ -48,17 +50,14 @@ private:
     Skin& m_skin;
 };
 
-/// Tabs with the skin's background. The bar keeps what a tab bar does for keys and for those who have it read out.
-class SkinTabBar : public QTabBar {
+/// Pages behind tabs with the skin's background. The bar keeps what a tab bar does for keys and for those who have it
+/// read out.
+class SkinTabs : public QTabWidget {
 public:
-    SkinTabBar(Skin& skin, QWidget* parent);
-
-protected:
-    QSize tabSizeHint(int index) const override;
-    void paintEvent(QPaintEvent* event) override;
+    SkinTabs(Skin& skin, QWidget* parent);
 
 private:
-    Skin& m_skin;
+    void TurnPages(QKeySequence::StandardKey keys, int by);
 };
 
 /// A divider of the skin.
@@ -73,5 +72,8 @@ private:
     Qt::Orientation m_orientation;
     Skin& m_skin;
 };
+
+/// A label for what only accompanies: headings and explanations, fainter than the text.
+QLabel* SecondText(const QString& text, QWidget* parent = nullptr);
 
 } // namespace zentaro

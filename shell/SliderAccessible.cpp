@@ -18,7 +18,7 @@ QAccessibleInterface* MakeSlider(const QString&, QObject* object)
 
 void SliderAccessible::Install()
 {
-    // The tool kit itself leaves out a second time.
+    // Qt ignores a factory that is installed already.
     QAccessible::installFactory(&MakeSlider);
 }
 

@@ -10,8 +10,6 @@ namespace zentaro {
 
 namespace {
 
-constexpr int kShortestThumb = 28; // px
-
 void DrawCheckMark(QPainter& painter, const QRectF& rect, const QColor& color)
 {
     const Brushwork work(painter, QPen(color, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin), Qt::NoBrush);
@@ -136,7 +134,7 @@ void DrawMenuItem(QPainter& painter, const QStyleOptionMenuItem& item, bool show
 void DrawSplitter(QPainter& painter, const QStyleOption& option)
 {
     painter.fillRect(option.rect, style::kBaseLight);
-    // The state tells the splitter's direction, not the handle's.
+    // The state tells how the splitter's parts lie: side by side, so the handle between them is upright.
     const bool isUpright = Has(option, QStyle::State_Horizontal);
     QRectF grip(0, 0, isUpright ? 2 : 28, isUpright ? 28 : 2);
     grip.moveCenter(QRectF(option.rect).center());

@@ -11,6 +11,7 @@ namespace zentaro {
 inline constexpr int kIndicatorSide = 16; // px, check boxes and radio buttons
 inline constexpr int kMenuText = 34;      // px, where a menu's text begins: icons and marks lie before it
 inline constexpr int kMenuRight = 30;     // px, for the arrow of a submenu
+inline constexpr int kShortestThumb = 28; // px, of a scroll bar
 
 inline bool Has(const QStyleOption& option, QStyle::StateFlag flag)
 {

@@ -41,6 +41,8 @@ int WidgetStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, con
         return kIndicatorSide;
     case PM_ScrollBarExtent:
         return kScrollBar;
+    case PM_ScrollBarSliderMin:
+        return kShortestThumb;
     case PM_MenuPanelWidth:
     case PM_ButtonShiftVertical:
         return 1;
@@ -131,7 +133,7 @@ QRect WidgetStyle::subElementRect(SubElement element, const QStyleOption* option
 
 QPixmap WidgetStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const
 {
-    // A selected line is no reason to dye its icon.
+    // Qt would tint the icon of a selected line; ours look well on every ground.
     return mode == QIcon::Disabled ? QProxyStyle::generatedIconPixmap(mode, pixmap, option) : pixmap;
 }
 
@@ -141,7 +143,7 @@ void WidgetStyle::drawPrimitive(
     const auto& rect = option->rect;
     switch (element) {
     case PE_FrameFocusRect:
-        // Item views show where the keys are by their selection.
+        // Lists show by their selection which line the keys act on.
         if (qobject_cast<const QAbstractItemView*>(widget) == nullptr)
             DrawFocus(*painter, rect);
         return;
@@ -219,11 +221,11 @@ void WidgetStyle::drawControl(
         }
         return;
     case CE_SizeGrip:
-        return; // edges and corners take the hand everywhere
+        return; // a window is resized at any of its edges; it needs no grip
     case CE_MenuEmptyArea:
         return;
     case CE_PushButton:
-        // The face shows the focus itself.
+        // Without the focus rectangle that Qt adds: the face shows the focus.
         proxy()->drawControl(CE_PushButtonBevel, option, painter, widget);
         proxy()->drawControl(CE_PushButtonLabel, option, painter, widget);
         return;

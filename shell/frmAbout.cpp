@@ -31,7 +31,7 @@ constexpr Part kParts[] = {
     { "Inter", "the typeface", "SIL Open Font License 1.1" },
 };
 
-/// A link that the first Tab reaches: a label alone wants one for itself and another one for its link.
+/// A label with a link that one press of Tab reaches. In a plain label Tab stops twice, at the label and at its link.
 class LinkLabel : public QLabel {
 public:
     using QLabel::QLabel;
@@ -43,15 +43,6 @@ protected:
         QLabel::focusNextPrevChild(true);
     }
 };
-
-QLabel* SecondText(const QString& text, QWidget* parent)
-{
-    auto* const label = new QLabel(text, parent);
-    auto colours = label->palette();
-    colours.setColor(QPalette::WindowText, style::kSecondText);
-    label->setPalette(colours);
-    return label;
-}
 
 } // namespace
 

@@ -16,7 +16,6 @@
 #include <QListWidget>
 #include <QPainter>
 #include <QRadioButton>
-#include <QShortcut>
 #include <QSignalBlocker>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -32,36 +31,6 @@ constexpr int kHeight = 500;
 constexpr int kBand = 52;   // px, the strip of the buttons
 constexpr int kCorner = 16; // px
 constexpr int kTabsTop = 8; // px below the title bar
-
-/// QTabWidget lets only itself and its heirs change the bar.
-class SkinTabs : public QTabWidget {
-public:
-    SkinTabs(Skin& skin, QWidget* parent)
-        : QTabWidget(parent)
-    {
-        setTabBar(new SkinTabBar(skin, this));
-        setDocumentMode(true);
-        // The keys that a tab widget knows already, as shortcuts: a box with choices keeps them to itself otherwise.
-        TurnPages(QKeySequence::NextChild, 1);
-        TurnPages(QKeySequence::PreviousChild, -1);
-    }
-
-private:
-    void TurnPages(QKeySequence::StandardKey keys, int by)
-    {
-        connect(new QShortcut(keys, this), &QShortcut::activated, this,
-            [this, by] { setCurrentIndex((currentIndex() + by + count()) % count()); });
-    }
-};
-
-QLabel* SecondText(const QString& text)
-{
-    auto* const label = new QLabel(text);
-    auto colours = label->palette();
-    colours.setColor(QPalette::WindowText, style::kSecondText);
-    label->setPalette(colours);
-    return label;
-}
 
 QVBoxLayout* PageLayout(QWidget* page)
 {
@@ -96,41 +65,58 @@ frmSettings::frmSettings(const SettingsPages& pages, const std::vector<FileTypeR
 QWidget* frmSettings::MakePlayerPage()
 {
     auto* const page = new QWidget;
-    auto* const left = new QVBoxLayout;
-    AddHeading(*left, tr("Window"));
-    AddFlag(*left, tr("Always on &top"), &SettingsPages::alwaysOnTop);
-    AddFlag(*left, tr("Icon in the tra&y"), &SettingsPages::showInTray);
-    AddFlag(*left, tr("Remember the posit&ion"), &SettingsPages::rememberLastPos);
-    AddFlag(*left, tr("Remember the si&ze"), &SettingsPages::rememberLastSize);
-    left->addSpacing(14);
-    AddHeading(*left, tr("The caption shows"));
-    auto* const modes = new QButtonGroup(page);
+    auto* const columns = new QHBoxLayout;
+    PageLayout(page)->addLayout(columns);
+    columns->setSpacing(18);
+    columns->addLayout(MakeWindowOptions(), 4);
+    columns->addWidget(new SkinLine(Qt::Vertical, Pictures()));
+    columns->addLayout(MakeFileOptions(), 5);
+    return page;
+}
+
+QBoxLayout* frmSettings::MakeWindowOptions()
+{
+    auto* const column = new QVBoxLayout;
+    column->setSpacing(9);
+    AddHeading(*column, tr("Window"));
+    AddFlag(*column, tr("Always on &top"), &SettingsPages::alwaysOnTop);
+    AddFlag(*column, tr("Icon in the tra&y"), &SettingsPages::showInTray);
+    AddFlag(*column, tr("Remember the posit&ion"), &SettingsPages::rememberLastPos);
+    AddFlag(*column, tr("Remember the si&ze"), &SettingsPages::rememberLastSize);
+    column->addSpacing(14);
+    AddHeading(*column, tr("The caption shows"));
+    auto* const modes = new QButtonGroup(this);
     const QStringList names{ tr("the title &of the file"), tr("the &full path"), tr("the p&rogram's name alone") };
     for (int mode = 0; mode < names.size(); ++mode) {
         auto* const button = new QRadioButton(names[mode]);
         button->setChecked(mode == m_pages.titleBarMode);
-        // Tab stops at the choice that holds; Qt sees to that only once the group has had the focus.
+        // Tab must stop at the chosen button alone. Qt sees to that only after the group has had the focus once.
         button->setFocusPolicy(button->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
         button->setAccessibleDescription(tr("What the caption shows"));
         modes->addButton(button, mode);
-        left->addWidget(button);
+        column->addWidget(button);
     }
     connect(modes, &QButtonGroup::idClicked, this, [this](int mode) {
         m_pages.titleBarMode = mode;
         NoteChange();
     });
-    left->addStretch();
+    column->addStretch();
+    return column;
+}
 
-    auto* const right = new QVBoxLayout;
-    AddHeading(*right, tr("Files"));
-    AddFlag(*right, tr("&Keep History of recently Opened files."), &SettingsPages::keepHistory);
-    AddFlag(*right, tr("&Launch Files in Fullscreen."), &SettingsPages::launchFullScreen);
-    AddFlag(*right, tr("&Use new player for each media file played."), &SettingsPages::useNewPlayer);
-    right->addSpacing(14);
-    AddHeading(*right, tr("While a video plays"));
-    AddFlag(*right, tr("Disable the screen sa&ver"), &SettingsPages::disableScreenSaver);
-    right->addSpacing(14);
-    AddHeading(*right, tr("Playlist"));
+QBoxLayout* frmSettings::MakeFileOptions()
+{
+    auto* const column = new QVBoxLayout;
+    column->setSpacing(9);
+    AddHeading(*column, tr("Files"));
+    AddFlag(*column, tr("&Keep History of recently Opened files."), &SettingsPages::keepHistory);
+    AddFlag(*column, tr("&Launch Files in Fullscreen."), &SettingsPages::launchFullScreen);
+    AddFlag(*column, tr("&Use new player for each media file played."), &SettingsPages::useNewPlayer);
+    column->addSpacing(14);
+    AddHeading(*column, tr("While a video plays"));
+    AddFlag(*column, tr("Disable the screen sa&ver"), &SettingsPages::disableScreenSaver);
+    column->addSpacing(14);
+    AddHeading(*column, tr("Playlist"));
     auto* const dock = new QComboBox;
     dock->addItems({ tr("Left"), tr("Right"), tr("Top"), tr("Bottom"), tr("The whole window") });
     dock->setCurrentIndex(m_pages.playlistPosition);
@@ -143,18 +129,9 @@ QWidget* frmSettings::MakePlayerPage()
     auto* const dockRow = new QHBoxLayout;
     dockRow->addWidget(where);
     dockRow->addWidget(dock, 1);
-    right->addLayout(dockRow);
-    right->addStretch();
-
-    auto* const columns = new QHBoxLayout;
-    PageLayout(page)->addLayout(columns);
-    columns->setSpacing(18);
-    for (auto* const column : { left, right })
-        column->setSpacing(9);
-    columns->addLayout(left, 4);
-    columns->addWidget(new SkinLine(Qt::Vertical, Pictures()));
-    columns->addLayout(right, 5);
-    return page;
+    column->addLayout(dockRow);
+    column->addStretch();
+    return column;
 }
 
 QWidget* frmSettings::MakeAssociationsPage(const std::vector<FileTypeRow>& rows)

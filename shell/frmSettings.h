@@ -45,6 +45,8 @@ private:
     };
 
     QWidget* MakePlayerPage();
+    QBoxLayout* MakeWindowOptions();
+    QBoxLayout* MakeFileOptions();
     QWidget* MakeAssociationsPage(const std::vector<FileTypeRow>& rows);
     QWidget* MakeSnapshotsPage();
     QBoxLayout* MakeButtons();

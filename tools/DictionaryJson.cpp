@@ -21,7 +21,7 @@ nlohmann::ordered_json ToJson(const Dictionary& data)
                 if constexpr (std::is_same_v<Type, Dictionary>)
                     place = ToJson(typed);
                 else if constexpr (std::is_same_v<Type, float>)
-                    place = ValueOfText(FloatText(typed)); // 29.97, not the digits of its binary form
+                    place = ValueOfText(FloatText(typed)); // prints 29.97, not 29.969999
                 else
                     place = typed;
             },

@@ -111,7 +111,9 @@ TEST_F(MediaRemoteTest, tracks_keep_their_numbers_and_an_item_taken_off_the_list
     EXPECT_EQ(Do({ .kind = Kind::GoToTrack, .track = tracks[2].id }).track, tracks[2]);
     EXPECT_EQ(*Do({ .kind = Kind::RemoveTrack, .track = tracks[0].id }).tracks, (std::vector{ tracks[1], tracks[2] }));
     EXPECT_EQ(world.player->Entries().List().SelectedText(), tracks[2].title);
+    world.player->Entries().List().Press(FancyListItems::kNone);
     EXPECT_EQ(Do({ .kind = Kind::RemoveTrack, .track = tracks[2].id }).track, tracks[2]);
+    EXPECT_EQ(world.player->Entries().List().SelectedItem(), FancyListItems::kNone);
     Do({ .kind = Kind::GoToTrack, .track = tracks[2].id });
     EXPECT_EQ(remote->Status().playback, Playback::Playing);
     EXPECT_EQ(Starts(), 2U);

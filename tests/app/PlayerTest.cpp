@@ -159,6 +159,9 @@ TEST_F(PlayerTest, an_order_that_names_a_removed_entry_plays_nothing)
     EndItem();
     EXPECT_EQ(Starts(), 1u);
     EXPECT_FALSE(IsLoaded());
+    EXPECT_EQ(trace.stops, 1); // no frozen picture of what is gone
+    EXPECT_EQ(player.State().progress, 0);
+    EXPECT_EQ(player.Window().Caption(), "Zentaro");
 }
 
 TEST_F(PlayerTest, repeat_one_asks_for_files_when_its_list_was_emptied)
@@ -170,7 +173,50 @@ TEST_F(PlayerTest, repeat_one_asks_for_files_when_its_list_was_emptied)
     EXPECT_FALSE(IsLoaded());
 }
 
-TEST_F(PlayerTest, a_round_in_which_nothing_plays_stops_with_a_note)
+TEST_F(PlayerTest, what_cannot_be_played_is_named_and_passed_in_the_direction_of_travel)
+{
+    auto& player = StartWithEntries(4, kPlayContinuous, kNoRepeat);
+    const auto fail = [&] {
+        trace.state = Engine::kFailed;
+        player.OnPositionTick();
+        trace.state = Engine::kPlaying;
+    };
+    player.Sequence().cmdNextClick();
+    fail();
+    EXPECT_EQ(world.window.notes.back(), "b.avi cannot be played");
+    EXPECT_EQ(LastPlayed(), "/c.avi");
+    player.Sequence().cmdPreviousClick();
+    fail(); // and not to c again
+    EXPECT_EQ(LastPlayed(), "/a.avi");
+    player.Sequence().PBNormal();
+    player.Sequence().cmdNextClick();
+    fail();
+    EXPECT_EQ(LastPlayed(), "/c.avi");
+    EndItem(); // the journey is over: the modes count again
+    EXPECT_FALSE(IsLoaded());
+}
+
+TEST_F(PlayerTest, a_round_of_failures_stops_with_a_note_and_runs_nothing)
+{
+    for (const auto mode : { kPlayNormal, kPlayContinuous, kPlayShuffle }) {
+        for (const auto repeat : { kNoRepeat, kRepeatSingle, kRepeatAll }) {
+            auto& player = StartWithEntries(3, mode, repeat);
+            player.Sequence().DoAfter(1);
+            world.window.notes.clear();
+            trace.time = trace.length = 0;
+            trace.state = Engine::kFailed;
+            for (int tick = 0; tick < 10; ++tick)
+                player.OnPositionTick();
+            trace.state = Engine::kPlaying;
+            EXPECT_FALSE(IsLoaded());
+            EXPECT_FALSE(world.window.notes.empty());
+        }
+    }
+    EXPECT_EQ(world.power.restarts, 0);
+    EXPECT_TRUE(world.dialogs.boxes.empty());
+}
+
+TEST_F(PlayerTest, an_item_that_plays_and_a_choice_of_the_user_begin_the_count_of_failures_anew)
 {
     auto& player = StartWithEntries(3, kPlayContinuous, kRepeatAll);
     const auto fail = [&](int ticks) {
@@ -180,18 +226,15 @@ TEST_F(PlayerTest, a_round_in_which_nothing_plays_stops_with_a_note)
         trace.state = Engine::kPlaying;
     };
     fail(2);
-    EndItem(); // one that played begins the count anew
+    EndItem();
     trace.time = trace.length = 0;
     fail(2);
     EXPECT_TRUE(IsLoaded());
-    player.Sequence().cmdNextClick(); // and so does the user's choice
+    player.Sequence().PlayEntry(0);
     fail(2);
     EXPECT_TRUE(IsLoaded());
-    EXPECT_TRUE(world.window.notes.empty());
     fail(1);
     EXPECT_FALSE(IsLoaded());
-    EXPECT_EQ(world.window.notes.size(), 1u);
-    EXPECT_TRUE(world.dialogs.boxes.empty());
 }
 
 TEST_F(PlayerTest, chosen_files_are_added_and_only_the_first_plays)

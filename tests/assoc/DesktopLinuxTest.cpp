@@ -72,6 +72,13 @@ protected:
         return Run("xdg-mime query default " + TypeOf(extension));
     }
 
+    /// As the common library sees it, which looks whether a program is there.
+    static std::string DefaultByGio(std::string_view extension)
+    {
+        const auto line = Run("gio mime " + TypeOf(extension) + " | head -n 1");
+        return line.find(": ") == std::string::npos ? "" : line.substr(line.rfind(' ') + 1);
+    }
+
     static AssociationFlags Flags(const std::set<std::string_view>& extensions)
     {
         AssociationFlags flags{};
@@ -170,14 +177,41 @@ TEST_F(DesktopOfUser, extensions_of_one_type_count_together)
     EXPECT_NE(Load(defaults).find("audio/mpeg=zentaro.desktop"), std::string::npos);
 }
 
-TEST_F(DesktopOfUser, an_owner_that_was_written_over_comes_back)
+TEST_F(DesktopOfUser, an_installed_package_keeps_its_entry_and_nothing_outlives_the_program)
 {
-    Run("xdg-mime default second.desktop video/x-flv");
-    Start(Flags({ "flv" }));
-    // As a settings page does it that knows only one program per type.
-    Run("xdg-mime default zentaro.desktop video/x-flv");
-    Start({});
-    EXPECT_EQ(Default("flv"), "second.desktop");
+    const auto common = folder / "system/applications/zentaro.desktop";
+    Save(common, PlayerEntry("Zentaro") + "MimeType=" + TypeOf("mp4") + ";" + TypeOf("mp3") + ";\n");
+    Run("update-desktop-database " + folder / "system/applications");
+    Start(Flags({ "mp4", "mkv" }));
+    EXPECT_EQ(Default("mp4") + Default("mkv"), "zentaro.desktopzentaro.desktop");
+    EXPECT_EQ(Default("mp3"), "other.desktop");
+    EXPECT_FALSE(fs::exists(applications + "zentaro.desktop"));
+    EXPECT_NE(Run("gio mime audio/mpeg").find("zentaro.desktop"), std::string::npos);
+    // The package goes. Another copy makes an entry of its own, and goes in turn.
+    fs::remove(common);
+    fs::rename(program, program + "-away");
+    EXPECT_EQ(DefaultByGio("mkv"), "other.desktop");
+    fs::rename(program + "-away", program);
+    Start(Flags({ "mkv" }));
+    EXPECT_EQ(DefaultByGio("mkv"), "zentaro.desktop");
+    EXPECT_EQ(Default("mp4"), "other.desktop");
+    EXPECT_NE(Run("gio mime video/x-matroska").find("zentaro-add.desktop"), std::string::npos);
+    fs::remove(program);
+    EXPECT_EQ(DefaultByGio("mkv"), "other.desktop");
+    EXPECT_EQ(Run("gio mime video/x-matroska").find("\tzentaro"), std::string::npos);
+}
+
+TEST_F(DesktopOfUser, what_a_user_has_removed_is_no_owner)
+{
+    Save(defaults,
+        "[Removed Associations]\nvideo/x-flv=other.desktop;\n[Added Associations]\nvideo/mp4=gone.desktop;"
+        "second.desktop;\n");
+    Save(folder / "system/applications/gone.desktop", PlayerEntry("Gone") + "TryExec=/nowhere/gone\n");
+    const auto shell = platform::AssociationShell::Open("zentaro", "/");
+    shell->Refresh();
+    EXPECT_EQ(DefaultByGio("flv"), "");
+    EXPECT_EQ(shell->CurrentOwner(".flv")->owner, "");
+    EXPECT_EQ(shell->CurrentOwner(".mp4")->owner, DefaultByGio("mp4"));
 }
 
 TEST_F(DesktopOfUser, each_file_starts_the_program_with_the_name_and_the_word_behind_it)
@@ -269,25 +303,25 @@ TEST_F(DesktopOfUser, what_must_not_be_written_leaves_all_as_it_is)
     EXPECT_EQ(Files(), readOnly);
 }
 
-TEST_F(DesktopOfUser, the_desktops_own_file_of_defaults_does_not_stand_in_the_way)
+TEST_F(DesktopOfUser, a_desktops_own_file_missing_tools_and_a_settings_page_are_no_obstacle)
 {
     setenv("XDG_CURRENT_DESKTOP", "Unusual:GNOME", 1);
     Save(config + "/gnome-mimeapps.list", "[Default Applications]\nvideo/x-flv=second.desktop\n");
-    Start(Flags({ "flv" }));
-    EXPECT_EQ(Default("flv"), "zentaro.desktop");
-    Start({});
-    EXPECT_EQ(Default("flv"), "second.desktop");
-    EXPECT_EQ(Load(config + "/gnome-mimeapps.list"), "[Default Applications]\nvideo/x-flv=second.desktop;\n");
-}
-
-TEST_F(DesktopOfUser, works_without_any_of_the_tools)
-{
     const std::string path = getenv("PATH");
     setenv("PATH", folder.Path().c_str(), 1);
-    Start(Flags({ "flv" }));
+    Start(Flags({ "flv", "wmv" }));
     setenv("PATH", path.c_str(), 1);
     EXPECT_EQ(Default("flv"), "zentaro.desktop");
     EXPECT_NE(Run("gio mime video/x-flv").find("zentaro-add.desktop"), std::string::npos);
+    Start({});
+    EXPECT_EQ(Default("flv"), "second.desktop");
+    EXPECT_EQ(Load(config + "/gnome-mimeapps.list"), "[Default Applications]\nvideo/x-flv=second.desktop;\n");
+    // A page that knows only one program per type writes over the owner that is to come back.
+    Start(Flags({ "flv" }));
+    Save(config + "/gnome-mimeapps.list", "");
+    Run("xdg-mime default zentaro.desktop video/x-flv");
+    Start({});
+    EXPECT_EQ(Default("flv"), "second.desktop");
 }
 
 } // namespace

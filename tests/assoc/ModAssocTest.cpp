@@ -37,54 +37,41 @@ protected:
     ModAssoc types{ store, shell, "C:\\PROGRA~1\\Zentaro.exe", "C:\\Program Files\\", '\\' };
 };
 
-TEST_F(Associations, a_registered_type_has_two_verbs_and_an_icon)
+TEST_F(Associations, a_taken_type_has_two_verbs_and_an_icon_and_comes_back_with_its_traces)
 {
-    types.AssociateType(kMkv);
-    EXPECT_EQ(Class("Zentaro.mkv:"), "Zentaro mkv File");
-    EXPECT_EQ(Class("Zentaro.mkv\\shell\\open\\command:"), "C:\\PROGRA~1\\Zentaro.exe %1");
-    EXPECT_EQ(Class("Zentaro.mkv\\shell\\Add To Playlist\\command:"), "C:\\PROGRA~1\\Zentaro.exe %1 *Add");
-    EXPECT_EQ(Class("Zentaro.mkv\\DefaultIcon:"), "C:\\Program Files\\icons\\mkv.ico");
-    for (const auto* key : { "Zentaro.mkv\\shell", "Zentaro.mkv\\shell\\open", "Zentaro.mkv\\shell\\Add To Playlist" })
-        EXPECT_TRUE(Has(key + std::string(":")) && Class(key + std::string(":")).empty()) << key;
-    types.RegisterVerb("Zentaro.x", "x", "open", "", "");
-    EXPECT_EQ(Class("Zentaro.x\\DefaultIcon:"), "C:\\PROGRA~1\\Zentaro.exe");
-}
-
-TEST_F(Associations, a_taken_type_comes_back_with_its_traces)
-{
+    for (const auto outside : { std::int16_t{ -1 }, std::int16_t{ 24 } }) {
+        types.AssociateType(outside);
+        types.UnassociateType(outside);
+    }
+    EXPECT_TRUE(store.values.empty());
     Class(".mkv:") = "OtherPlayer.mkv";
     Chosen("ProgID") = "Chosen.mkv";
     types.AssociateType(kMkv);
     types.AssociateType(kMkv);
-    EXPECT_EQ(Class(".mkv:"), "Zentaro.mkv");
-    EXPECT_EQ(Class(".mkv:OldAss"), "OtherPlayer.mkv");
-    EXPECT_EQ(Chosen("ProgID"), "Zentaro.mkv");
-    EXPECT_EQ(Chosen("OldProgID"), "Chosen.mkv");
-    EXPECT_EQ(shell.notices, 1);
-
+    const std::map<std::string, std::string> taken = { { ".mkv:", "Zentaro.mkv" }, { ".mkv:OldAss", "OtherPlayer.mkv" },
+        { "Zentaro.mkv:", "Zentaro mkv File" }, { "Zentaro.mkv\\shell:", "" }, { "Zentaro.mkv\\shell\\open:", "" },
+        { "Zentaro.mkv\\shell\\open\\command:", "C:\\PROGRA~1\\Zentaro.exe %1" },
+        { "Zentaro.mkv\\shell\\Add To Playlist:", "" },
+        { "Zentaro.mkv\\shell\\Add To Playlist\\command:", "C:\\PROGRA~1\\Zentaro.exe %1 *Add" },
+        { "Zentaro.mkv\\DefaultIcon:", "C:\\Program Files\\icons\\mkv.ico" },
+        { kChosen + std::string("ProgID"), "Zentaro.mkv" }, { kChosen + std::string("OldProgID"), "Chosen.mkv" } };
+    EXPECT_EQ(store.values, taken);
     types.UnassociateType(kMkv);
     types.UnassociateType(kMkv);
-    EXPECT_EQ(Class(".mkv:"), "OtherPlayer.mkv");
-    EXPECT_FALSE(Has(".mkv:OldAss"));
-    EXPECT_EQ(Class(".mkv:OldProgID"), "Dummy");
-    EXPECT_EQ(Chosen("ProgID"), "Chosen.mkv");
-    EXPECT_EQ(Chosen("OldProgID"), "Chosen.mkv");
-    EXPECT_EQ(Class("Zentaro.mkv:"), "Zentaro mkv File");
+    auto released = taken;
+    released.erase(".mkv:OldAss");
+    released[".mkv:"] = "OtherPlayer.mkv";
+    released[".mkv:OldProgID"] = "Dummy";
+    released[kChosen + std::string("ProgID")] = "Chosen.mkv";
+    EXPECT_EQ(store.values, released);
     EXPECT_EQ(shell.notices, 2);
     // Without an owner before, it has none again.
     Class(".mkv:") = "";
     types.AssociateType(kMkv);
     types.UnassociateType(kMkv);
     EXPECT_TRUE(Has(".mkv:") && Class(".mkv:").empty());
-}
-
-TEST_F(Associations, indexes_outside_the_table_change_nothing)
-{
-    for (const int index : { -1, 24, 32767, -32768 }) {
-        types.AssociateType(static_cast<std::int16_t>(index));
-        types.UnassociateType(static_cast<std::int16_t>(index));
-    }
-    EXPECT_TRUE(store.values.empty());
+    types.RegisterVerb("Zentaro.x", "x", "open", "", "");
+    EXPECT_EQ(Class("Zentaro.x\\DefaultIcon:"), "C:\\PROGRA~1\\Zentaro.exe");
 }
 
 TEST_F(Associations, applying_again_writes_nothing_and_keeps_foreign_types)
@@ -120,10 +107,14 @@ TEST_F(Associations, a_store_or_desktop_that_refuses_leaves_nothing_half_done)
     EXPECT_EQ(shell.notices, 0);
 
     shell.mayChange = true;
-    store.refuses = [](const std::string& place) { return place == ".mkv:"; };
-    types.ApplyAssociations(flags);
-    EXPECT_EQ(Class(".mkv:"), "Other.mkv");
-    EXPECT_FALSE(Has(".mkv:OldAss") || Has(kChosen + std::string("ProgID")));
+    for (const auto* refused : { ".mkv:", ".mkv:OldAss", "Zentaro.mkv:", "Zentaro.mkv\\shell\\open\\command:",
+             "Zentaro.mkv\\shell\\Add To Playlist\\command:", "Zentaro.mkv\\DefaultIcon:" }) {
+        store.values = before;
+        store.refuses = [&](const std::string& place) { return place == refused; };
+        types.ApplyAssociations(flags);
+        EXPECT_EQ(Class(".mkv:"), "Other.mkv") << refused;
+        EXPECT_FALSE(Has(".mkv:OldAss") || Has(kChosen + std::string("ProgID"))) << refused;
+    }
     store.refuses = nullptr;
     types.ApplyAssociations(flags);
     store.refuses = [](const std::string& place) { return place == ".mkv:"; };

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
 using namespace zentaro;
 
 TEST(Paths, the_file_name_is_what_follows_the_last_separator_of_the_system)
@@ -23,9 +26,31 @@ TEST(Paths, a_media_file_is_known_by_its_extension_in_any_letter_case)
     for (const auto extension : kMediaExtensions)
         EXPECT_TRUE(IsSupportedFile("/clips/a." + std::string(extension), '/')) << extension;
     EXPECT_TRUE(IsSupportedFile("C:\\Clips\\A.HdMov", '\\'));
+    EXPECT_TRUE(IsSupportedFile("/clips/Film.2020.mkv", '/'));
     EXPECT_FALSE(IsSupportedFile("/clips/a.txt", '/'));
     EXPECT_FALSE(IsSupportedFile("/clips.avi/readme", '/'));
     EXPECT_FALSE(IsSupportedFile("/clips/avi", '/'));
     EXPECT_FALSE(IsSupportedFile("/clips/a.", '/'));
     EXPECT_FALSE(IsSupportedFile("", '/'));
+}
+
+TEST(Paths, a_tidy_path_names_the_same_file_or_stays)
+{
+    namespace fs = std::filesystem;
+    const auto folder = fs::temp_directory_path() / "zentaro-tidy";
+    fs::remove_all(folder);
+    fs::create_directories(folder / "a" / "b");
+    std::ofstream(folder / "a" / "clip.avi") << "x";
+    const auto clip = (folder / "a" / "clip.avi").string();
+    EXPECT_EQ(TidyPath((folder / "a" / "." / "b" / ".." / "clip.avi").string()), clip);
+    EXPECT_EQ(TidyPath(clip), clip);
+    const auto missing = (folder / "a" / ".." / "none.avi").string();
+    EXPECT_EQ(TidyPath(missing), missing);
+    std::error_code error;
+    fs::create_directory_symlink(folder / "a" / "b", folder / "link", error);
+    if (!error) {
+        const auto behind = (folder / "link" / ".." / "clip.avi").string(); // lies in a, not beside the link
+        EXPECT_EQ(TidyPath(behind), behind);
+    }
+    fs::remove_all(folder);
 }

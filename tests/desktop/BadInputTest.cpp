@@ -3,10 +3,8 @@
 #include <filesystem>
 #include <sys/stat.h>
 
-namespace zentaro::desktop {
+namespace zentaro::trial {
 namespace {
-
-namespace fs = std::filesystem;
 
 class BadInput : public PlayerDesk { };
 
@@ -15,24 +13,25 @@ TEST_F(BadInput, WhatIsNoMediaIsRefusedInABoxOrSilently)
     WriteWholeFile(InHome("empty.mp4"), "");
     WriteWholeFile(InHome("text.avi"), "Only words, no picture.\n");
     WriteWholeFile(InHome("notes.txt"), "Only words.\n");
-    fs::create_directory(InHome("folder.mkv"));
+    std::filesystem::create_directory(InHome("folder.mkv"));
     WriteWholeFile(InHome("closed.mp4"), "secret");
     ASSERT_EQ(chmod(InHome("closed.mp4").c_str(), 0), 0);
     for (const auto* const refused : { "empty.mp4", "text.avi", "closed.mp4", "folder.mkv" }) {
+        SCOPED_TRACE(refused);
         auto player = StartAndShow({ InHome(refused) });
-        EXPECT_EQ(player.AnswerDialog(), "Zentaro") << refused;
-        EXPECT_EQ(player.Title(), "Zentaro") << refused;
+        EXPECT_EQ(player.AnswerDialog(), "Zentaro");
+        EXPECT_EQ(player.Title(), "Zentaro");
         EXPECT_CLOSES_CLEANLY(player);
     }
     int names = 0;
     for (const auto& ignored : { InHome("notes.txt"), InHome("missing.mp4"), Home(), std::string(4000, 'x') + ".mp4",
              std::string("-platform"), std::string("\xFF\xFE*Add"), std::string() }) {
+        SCOPED_TRACE(ignored);
         auto player = StartAndShow({ ignored });
-        EXPECT_EQ(player.Title(), "Zentaro") << ignored;
+        EXPECT_EQ(player.Title(), "Zentaro");
         // The next file comes through: nothing is in its way.
-        const auto clip = CopyOf(Clips::Make("clip.mp4"), std::to_string(++names) + ".mp4");
-        EXPECT_EQ(Start({ clip }).WaitForEnd(), 0);
-        EXPECT_TRUE(player.Dialogs().empty()) << ignored;
+        EXPECT_EQ(Start({ ClipNamed(std::to_string(++names) + ".mp4") }).WaitForEnd(), 0);
+        EXPECT_TRUE(player.Dialogs().empty());
         EXPECT_CLOSES_CLEANLY(player);
     }
 }
@@ -42,15 +41,15 @@ TEST_F(BadInput, AnyNameThatAFileCanHavePlays)
     std::string deep;
     while (Home().size() + deep.size() < 3800)
         deep += std::string(150, 'd') + "/";
-    const auto clip = Clips::Make("clip.mp4");
     for (const auto& name : { std::string("line\nbreak \"quoted\" 'too' %20 ?#.mp4"),
              std::string("not \xFF\xC0 UTF-8.mp4"), deep + "clip.mp4" }) {
-        auto player = StartAndShow({ CopyOf(clip, name) });
-        EXPECT_TRUE(player.WaitForTitle(".mp4)")) << name;
-        EXPECT_TRUE(player.PictureMoves()) << name;
+        SCOPED_TRACE(name);
+        auto player = StartAndShow({ ClipNamed(name) });
+        EXPECT_TRUE(player.WaitForTitle(".mp4)"));
+        EXPECT_TRUE(player.PictureMoves());
         EXPECT_CLOSES_CLEANLY(player);
     }
 }
 
 } // namespace
-} // namespace zentaro::desktop
+} // namespace zentaro::trial

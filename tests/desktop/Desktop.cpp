@@ -1,41 +1,19 @@
 #include "tests/desktop/Desktop.h"
 
-#include "tests/desktop/Reply.h"
-
 #include <algorithm>
-#include <chrono>
-#include <cmath>
 #include <csignal>
-#include <cstring>
-#include <fcntl.h>
+#include <filesystem>
 #include <stdexcept>
-#include <thread>
-#include <unistd.h>
-#include <xcb/xcb.h>
-#include <xcb/xcb_keysyms.h>
-#include <xcb/xtest.h>
 
-namespace zentaro::desktop {
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+#include <X11/extensions/XTest.h>
+
+namespace zentaro::trial {
 
 namespace {
 
-// A window manager takes a little time to grab the pointer after a press.
-constexpr auto kHandPause = 15ms;
-constexpr int kDragSteps = 8;
-constexpr std::uint32_t kMostNumbers = 4096;
-
-std::string ReadDisplayNumber(int pipe)
-{
-    std::string text;
-    char piece[16];
-    while (text.find('\n') == std::string::npos) {
-        const auto size = read(pipe, piece, sizeof piece);
-        if (size <= 0)
-            throw std::runtime_error("the virtual display did not start");
-        text.append(piece, static_cast<std::size_t>(size));
-    }
-    return text.substr(0, text.find('\n'));
-}
+constexpr int kIconSize = 24; // px
 
 } // namespace
 
@@ -44,295 +22,323 @@ Desktop::Desktop(int width, int height, WindowManager manager)
     , m_height(height)
 {
     StartServer();
-    Connect();
+    // A window that has just gone is no error.
+    XSetErrorHandler([](Display*, XErrorEvent*) { return 0; });
+    m_display = XOpenDisplay(m_name.c_str());
+    if (m_display == nullptr)
+        throw std::runtime_error("no connection to the virtual display");
+    m_root = DefaultRootWindow(m_display);
     if (manager == WindowManager::Openbox)
         StartWindowManager();
 }
 
-Desktop::~Desktop()
-{
-    xcb_disconnect(m_connection);
-    m_windowManager.Kill();
-    // Not killed: it takes its socket and lock file along.
-    m_server.Signal(SIGTERM);
-    m_server.WaitForEnd(5s);
-}
-
-void Desktop::StartServer()
-{
-    int ends[2];
-    if (pipe2(ends, O_CLOEXEC) != 0)
-        throw std::runtime_error("no pipe");
-    const auto size = std::to_string(m_width) + "x" + std::to_string(m_height) + "x24";
-    m_server = Process({ .program = "/usr/bin/Xvfb",
-        .arguments = { "-displayfd", "3", "-screen", "0", size, "-nolisten", "tcp", "-noreset" },
-        .passedDescriptor = ends[1] });
-    close(ends[1]);
-    m_name = ":" + ReadDisplayNumber(ends[0]);
-    close(ends[0]);
-}
-
-void Desktop::Connect()
-{
-    m_connection = xcb_connect(m_name.c_str(), nullptr);
-    if (xcb_connection_has_error(m_connection) != 0)
-        throw std::runtime_error("no connection to the virtual display");
-    m_root = xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root;
-}
-
 void Desktop::StartWindowManager()
 {
-    m_windowManager = Process(
-        { .program = "/usr/bin/openbox", .arguments = { "--sm-disable" }, .environment = { { "DISPLAY", m_name } } });
+    m_windowManager = Process(Words("DISPLAY=" + m_name + " openbox --sm-disable"));
     if (!WaitUntil([this] { return !Numbers(m_root, "_NET_SUPPORTING_WM_CHECK").empty(); }))
         throw std::runtime_error("the window manager did not start");
 }
 
-std::uint32_t Desktop::Atom(const std::string& name) const
+Desktop::~Desktop()
 {
-    const auto cookie = xcb_intern_atom(m_connection, 0, static_cast<std::uint16_t>(name.size()), name.c_str());
-    const Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(m_connection, cookie, nullptr));
-    return reply ? reply->atom : 0;
+    if (m_display != nullptr)
+        XCloseDisplay(m_display);
+    m_dragSource.Kill();
+    m_windowManager.Kill();
+    // Not killed: it takes its socket and lock file along.
+    m_server.Signal(SIGTERM);
+    m_server.WaitForEnd();
 }
 
-std::vector<std::uint32_t> Desktop::Numbers(Window window, const std::string& property) const
+void Desktop::StartServer()
 {
-    const auto cookie =
-        xcb_get_property(m_connection, 0, window, Atom(property), XCB_GET_PROPERTY_TYPE_ANY, 0, kMostNumbers);
-    const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(m_connection, cookie, nullptr));
-    if (!reply || reply->format != 32)
-        return {};
-    const auto* const first = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
-    return { first, first + reply->value_len };
+    const auto size = std::to_string(m_width) + "x" + std::to_string(m_height) + "x24";
+    m_server =
+        Process({ "sh", "-c", "exec Xvfb -displayfd 1 -screen 0 " + size + " -nolisten tcp -noreset 2>/dev/null" });
+    if (!WaitUntil([&] { return m_server.Output().ends_with('\n') || !m_server.IsRunning(); }) || !m_server.IsRunning())
+        throw std::runtime_error("the virtual display did not start");
+    m_name = ":" + std::to_string(std::stoi(m_server.Output()));
 }
 
-std::string Desktop::Text(Window window, const std::string& property) const
+unsigned long Desktop::Atom(const char* name) const
 {
-    const auto cookie =
-        xcb_get_property(m_connection, 0, window, Atom(property), XCB_GET_PROPERTY_TYPE_ANY, 0, kMostNumbers);
-    const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(m_connection, cookie, nullptr));
-    if (!reply || reply->format != 8)
-        return {};
-    return { static_cast<const char*>(xcb_get_property_value(reply.get())), reply->value_len };
+    return XInternAtom(m_display, name, False);
+}
+
+std::vector<unsigned long> Desktop::Numbers(Window window, const char* property) const
+{
+    constexpr long kMost = 4096;
+    unsigned long type = 0;
+    unsigned long count = 0;
+    unsigned long left = 0;
+    int format = 0;
+    unsigned char* bytes = nullptr;
+    XGetWindowProperty(
+        m_display, window, Atom(property), 0, kMost, False, AnyPropertyType, &type, &format, &count, &left, &bytes);
+    std::vector<unsigned long> numbers;
+    if (bytes != nullptr && format == 32)
+        numbers.assign(reinterpret_cast<unsigned long*>(bytes), reinterpret_cast<unsigned long*>(bytes) + count);
+    else if (bytes != nullptr && format == 8)
+        numbers.assign(bytes, bytes + count);
+    XFree(bytes);
+    return numbers;
+}
+
+std::vector<Window> Desktop::Of(pid_t process, std::vector<Window> windows) const
+{
+    std::erase_if(windows, [&](Window window) {
+        return Numbers(window, "_NET_WM_PID") != std::vector{ static_cast<unsigned long>(process) };
+    });
+    return windows;
 }
 
 std::vector<Window> Desktop::WindowsOf(pid_t process) const
 {
-    auto candidates = Numbers(m_root, "_NET_CLIENT_LIST");
-    if (m_windowManager.Id() <= 0)
-        candidates = ShownChildren(m_root);
-    std::erase_if(candidates, [&](Window window) {
-        return Numbers(window, "_NET_WM_PID") != std::vector<std::uint32_t>{ static_cast<std::uint32_t>(process) };
-    });
-    return candidates;
+    return Of(process, m_windowManager.Id() > 0 ? Numbers(m_root, "_NET_CLIENT_LIST") : Children(m_root));
 }
 
-bool Desktop::IsDialog(Window window) const
+std::vector<Window> Desktop::MenusOf(pid_t process) const
 {
-    return !Numbers(window, "WM_TRANSIENT_FOR").empty();
+    auto windows = Of(process, Children(m_root));
+    std::erase_if(
+        windows, [&](Window window) { return Has(window, "_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_TOOLTIP"); });
+    return windows;
 }
 
 std::string Desktop::Title(Window window) const
 {
-    return Text(window, "_NET_WM_NAME");
+    const auto bytes = Numbers(window, "_NET_WM_NAME");
+    std::string title(bytes.size(), ' ');
+    std::transform(bytes.begin(), bytes.end(), title.begin(), [](auto byte) { return static_cast<char>(byte); });
+    return title;
 }
 
 Rect Desktop::Place(Window window) const
 {
-    const auto size = xcb_get_geometry(m_connection, window);
-    const auto corner = xcb_translate_coordinates(m_connection, window, m_root, 0, 0);
-    const Reply<xcb_get_geometry_reply_t> geometry(xcb_get_geometry_reply(m_connection, size, nullptr));
-    const Reply<xcb_translate_coordinates_reply_t> place(
-        xcb_translate_coordinates_reply(m_connection, corner, nullptr));
-    if (!geometry || !place)
+    XWindowAttributes facts{};
+    Window child = 0;
+    int left = 0;
+    int top = 0;
+    if (XGetWindowAttributes(m_display, window, &facts) == 0
+        || XTranslateCoordinates(m_display, window, m_root, 0, 0, &left, &top, &child) == 0)
         return {};
-    return { place->dst_x, place->dst_y, geometry->width, geometry->height };
+    return { left, top, facts.width, facts.height };
 }
 
-bool Desktop::HasState(Window window, const std::string& state) const
+bool Desktop::Has(Window window, const char* property, const char* value) const
 {
-    const auto states = Numbers(window, "_NET_WM_STATE");
-    return std::find(states.begin(), states.end(), Atom(state)) != states.end();
+    const auto values = Numbers(window, property);
+    return std::find(values.begin(), values.end(), Atom(value)) != values.end();
 }
 
-Window Desktop::Active() const
+bool Desktop::IsActive(Window window) const
 {
-    const auto active = Numbers(m_root, "_NET_ACTIVE_WINDOW");
-    return active.empty() ? 0 : active.front();
+    // The window manager says so a moment before the keys go there.
+    Window focus = 0;
+    int ignored = 0;
+    XGetInputFocus(m_display, &focus, &ignored);
+    return Numbers(m_root, "_NET_ACTIVE_WINDOW") == std::vector{ window } && focus != m_root && focus > PointerRoot;
 }
 
 void Desktop::Activate(Window window)
 {
-    constexpr std::uint32_t kFromPager = 2;
+    constexpr long kFromPager = 2;
     WaitUntil([&] {
-        SendToRoot(window, "_NET_ACTIVE_WINDOW", { kFromPager });
-        return WaitUntil([&] { return Active() == window; }, 1s);
+        Send(m_root, window, "_NET_ACTIVE_WINDOW", { kFromPager });
+        return WaitUntil([&] { return IsActive(window); }, 1s);
     });
 }
 
 void Desktop::Close(Window window)
 {
-    SendToRoot(window, "_NET_CLOSE_WINDOW", { XCB_CURRENT_TIME, 2 });
+    Send(m_root, window, "_NET_CLOSE_WINDOW", { CurrentTime, 2 });
 }
 
-void Desktop::SendToRoot(Window window, const std::string& message, std::initializer_list<std::uint32_t> values)
+void Desktop::Send(Window to, Window window, const char* message, std::initializer_list<long> values) const
 {
-    xcb_client_message_event_t event{};
-    event.response_type = XCB_CLIENT_MESSAGE;
-    event.format = 32;
-    event.window = window;
-    event.type = Atom(message);
-    std::copy(values.begin(), values.end(), event.data.data32);
-    xcb_send_event(m_connection, 0, m_root, XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-        reinterpret_cast<const char*>(&event));
-    Synchronize();
+    XEvent event{};
+    event.xclient.type = ClientMessage;
+    event.xclient.window = window;
+    event.xclient.message_type = Atom(message);
+    event.xclient.format = 32;
+    std::copy(values.begin(), values.end(), event.xclient.data.l);
+    // To everybody, to the window manager, or to the window alone.
+    const long mask = window == m_root ? StructureNotifyMask
+        : to == m_root                 ? SubstructureNotifyMask | SubstructureRedirectMask
+                                       : NoEventMask;
+    XSendEvent(m_display, to, False, mask, &event);
+    XSync(m_display, False);
 }
 
-std::vector<Window> Desktop::ShownChildren(Window window) const
+std::vector<Window> Desktop::Children(Window window, bool onlyShown) const
 {
-    const Reply<xcb_query_tree_reply_t> tree(
-        xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
-    if (!tree)
+    Window root = 0;
+    Window parent = 0;
+    Window* first = nullptr;
+    unsigned count = 0;
+    if (XQueryTree(m_display, window, &root, &parent, &first, &count) == 0)
         return {};
-    const auto* const first = xcb_query_tree_children(tree.get());
-    std::vector<Window> children(first, first + xcb_query_tree_children_length(tree.get()));
-    std::erase_if(children, [this](Window child) {
-        const Reply<xcb_get_window_attributes_reply_t> facts(
-            xcb_get_window_attributes_reply(m_connection, xcb_get_window_attributes(m_connection, child), nullptr));
-        return !facts || facts->map_state != XCB_MAP_STATE_VIEWABLE;
+    std::vector<Window> children(first, first + count);
+    XFree(first);
+    std::erase_if(children, [&](Window child) {
+        XWindowAttributes facts{};
+        return onlyShown && (XGetWindowAttributes(m_display, child, &facts) == 0 || facts.map_state != IsViewable);
     });
     return children;
 }
 
-std::size_t Desktop::CountInside(Window window) const
+QImage Desktop::Grab(const Rect& area) const
 {
-    const Reply<xcb_query_tree_reply_t> tree(
-        xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
-    if (!tree)
-        return 0;
-    const auto* const children = xcb_query_tree_children(tree.get());
-    std::size_t count = tree->children_len;
-    for (int i = 0; i < xcb_query_tree_children_length(tree.get()); ++i)
-        count += CountInside(children[i]);
-    return count;
-}
-
-Picture Desktop::Grab(const Rect& area) const
-{
-    const int left = std::clamp(area.left, 0, m_width);
-    const int top = std::clamp(area.top, 0, m_height);
-    const int width = std::clamp(area.Right(), left, m_width) - left;
-    const int height = std::clamp(area.Bottom(), top, m_height) - top;
-    const auto cookie = xcb_get_image(m_connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_root, static_cast<std::int16_t>(left),
-        static_cast<std::int16_t>(top), static_cast<std::uint16_t>(width), static_cast<std::uint16_t>(height), ~0U);
-    const Reply<xcb_get_image_reply_t> reply(xcb_get_image_reply(m_connection, cookie, nullptr));
-    Picture picture{ width, height, std::vector<std::uint32_t>(static_cast<std::size_t>(width) * height) };
-    const auto size = picture.pixels.size() * sizeof(std::uint32_t);
-    if (!reply || static_cast<std::size_t>(xcb_get_image_data_length(reply.get())) != size)
+    const auto part = QRect(area.left, area.top, area.width, area.height).intersected({ 0, 0, m_width, m_height });
+    auto* const image = part.isEmpty()
+        ? nullptr
+        : XGetImage(m_display, m_root, part.x(), part.y(), static_cast<unsigned>(part.width()),
+            static_cast<unsigned>(part.height()), AllPlanes, ZPixmap);
+    if (image == nullptr)
         return {};
-    std::memcpy(picture.pixels.data(), xcb_get_image_data(reply.get()), size);
+    const auto* const bytes = reinterpret_cast<const uchar*>(image->data);
+    const auto picture = QImage(bytes, image->width, image->height, image->bytes_per_line, QImage::Format_RGB32).copy();
+    XDestroyImage(image);
     return picture;
 }
 
-void Desktop::Fake(std::uint8_t type, std::uint8_t detail, int x, int y)
+void Desktop::Do(std::vector<std::string> words) const
 {
-    xcb_test_fake_input(m_connection, type, detail, XCB_CURRENT_TIME, m_root, static_cast<std::int16_t>(x),
-        static_cast<std::int16_t>(y), 0);
-    Synchronize();
-}
-
-void Desktop::Synchronize() const
-{
-    const Reply<xcb_get_input_focus_reply_t> answer(
-        xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
-}
-
-void Desktop::Press(std::uint32_t key, std::initializer_list<std::uint32_t> held)
-{
-    std::vector<std::uint32_t> keys(held);
-    keys.push_back(key);
-    auto* const symbols = xcb_key_symbols_alloc(m_connection);
-    std::vector<std::uint8_t> codes;
-    for (const auto each : keys) {
-        const Reply<xcb_keycode_t> code(xcb_key_symbols_get_keycode(symbols, each));
-        if (!code)
-            throw std::runtime_error("the keyboard has no such key");
-        codes.push_back(*code);
-    }
-    xcb_key_symbols_free(symbols);
-    for (const auto code : codes)
-        Fake(XCB_KEY_PRESS, code);
-    std::reverse(codes.begin(), codes.end());
-    for (const auto code : codes)
-        Fake(XCB_KEY_RELEASE, code);
+    words.insert(words.begin(), { "DISPLAY=" + m_name, "xdotool" });
+    Process tool(words);
+    if (tool.WaitForEnd() != 0)
+        throw std::runtime_error("no such key: " + tool.Output());
 }
 
 void Desktop::MoveTo(int x, int y)
 {
-    Fake(XCB_MOTION_NOTIFY, 0, x, y);
+    XTestFakeMotionEvent(m_display, 0, x, y, 0);
+    XSync(m_display, False);
 }
 
-void Desktop::Click(int x, int y, int button)
+void Desktop::MoveButton(int button, bool down)
 {
-    // A hand needs as long; window managers that see a press first lose ones that come faster.
-    constexpr auto pause = std::chrono::milliseconds(25);
+    // A hand takes its time. The server waits, not we: on a busy machine a double click would else become two.
+    constexpr unsigned long kPause = 25; // ms
+    XTestFakeButtonEvent(m_display, static_cast<unsigned>(button), down, kPause);
+}
+
+void Desktop::Click(int x, int y, int button, int times)
+{
     MoveTo(x, y);
-    std::this_thread::sleep_for(pause);
-    Fake(XCB_BUTTON_PRESS, static_cast<std::uint8_t>(button));
-    std::this_thread::sleep_for(pause);
-    Fake(XCB_BUTTON_RELEASE, static_cast<std::uint8_t>(button));
-    std::this_thread::sleep_for(pause);
-}
-
-void Desktop::DoubleClick(int x, int y)
-{
-    Click(x, y);
-    Click(x, y);
+    for (int i = 0; i < times; ++i) {
+        MoveButton(button, true);
+        MoveButton(button, false);
+    }
+    WaitForFreePointer();
 }
 
 void Desktop::Hold(int x, int y)
 {
     MoveTo(x, y);
-    Fake(XCB_BUTTON_PRESS, 1);
+    MoveButton(1, true);
+    XSync(m_display, False);
 }
 
 void Desktop::Release()
 {
-    Fake(XCB_BUTTON_RELEASE, 1);
+    MoveButton(1, false);
+    WaitForFreePointer();
 }
 
-void Desktop::Wheel(int x, int y, int steps)
+void Desktop::WaitForFreePointer()
 {
-    for (int i = 0; i < std::abs(steps); ++i)
-        Click(x, y, steps > 0 ? 4 : 5);
+    WaitUntil(
+        [&] {
+            constexpr unsigned nothing = 0;
+            return XGrabPointer(
+                       m_display, m_root, False, nothing, GrabModeAsync, GrabModeAsync, None, None, CurrentTime)
+                == GrabSuccess;
+        },
+        1s);
+    XUngrabPointer(m_display, CurrentTime);
+    XSync(m_display, False);
 }
 
-void Desktop::Drag(int fromX, int fromY, int toX, int toY)
+bool Desktop::Drag(int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere)
 {
-    MoveTo(fromX, fromY);
-    Fake(XCB_BUTTON_PRESS, 1);
-    std::this_thread::sleep_for(kHandPause);
-    for (int step = 1; step <= kDragSteps; ++step) {
-        MoveTo(fromX + (toX - fromX) * step / kDragSteps, fromY + (toY - fromY) * step / kDragSteps);
-        std::this_thread::sleep_for(kHandPause);
+    constexpr int kSteps = 8;
+    Hold(fromX, fromY);
+    int step = 0;
+    // Whoever follows the hand late gets one more small movement to see where it is.
+    const bool came = WaitUntil([&] {
+        step = step < kSteps ? step + 1 : kSteps - step % 2;
+        MoveTo(fromX + (toX - fromX) * step / kSteps, fromY + (toY - fromY) * step / kSteps);
+        return step == kSteps && isThere();
+    });
+    Release();
+    return came;
+}
+
+bool Desktop::DropFiles(int x, int y, const std::vector<std::string>& paths)
+{
+    std::vector<std::string> command = { "DISPLAY=" + m_name, Helper("drag") };
+    command.insert(command.end(), paths.begin(), paths.end());
+    m_dragSource = Process(command);
+    const auto says = [this](const char* word) { return m_dragSource.Output().ends_with(word); };
+    WaitUntil([&] { return says("shown\n"); });
+    return Drag(5, 5, x, y, [&] { return says("taken\n"); }) && WaitUntil([&] { return says("dropped\n"); });
+}
+
+Window Desktop::TakeTrayIcon()
+{
+    XSetWindowAttributes values{};
+    values.override_redirect = True;
+    values.background_pixel = 0x404040;
+    const auto panel = XCreateWindow(m_display, m_root, 0, 0, 2 * kIconSize, kIconSize, 0, CopyFromParent, InputOutput,
+        nullptr, CWOverrideRedirect | CWBackPixel, &values);
+    XMapWindow(m_display, panel);
+    const auto selection = Atom("_NET_SYSTEM_TRAY_S0");
+    XSetSelectionOwner(m_display, selection, panel, CurrentTime);
+    Send(m_root, m_root, "MANAGER", { CurrentTime, static_cast<long>(selection), static_cast<long>(panel) });
+    Window icon = 0;
+    WaitUntil([&] {
+        XEvent event;
+        while (XCheckTypedWindowEvent(m_display, panel, ClientMessage, &event) != 0) {
+            if (event.xclient.message_type != Atom("_NET_SYSTEM_TRAY_OPCODE"))
+                continue;
+            icon = static_cast<Window>(event.xclient.data.l[2]);
+            XReparentWindow(m_display, icon, panel, 0, 0);
+            XResizeWindow(m_display, icon, kIconSize, kIconSize);
+            XMapWindow(m_display, icon);
+            Send(icon, icon, "_XEMBED", { CurrentTime, 0, 0, static_cast<long>(panel), 0 });
+        }
+        return icon != 0 && !Children(panel).empty();
+    });
+    return icon;
+}
+
+QColor MeanOf(const QImage& picture)
+{
+    const auto mean = [&] { return picture.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation); };
+    return picture.isNull() ? QColor(Qt::black) : mean().pixelColor(0, 0);
+}
+
+double ShareThatDiffers(const QImage& a, const QImage& b)
+{
+    constexpr int kTolerance = 16;
+    if (a.isNull() || a.size() != b.size())
+        return 1;
+    int different = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb first = a.pixel(x, y);
+            const QRgb second = b.pixel(x, y);
+            const auto differs = [&](int (*part)(QRgb)) { return std::abs(part(first) - part(second)) > kTolerance; };
+            different += differs(qRed) || differs(qGreen) || differs(qBlue);
+        }
     }
-    Fake(XCB_BUTTON_RELEASE, 1);
+    return static_cast<double>(different) / (a.width() * a.height());
 }
 
-Bystander::Bystander(Desktop& desktop)
-    : m_desktop(desktop)
-    , m_window(xcb_generate_id(desktop.Connection()))
+std::string Helper(const std::string& name)
 {
-    xcb_create_window(desktop.Connection(), XCB_COPY_FROM_PARENT, m_window, desktop.Root(), 0, 0, 60, 40, 0,
-        XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
-    xcb_map_window(desktop.Connection(), m_window);
-    desktop.Activate(m_window);
+    return std::filesystem::read_symlink("/proc/self/exe").parent_path() / ("zentaro-helper-" + name);
 }
 
-Bystander::~Bystander()
-{
-    xcb_destroy_window(m_desktop.Connection(), m_window);
-    m_desktop.Synchronize();
-}
-
-} // namespace zentaro::desktop
+} // namespace zentaro::trial

@@ -1,40 +1,18 @@
 #pragma once
 
 #include "base/Geometry.h"
-#include "tests/desktop/Picture.h"
 #include "tests/desktop/Process.h"
 
-#include <initializer_list>
-#include <memory>
-#include <optional>
-#include <string>
-#include <vector>
+#include <QColor>
+#include <QImage>
 
-struct xcb_connection_t;
+#include <functional>
 
-namespace zentaro::desktop {
+struct _XDisplay;
 
-using Window = std::uint32_t;
+namespace zentaro::trial {
 
-/// Keys as the X protocol names them; letters and digits are their ASCII codes.
-enum Key : std::uint32_t {
-    kEscape = 0xff1b,
-    kReturn = 0xff0d,
-    kTab = 0xff09,
-    kDelete = 0xffff,
-    kHome = 0xff50,
-    kLeft = 0xff51,
-    kUp = 0xff52,
-    kRight = 0xff53,
-    kDown = 0xff54,
-    kPageUp = 0xff55,
-    kPageDown = 0xff56,
-    kEnd = 0xff57,
-    kF10 = 0xffc7,
-    kShift = 0xffe1,
-    kControl = 0xffe3,
-    kAlt = 0xffe9,
-};
+using Window = unsigned long;
 
 /// A virtual display, its window manager, and a user in front of it: what can be seen, keys and mouse.
 class Desktop {
@@ -48,77 +26,79 @@ public:
 
     /// What DISPLAY is to be.
     const std::string& Name() const { return m_name; }
-    xcb_connection_t* Connection() const { return m_connection; }
-    Window Root() const { return m_root; }
     Rect Area() const { return { 0, 0, m_width, m_height }; }
-    std::uint32_t Atom(const std::string& name) const;
+    Window Root() const { return m_root; }
 
     // windows
     /// Shown top-level windows of a process, oldest first, dialogs included.
     std::vector<Window> WindowsOf(pid_t process) const;
-    bool IsDialog(Window window) const;
+    /// Its open menus, the last one opened last.
+    std::vector<Window> MenusOf(pid_t process) const;
+    bool IsDialog(Window window) const { return !Numbers(window, "WM_TRANSIENT_FOR").empty(); }
     std::string Title(Window window) const;
     /// The client area on the screen.
     Rect Place(Window window) const;
-    bool HasState(Window window, const std::string& state) const;
-    Window Active() const;
+    bool HasState(Window window, const char* state) const { return Has(window, "_NET_WM_STATE", state); }
+    bool IsActive(Window window) const;
     void Activate(Window window);
     /// Asks the window manager to close it, as its own close button would.
     void Close(Window window);
-    /// Child windows that are shown, bottom first.
-    std::vector<Window> ShownChildren(Window window) const;
-    /// Windows inside it at any depth, hidden ones included.
-    std::size_t CountInside(Window window) const;
-    /// The numbers of a property, or none.
-    std::vector<std::uint32_t> Numbers(Window window, const std::string& property) const;
+    /// Child windows, bottom first.
+    std::vector<Window> Children(Window window, bool onlyShown = true) const;
+    /// The numbers, or bytes, of a property; none when the window has no such.
+    std::vector<unsigned long> Numbers(Window window, const char* property) const;
 
     // what can be seen
-    Picture Grab(const Rect& area) const;
+    QImage Grab(const Rect& area) const;
 
     // the user's hands
-    void Press(std::uint32_t key, std::initializer_list<std::uint32_t> held = {});
+    /// One key, as X names it, after those that are held: "Return", "ctrl+shift+p"; or several, with blanks between.
+    void Press(const std::string& keys) { Do(Words("key --delay 30 " + keys)); }
+    void Type(const std::string& text) { Do({ "type", "--delay", "30", text }); }
     void MoveTo(int x, int y);
-    void Click(int x, int y, int button = 1);
-    void DoubleClick(int x, int y);
+    void Click(int x, int y, int button = 1, int times = 1);
+    void DoubleClick(int x, int y) { Click(x, y, 1, 2); }
     /// The left button goes down here and stays down.
     void Hold(int x, int y);
     void Release();
     /// Positive: away from the user.
-    void Wheel(int x, int y, int steps);
-    /// With the left button, in several steps, as a hand moves.
-    void Drag(int fromX, int fromY, int toX, int toY);
-    /// Drops files from a file manager at a place of the screen; false when nobody took them there.
+    void Wheel(int x, int y, int steps) { Click(x, y, steps > 0 ? 4 : 5, std::abs(steps)); }
+    /// With the left button, which is let go when `isThere`; whether it came so far.
+    bool Drag(int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere);
+    /// Drags files from another program's window to a place of the screen; false when nobody takes them there.
     bool DropFiles(int x, int y, const std::vector<std::string>& paths);
-
-    /// Answers everything that was asked before.
-    void Synchronize() const;
+    /// Opens a panel at the top left of the screen and takes the next icon for the tray into it; 0 when none came.
+    Window TakeTrayIcon();
 
 private:
     void StartServer();
-    void Connect();
     void StartWindowManager();
-    void Fake(std::uint8_t type, std::uint8_t detail, int x = 0, int y = 0);
-    void SendToRoot(Window window, const std::string& message, std::initializer_list<std::uint32_t> values);
-    std::string Text(Window window, const std::string& property) const;
+    std::vector<Window> Of(pid_t process, std::vector<Window> windows) const;
+    bool Has(Window window, const char* property, const char* value) const;
+    unsigned long Atom(const char* name) const;
+    void Send(Window to, Window window, const char* message, std::initializer_list<long> values) const;
+    /// What xdotool is to do.
+    void Do(std::vector<std::string> words) const;
+    void MoveButton(int button, bool down);
+    /// Waits until nobody holds the pointer, as a window manager does while it looks at a press.
+    void WaitForFreePointer();
 
     int m_width;
     int m_height;
-    std::string m_name;
     Process m_server;
+    std::string m_name;
     Process m_windowManager;
-    xcb_connection_t* m_connection = nullptr;
+    Process m_dragSource;
+    _XDisplay* m_display = nullptr;
     Window m_root = 0;
 };
 
-/// A window of somebody else, which has the focus while it lives.
-class Bystander {
-public:
-    explicit Bystander(Desktop& desktop);
-    ~Bystander();
+QColor MeanOf(const QImage& picture);
 
-private:
-    Desktop& m_desktop;
-    Window m_window;
-};
+/// The share of pixels, 0 to 1, where a colour part differs by more than 16 of 255; 1 where the sizes differ.
+double ShareThatDiffers(const QImage& a, const QImage& b);
 
-} // namespace zentaro::desktop
+/// A program that lies beside this one.
+std::string Helper(const std::string& name);
+
+} // namespace zentaro::trial

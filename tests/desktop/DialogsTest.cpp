@@ -3,12 +3,10 @@
 #include <filesystem>
 #include <thread>
 
-namespace zentaro::desktop {
+namespace zentaro::trial {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::uint32_t kF1 = 0xffbe;
 
 /// The options, the about box and the help, without a hand on the mouse.
 class Dialogs : public PlayerDesk {
@@ -20,41 +18,33 @@ protected:
         WriteWholeFile(InHome("bin/xdg-open"), "#!/bin/sh\necho \"$1\" >> '" + InHome("opened") + "'\n");
         fs::permissions(InHome("bin/xdg-open"), fs::perms::owner_all);
     }
-    ShownPlayer ShowWithBrowser(const std::vector<std::string>& arguments = {})
+    ShownPlayer ShowWithBrowser() const
     {
-        return Show(Start(arguments, {}, { { "PATH", InHome("bin") + ":" + std::getenv("PATH") } }));
+        return Show(Start({}, ".", { "PATH=" + InHome("bin") + ":" + std::getenv("PATH") }));
     }
     /// The first entry of the menu with that access letter opens a dialog.
-    static Window OpenByMenu(const ShownPlayer& player, char menu)
+    static Window OpenByMenu(const ShownPlayer& player, const std::string& menu)
     {
         Screen().Activate(player.window);
-        EXPECT_TRUE(WaitUntil([&] { return Screen().Active() == player.window; }));
-        Screen().Press(static_cast<std::uint32_t>(menu), { kAlt });
-        Screen().Press(kReturn);
-        EXPECT_TRUE(
-            WaitUntil([&] { return player.Dialogs().size() == 1 && Screen().Active() == player.Dialogs().front(); }));
+        Screen().Press("alt+" + menu);
+        EXPECT_TRUE(player.WaitForMenus(1));
+        Screen().Press("Return");
+        EXPECT_TRUE(player.WaitForDialogs(1));
         return player.Dialogs().empty() ? 0 : player.Dialogs().front();
-    }
-    static bool WaitForNoDialog(const ShownPlayer& player)
-    {
-        return WaitUntil([&] { return player.Dialogs().empty(); });
     }
     static bool IsAbove(const ShownPlayer& player) { return Screen().HasState(player.window, "_NET_WM_STATE_ABOVE"); }
     /// A button acts a moment after its letter; until then the next key would call that off.
-    static void Choose(char letter)
+    static void Choose(const std::string& letter)
     {
-        Screen().Press(static_cast<std::uint32_t>(letter), { kAlt });
-        Picture before;
+        const auto look = [] { return Screen().Grab(Screen().Area()); };
+        const auto before = look();
+        Screen().Press("alt+" + letter);
+        EXPECT_TRUE(WaitUntil([&] { return look() != before; })) << letter;
         WaitUntil([&] {
-            std::this_thread::sleep_for(200ms);
-            const auto now = Screen().Grab(Screen().Area());
-            return std::exchange(before, now).pixels == now.pixels;
+            const auto now = look();
+            std::this_thread::sleep_for(300ms);
+            return look() == now;
         });
-    }
-    static void Type(const std::string& text)
-    {
-        for (const char letter : text)
-            Screen().Press(static_cast<std::uint32_t>(letter));
     }
     bool WasOpened(const std::string& what) const
     {
@@ -68,32 +58,32 @@ TEST_F(Dialogs, OptionsChosenByKeysAreWrittenByOkAndForgottenByCancel)
     auto player = ShowWithBrowser();
     EXPECT_TRUE(WaitUntil([&] { return IsAbove(player); }));
     const auto before = ReadWholeFile(ConfigPath());
-    OpenByMenu(player, 't');
+    OpenByMenu(player, "t");
     EXPECT_FALSE(IsAbove(player));
-    Choose('k');
-    Screen().Press(kEscape);
-    EXPECT_TRUE(WaitForNoDialog(player));
+    Choose("k");
+    Screen().Press("Escape");
+    EXPECT_TRUE(player.WaitForDialogs(0));
     EXPECT_TRUE(WaitUntil([&] { return IsAbove(player); }));
     EXPECT_EQ(ReadWholeFile(ConfigPath()), before);
 
-    const auto options = OpenByMenu(player, 't');
-    Choose('o');
-    Choose('d');
-    Screen().Press(kDown);
-    Screen().Press(kTab, { kControl });
-    Choose('g');
-    Screen().Press(kTab, { kControl });
-    Choose('f');
-    Type("/tmp/shots, old");
-    Screen().Press(kReturn);
-    EXPECT_TRUE(WaitUntil([&] { return player.Dialogs().size() == 2; })); // a comma would not come back
-    Screen().Press(kReturn);
-    EXPECT_TRUE(WaitUntil([&] { return player.Dialogs().size() == 1 && Screen().Active() == options; }));
+    OpenByMenu(player, "t");
+    Choose("o");
+    Choose("d");
+    Screen().Press("Down");
+    Screen().Press("ctrl+Tab");
+    Choose("g");
+    Screen().Press("ctrl+Tab");
+    Choose("f");
+    Screen().Type("/tmp/shots, old");
+    Screen().Press("Return");
+    EXPECT_TRUE(player.WaitForDialogs(2)); // a comma would not come back
+    Screen().Press("Return");
+    EXPECT_TRUE(player.WaitForDialogs(1));
     EXPECT_EQ(ReadWholeFile(ConfigPath()), before);
-    Choose('f');
-    Type("/tmp/shots");
-    Screen().Press(kReturn);
-    EXPECT_TRUE(WaitForNoDialog(player));
+    Choose("f");
+    Screen().Type("/tmp/shots");
+    Screen().Press("Return");
+    EXPECT_TRUE(player.WaitForDialogs(0));
     EXPECT_TRUE(WaitUntil([&] { return IsAbove(player); }));
     const auto stored = StoredSettings();
     EXPECT_EQ(stored.AlwaysOnTop, -1);
@@ -110,10 +100,10 @@ TEST_F(Dialogs, OptionsChosenByKeysAreWrittenByOkAndForgottenByCancel)
 
 TEST_F(Dialogs, ASecondStartHandsItsFileOverWhileTheOptionsAreOpen)
 {
-    auto player = StartAndShow({ CopyOf(Clips::Make("clip.mp4"), "first.mp4") });
+    auto player = StartAndShow({ ClipNamed("first.mp4") });
     EXPECT_TRUE(player.WaitForTitle("first.mp4"));
-    const auto options = OpenByMenu(player, 't');
-    auto second = Start({ CopyOf(Clips::Make("clip.mp4"), "second.mp4") });
+    const auto options = OpenByMenu(player, "t");
+    auto second = Start({ ClipNamed("second.mp4") });
     EXPECT_EQ(second.WaitForEnd(), 0);
     EXPECT_TRUE(player.WaitForTitle("second.mp4"));
     EXPECT_EQ(player.Dialogs(), std::vector{ options });
@@ -121,13 +111,13 @@ TEST_F(Dialogs, ASecondStartHandsItsFileOverWhileTheOptionsAreOpen)
     // What has to be said about a file can be read and answered.
     WriteWholeFile(InHome("broken.mp4"), "no clip");
     auto third = Start({ InHome("broken.mp4") });
-    EXPECT_TRUE(WaitUntil([&] { return player.Dialogs().size() == 2; }));
+    EXPECT_TRUE(player.WaitForDialogs(2));
     EXPECT_EQ(player.AnswerDialog(), "Zentaro");
     EXPECT_EQ(third.WaitForEnd(), 0);
     EXPECT_EQ(player.Dialogs(), std::vector{ options });
     Screen().Activate(options);
-    Screen().Press(kEscape);
-    EXPECT_TRUE(WaitForNoDialog(player));
+    Screen().Press("Escape");
+    EXPECT_TRUE(player.WaitForDialogs(0));
     EXPECT_CLOSES_CLEANLY(player);
 }
 
@@ -135,20 +125,20 @@ TEST_F(Dialogs, HelpAndTheWebPageOpenInTheBrowserAndMissingHelpIsSaid)
 {
     auto player = ShowWithBrowser();
     Screen().Activate(player.window);
-    Screen().Press(kF1);
+    Screen().Press("F1");
     EXPECT_TRUE(WasOpened("/program/help/index.html"));
     fs::remove(fs::path(ConfigPath()).parent_path() / "help");
-    Screen().Press(kF1);
+    Screen().Press("F1");
     EXPECT_EQ(player.AnswerDialog(), "Zentaro");
 
-    OpenByMenu(player, 'h');
-    Screen().Press(kTab);
-    Screen().Press(kReturn);
+    OpenByMenu(player, "h");
+    Screen().Press("Tab");
+    Screen().Press("Return");
     EXPECT_TRUE(WasOpened("https://www.videolan.org/vlc/"));
-    Screen().Press(kEscape);
-    EXPECT_TRUE(WaitForNoDialog(player));
+    Screen().Press("Escape");
+    EXPECT_TRUE(player.WaitForDialogs(0));
     EXPECT_CLOSES_CLEANLY(player);
 }
 
 } // namespace
-} // namespace zentaro::desktop
+} // namespace zentaro::trial

@@ -1,97 +1,86 @@
 #include "platform/HandOver.h"
-#include "platform/StringStore.h"
 #include "tests/desktop/PlayerDesk.h"
-#include "tests/desktop/TitleLog.h"
+#include "tests/platform/PrivateBus.h"
 
-#include <csignal>
-#include <filesystem>
+#include <algorithm>
 #include <sys/socket.h>
 #include <sys/un.h>
+#include <thread>
 #include <unistd.h>
 
-namespace zentaro::desktop {
+namespace zentaro::trial {
 namespace {
-
-namespace fs = std::filesystem;
 
 class HandOver : public PlayerDesk {
 protected:
-    static std::string Published(const char* name)
-    {
-        return platform::StringStore::Open()->Read(
-            platform::StringStore::Root::CurrentUser, platform::SettingsKey("Quorvane Zentaro", "Setting"), name, "-1");
-    }
-
     /// A start that is to end by itself, with 0 and without a word.
-    void ExpectMessenger(const std::vector<std::string>& arguments, const std::string& folder = {})
+    void ExpectMessenger(const std::vector<std::string>& arguments, const std::string& folder = ".") const
     {
         auto second = Start(arguments, folder);
         EXPECT_EQ(second.WaitForEnd(), 0);
-        EXPECT_EQ(second.ErrorText(), "");
+        EXPECT_EQ(second.Output(), "");
     }
+    std::string TitleOf(const std::string& name) const { return "Zentaro - (" + InHome(name) + ")"; }
 };
 
 TEST_F(HandOver, ASecondStartPlaysItsFileInTheFirstPlayer)
 {
-    auto player = StartAndShow({ CopyOf(Clips::Make("clip.mp4"), "first.mp4") });
+    auto player = StartAndShow({ ClipNamed("first.mp4") });
     EXPECT_TRUE(player.WaitForTitle("first.mp4"));
-    const Bystander other(Screen());
+    const Process other({ Helper("drag") });
+    EXPECT_TRUE(WaitUntil([&] { return other.Output() == "shown\n" && !Screen().IsActive(player.window); }));
     EXPECT_FALSE(Screen().HasState(player.window, "_NET_WM_STATE_DEMANDS_ATTENTION"));
 
-    ExpectMessenger({ CopyOf(Clips::Make("clip.mp4"), "second.mp4") });
-    EXPECT_EQ(player.Title(), "Zentaro - (" + InHome("second.mp4") + ")");
+    ExpectMessenger({ ClipNamed("second.mp4") });
+    EXPECT_EQ(player.Title(), TitleOf("second.mp4"));
     EXPECT_TRUE(WaitUntil([&] { return Screen().HasState(player.window, "_NET_WM_STATE_DEMANDS_ATTENTION"); }));
-    EXPECT_NE(Screen().Active(), player.window);
+    EXPECT_FALSE(Screen().IsActive(player.window));
     EXPECT_TRUE(player.PictureMoves());
 
     // From a folder of its own, with blanks, with quotes around and in the name, and in two words.
-    CopyOf(Clips::Make("clip.mp4"), "deep down/third one.mp4");
+    ClipNamed("deep down/third one.mp4");
     ExpectMessenger({ "third one.mp4" }, InHome("deep down"));
-    EXPECT_EQ(player.Title(), "Zentaro - (" + InHome("deep down/third one.mp4") + ")");
-    ExpectMessenger({ "\"" + CopyOf(Clips::Make("clip.mp4"), "deep down/fourth.mp4") + "\"" });
-    EXPECT_EQ(player.Title(), "Zentaro - (" + InHome("deep down/fourth.mp4") + ")");
-    ExpectMessenger({ CopyOf(Clips::Make("clip.mp4"), "the \"fifth\".mp4") });
-    EXPECT_EQ(player.Title(), "Zentaro - (" + InHome("the \"fifth\".mp4") + ")");
-    CopyOf(Clips::Make("clip.mp4"), "deep down/sixth one.mp4");
+    EXPECT_EQ(player.Title(), TitleOf("deep down/third one.mp4"));
+    ExpectMessenger({ "\"" + ClipNamed("deep down/fourth.mp4") + "\"" });
+    EXPECT_EQ(player.Title(), TitleOf("deep down/fourth.mp4"));
+    ExpectMessenger({ ClipNamed("the \"fifth\".mp4") });
+    EXPECT_EQ(player.Title(), TitleOf("the \"fifth\".mp4"));
+    ClipNamed("deep down/sixth one.mp4");
     ExpectMessenger({ InHome("deep"), "down/sixth", "one.mp4" });
-    EXPECT_EQ(player.Title(), "Zentaro - (" + InHome("deep down/sixth one.mp4") + ")");
+    EXPECT_EQ(player.Title(), TitleOf("deep down/sixth one.mp4"));
 
     // Nothing to play, and no word of it.
     WriteWholeFile(InHome("notes.txt"), "no clip");
     ExpectMessenger({ InHome("notes.txt") });
     ExpectMessenger({});
-    EXPECT_EQ(player.Title(), "Zentaro - (" + InHome("deep down/sixth one.mp4") + ")");
-    EXPECT_NE(Screen().Active(), player.window);
+    EXPECT_EQ(player.Title(), TitleOf("deep down/sixth one.mp4"));
+    EXPECT_FALSE(Screen().IsActive(player.window));
     EXPECT_CLOSES_CLEANLY(player);
 }
 
-TEST_F(HandOver, AddAtTheOwnStartAddsEverythingAndPlaysNothing)
+TEST_F(HandOver, AddAtTheOwnStartPlaysNothingAndInAHandedOverTextIsAPartOfTheName)
 {
-    auto player = StartAndShow({ CopyOf(Clips::Make("clip.mp4"), "one.mp4"), "*Add" });
-    ExpectMessenger({ CopyOf(Clips::Make("clip.mp4"), "two.mp4") });
-    EXPECT_EQ(player.Title(), "Zentaro");
-    EXPECT_EQ(player.Video(), Rect{});
-    EXPECT_CLOSES_CLEANLY(player);
-}
+    auto adding = StartAndShow({ ClipNamed("one.mp4"), "*Add" });
+    ExpectMessenger({ ClipNamed("two.mp4") });
+    EXPECT_EQ(adding.Title(), "Zentaro");
+    EXPECT_EQ(adding.Video(), Rect{});
+    EXPECT_CLOSES_CLEANLY(adding);
 
-TEST_F(HandOver, AddInAHandedOverTextIsAPartOfTheFilesName)
-{
-    auto player = StartAndShow({ CopyOf(Clips::Make("clip.mp4"), "one.mp4") });
+    auto player = StartAndShow({ InHome("one.mp4") });
     EXPECT_TRUE(player.WaitForTitle("one.mp4"));
-    auto second = Start({ CopyOf(Clips::Make("clip.mp4"), "two.mp4"), "*Add" });
+    auto second = Start({ InHome("two.mp4"), "*Add" });
     EXPECT_EQ(player.AnswerDialog(), "Zentaro");
     EXPECT_EQ(second.WaitForEnd(), 0);
-    EXPECT_EQ(player.Title(), "Zentaro - (" + InHome("one.mp4") + ")");
+    EXPECT_EQ(player.Title(), TitleOf("one.mp4"));
     EXPECT_CLOSES_CLEANLY(player);
 }
 
 TEST_F(HandOver, AKilledPlayerIsFollowedByANewOne)
 {
-    const auto first = CopyOf(Clips::Make("clip.mp4"), "one.mp4");
-    const auto second = CopyOf(Clips::Make("clip.mp4"), "two.mp4");
+    const auto first = ClipNamed("one.mp4");
+    const auto second = ClipNamed("two.mp4");
     for (const auto& arguments : { std::vector<std::string>{ first }, {} }) {
-        auto killed = StartAndShow();
-        killed.process.Kill();
+        StartAndShow().process.Kill();
         auto player = StartAndShow(arguments);
         ExpectMessenger({ second });
         EXPECT_TRUE(player.WaitForTitle("two.mp4"));
@@ -101,13 +90,12 @@ TEST_F(HandOver, AKilledPlayerIsFollowedByANewOne)
 
 TEST_F(HandOver, WithOnePlayerPerFileTheSecondTakesOver)
 {
-    auto first = StartAndShow({ CopyOf(Clips::Make("clip.mp4"), "one.mp4") });
+    auto first = StartAndShow({ ClipNamed("one.mp4") });
     StoreSettings([](PlayerSettings& settings) { settings.UseNewPlayer = 1; });
-    auto second = StartAndShow({ CopyOf(Clips::Make("clip.mp4"), "two.mp4") });
+    auto second = StartAndShow({ ClipNamed("two.mp4") });
     EXPECT_TRUE(second.WaitForTitle("two.mp4"));
-    EXPECT_TRUE(first.WaitForTitle("one.mp4"));
     StoreSettings([](PlayerSettings&) {});
-    ExpectMessenger({ CopyOf(Clips::Make("clip.mp4"), "three.mp4") });
+    ExpectMessenger({ ClipNamed("three.mp4") });
     EXPECT_TRUE(second.WaitForTitle("three.mp4"));
     EXPECT_TRUE(first.WaitForTitle("one.mp4"));
     EXPECT_EQ(first.Close(), 0);
@@ -116,35 +104,34 @@ TEST_F(HandOver, WithOnePlayerPerFileTheSecondTakesOver)
 
 TEST_F(HandOver, OfTwentyStartsAtOnceOnePlayerReceivesAllFiles)
 {
-    constexpr int kStarts = 20;
-    const auto clip = Clips::MakeSilent("small.mp4", 30);
-    const TitleLog log(Screen());
-    std::vector<std::string> paths;
+    const platform::PrivateBus bus;
+    const auto clip = Clips::Make("clip.mp4");
     std::vector<Process> starts;
-    for (int i = 0; i < kStarts; ++i)
-        paths.push_back(CopyOf(clip, "at-once-" + std::to_string(100 + i) + ".mp4"));
-    for (const auto& path : paths)
-        starts.push_back(Start({ path }));
-    const auto countRunning = [&] {
-        return std::count_if(starts.begin(), starts.end(), [](Process& start) { return start.IsRunning(); });
-    };
-    EXPECT_TRUE(WaitUntil([&] { return countRunning() == 1; }, 2 * kPatience));
-    for (const auto& path : paths)
-        EXPECT_TRUE(WaitUntil([&] { return log.Contains(path); })) << path;
+    for (int i = 0; i < 20; ++i) {
+        starts.push_back(Start({ CopyOf(clip, "at-once-" + std::to_string(i) + ".mp4") }, ".",
+            { "DBUS_SESSION_BUS_ADDRESS=" + bus.Address() }));
+    }
+    const auto isRunning = [](Process& start) { return start.IsRunning(); };
+    EXPECT_TRUE(WaitUntil([&] { return std::count_if(starts.begin(), starts.end(), isRunning) == 1; }, 2 * kPatience));
+    auto player = Show(std::move(*std::find_if(starts.begin(), starts.end(), isRunning)));
+    EXPECT_TRUE(WaitUntil([&] {
+        return bus
+            .OutputOf("busctl --user get-property org.mpris.MediaPlayer2.zentaro /org/mpris/MediaPlayer2 "
+                      "org.mpris.MediaPlayer2.TrackList Tracks")
+            .starts_with("ao 20 ");
+    }));
+    EXPECT_CLOSES_CLEANLY(player);
     for (auto& start : starts) {
-        if (start.IsRunning()) {
-            auto player = Show(std::move(start));
-            EXPECT_CLOSES_CLEANLY(player);
-        } else {
+        if (start.Id() > 0) {
             EXPECT_EQ(start.WaitForEnd(), 0);
-            EXPECT_EQ(start.ErrorText(), "");
+            EXPECT_EQ(start.Output(), "");
         }
     }
 }
 
 TEST_F(HandOver, SendersThatDieOrLieHarmNobody)
 {
-    auto player = StartAndShow({ CopyOf(Clips::Make("clip.mp4"), "one.mp4") });
+    auto player = StartAndShow({ ClipNamed("one.mp4") });
     EXPECT_TRUE(player.WaitForTitle("one.mp4"));
     const auto handle = Published("txtHwnd");
     sockaddr_un address{ .sun_family = AF_UNIX, .sun_path = {} };
@@ -160,7 +147,7 @@ TEST_F(HandOver, SendersThatDieOrLieHarmNobody)
         close(sender);
     }
     ASSERT_EQ(chdir("/"), 0);
-    ExpectMessenger({ CopyOf(Clips::Make("clip.mp4"), "two.mp4") });
+    ExpectMessenger({ ClipNamed("two.mp4") });
     EXPECT_TRUE(player.WaitForTitle("two.mp4"));
 
     // A text of 1 MB names no file; its sender is told when the user has been.
@@ -174,4 +161,4 @@ TEST_F(HandOver, SendersThatDieOrLieHarmNobody)
 }
 
 } // namespace
-} // namespace zentaro::desktop
+} // namespace zentaro::trial

@@ -1,6 +1,7 @@
 #include "tests/desktop/PlayerDesk.h"
 
 #include "app/ConfigFile.h"
+#include "platform/StringStore.h"
 
 #include <algorithm>
 #include <csignal>
@@ -8,102 +9,66 @@
 #include <filesystem>
 #include <iostream>
 #include <stdexcept>
-#include <unistd.h>
-#include <utility>
 
-namespace zentaro::desktop {
+namespace zentaro::trial {
 
 namespace {
 
 namespace fs = std::filesystem;
 
 // Of 255: a black frame with a thin line of something is still black.
-constexpr double kDark = 12;
+constexpr int kDark = 12;
 constexpr double kMovingShare = 0.01;
 // The X server gives each client the window numbers of one block.
 constexpr int kClientShift = 21;
 // A window that is painted anew changes once or twice; what plays goes on.
 constexpr int kMovements = 4;
 
-/// The tests' own; the environment names the player's from the first test on.
-const fs::path& TemporaryFolder()
-{
-    static const fs::path folder = fs::temp_directory_path();
-    return folder;
-}
-
-std::string MakeFolder(const char* name)
-{
-    auto path = (TemporaryFolder() / name).string() + "-XXXXXX";
-    if (mkdtemp(path.data()) == nullptr)
-        throw std::runtime_error("no folder for the test");
-    return path;
-}
-
-/// The player stands beside this program's folder.
-const fs::path& BuiltProgramFolder()
-{
-    static const fs::path folder = fs::canonical(fs::read_symlink("/proc/self/exe").parent_path() / "../bin");
-    return folder;
-}
-
-/// A program finds its folder by its own resolved path, so programs are copied; what lies beside them is linked.
+/// The player stands beside this program's folder. A program finds its folder by its own resolved path, so it is
+/// copied; what lies beside it is linked.
 void CopyProgramFolder(const fs::path& folder)
 {
-    for (const auto& entry : fs::directory_iterator(BuiltProgramFolder())) {
+    fs::create_directory(folder);
+    for (const auto& entry : fs::directory_iterator(fs::canonical(fs::path(Helper("")).parent_path() / "../bin"))) {
         const auto name = entry.path().filename();
-        if (name == "Config.cfg" || name == "zentaro.package")
-            continue;
-        const bool isProgram = entry.is_regular_file() && access(entry.path().c_str(), X_OK) == 0;
-        if (isProgram && !name.string().starts_with("zentaro-fuzz"))
+        if (name == "zentaro")
             fs::copy_file(entry.path(), folder / name);
-        else if (!isProgram)
+        else if (name != "Config.cfg" && name != "zentaro.package")
             fs::create_symlink(entry.path(), folder / name);
     }
 }
 
-/// Nothing of whoever runs the tests reaches the player.
-void EnterOwnWorld(const std::string& home)
+/// Nothing of whoever runs the tests reaches the player, and where its buses would be nobody listens: without an
+/// address its libraries would start one of their own, which outlives it.
+void EnterOwnWorld(const std::string& home, const std::string& display)
 {
-    const char* const path = std::getenv("PATH");
-    const std::string keptPath = path != nullptr ? path : "/usr/bin:/bin";
-    const std::map<std::string, std::string> world = { { "PATH", keptPath }, { "LC_ALL", "C.UTF-8" }, { "HOME", home },
-        { "TMPDIR", home + "/tmp" }, { "XDG_RUNTIME_DIR", home + "/run" }, { "XDG_CONFIG_HOME", home + "/config" },
-        { "XDG_DATA_HOME", home + "/data" }, { "XDG_CACHE_HOME", home + "/cache" },
-        // No test may reach the machine's login manager.
-        { "DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + home + "/no-bus" },
-        // What the system's libraries leak is not ours to find; what is freed must not look like a growing player.
-        { "ASAN_OPTIONS", "detect_leaks=0:quarantine_size_mb=4" }, { "UBSAN_OPTIONS", "print_stacktrace=1" } };
+    const std::string path = std::getenv("PATH");
+    const auto temporary = fs::temp_directory_path();
     clearenv();
-    for (const auto& [name, value] : world) {
-        setenv(name.c_str(), value.c_str(), 1);
-        if (value.starts_with(home))
-            fs::create_directories(value);
-    }
+    for (const auto& [name, value] :
+        std::initializer_list<std::pair<const char*, std::string>>{ { "PATH", path }, { "TMPDIR", temporary },
+            { "LC_ALL", "C.UTF-8" }, { "DISPLAY", display }, { "HOME", home }, { "XDG_RUNTIME_DIR", home + "/run" },
+            { "XDG_CONFIG_HOME", home + "/config" }, { "XDG_DATA_HOME", home + "/data" },
+            { "XDG_CACHE_HOME", home + "/cache" }, { "DBUS_SYSTEM_BUS_ADDRESS", "unix:path=" + home + "/no-bus" },
+            { "DBUS_SESSION_BUS_ADDRESS", "unix:path=" + home + "/no-session-bus" },
+            // What the system's libraries leak is not ours to find; what is freed must not look like a growing player.
+            { "ASAN_OPTIONS", "detect_leaks=0:quarantine_size_mb=4" }, { "UBSAN_OPTIONS", "print_stacktrace=1" } })
+        setenv(name, value.c_str(), 1);
+    for (const auto* const folder : { "/tmp", "/run", "/config", "/data", "/cache" })
+        fs::create_directory(home + folder);
     fs::permissions(home + "/run", fs::perms::owner_all);
 }
 
-/// Keeps what was on the screen when something first failed in a test.
-class ScreenshotOnFailure : public testing::EmptyTestEventListener {
-public:
-    explicit ScreenshotOnFailure(Desktop& screen)
-        : m_screen(screen)
-    {
-    }
-
-private:
-    void OnTestStart(const testing::TestInfo& test) override { m_test = test.name(); }
+/// Keeps what was on the screen when something failed.
+struct Witness : testing::EmptyTestEventListener {
     void OnTestPartResult(const testing::TestPartResult& result) override
     {
-        if (!result.failed() || m_test.empty())
-            return;
-        const auto path = (TemporaryFolder() / ("failed-" + std::exchange(m_test, {}) + ".png")).string();
-        m_screen.Grab(m_screen.Area()).SavePng(path);
-        std::cout << "What was on the screen: " << path << '\n';
+        const auto path = fs::temp_directory_path() / ("failed-" + std::to_string(++results) + ".png");
+        if (result.failed() && screen.Grab(screen.Area()).save(QString::fromStdString(path)))
+            std::cout << "What was on the screen: " << path << '\n';
     }
-
-    Desktop& m_screen;
-    std::string m_test; // empty when its picture is taken
+    Desktop screen;
+    int results = 0;
 };
 
 } // namespace
@@ -134,7 +99,7 @@ Rect ShownPlayer::Video() const
     while (!waiting.empty()) {
         const auto outer = waiting.back();
         waiting.pop_back();
-        const auto children = m_desktop->ShownChildren(outer);
+        const auto children = m_desktop->Children(outer);
         if (std::any_of(children.begin(), children.end(), isEngines))
             return m_desktop->Place(outer);
         for (std::size_t i = 1; i < children.size(); ++i) {
@@ -152,6 +117,12 @@ Rect ShownPlayer::OnScreen(const Rect& inWindow) const
     return { place.left + inWindow.left, place.top + inWindow.top, inWindow.width, inWindow.height };
 }
 
+void ShownPlayer::Click(Button button) const
+{
+    const auto place = PlaceOf(button);
+    m_desktop->Click(place.left + place.width / 2, place.top + place.height / 2);
+}
+
 std::vector<Window> ShownPlayer::Dialogs() const
 {
     auto windows = m_desktop->WindowsOf(process.Id());
@@ -159,28 +130,37 @@ std::vector<Window> ShownPlayer::Dialogs() const
     return windows;
 }
 
+bool ShownPlayer::WaitForDialogs(std::size_t count) const
+{
+    return WaitUntil([&] {
+        const auto dialogs = Dialogs();
+        return dialogs.size() == count && m_desktop->IsActive(dialogs.empty() ? window : dialogs.back());
+    });
+}
+
 std::optional<std::string> ShownPlayer::AnswerDialog() const
 {
     if (!WaitUntil([this] { return !Dialogs().empty(); }))
         return std::nullopt;
-    const auto dialog = Dialogs().back();
-    const auto title = m_desktop->Title(dialog);
-    m_desktop->Activate(dialog);
-    m_desktop->Press(kReturn);
-    const auto isGone = [&] {
-        const auto left = Dialogs();
-        return std::find(left.begin(), left.end(), dialog) == left.end();
-    };
-    return WaitUntil(isGone) ? std::optional(title) : std::nullopt;
+    const auto dialogs = Dialogs();
+    const auto title = m_desktop->Title(dialogs.back());
+    m_desktop->Activate(dialogs.back());
+    m_desktop->Press("Return");
+    return WaitForDialogs(dialogs.size() - 1) ? std::optional(title) : std::nullopt;
+}
+
+bool ShownPlayer::WaitForMenus(std::size_t count) const
+{
+    return WaitUntil([&] { return m_desktop->MenusOf(process.Id()).size() == count; });
 }
 
 bool ShownPlayer::PictureMoves() const
 {
-    Picture before;
+    QImage before;
     int movements = 0;
     return WaitUntil([&] {
         auto now = m_desktop->Grab(Video());
-        if (now.Mean().Brightest() < kDark || now.pixels.size() != before.pixels.size())
+        if (MeanOf(now).value() < kDark || now.size() != before.size())
             movements = 0;
         else if (ShareThatDiffers(before, now) > kMovingShare)
             ++movements;
@@ -191,29 +171,6 @@ bool ShownPlayer::PictureMoves() const
     });
 }
 
-bool ShownPlayer::ShowsAudioLogo() const
-{
-    return WaitUntil([&] {
-        const auto place = Video();
-        const auto seen = m_desktop->Grab(place);
-        if (seen.pixels.empty())
-            return false;
-        const auto logo = Picture::FromFile((BuiltProgramFolder() / "Audio.JPG").string(), place.width, place.height);
-        return ShareThatDiffers(seen.Blocks(8), logo.Blocks(8)) < 0.05;
-    });
-}
-
-bool ShownPlayer::ClockRuns() const
-{
-    for (int change = 0; change < 2; ++change) {
-        const auto label = OnScreen(Layout().TimeLabel());
-        const auto before = m_desktop->Grab(label);
-        if (!WaitUntil([&] { return ShareThatDiffers(before, m_desktop->Grab(label)) > 0; }))
-            return false;
-    }
-    return true;
-}
-
 std::optional<int> ShownPlayer::Close()
 {
     m_desktop->Close(window);
@@ -222,43 +179,26 @@ std::optional<int> ShownPlayer::Close()
 
 PlayerDesk::PlayerDesk()
 {
-    Clips::Make("clip.mp4"); // before the temporary folder becomes the test's
-    Screen();
-    m_home = MakeFolder("zentaro-desk");
-    m_programFolder = InHome("program");
-    EnterOwnWorld(m_home);
-    setenv("DISPLAY", Screen().Name().c_str(), 1);
-    fs::create_directory(m_programFolder);
-    CopyProgramFolder(m_programFolder);
+    EnterOwnWorld(Home(), Screen().Name());
+    CopyProgramFolder(InHome("program"));
     // No window lies under the pointer by accident.
     Screen().MoveTo(0, 0);
 }
 
-void PlayerDesk::SetUpTestSuite()
-{
-    static const bool isWatched = [] {
-        testing::UnitTest::GetInstance()->listeners().Append(new ScreenshotOnFailure(Screen()));
-        return true;
-    }();
-    static_cast<void>(isWatched);
-}
-
-PlayerDesk::~PlayerDesk()
-{
-    std::error_code ignored;
-    fs::remove_all(m_home, ignored);
-}
-
 void PlayerDesk::TearDown()
 {
-    for (const auto id : ProcessesAtHome(m_home))
+    for (const auto id : Started())
         kill(id, SIGKILL);
 }
 
 Desktop& PlayerDesk::Screen()
 {
-    static Desktop desktop;
-    return desktop;
+    static auto& witness = *[] {
+        auto* const made = new Witness;
+        testing::UnitTest::GetInstance()->listeners().Append(made); // which deletes it at the end
+        return made;
+    }();
+    return witness.screen;
 }
 
 PlayerSettings PlayerDesk::StoredSettings() const
@@ -270,7 +210,7 @@ PlayerSettings PlayerDesk::StoredSettings() const
 
 void PlayerDesk::StoreSettings(const std::function<void(PlayerSettings&)>& change) const
 {
-    auto settings = DefaultSettings(m_home, { 1280 * 15.0, 800 * 15.0 });
+    auto settings = DefaultSettings(Home(), { 1280 * 15.0, 800 * 15.0 });
     change(settings);
     WriteWholeFile(ConfigPath(), FormatConfigurations(settings));
 }
@@ -284,29 +224,34 @@ std::string PlayerDesk::CopyOf(const std::string& clip, const std::string& name)
 }
 
 Process PlayerDesk::Start(const std::vector<std::string>& arguments, const std::string& folder,
-    const std::map<std::string, std::string>& environment)
+    const std::vector<std::string>& environment) const
 {
-    return Process({ .program = m_programFolder + "/zentaro",
-        .arguments = arguments,
-        .folder = folder,
-        .errorFile = InHome("errors-" + std::to_string(++m_starts)),
-        .environment = environment });
+    auto command = environment;
+    command.insert(command.end(), { "TMPDIR=" + InHome("tmp"), InHome("program/zentaro") });
+    command.insert(command.end(), arguments.begin(), arguments.end());
+    return Process(command, folder);
 }
 
-ShownPlayer PlayerDesk::Show(Process process, Desktop* desktop)
+ShownPlayer PlayerDesk::Show(Process process, Desktop& desktop)
 {
-    auto& screen = desktop != nullptr ? *desktop : Screen();
     Window found = 0;
     WaitUntil([&] {
-        for (const auto window : screen.WindowsOf(process.Id())) {
-            if (!screen.IsDialog(window))
+        for (const auto window : desktop.WindowsOf(process.Id())) {
+            if (!desktop.IsDialog(window))
                 found = window;
         }
         return found != 0 || !process.IsRunning();
     });
     if (found == 0)
-        throw std::runtime_error("no window came: " + process.ErrorText());
-    return { screen, std::move(process), found };
+        throw std::runtime_error("no window came: " + process.Output());
+    return { desktop, std::move(process), found };
 }
 
-} // namespace zentaro::desktop
+std::string PlayerDesk::Published(const char* name)
+{
+    using platform::StringStore;
+    return StringStore::Open()->Read(
+        StringStore::Root::CurrentUser, platform::SettingsKey("Quorvane Zentaro", "Setting"), name, "-1");
+}
+
+} // namespace zentaro::trial

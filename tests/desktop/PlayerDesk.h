@@ -4,11 +4,11 @@
 #include "shell/WindowLayout.h"
 #include "tests/desktop/Clips.h"
 #include "tests/desktop/Desktop.h"
+#include "tests/platform/WorkingFolder.h"
 
-#include <functional>
 #include <gtest/gtest.h>
 
-namespace zentaro::desktop {
+namespace zentaro::trial {
 
 /// A player whose window is on the screen.
 class ShownPlayer {
@@ -25,17 +25,18 @@ public:
     /// Where the video is on the screen, whatever lies over it; empty when there is none.
     Rect Video() const;
     Rect OnScreen(const Rect& inWindow) const;
+    Rect PlaceOf(Button button) const { return OnScreen(Layout().ButtonRect(button)); }
+    void Click(Button button) const;
     /// Message boxes and other windows that belong to the main one.
     std::vector<Window> Dialogs() const;
+    /// Waits until so many are open and the keys go to the last of them, or to the main window.
+    bool WaitForDialogs(std::size_t count) const;
     /// Waits for a message box and answers it with Return; its title, or nothing when none came.
     std::optional<std::string> AnswerDialog() const;
+    bool WaitForMenus(std::size_t count) const;
 
     /// Whether the video changes from look to look, never black.
     bool PictureMoves() const;
-    /// Whether the video's place shows the picture that stands for sound.
-    bool ShowsAudioLogo() const;
-    /// Whether the time label changes twice.
-    bool ClockRuns() const;
     /// Closes the window as its user would and waits for the end of the process: its exit code.
     std::optional<int> Close();
 
@@ -47,40 +48,42 @@ private:
 class PlayerDesk : public testing::Test {
 protected:
     PlayerDesk();
-    ~PlayerDesk() override;
-    static void SetUpTestSuite();
     void TearDown() override;
 
     static Desktop& Screen();
 
-    const std::string& Home() const { return m_home; }
-    std::string InHome(const std::string& name) const { return m_home + "/" + name; }
-    std::string ConfigPath() const { return m_programFolder + "/Config.cfg"; }
+    const std::string& Home() const { return m_home.Path(); }
+    std::string InHome(const std::string& name) const { return m_home / name; }
+    std::string ConfigPath() const { return InHome("program/Config.cfg"); }
     PlayerSettings StoredSettings() const;
     /// Writes a Config.cfg of the defaults with these changes.
     void StoreSettings(const std::function<void(PlayerSettings&)>& change) const;
     /// A file of this name in the home that is the clip.
     std::string CopyOf(const std::string& clip, const std::string& name) const;
+    std::string ClipNamed(const std::string& name) const { return CopyOf(Clips::Make("clip.mp4"), name); }
 
-    /// A process of the player that may be a messenger; `folder` is its working folder.
-    Process Start(const std::vector<std::string>& arguments = {}, const std::string& folder = {},
-        const std::map<std::string, std::string>& environment = {});
-    /// Waits for the main window, on `desktop` or on the shared one. Fails the test and throws when none comes.
-    ShownPlayer Show(Process process, Desktop* desktop = nullptr);
-    ShownPlayer StartAndShow(const std::vector<std::string>& arguments = {}) { return Show(Start(arguments)); }
+    /// A process of the player that may be a messenger; `folder` is its working folder, `environment` words NAME=value.
+    Process Start(const std::vector<std::string>& arguments = {}, const std::string& folder = ".",
+        const std::vector<std::string>& environment = {}) const;
+    /// Waits for the main window, on `desktop` or on the shared one. Throws when none comes.
+    static ShownPlayer Show(Process process, Desktop& desktop = Screen());
+    ShownPlayer StartAndShow(const std::vector<std::string>& arguments = {}) const { return Show(Start(arguments)); }
+    /// What runs of all that was started, and of what that has started itself.
+    std::vector<pid_t> Started() const { return ProcessesWith("TMPDIR=" + InHome("tmp")); }
+    /// What the running player tells later starts.
+    static std::string Published(const char* name);
 
 private:
-    std::string m_home;
-    std::string m_programFolder;
-    int m_starts = 0;
+    platform::WorkingFolder m_home;
 };
 
 /// `Close` and what must be true after it: nothing left, nothing said.
 #define EXPECT_CLOSES_CLEANLY(player)                                                                                  \
-    do {                                                                                                               \
-        EXPECT_EQ((player).Close(), 0);                                                                                \
-        EXPECT_EQ((player).process.ErrorText(), "");                                                                   \
-        EXPECT_TRUE(WaitUntil([&] { return ProcessesAtHome(Home()).empty(); }, 5s));                                   \
-    } while (false)
+    EXPECT_EQ((player).Close(), 0);                                                                                    \
+    EXPECT_ENDED_CLEANLY(player)
+#define EXPECT_ENDED_CLEANLY(player)                                                                                   \
+    EXPECT_EQ((player).process.WaitForEnd(), 0);                                                                       \
+    EXPECT_EQ((player).process.Output(), "");                                                                          \
+    EXPECT_TRUE(WaitUntil([&] { return Started().empty(); }))
 
-} // namespace zentaro::desktop
+} // namespace zentaro::trial

@@ -2,57 +2,48 @@
 
 #include "tests/desktop/Wait.h"
 
-#include <map>
 #include <optional>
 #include <string>
 #include <sys/types.h>
 #include <vector>
 
-namespace zentaro::desktop {
+namespace zentaro::trial {
 
 /// A program under test. Whatever is still running of it when this goes is killed.
 class Process {
 public:
-    struct Start {
-        std::string program = {};
-        std::vector<std::string> arguments = {};
-        std::string folder = {};                             ///< working folder; empty: the test's
-        std::string errorFile = {};                          ///< takes its output and errors; empty: nobody sees them
-        std::map<std::string, std::string> environment = {}; ///< beside the test's own
-        int passedDescriptor = -1;                           ///< becomes its descriptor 3
-    };
-
     Process() = default;
-    explicit Process(const Start& start);
-    Process(Process&& other) noexcept;
-    Process& operator=(Process&& other) noexcept;
-    ~Process();
+    /// `command` is what env(1) understands: variables as NAME=value, then the program and its arguments.
+    explicit Process(const std::vector<std::string>& command, const std::string& folder = ".");
+    Process(Process&& other) noexcept { Swap(other); }
+    Process& operator=(Process&& other) noexcept { return Swap(other); }
+    ~Process() { Kill(); }
 
     pid_t Id() const { return m_id; }
     bool IsRunning();
     /// The exit code, 128 + the signal that ended it, or nothing when it still runs after `limit`.
     std::optional<int> WaitForEnd(std::chrono::milliseconds limit = kPatience);
     void Signal(int signal) const;
+    /// With all its children, unless they lead groups of their own.
     void Kill();
-    /// Everything it has written so far.
-    std::string ErrorText() const;
-
-    int ThreadCount() const;
-    /// Its share of memory in KiB, pages that it shares with others counted in parts.
-    long PssKiB() const;
-    int OpenDescriptors() const;
-    std::vector<pid_t> Children() const;
+    /// Everything that it has printed so far, errors included.
+    std::string Output() const;
 
 private:
+    Process& Swap(Process& other);
+
     pid_t m_id = -1;
+    int m_output = -1;
     std::optional<int> m_result;
-    std::string m_errorFile;
 };
 
-/// Every process that has this folder as its home, whoever its parent is by now.
-std::vector<pid_t> ProcessesAtHome(const std::string& home);
+/// The words of a text, parted by blanks.
+std::vector<std::string> Words(const std::string& text);
+
+/// Every process that has this variable, as NAME=value, whoever its parent is by now.
+std::vector<pid_t> ProcessesWith(const std::string& variable);
 
 std::string ReadWholeFile(const std::string& path);
 void WriteWholeFile(const std::string& path, const std::string& bytes);
 
-} // namespace zentaro::desktop
+} // namespace zentaro::trial

@@ -7,7 +7,7 @@
 #include <memory>
 #include <systemd/sd-bus.h>
 
-namespace zentaro::desktop {
+namespace zentaro::trial {
 namespace {
 
 /// The session's screen saver, which counts who holds it off.
@@ -59,7 +59,7 @@ class Session : public PlayerDesk {
 protected:
     ShownPlayer ShowInSession(const std::vector<std::string>& arguments)
     {
-        return Show(Start(arguments, {}, { { "DBUS_SESSION_BUS_ADDRESS", bus.Address() } }));
+        return Show(Start(arguments, ".", { "DBUS_SESSION_BUS_ADDRESS=" + bus.Address() }));
     }
     std::string Ctl(const std::string& words) const { return bus.OutputOf("playerctl -p zentaro " + words); }
     bool Becomes(const std::string& question, const std::string& answer) const
@@ -75,7 +75,7 @@ protected:
 TEST_F(Session, MediaKeysAndScreenSaverGoWithThePlayer)
 {
     auto screenSaver = std::make_unique<ScreenSaver>(bus.Address());
-    const auto first = CopyOf(Clips::Make("clip.mp4"), "first one.mp4");
+    const auto first = ClipNamed("first one.mp4");
     const auto second = CopyOf(Clips::Make("tone.wav"), "second.wav");
     auto player = ShowInSession({ first });
     Becomes("status", "Playing");
@@ -125,8 +125,7 @@ TEST_F(Session, MediaKeysAndScreenSaverGoWithThePlayer)
     EXPECT_EQ(bus.OutputOf("busctl --address=" + bus.Address()
                   + " call org.mpris.MediaPlayer2.zentaro /org/mpris/MediaPlayer2 org.mpris.MediaPlayer2 Quit"),
         "");
-    EXPECT_EQ(player.process.WaitForEnd(), 0);
-    EXPECT_EQ(player.process.ErrorText(), "");
+    EXPECT_ENDED_CLEANLY(player);
     EXPECT_TRUE(screenSaver->BecomesHeldBy(0));
 }
 
@@ -134,13 +133,13 @@ TEST_F(Session, WhoWantsTheScreenSaverKeepsIt)
 {
     ScreenSaver screenSaver(bus.Address());
     StoreSettings([](PlayerSettings& settings) { settings.DisableScreenSaver = 0; });
-    auto player = ShowInSession({ CopyOf(Clips::Make("clip.mp4"), "first.mp4") });
+    auto player = ShowInSession({ ClipNamed("first.mp4") });
     Becomes("status", "Playing");
     EXPECT_TRUE(player.PictureMoves());
     EXPECT_TRUE(screenSaver.BecomesHeldBy(0));
     EXPECT_EQ(screenSaver.TimesHeld(), 0);
-    EXPECT_EQ(player.Close(), 0);
+    EXPECT_CLOSES_CLEANLY(player);
 }
 
 } // namespace
-} // namespace zentaro::desktop
+} // namespace zentaro::trial

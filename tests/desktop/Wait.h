@@ -3,7 +3,7 @@
 #include <chrono>
 #include <thread>
 
-namespace zentaro::desktop {
+namespace zentaro::trial {
 
 using namespace std::chrono_literals;
 
@@ -22,4 +22,4 @@ template <class Condition> bool WaitUntil(Condition condition, std::chrono::mill
     return true;
 }
 
-} // namespace zentaro::desktop
+} // namespace zentaro::trial

@@ -157,19 +157,6 @@ TEST_F(SourceTest, a_picture_that_cannot_be_made_is_tried_again_without_seeking)
     EXPECT_EQ(source.Outcome().messages,
         (std::vector<InspectionMessage>{
             { "Cannot render thumbnail for /a.mkv. The video codec may be unsupported." } }));
-}
-
-TEST_F(SourceTest, several_films_get_a_picture_each_and_a_turned_one_stands_upright)
-{
-    const auto source = Inspected("/a.mkv",
-        kTenSeconds + kFilm + "    Side data:\n      displaymatrix: rotation of 90.00 degrees\n"
-            + "  Stream #0:10: Video: h264, yuv420p, 640x480, 25 fps\n");
-    ASSERT_EQ(thumbnailRuns.size(), 2U);
-    EXPECT_NE(thumbnailRuns[0].find("-map 0:0 "), std::string::npos);
-    EXPECT_NE(thumbnailRuns[0].find("-s 40x72 "), std::string::npos);
-    EXPECT_NE(thumbnailRuns[1].find("-map 0:10 "), std::string::npos);
-    EXPECT_EQ(source.Streams()[0].Width, 1280);
-    EXPECT_EQ(source.Streams()[1].Index, 1);
 
     // The tool's own version decides how it is called.
     version = "FFmpeg version 0.6.6";

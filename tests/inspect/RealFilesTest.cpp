@@ -1,15 +1,17 @@
 #include "inspect/ConsoleToolRunner.h"
 #include "inspect/DiskFiles.h"
 #include "inspect/QtServices.h"
+#include "inspect/clsAVIDelay.h"
 #include "inspect/clsSource.h"
 #include "platform/Files.h"
-#include "platform/Leftovers.h"
+#include "tests/platform/WorkingFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <sys/stat.h>
 
 using namespace zentaro;
 namespace fs = std::filesystem;
@@ -33,12 +35,11 @@ class RealFiles : public testing::Test {
 protected:
     void SetUp() override
     {
-        ASSERT_FALSE(m_folder.empty());
-        const auto program = fs::path(m_folder) / "program folder";
+        const fs::path program = Path("program folder");
         fs::create_directory(program);
         for (const std::string tool : { "ffmpeg", "mpgtx" })
             fs::create_symlink(FindTool(tool, ""), program / tool);
-        fs::create_directory(m_folder + "/scratch");
+        fs::create_directory(Path("scratch"));
 
         m_context.tools = &m_tools;
         m_context.files = &m_files;
@@ -46,16 +47,14 @@ protected:
         m_context.decodePicture = DecodePictureFile;
         m_context.ffmpeg = program / "ffmpeg";
         m_context.mpgtx = program / "mpgtx";
-        m_context.workingFolder = m_folder + "/scratch/";
+        m_context.workingFolder = Path("scratch/");
         m_context.audioCodecNames = &m_names;
         m_context.videoCodecNames = &m_names;
         m_context.defaultVideoPicture = Picture(1, 1, { 1 });
         m_context.defaultAudioPicture = Picture(1, 1, { 2 });
     }
 
-    void TearDown() override { platform::RemoveFolder(m_folder); }
-
-    std::string Path(const std::string& name) const { return m_folder + "/" + name; }
+    std::string Path(const std::string& name) const { return m_folder / name; }
 
     /// Runs ffmpeg; the output's path is added to the arguments. False when there is no file afterwards.
     bool Make(const std::string& name, const Arguments& arguments)
@@ -69,11 +68,11 @@ protected:
     {
         clsSource source(m_context);
         EXPECT_TRUE(source.GetVideoInformation(Path(name))) << name << ": " << source.Outcome().error;
-        EXPECT_TRUE(fs::is_empty(m_folder + "/scratch")) << name;
+        EXPECT_TRUE(fs::is_empty(Path("scratch"))) << name;
         return source;
     }
 
-    std::string m_folder = platform::MakeWorkingFolder();
+    const platform::WorkingFolder m_folder;
     ToolContext m_toolContext;
     ConsoleToolRunner m_tools{ m_toolContext };
     DiskFiles m_files{ [](std::int64_t seconds) { return std::to_string(seconds); } };
@@ -203,4 +202,32 @@ TEST_F(RealFiles, what_is_no_media_file_is_refused_in_words)
     clsSource source(m_context);
     EXPECT_FALSE(source.GetVideoInformation(Path("missing.avi")));
     EXPECT_TRUE(source.Outcome().error.starts_with("Could not create piped process. LastError "));
+}
+
+TEST_F(RealFiles, avi_files_of_a_current_muxer_are_read_and_only_regular_files)
+{
+    const std::pair<Arguments, std::string> rows[] = {
+        { { "-map", "0", "-map", "1", "-c:a", "libmp3lame" }, " video-1 audio0" },
+        { { "-map", "0", "-map", "1", "-c:a", "ac3" }, " video-1 audio0" },
+        { { "-map", "1", "-map", "0", "-map", "2", "-c:a:0", "pcm_s16le", "-c:a:1", "mp2" },
+            " audio-1 video-1 audio0" },
+    };
+    const std::string name = "-i \"'\xFF\xFE%d:*.avi"; // any bytes will do
+    for (const auto& [options, expected] : rows) {
+        ASSERT_TRUE(Make("made.avi", kFilmSource + kSoundSource + kSoundSource + options));
+        fs::rename(Path("made.avi"), Path(name));
+        clsAVIDelay avi;
+        EXPECT_TRUE(avi.OpenFile(Path(name)));
+        EXPECT_EQ(avi.FileName(), Path(name));
+        std::string text;
+        for (std::int32_t i = 0; i < avi.StreamCount(); ++i)
+            text += (avi.StreamIsAudio(i) ? " audio" : " video") + std::to_string(avi.StreamDelay(i));
+        EXPECT_EQ(text, expected);
+    }
+    // A download that stopped halfway: its first frames are there, and nothing behind them is needed.
+    fs::resize_file(Path(name), fs::file_size(Path(name)) / 2);
+    EXPECT_TRUE(clsAVIDelay().OpenFile(Path(name)));
+    ASSERT_EQ(::mkfifo(Path("fifo").c_str(), 0600), 0);
+    for (const auto& path : { m_folder.Path(), Path("missing"), Path("fifo"), std::string("/dev/zero"), std::string() })
+        EXPECT_FALSE(clsAVIDelay().OpenFile(path)) << path;
 }

@@ -1,16 +1,18 @@
 #include "inspect/ModPipes.h"
+#include "tests/platform/WorkingFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
 #include <chrono>
 #include <csignal>
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <thread>
+#include <tuple>
 #include <unistd.h>
 
 using namespace zentaro;
@@ -27,11 +29,9 @@ using Clock = std::chrono::steady_clock;
 /// True once the condition holds, at the latest after the time that a test may lose on a busy machine.
 bool Eventually(const std::function<bool()>& condition)
 {
-    const auto end = Clock::now() + 5s;
-    while (!condition()) {
+    for (const auto end = Clock::now() + 5s; !condition(); std::this_thread::sleep_for(2ms)) {
         if (Clock::now() > end)
             return false;
-        std::this_thread::sleep_for(2ms);
     }
     return true;
 }
@@ -45,9 +45,9 @@ bool IsGone(pid_t pid)
     return name == std::string::npos || stat[name + 2] == 'Z' || stat[name + 2] == 'X';
 }
 
-std::size_t OpenDescriptors()
+std::ptrdiff_t OpenDescriptors()
 {
-    return static_cast<std::size_t>(std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator()));
+    return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
 }
 
 bool HasChildren()
@@ -58,15 +58,9 @@ bool HasChildren()
 
 class Runner : public testing::Test {
 protected:
-    Runner()
-    {
-        auto name = (fs::temp_directory_path() / "zentaro-runner-XXXXXX").string();
-        m_folder = ::mkdtemp(name.data());
-        context.programFolder = m_folder;
-    }
-    ~Runner() override { fs::remove_all(m_folder); }
+    Runner() { context.programFolder = m_folder.Path(); }
 
-    std::string Path(const std::string& name) const { return m_folder + '/' + name; }
+    std::string Path(const std::string& name) const { return m_folder / name; }
     std::string Content(const std::string& name) const
     {
         std::ifstream file(Path(name), std::ios::binary);
@@ -78,33 +72,40 @@ protected:
         fs::permissions(Path(name), executable ? fs::perms::owner_all : fs::perms::owner_read);
         return Path(name);
     }
+    Result<void> Run(const ToolCommand& command, const std::string& workDir = "", std::int32_t priority = 2)
+    {
+        return ExecuteAndCapture(command, Path("log"), 0, false, priority, workDir, context);
+    }
     /// Runs shell text as a tool; the log's content after the first line.
     std::string Printed(const std::string& shellText, const std::vector<std::string>& arguments = {},
         const std::string& workDir = "", std::int32_t priority = 2)
     {
         ToolCommand command{ "/bin/sh", { "-c", shellText, "tool" }, "sh" };
         command.arguments.insert(command.arguments.end(), arguments.begin(), arguments.end());
-        const auto result = ExecuteAndCapture(command, Path("log"), 0, false, priority, workDir, context);
+        const auto result = Run(command, workDir, priority);
         m_returned = Clock::now();
         EXPECT_TRUE(result) << result.error().text;
         const auto log = Content("log");
         EXPECT_EQ(log.substr(0, 3), "sh\n");
         return log.substr(std::min<std::size_t>(3, log.size()));
     }
-    /// A pump that cancels once a file of that name has been written completely.
-    void CancelWhenThere(const std::string& name)
+    /// What the tool printed until it was cancelled: once it has made the file "ready" in its folder.
+    std::string PrintedUntilReady(const std::string& shellText)
     {
-        context.pumpMessages = [this, name] {
-            if (!context.CancelExecute && fs::exists(Path(name))) {
+        fs::remove(Path("ready"));
+        context.pumpMessages = [this] {
+            if (!context.CancelExecute && fs::exists(Path("ready"))) {
                 m_cancelled = Clock::now();
                 context.CancelExecute = -1;
             }
         };
+        auto printed = Printed(shellText, {}, m_folder.Path());
+        EXPECT_LT(m_returned - m_cancelled, kAtOnce);
+        return printed;
     }
-    auto CancelTime() const { return m_returned - m_cancelled; }
 
     ToolContext context;
-    std::string m_folder;
+    const platform::WorkingFolder m_folder;
     Clock::time_point m_cancelled;
     Clock::time_point m_returned;
 };
@@ -125,48 +126,27 @@ TEST_F(Runner, the_log_holds_the_text_and_then_the_bytes_of_both_streams)
     const ToolCommand command{ "tool", { "-c", "echo $0 $1", "a", "b" }, "t" };
     EXPECT_TRUE(ExecuteAndCapture(command, Path("log"), 0, true, 2, "", context));
     EXPECT_EQ(Content("log"), "t\na b\n");
+    EXPECT_TRUE(Run({ "head", { "-c", "100000000", "/dev/zero" }, "" }));
+    EXPECT_EQ(fs::file_size(Path("log")), 100'000'001u);
 }
 
 TEST_F(Runner, a_child_sees_its_arguments_unchanged_and_nothing_else_of_this_process)
 {
-    const std::vector<std::string> arguments{ "a \"b\" 'c'", "$HOME `id` *", "", "-n\n", "\xFF\xFE.avi" };
-    std::string expected;
-    for (const auto& argument : arguments)
-        expected += '[' + argument + ']';
-    EXPECT_EQ(Printed("printf '[%s]' \"$@\"", arguments), expected);
-
+    EXPECT_EQ(Printed("printf '[%s]' \"$@\"", { "a \"b\" 'c'", "$HOME `id` *", "", "-n\n", "\xFF\xFE.avi" }),
+        "[a \"b\" 'c'][$HOME `id` *][][-n\n][\xFF\xFE.avi]");
     const int inheritable = ::dup(STDERR_FILENO); // without the close-on-exec flag
     EXPECT_EQ(Printed("cd /proc/self/fd; echo *; read line || echo empty"), "0 1 2 3\nempty\n"); // 3 is echo's own
     ::close(inheritable);
-
     const auto earlier = std::signal(SIGPIPE, SIG_IGN);
     EXPECT_EQ(Printed("kill -PIPE $$; echo 'still there'"), "");
     std::signal(SIGPIPE, earlier);
-}
 
-TEST_F(Runner, the_child_works_in_the_given_or_in_the_current_folder)
-{
-    EXPECT_EQ(Printed("pwd -P", {}, m_folder), fs::canonical(m_folder).string() + '\n');
+    EXPECT_EQ(Printed("pwd -P", {}, m_folder.Path()), fs::canonical(m_folder.Path()).string() + '\n');
     EXPECT_EQ(Printed("pwd -P"), fs::current_path().string() + '\n');
     // A relative program stays relative to this process's folder.
     const auto tool = WriteScript("tool", "#!/bin/sh\necho here\n");
-    const auto result =
-        ExecuteAndCapture({ fs::relative(tool).string(), {}, "t" }, Path("log"), 0, false, 2, "/", context);
-    EXPECT_TRUE(result);
+    EXPECT_TRUE(Run({ fs::relative(tool).string(), {}, "t" }, "/"));
     EXPECT_EQ(Content("log"), "t\nhere\n");
-}
-
-TEST_F(Runner, a_hundred_megabytes_are_copied_quickly_and_not_held)
-{
-    rusage before{};
-    rusage after{};
-    ::getrusage(RUSAGE_SELF, &before);
-    const auto result =
-        ExecuteAndCapture({ "head", { "-c", "100000000", "/dev/zero" }, "" }, Path("log"), 0, false, 2, "", context);
-    EXPECT_TRUE(result);
-    EXPECT_EQ(fs::file_size(Path("log")), 100'000'001u);
-    ::getrusage(RUSAGE_SELF, &after);
-    EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 20'000) << "KiB";
 }
 
 TEST_F(Runner, messages_are_pumped_while_a_tool_is_silent_or_has_closed_its_output)
@@ -183,19 +163,20 @@ TEST_F(Runner, messages_are_pumped_while_a_tool_is_silent_or_has_closed_its_outp
 TEST_F(Runner, a_tool_that_cannot_be_started_is_error_2003_with_the_systems_code)
 {
     WriteScript("log", "earlier");
-    const auto start = [&](const std::string& program, const std::string& workDir = "") {
-        const auto result = ExecuteAndCapture({ program, {}, "t" }, Path("log"), 0, false, 2, workDir, context);
-        EXPECT_FALSE(result);
-        EXPECT_EQ(result.error().number, 2003);
-        return result.error().text;
+    const std::tuple<std::string, std::string, int> rows[] = {
+        { Path("missing"), "", ENOENT },
+        { "zentaro-no-such-tool", "", ENOENT },
+        { "/bin/sh", Path("missing"), ENOENT },
+        { m_folder.Path(), "", EACCES },
+        { WriteScript("plain", "#!/bin/sh\n", false), "", EACCES },
+        { WriteScript("nonsense", "nonsense"), "", ENOEXEC },
     };
-    const auto text = [](int code) { return "Could not create piped process. LastError " + std::to_string(code); };
-    EXPECT_EQ(start(Path("missing")), text(ENOENT));
-    EXPECT_EQ(start("zentaro-no-such-tool"), text(ENOENT));
-    EXPECT_EQ(start("/bin/sh", Path("missing")), text(ENOENT));
-    EXPECT_EQ(start(m_folder), text(EACCES));
-    EXPECT_EQ(start(WriteScript("plain", "#!/bin/sh\n", false)), text(EACCES));
-    EXPECT_EQ(start(WriteScript("nonsense", "nonsense")), text(ENOEXEC));
+    for (const auto& [program, workDir, code] : rows) {
+        const auto result = Run({ program, {}, "t" }, workDir);
+        ASSERT_FALSE(result);
+        const Error expected{ 2003, "Could not create piped process. LastError " + std::to_string(code) };
+        EXPECT_EQ(result.error(), expected);
+    }
     EXPECT_EQ(Content("log"), "earlier");
 }
 
@@ -206,13 +187,12 @@ TEST_F(Runner, without_a_pipe_or_a_log_there_is_an_error_and_no_tool)
     rlimit none = limit;
     none.rlim_cur = 3;
     ::setrlimit(RLIMIT_NOFILE, &none);
-    const auto result = ExecuteAndCapture({ "true", {}, "t" }, Path("log"), 0, false, 2, "", context);
+    const auto result = Run({ "true", {}, "t" });
     ::setrlimit(RLIMIT_NOFILE, &limit);
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error(), (Error{ 2001, "Could not create pipe LastError " + std::to_string(EMFILE) }));
 
-    const ToolCommand command{ "/bin/sh", { "-c", "echo $$ >\"$0\"; exec sleep 100", Path("pid") }, "t" };
-    const auto missing = ExecuteAndCapture(command, Path("no/log"), 0, false, 2, "", context);
+    const auto missing = ExecuteAndCapture({ "sleep", { "100" }, "t" }, Path("no/log"), 0, false, 2, "", context);
     ASSERT_FALSE(missing);
     EXPECT_EQ(missing.error().number, ENOENT);
     const auto full = ExecuteAndCapture({ "echo", { "x" }, "t" }, "/dev/full", 0, false, 2, "", context);
@@ -221,44 +201,30 @@ TEST_F(Runner, without_a_pipe_or_a_log_there_is_an_error_and_no_tool)
     EXPECT_FALSE(HasChildren());
 }
 
-TEST_F(Runner, a_cancel_ends_a_stubborn_tool_and_its_children_at_once)
+TEST_F(Runner, a_cancel_ends_a_stubborn_tool_with_its_group_and_waits_for_nobody_else)
 {
-    CancelWhenThere("ready");
-    const auto pids = Printed(
-        "trap '' TERM INT HUP; (trap '' TERM; echo $$; sh -c 'echo $PPID $$; touch ready; sleep 100'); sleep 100", {},
-        m_folder);
-    EXPECT_LT(CancelTime(), kAtOnce);
-    std::istringstream list(pids);
+    std::istringstream pids(
+        PrintedUntilReady(
+            "trap '' TERM INT HUP; (trap '' TERM; echo $$; sh -c 'echo $PPID $$; touch ready; sleep 100'); "
+            "sleep 100")
+        + PrintedUntilReady("sh -c 'echo $$; sleep 0.1; touch ready; exec sleep 100' &"));
     int count = 0;
-    for (pid_t pid = 0; list >> pid; ++count)
+    for (pid_t pid = 0; pids >> pid; ++count)
         EXPECT_TRUE(Eventually([&] { return IsGone(pid); })) << pid;
-    EXPECT_EQ(count, 3);
-    EXPECT_FALSE(HasChildren());
-}
+    EXPECT_EQ(count, 4);
+    PrintedUntilReady("setsid sh -c 'touch ready; exec sleep 20' & wait"); // it outlives the cancel, and ends by itself
 
-TEST_F(Runner, a_cancel_from_another_thread_ends_a_tool_that_prints_without_end)
-{
     std::thread canceller([&] {
         Eventually([&] { return fs::exists(Path("log")) && fs::file_size(Path("log")) > 100'000; });
         m_cancelled = Clock::now();
         context.CancelExecute = 1;
     });
+    context.pumpMessages = nullptr;
     const auto printed = Printed("exec yes");
     canceller.join();
-    EXPECT_LT(CancelTime(), kAtOnce);
+    EXPECT_LT(m_returned - m_cancelled, kAtOnce);
     EXPECT_GT(printed.size(), 100'000u);
-}
-
-TEST_F(Runner, a_cancel_reaches_what_a_tool_left_behind_in_its_group_and_waits_for_nobody_else)
-{
-    CancelWhenThere("ready");
-    const auto inGroup = Printed("sh -c 'echo $$; sleep 0.1; touch ready; exec sleep 100' &", {}, m_folder);
-    EXPECT_LT(CancelTime(), kAtOnce);
-    EXPECT_TRUE(Eventually([&] { return IsGone(std::stoi(inGroup)); }));
-    fs::remove(Path("ready"));
-    const auto outside = Printed("setsid sh -c 'echo $$; touch ready; exec sleep 100' & wait", {}, m_folder);
-    EXPECT_LT(CancelTime(), kAtOnce);
-    ::kill(std::stoi(outside), SIGKILL);
+    EXPECT_FALSE(HasChildren());
 }
 
 TEST_F(Runner, priorities_are_nice_values_at_the_start_and_later)
@@ -274,23 +240,18 @@ TEST_F(Runner, priorities_are_nice_values_at_the_start_and_later)
     EXPECT_EQ(Printed("sleep 0.1; nice"), "19\n");
 }
 
-TEST_F(Runner, runs_leave_no_descriptor_and_no_zombie_behind)
+TEST_F(Runner, runs_leave_nothing_behind_and_do_not_hold_each_others_stream)
 {
     const auto before = OpenDescriptors();
-    for (int i = 0; i < 5; ++i) {
+    for (const bool wait : { true, false, true, false }) {
         Printed("echo x");
-        EXPECT_FALSE(ExecuteAndCapture({ Path("missing"), {}, "" }, Path("log"), 0, false, 2, "", context));
-        ToolCommand waited{ "true", {}, "" };
-        EXPECT_TRUE(ShellExecuteAndWait(waited, 0, true, false, context));
-        ToolCommand left{ "true", {}, "" };
-        EXPECT_TRUE(ShellExecuteAndWait(left, 0, false, false, context));
+        EXPECT_FALSE(Run({ Path("missing"), {}, "" }));
+        ToolCommand command{ "true", {}, "" };
+        EXPECT_TRUE(ShellExecuteAndWait(command, 0, wait, false, context));
     }
     EXPECT_EQ(OpenDescriptors(), before);
     EXPECT_TRUE(Eventually([] { return !HasChildren(); }));
-}
 
-TEST_F(Runner, two_runs_at_the_same_time_do_not_hold_each_others_stream)
-{
     ToolContext other;
     std::thread longRun([&] {
         other.pumpMessages = [&] { other.CancelExecute = context.CancelShellWait.load(); };
@@ -304,36 +265,28 @@ TEST_F(Runner, two_runs_at_the_same_time_do_not_hold_each_others_stream)
     longRun.join();
 }
 
-TEST_F(Runner, a_shell_run_completes_a_bare_name_and_works_in_the_programs_folder)
+TEST_F(Runner, a_shell_run_completes_a_bare_name_works_in_the_programs_folder_and_can_be_cancelled)
 {
     WriteScript("my tool", "#!/bin/sh\npwd -P > seen; printf '%s' \"$1\" >> seen\n");
     ToolCommand command{ "my tool", { "a 'b'" }, "" };
     EXPECT_TRUE(ShellExecuteAndWait(command, 0, true, true, context));
     EXPECT_EQ(command.program, Path("my tool"));
-    EXPECT_EQ(Content("seen"), fs::canonical(m_folder).string() + "\na 'b'");
-
+    EXPECT_EQ(Content("seen"), fs::canonical(m_folder.Path()).string() + "\na 'b'");
     ToolCommand searched{ "true", {}, "" };
     EXPECT_TRUE(ShellExecuteAndWait(searched, 0, true, true, context));
     EXPECT_EQ(fs::path(searched.program).filename(), "true");
     EXPECT_TRUE(fs::path(searched.program).is_absolute());
-
-    ToolCommand missing{ "ffmpeg.exe", {}, "" };
-    EXPECT_FALSE(ShellExecuteAndWait(missing, 0, true, true, context));
-    EXPECT_EQ(missing.program, Path("ffmpeg.exe"));
-    for (const char* file : { "c:tool.exe", "sub/tool.exe", "sub\\tool.exe" }) {
-        ToolCommand hasPath{ file, {}, "" };
-        EXPECT_FALSE(ShellExecuteAndWait(hasPath, 0, true, true, context));
-        EXPECT_EQ(hasPath.program, file);
+    for (const std::string file : { "ffmpeg.exe", "c:tool.exe", "sub/tool.exe", "sub\\tool.exe" }) {
+        ToolCommand missing{ file, {}, "" };
+        EXPECT_FALSE(ShellExecuteAndWait(missing, 0, true, true, context));
+        EXPECT_EQ(missing.program, file == "ffmpeg.exe" ? Path(file) : file);
     }
-}
 
-TEST_F(Runner, a_waiting_shell_run_pumps_and_can_be_cancelled)
-{
     int pumps = 0;
     context.pumpMessages = [&] { context.CancelShellWait = ++pumps == 5; };
-    ToolCommand command{ "/bin/sh", { "-c", "trap '' TERM; sleep 100" }, "" };
+    ToolCommand stubborn{ "/bin/sh", { "-c", "trap '' TERM; sleep 100" }, "" };
     const auto start = Clock::now();
-    EXPECT_TRUE(ShellExecuteAndWait(command, 0, true, true, context));
+    EXPECT_TRUE(ShellExecuteAndWait(stubborn, 0, true, true, context));
     EXPECT_EQ(pumps, 5);
     EXPECT_LT(Clock::now() - start, kAtOnce);
     EXPECT_FALSE(HasChildren());
@@ -341,13 +294,14 @@ TEST_F(Runner, a_waiting_shell_run_pumps_and_can_be_cancelled)
 
 TEST_F(Runner, a_tool_is_taken_from_the_program_folder_before_the_search_path)
 {
-    EXPECT_TRUE(fs::path(FindTool("head", m_folder)).is_absolute());
+    const auto folder = m_folder.Path();
+    EXPECT_TRUE(fs::path(FindTool("head", folder)).is_absolute());
     WriteScript("head", "", false);
-    EXPECT_NE(FindTool("head", m_folder), Path("head")) << "may not be executed";
+    EXPECT_NE(FindTool("head", folder), Path("head")) << "may not be executed";
     fs::remove(Path("head"));
     WriteScript("head", "");
-    EXPECT_EQ(FindTool("head", m_folder), Path("head"));
-    EXPECT_EQ(FindTool("head", m_folder + '/'), Path("head"));
-    EXPECT_EQ(FindTool("zentaro-no-such-tool", m_folder), "zentaro-no-such-tool");
-    EXPECT_EQ(FindTool("./head", m_folder), "./head");
+    EXPECT_EQ(FindTool("head", folder), Path("head"));
+    EXPECT_EQ(FindTool("head", folder + '/'), Path("head"));
+    EXPECT_EQ(FindTool("zentaro-no-such-tool", folder), "zentaro-no-such-tool");
+    EXPECT_EQ(FindTool("./head", folder), "./head");
 }

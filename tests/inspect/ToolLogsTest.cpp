@@ -29,10 +29,10 @@ std::string ReadWhole(const std::filesystem::path& path)
     return { std::istreambuf_iterator<char>(file), {} };
 }
 
-std::vector<std::string> SplitAtTabs(std::string_view line)
+std::vector<std::string> SplitAtTabs(const std::string& line)
 {
     std::vector<std::string> cells;
-    std::istringstream text{ std::string(line) };
+    std::istringstream text(line);
     for (std::string cell; std::getline(text, cell, '\t');)
         cells.push_back(cell);
     return cells;
@@ -40,12 +40,13 @@ std::vector<std::string> SplitAtTabs(std::string_view line)
 
 std::vector<Row> ReadTable(const std::string& name)
 {
-    const auto text = ReadWhole(g_logs / name);
-    std::string_view rest = text;
-    const auto header = SplitAtTabs(NextLine(rest).value_or(""));
+    std::ifstream file(g_logs / name);
+    std::string line;
+    std::getline(file, line);
+    const auto header = SplitAtTabs(line);
     std::vector<Row> rows;
-    while (const auto line = NextLine(rest)) {
-        const auto cells = SplitAtTabs(*line);
+    while (std::getline(file, line)) {
+        const auto cells = SplitAtTabs(line);
         auto& row = rows.emplace_back();
         for (std::size_t i = 0; i < header.size() && i < cells.size(); ++i)
             row[header[i]] = cells[i];
@@ -53,44 +54,40 @@ std::vector<Row> ReadTable(const std::string& name)
     return rows;
 }
 
-/// Collects what differs in one log.
+/// Collects what differs in one log. "-" stands for no value, "*" for any.
 class Comparison {
 public:
-    void Number(const std::string& what, double is, const std::string& expected, double tolerance)
+    void Number(const std::string& what, double is, const std::string& expected, double tolerance = 0)
     {
         if (expected != "*" && std::abs(is - (expected == "-" ? 0 : std::stod(expected))) > tolerance)
-            m_differences << "  " << what << " is " << is << ", not " << expected << "\n";
+            Text(what, std::to_string(is), expected);
     }
-
     void Text(const std::string& what, const std::string& is, const std::string& expected)
     {
         if (expected != "*" && is != expected)
-            m_differences << "  " << what << " is " << is << ", not " << expected << "\n";
+            differences += "  " + what + " is " + is + ", not " + expected + "\n";
     }
 
-    std::string Differences() const { return m_differences.str(); }
-
-private:
-    std::ostringstream m_differences;
+    std::string differences;
 };
 
 void CompareStream(Comparison& comparison, const StreamInfo& info, const StreamHint& hint, Row row, bool oldTool)
 {
     const bool video = row["row"] == "video";
-    comparison.Number("type", info.Type, video ? "2" : "1", 0);
-    comparison.Number("index", info.Index, row["index"].substr(0, 1), 0);
-    comparison.Number("whole number", hint.number, row["index"], 0);
+    comparison.Number("type", info.Type, video ? "2" : "1");
+    comparison.Number("index", info.Index, row["index"].substr(0, 1));
+    comparison.Number("whole number", hint.number, row["index"]);
     comparison.Text("codec", info.Compression, row["codec"]);
-    comparison.Number("bit rate", info.BitRate, row["kbps"], 0);
+    comparison.Number("bit rate", info.BitRate, row["kbps"]);
     if (video) {
-        comparison.Number("width", info.Width, row["width"], 0);
-        comparison.Number("height", info.Height, row["height"], 0);
+        comparison.Number("width", info.Width, row["width"]);
+        comparison.Number("height", info.Height, row["height"]);
         comparison.Number("rate", static_cast<double>(info.FPS), row["fps"], 0.0051);
         if (!oldTool) // which prints it for few files, and for some that the library has none for
             comparison.Number("aspect", static_cast<double>(hint.displayAspect), row["dar"], 0.001);
     } else {
-        comparison.Number("channels", info.Channels, row["channels"] == "5" ? "6" : row["channels"], 0);
-        comparison.Number("sample rate", info.SampleRate, row["rate"], 0);
+        comparison.Number("channels", info.Channels, row["channels"] == "5" ? "6" : row["channels"]);
+        comparison.Number("sample rate", info.SampleRate, row["rate"]);
     }
 }
 
@@ -105,7 +102,7 @@ std::string Differences(const std::string& log, const std::vector<Row>& rows)
         if (row["row"] == "file") {
             comparison.Text("verdict", report.error.empty() ? "ok" : report.error, row["verdict"]);
             if (row["verdict"] != "ok")
-                return comparison.Differences();
+                return comparison.differences;
             comparison.Number("duration", static_cast<double>(report.duration), row["rule_duration"], 0.01);
             comparison.Number("start", static_cast<double>(report.startTime), row["start"], 0.0011);
         } else if (row["kept"] == "yes") {
@@ -113,11 +110,11 @@ std::string Differences(const std::string& log, const std::vector<Row>& rows)
         }
     }
     PruneVideoStreams(report.streams);
-    comparison.Number("number of streams", static_cast<double>(report.streams.size()), std::to_string(kept.size()), 0);
+    comparison.Number("number of streams", static_cast<double>(report.streams.size()), std::to_string(kept.size()));
     for (std::size_t i = 0; i < std::min(kept.size(), report.streams.size()); ++i)
         CompareStream(
             comparison, report.streams[i].info, classic.streams[report.streams[i].line], kept[i], classic.classicTool);
-    return comparison.Differences();
+    return comparison.differences;
 }
 
 /// Square pixels can be written as a code of their own or as the display's shape that follows from them.
@@ -141,7 +138,7 @@ std::string MpegDifferences(const std::string& log, Row row)
         comparison.Number("aspect", static_cast<double>(facts.aspect), std::to_string(aspect), 0.001);
     }
     comparison.Text("interlaced", facts.interlaced ? "yes" : "no", film ? row["interlaced"] : "no");
-    return comparison.Differences();
+    return comparison.differences;
 }
 
 } // namespace
@@ -152,22 +149,12 @@ TEST(ToolLogs, every_report_of_every_build_is_read_as_the_libraries_see_the_file
     for (auto& row : ReadTable("expected.tsv"))
         byLog[row["log"]].push_back(row);
     ASSERT_GT(byLog.size(), 1000U);
-    std::ostringstream failures;
     for (const auto& [log, rows] : byLog)
-        if (const auto differences = Differences(log, rows); !differences.empty())
-            failures << log << "\n" << differences;
-    EXPECT_TRUE(failures.str().empty()) << failures.str();
-}
-
-TEST(ToolLogs, every_report_of_mpgtx_gives_the_film_of_the_file)
-{
+        EXPECT_EQ(Differences(log, rows), "") << log;
     const auto rows = ReadTable("expected-mpgtx.tsv");
     ASSERT_GT(rows.size(), 10U);
-    std::ostringstream failures;
     for (auto row : rows)
-        if (const auto differences = MpegDifferences(row["log"], row); !differences.empty())
-            failures << row["log"] << "\n" << differences;
-    EXPECT_TRUE(failures.str().empty()) << failures.str();
+        EXPECT_EQ(MpegDifferences(row["log"], row), "") << row["log"];
 }
 
 int main(int argc, char** argv)

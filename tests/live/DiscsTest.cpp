@@ -1,4 +1,4 @@
-#include "tests/desktop/Discs.h"
+#include "tests/live/Discs.h"
 #include "app/DriveQueries.h"
 #include "platform/Drives_linux.h"
 #include "tests/live/LivePlayer.h"
@@ -12,10 +12,10 @@
 namespace zentaro::live {
 namespace {
 
-const desktop::VideoDisc& Movie()
+const trial::VideoDisc& Movie()
 {
     static const platform::WorkingFolder folder;
-    static const desktop::VideoDisc disc(folder.Path());
+    static const trial::VideoDisc disc(folder.Path());
     return disc;
 }
 

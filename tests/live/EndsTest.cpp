@@ -7,7 +7,7 @@
 namespace zentaro::live {
 namespace {
 
-using desktop::Clips;
+using trial::Clips;
 
 bool IsLongRun()
 {

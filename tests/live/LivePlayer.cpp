@@ -72,7 +72,7 @@ private:
 /// Before anything of Qt or the engine is made.
 void EnterSilentDesktop()
 {
-    static desktop::Desktop screen(640, 480, desktop::Desktop::WindowManager::None);
+    static trial::Desktop screen(640, 480, trial::Desktop::WindowManager::None);
     static const bool entered = [] {
         setenv("DISPLAY", screen.Name().c_str(), 1);
         setenv("QT_QPA_PLATFORM", "xcb", 1);

@@ -48,7 +48,7 @@ protected:
     ~LivePlayer() override;
 
     /// A tick every 500 ms, and the world goes on every 10 ms, until `done`; false when it never came true.
-    bool RunUntil(const std::function<bool()>& done, std::chrono::milliseconds limit = desktop::kPatience);
+    bool RunUntil(const std::function<bool()>& done, std::chrono::milliseconds limit = trial::kPatience);
     void RunFor(std::chrono::milliseconds time)
     {
         RunUntil([] { return false; }, time);

@@ -23,10 +23,8 @@ protected:
     std::string MakeFilm() const
     {
         const auto film = folder + "film.mkv";
-        const auto clip = desktop::Clips::Make("clip.mp4");
-        desktop::Process ffmpeg({ .program = "/usr/bin/ffmpeg",
-            .arguments = {
-                "-v", "error", "-i", clip, "-map", "0:v", "-map", "0:a", "-map", "0:a", "-c", "copy", film } });
+        trial::Process ffmpeg(trial::Words(
+            "ffmpeg -v error -i " + trial::Clips::Make("clip.mp4") + " -map 0:v -map 0:a -map 0:a -c copy " + film));
         EXPECT_EQ(ffmpeg.WaitForEnd(), 0);
         return film;
     }
@@ -55,7 +53,7 @@ TEST_F(VideoMenuOfAnItem, OffersWhatTheEngineHasAndStartsAnewWithTheNext)
     EXPECT_TRUE(BecomesPresent(&VideoChoices::audioTracks, 2));
 
     const auto file = folder + "Ä & 100% #1.srt";
-    desktop::WriteWholeFile(file, "1\n00:00:00,000 --> 00:00:59,000\nHello\n");
+    trial::WriteWholeFile(file, "1\n00:00:00,000 --> 00:00:59,000\nHello\n");
     LoadSubtitleFile(player);
     world.dialogs.chooseSubtitles(file);
     EXPECT_TRUE(BecomesPresent(&VideoChoices::subtitles, 1));

@@ -1,8 +1,6 @@
 #include "platform/Drives_linux.h"
+#include "tests/platform/BusService.h"
 #include "tests/platform/DiskService.h"
-#include "tests/platform/PrivateBus.h"
-
-#include <QCoreApplication>
 
 #include <gmock/gmock.h>
 
@@ -15,14 +13,13 @@ namespace {
 using namespace std::chrono_literals;
 using testing::ElementsAre;
 
-class DrivesLinuxTest : public testing::Test {
+class DrivesLinuxTest : public OnPrivateBus {
 protected:
     /// Lets the service answer while the drives are asked for.
     std::vector<OpticalDrive> Find()
     {
         auto answer = std::async(std::launch::async, [&] { return drives.Find(); });
-        while (answer.wait_for(0s) != std::future_status::ready)
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+        EXPECT_TRUE(RunUntil([&] { return answer.wait_for(0s) == std::future_status::ready; }));
         return answer.get();
     }
     std::vector<std::string> Found()
@@ -42,10 +39,7 @@ protected:
         return image;
     }
 
-    int count = 0;
-    QCoreApplication application{ count, nullptr };
     WorkingFolder files;
-    PrivateBus bus;
     DiskService service{ bus.Address() };
     DiskServiceDrives drives{ bus.Address(), 10s };
 };
@@ -101,27 +95,20 @@ TEST_F(DrivesLinuxTest, ADiscIsReadOnceAndTheNextOneIsAnother)
     EXPECT_FALSE(Find()[0].hasVideoFolder);
 }
 
-TEST_F(DrivesLinuxTest, ADriveThatAnswersLateIsWaitedForOnlyWithinPatience)
+TEST_F(DrivesLinuxTest, AServiceIsWaitedForWithinPatienceAndWithoutOneThereAreNoDrives)
 {
     service.answersAtOnce = false;
     service.AddDrive("/dev/sr0");
     auto late = std::async(std::launch::async, [&] { return drives.Find(); });
-    while (service.asked.empty())
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    ASSERT_TRUE(RunUntil([&] { return !service.asked.empty(); }));
     EXPECT_EQ(late.wait_for(0s), std::future_status::timeout);
     service.Answer();
-    while (late.wait_for(0s) != std::future_status::ready)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+    ASSERT_TRUE(RunUntil([&] { return late.wait_for(0s) == std::future_status::ready; }));
     EXPECT_EQ(late.get().size(), 1U);
     EXPECT_TRUE(DiskServiceDrives(bus.Address(), 50ms).Find().empty());
-}
-
-TEST_F(DrivesLinuxTest, WithoutABusOrAServiceThereAreNoDrives)
-{
-    EXPECT_TRUE(DiskServiceDrives("unix:path=" + (files / "nobody"), 10s).Find().empty());
-    EXPECT_TRUE(DiskServiceDrives("nonsense:", 10s).Find().empty());
     const PrivateBus empty;
-    EXPECT_TRUE(DiskServiceDrives(empty.Address(), 10s).Find().empty());
+    for (const auto& address : { empty.Address(), "unix:path=" + (files / "nobody"), std::string("nonsense:") })
+        EXPECT_TRUE(DiskServiceDrives(address, 10s).Find().empty()) << address;
 }
 
 } // namespace

@@ -3,8 +3,6 @@
 #include "tests/platform/PrivateUser.h"
 
 #include <csignal>
-#include <fcntl.h>
-#include <filesystem>
 #include <sys/stat.h>
 
 namespace zentaro::platform {
@@ -12,44 +10,47 @@ namespace {
 
 namespace fs = std::filesystem;
 
-TEST(TextFileOnLinux, a_pipe_or_device_is_neither_read_nor_replaced_nor_waited_for)
+using FilesOnLinux = PrivateUser;
+
+TEST_F(FilesOnLinux, a_pipe_or_device_is_neither_read_nor_replaced_nor_waited_for)
 {
-    const WorkingFolder folder;
     const auto pipe = folder / "pipe";
     ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-    EXPECT_EQ(ReadTextFile(pipe, 10), std::nullopt);
-    EXPECT_EQ(ReadTextFile("/dev/zero", 10), std::nullopt);
+    EXPECT_EQ(ReadFileText(pipe, 10).state, FileState::Unreadable);
+    EXPECT_EQ(ReadFileText("/dev/zero", 10).state, FileState::Unreadable);
     EXPECT_FALSE(ReplaceTextFile(pipe, "text"));
     EXPECT_FALSE(MayWriteFile(pipe));
     EXPECT_TRUE(fs::is_fifo(pipe));
 }
 
-TEST(TextFileOnLinux, what_a_link_names_is_replaced_even_when_it_is_not_there_yet)
+TEST_F(FilesOnLinux, a_file_without_the_right_or_with_a_failing_disk_is_not_missing)
 {
-    const WorkingFolder folder;
+    // The kernel refuses to read at address 0 of a process, as a broken disk refuses its blocks.
+    EXPECT_EQ(ReadFileText("/proc/self/mem", 10).state, FileState::Unreadable);
+    ASSERT_TRUE(ReplaceTextFile(folder / "a.cfg", "text"));
+    if (geteuid() == 0)
+        GTEST_SKIP() << "the administrator may read everything";
+    fs::permissions(folder / "a.cfg", fs::perms::none);
+    EXPECT_EQ(ReadFileText(folder / "a.cfg", 10).state, FileState::Unreadable);
+}
+
+TEST_F(FilesOnLinux, what_a_link_names_is_replaced_and_keeps_its_rights)
+{
     fs::create_directory(folder / "real");
-    fs::create_symlink("real/a.cfg", folder / "relative.cfg");
+    fs::create_symlink("real/a\xFF.cfg", folder / "relative.cfg");
     fs::create_symlink(folder / "relative.cfg", folder / "absolute.cfg");
+    ASSERT_TRUE(ReplaceTextFile(folder / "absolute.cfg", "old"));
+    fs::permissions(folder / "real/a\xFF.cfg", static_cast<fs::perms>(0640));
     ASSERT_TRUE(ReplaceTextFile(folder / "absolute.cfg", "new"));
-    EXPECT_EQ(ReadTextFile(folder / "real/a.cfg", 10), "new");
+    EXPECT_EQ(ReadTextFile(folder / "real/a\xFF.cfg", 10), "new");
+    EXPECT_EQ(fs::status(folder / "real/a\xFF.cfg").permissions(), static_cast<fs::perms>(0640));
     EXPECT_TRUE(fs::is_symlink(folder / "absolute.cfg") && fs::is_symlink(folder / "relative.cfg"));
     fs::create_symlink("loop", folder / "loop");
     EXPECT_FALSE(ReplaceTextFile(folder / "loop", "new"));
 }
 
-TEST(TextFileOnLinux, the_permission_bits_stay)
+TEST_F(FilesOnLinux, a_reader_never_sees_a_part)
 {
-    const WorkingFolder folder;
-    const auto path = folder / "a\xFF.cfg";
-    ASSERT_TRUE(ReplaceTextFile(path, "old"));
-    fs::permissions(path, static_cast<fs::perms>(0640));
-    ASSERT_TRUE(ReplaceTextFile(path, "new"));
-    EXPECT_EQ(fs::status(path).permissions(), static_cast<fs::perms>(0640));
-}
-
-TEST(TextFileOnLinux, a_reader_never_sees_a_part)
-{
-    const WorkingFolder folder;
     const auto path = folder / "a.cfg";
     ASSERT_TRUE(ReplaceTextFile(path, std::string(100'000, 'a')));
     const auto writer = StartProcess([&] {
@@ -64,32 +65,26 @@ TEST(TextFileOnLinux, a_reader_never_sees_a_part)
     WaitForProcess(writer);
 }
 
-using FoldersOnLinux = PrivateUser;
-
-TEST_F(FoldersOnLinux, a_relative_argument_that_exists_becomes_absolute_with_its_bytes_and_links)
+TEST_F(FilesOnLinux, a_relative_argument_that_exists_becomes_absolute_with_its_bytes_and_links)
 {
     const auto before = fs::current_path();
     fs::create_directory(folder / "real");
     fs::create_directory_symlink("real", folder / "link");
     ASSERT_TRUE(ReplaceTextFile(folder / "real/a \xFF.avi", ""));
     fs::current_path(folder.Path());
-    EXPECT_EQ(CommandLineText({ "link/a \xFF.avi" }), folder / "link/a \xFF.avi");
     EXPECT_EQ(CommandLineText({ "link/a \xFF.avi", "*Add" }), folder / "link/a \xFF.avi *Add");
-    EXPECT_EQ(CommandLineText({ "missing.avi" }), "missing.avi");
-    EXPECT_EQ(CommandLineText({ "/tmp" }), "/tmp");
-    EXPECT_EQ(CommandLineText({ "" }), "");
+    for (const auto* same : { "missing.avi", "/tmp", "" })
+        EXPECT_EQ(CommandLineText({ same }), same);
     fs::current_path(before);
 }
 
-TEST_F(FoldersOnLinux, the_runtime_folder_must_be_ours_alone)
+TEST_F(FilesOnLinux, the_runtime_folder_must_be_ours_alone)
 {
     EXPECT_TRUE(IsPrivateFolder(1000, 040700, 1000));
     EXPECT_FALSE(IsPrivateFolder(1001, 040700, 1000));
-    EXPECT_FALSE(IsPrivateFolder(1000, 040710, 1000));
     EXPECT_FALSE(IsPrivateFolder(1000, 040707, 1000));
-
     EXPECT_TRUE(OpenRuntimeFolder());
-    fs::permissions(InRuntimeFolder(""), fs::perms::group_read, fs::perm_options::add);
+    fs::permissions(InRuntimeFolder(""), fs::perms::group_exec, fs::perm_options::add);
     EXPECT_FALSE(OpenRuntimeFolder());
     fs::remove(InRuntimeFolder(""));
     fs::create_directory_symlink(folder.Path(), folder / "XDG_RUNTIME_DIR/zentaro");

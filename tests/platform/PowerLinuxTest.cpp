@@ -1,131 +1,172 @@
 #include "platform/Power_linux.h"
-#include "tests/platform/PrivateBus.h"
+#include "tests/platform/BusService.h"
 
-#include <QCoreApplication>
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusVirtualObject>
+#include <QDBusObjectPath>
+#include <QDBusServiceWatcher>
 
 #include <gmock/gmock.h>
-
-#include <functional>
 
 namespace zentaro::platform {
 namespace {
 
 using namespace std::chrono_literals;
 using testing::ElementsAre;
+using testing::UnorderedElementsAre;
 
-constexpr auto kLong = 1h;
-
-/// A login manager that only notes what it is asked.
-class LoginManager : public QDBusVirtualObject {
-public:
+class PowerLinuxTest : public OnPrivateBus {
+protected:
     enum class Mood { Obeys, Refuses, KeepsSilent };
 
-    explicit LoginManager(const std::string& address)
-        : m_bus(QDBusConnection::connectToBus(QString::fromStdString(address), "login1"))
-    {
-        EXPECT_TRUE(m_bus.registerVirtualObject("/org/freedesktop/login1", this));
-        EXPECT_TRUE(m_bus.registerService("org.freedesktop.login1"));
-    }
-    ~LoginManager() override { QDBusConnection::disconnectFromBus("login1"); }
-
-    QString introspect(const QString&) const override { return {}; }
-    bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override
-    {
-        const auto& arguments = message.arguments();
-        const bool mayAsk = arguments.size() == 1 && arguments[0] == QVariant(true);
-        asked.push_back((message.interface() + "." + message.member() + (mayAsk ? " true" : "")).toStdString());
-        if (mood != Mood::KeepsSilent)
-            bus.send(mood == Mood::Obeys ? message.createReply()
-                                         : message.createErrorReply(QDBusError::AccessDenied, "not you"));
-        return true;
-    }
-
-    std::vector<std::string> asked;
-    Mood mood = Mood::Obeys;
-
-private:
-    QDBusConnection m_bus;
-};
-
-class PowerLinuxTest : public testing::Test {
-protected:
-    /// Handles messages until `done`, for ten seconds at most.
-    static bool Reached(const std::function<bool()>& done)
-    {
-        const auto end = std::chrono::steady_clock::now() + 10s;
-        bool isDone = done();
-        for (; !isDone && std::chrono::steady_clock::now() < end; isDone = done())
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
-        return isDone;
-    }
-    /// Requests are taken again once the one before is over.
-    static bool IsTakenAgain(const std::function<Result<void>()>& request)
-    {
-        return Reached([&] { return static_cast<bool>(request()); });
-    }
-    bool IsAsked(std::size_t times)
-    {
-        return Reached([&] { return login.asked.size() == times; });
-    }
     /// The only way to a power service in this file, and never to one that could obey in earnest.
-    static LoginManagerPower PowerAt(
-        const PrivateBus& bus, const std::string& address, std::chrono::milliseconds patience = kLong)
+    LoginManagerPower PowerAt(const std::string& address, std::chrono::milliseconds patience = 1h) const
     {
-        if (bus.Folder().empty() || address.find(bus.Folder()) == std::string::npos
+        if (bus.Folder().empty() || !address.starts_with("unix:path=" + bus.Folder())
             || address.find(';') != std::string::npos)
             std::abort();
         return LoginManagerPower(address, patience);
     }
-    LoginManagerPower Power(std::chrono::milliseconds patience = kLong)
+    /// A request is taken again once the one before is over.
+    static bool IsTakenAgain(LoginManagerPower& power)
     {
-        return PowerAt(bus, bus.Address(), patience);
+        return RunUntil([&] { return bool(power.PowerOff()); });
+    }
+    bool IsAsked(std::size_t times)
+    {
+        return RunUntil([&] { return asked.size() == times; });
     }
 
-    int count = 0;
-    QCoreApplication application{ count, nullptr };
-    PrivateBus bus;
-    LoginManager login{ bus.Address() };
+    std::vector<std::string> asked;
+    Mood mood = Mood::Obeys;
+    BusService login{ bus, { "org.freedesktop.login1" }, [this](const QDBusMessage& call) {
+                         const bool mayAsk = call.arguments() == QVariantList{ true };
+                         asked.push_back((call.path() + " " + call.interface() + "." + call.member()).toStdString()
+                             + (mayAsk ? " may ask" : ""));
+                         return mood == Mood::KeepsSilent ? std::nullopt
+                             : mood == Mood::Obeys        ? std::optional(call.createReply())
+                                                          : call.createErrorReply(QDBusError::AccessDenied, "not you");
+                     } };
 };
 
-TEST_F(PowerLinuxTest, RestartAndPowerOffAskTheLoginManagerWhichMayAskForAPassword)
+TEST_F(PowerLinuxTest, the_login_manager_is_asked_once_until_it_answers_or_patience_ends)
 {
-    auto power = Power();
+    mood = Mood::KeepsSilent;
+    auto power = PowerAt(bus.Address(), 1s);
     power.EnableShutdownPrivilege();
     EXPECT_TRUE(power.Restart());
-    ASSERT_TRUE(IsAsked(1));
-    EXPECT_TRUE(IsTakenAgain([&] { return power.PowerOff(); }));
-    ASSERT_TRUE(IsAsked(2));
-    EXPECT_THAT(login.asked,
-        ElementsAre("org.freedesktop.login1.Manager.Reboot true", "org.freedesktop.login1.Manager.PowerOff true"));
-}
-
-TEST_F(PowerLinuxTest, AServiceThatNeverAnswersIsAskedOnceUntilPatienceEndsAndARefusalEndsARequest)
-{
-    login.mood = LoginManager::Mood::KeepsSilent;
-    auto power = Power(1s);
-    EXPECT_TRUE(power.PowerOff());
     EXPECT_FALSE(power.PowerOff());
     ASSERT_TRUE(IsAsked(1));
-    login.mood = LoginManager::Mood::Refuses;
-    EXPECT_TRUE(IsTakenAgain([&] { return power.PowerOff(); }));
-    ASSERT_TRUE(IsAsked(2));
-    EXPECT_TRUE(IsTakenAgain([&] { return power.PowerOff(); }));
-    EXPECT_TRUE(IsAsked(3));
+    for (const auto next : { Mood::Refuses, Mood::Obeys, Mood::Obeys }) {
+        mood = next;
+        EXPECT_TRUE(IsTakenAgain(power));
+        ASSERT_TRUE(IsAsked(asked.size() + 1));
+    }
+    const std::string manager = "/org/freedesktop/login1 org.freedesktop.login1.Manager.";
+    EXPECT_EQ(asked.front(), manager + "Reboot may ask");
+    EXPECT_EQ(asked.back(), manager + "PowerOff may ask");
 }
 
-TEST_F(PowerLinuxTest, ABusThatIsMissingOrHangsHoldsUpNeitherTheNextRequestNorTheEnd)
+TEST_F(PowerLinuxTest, a_bus_that_is_missing_or_hangs_holds_up_neither_the_next_request_nor_the_end)
 {
-    auto nowhere = PowerAt(bus, "unix:path=" + bus.Folder() + "/nobody");
-    EXPECT_TRUE(nowhere.Restart());
-    EXPECT_TRUE(IsTakenAgain([&] { return nowhere.Restart(); }));
     const DeafBus deaf(bus.Folder() + "/deaf");
-    EXPECT_TRUE(PowerAt(bus, deaf.Address()).Restart());
-    auto impatient = PowerAt(bus, deaf.Address(), 100ms);
-    EXPECT_TRUE(impatient.Restart());
-    EXPECT_TRUE(IsTakenAgain([&] { return impatient.Restart(); }));
+    auto nowhere = PowerAt("unix:path=" + bus.Folder() + "/nobody");
+    auto impatient = PowerAt(deaf.Address(), 100ms);
+    for (auto* power : { &nowhere, &impatient }) {
+        EXPECT_TRUE(power->Restart());
+        EXPECT_TRUE(IsTakenAgain(*power));
+    }
+    EXPECT_TRUE(PowerAt(deaf.Address()).Restart());
+}
+
+class SleepInhibitorLinuxTest : public OnPrivateBus {
+protected:
+    /// Session services of these names; "gone" is noted when who asked leaves the bus.
+    std::unique_ptr<BusService> Serve(const QStringList& names)
+    {
+        watcher.reset(); // it keeps a connection open
+        auto service = std::make_unique<BusService>(bus, names, [this](const QDBusMessage& call) {
+            const bool isPortal = call.interface().contains("portal");
+            auto text = call.interface() + "." + call.member();
+            if (call.member() == "Close")
+                text += " " + call.path();
+            else if (call.member() == "UnInhibit" || isPortal)
+                text += " " + call.arguments().at(isPortal ? 1 : 0).toString();
+            asked.push_back(text.mid(QString("org.freedesktop.").size()).toStdString());
+            watcher->addWatchedService(call.service());
+            last = isPortal ? call.createReply(QVariant::fromValue(QDBusObjectPath("/request/7")))
+                            : call.createReply(QVariant::fromValue(call.member() == "Inhibit" ? ++cookie : 0));
+            return answersAtOnce ? std::optional(last) : std::nullopt;
+        });
+        watcher = std::make_unique<QDBusServiceWatcher>(
+            QString(), service->Connection(), QDBusServiceWatcher::WatchForUnregistration);
+        QObject::connect(watcher.get(), &QDBusServiceWatcher::serviceUnregistered, [this] { asked.push_back("gone"); });
+        return service;
+    }
+    std::vector<std::string> Asked(std::size_t wanted)
+    {
+        RunUntil([&] { return asked.size() >= wanted; });
+        return std::exchange(asked, {});
+    }
+
+    std::vector<std::string> asked;
+    std::unique_ptr<QDBusServiceWatcher> watcher;
+    QDBusMessage last;
+    quint32 cookie = 40;
+    bool answersAtOnce = true;
+};
+
+TEST_F(SleepInhibitorLinuxTest, screen_saver_and_sleep_are_held_off_once_and_released_at_the_latest_at_the_end)
+{
+    const auto session = Serve({ "org.freedesktop.ScreenSaver", "org.freedesktop.PowerManagement" });
+    {
+        SessionSleepInhibitor inhibitor(bus.Address());
+        inhibitor.Hold(false);
+        inhibitor.Hold(true);
+        inhibitor.Hold(true);
+        EXPECT_THAT(Asked(2), UnorderedElementsAre("ScreenSaver.Inhibit", "PowerManagement.Inhibit.Inhibit"));
+        inhibitor.Hold(false);
+        EXPECT_THAT(Asked(2), UnorderedElementsAre("ScreenSaver.UnInhibit 41", "PowerManagement.Inhibit.UnInhibit 42"));
+        inhibitor.Hold(true);
+        EXPECT_EQ(Asked(2).size(), 2U);
+        // An answer that comes after the pause is given back at once.
+        inhibitor.Hold(false);
+        EXPECT_EQ(Asked(2).size(), 2U);
+        answersAtOnce = false;
+        inhibitor.Hold(true);
+        EXPECT_EQ(Asked(2).size(), 2U);
+        inhibitor.Hold(false);
+        session->Connection().send(last);
+        EXPECT_EQ(Asked(1).size(), 1U);
+        answersAtOnce = true;
+    }
+    EXPECT_EQ(Asked(1).back(), "gone");
+}
+
+TEST_F(SleepInhibitorLinuxTest, what_is_held_at_the_end_is_given_back_by_whichever_way_it_was_asked_for)
+{
+    const auto portal = Serve({ "org.freedesktop.portal.Desktop" });
+    {
+        SessionSleepInhibitor inhibitor(bus.Address());
+        inhibitor.Hold(true);
+        EXPECT_THAT(Asked(1), ElementsAre("portal.Inhibit.Inhibit 12"));
+        inhibitor.Hold(false);
+        EXPECT_THAT(Asked(1), ElementsAre("portal.Request.Close /request/7"));
+        inhibitor.Hold(true);
+        EXPECT_EQ(Asked(1).size(), 1U);
+        std::this_thread::sleep_for(100ms); // the answer is on its way
+    }
+    EXPECT_THAT(Asked(2), ElementsAre("portal.Request.Close /request/7", "gone"));
+}
+
+TEST_F(SleepInhibitorLinuxTest, a_bus_and_a_service_that_come_later_or_anew_are_asked_while_it_is_still_held)
+{
+    SessionSleepInhibitor inhibitor("unix:path=" + bus.Folder() + "/nobody;" + bus.Address(), 50ms);
+    inhibitor.Hold(true);
+    for (const bool restarts : { false, false, true }) {
+        if (restarts)
+            bus.Restart();
+        const auto session = Serve({ "org.freedesktop.ScreenSaver" });
+        EXPECT_THAT(Asked(1), ElementsAre("ScreenSaver.Inhibit"));
+    }
 }
 
 } // namespace

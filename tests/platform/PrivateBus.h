@@ -21,6 +21,9 @@ class PrivateBus {
 public:
     PrivateBus()
     {
+        // Whoever asks for a bus without saying which, as libraries do, must find this one and start no other.
+        setenv("DBUS_SESSION_BUS_ADDRESS", Address().c_str(), 1);
+        setenv("DBUS_SYSTEM_BUS_ADDRESS", ("unix:path=" + Folder() + "/no-bus").c_str(), 1);
         const auto configuration = m_folder / "bus.conf";
         std::ofstream(configuration)
             << "<busconfig><listen>" << Address() << "</listen><auth>EXTERNAL</auth>"

@@ -10,7 +10,7 @@
 
 namespace zentaro::platform {
 
-/// Home, data and runtime folders of a test's own, so that it never meets the ones of whoever runs it.
+/// Home, data and runtime folders of a test's own and no message bus, so that it never meets those of whoever runs it.
 class PrivateUser : public testing::Test {
 protected:
     PrivateUser()
@@ -21,6 +21,9 @@ protected:
             std::filesystem::permissions(path, std::filesystem::perms::owner_all);
             setenv(name, path.c_str(), 1);
         }
+        // With no address at all, libraries start a bus of their own where they can.
+        for (const auto* kind : { "DBUS_SESSION_BUS_ADDRESS", "DBUS_SYSTEM_BUS_ADDRESS" })
+            setenv(kind, ("unix:path=" + (folder / "no-bus")).c_str(), 1);
     }
 
     std::string InRuntimeFolder(const std::string& name) const { return folder / "XDG_RUNTIME_DIR/zentaro/" + name; }

@@ -6,7 +6,9 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTabWidget>
+#include <QTextEdit>
 #include <QtTest/QTest>
 
 #include <gtest/gtest.h>
@@ -101,6 +103,7 @@ TEST(DialogsTest, NoticesOfAnyLengthFitTheScreen)
         EXPECT_TRUE(QTest::qWaitForWindowActive(&notice));
         EXPECT_LE(notice.height(), notice.screen()->availableSize().height() * 2 / 3);
         EXPECT_LE(notice.width(), 600);
+        EXPECT_EQ(notice.findChild<QTextEdit*>()->verticalScrollBar()->isVisible(), *part != 0);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
         EXPECT_FALSE(notice.isVisible());
     }

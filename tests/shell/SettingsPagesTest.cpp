@@ -115,6 +115,7 @@ TEST(SettingsPagesTest, AFamilyIsChosenAndGivenUpAsAWhole)
     ToggleGroup(chosen, matroska);
     EXPECT_EQ(chosen, (std::array<bool, 24>{}));
     EXPECT_EQ(ChosenOf(chosen, matroska), Chosen::None);
+    EXPECT_EQ(FileTypeFamilies().size(), 7U);
     std::multiset<std::size_t> all;
     for (const auto& family : FileTypeFamilies())
         all.insert(family.members.begin(), family.members.end());

@@ -162,8 +162,9 @@ TEST_F(SkinTest, a_rectangle_without_area_draws_nothing_and_the_middle_is_that_o
         sign.setPixelColor(3, y, Qt::white);
     sign.setPixelColor(3, 9, QColor(0, 0, 0, 128)); // a faint shadow
     sign.save(m_flat.folder + "Normal/Play.png");
-    ASSERT_TRUE(m_skin.Load(m_flat.folder));
-    EXPECT_EQ(m_skin.Middle(ButtonImage(Button::Play, ButtonState::Normal)), 0.4);
+    Skin skin;
+    ASSERT_TRUE(skin.Load(m_flat.folder));
+    EXPECT_EQ(skin.Middle(ButtonImage(Button::Play, ButtonState::Normal)), 0.4);
     EXPECT_EQ(Skin().Middle(SkinImage::About), 0.5);
 }
 

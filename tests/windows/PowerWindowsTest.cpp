@@ -2,21 +2,18 @@
 
 #include <gmock/gmock.h>
 
-#include <memory>
 #include <utility>
 #include <vector>
 
-using namespace zentaro;
-using namespace zentaro::platform;
-
+namespace zentaro::platform {
 namespace {
+
+using testing::ElementsAre;
 
 bool HasShutdownPrivilege()
 {
     HANDLE token = nullptr;
-    PRIVILEGE_SET wanted{};
-    wanted.PrivilegeCount = 1;
-    wanted.Control = PRIVILEGE_SET_ALL_NECESSARY;
+    PRIVILEGE_SET wanted{ 1, PRIVILEGE_SET_ALL_NECESSARY, {} };
     BOOL isHeld = FALSE;
     if (OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token) == 0)
         return false;
@@ -26,24 +23,39 @@ bool HasShutdownPrivilege()
     return isHeld != FALSE;
 }
 
-} // namespace
-
-// The system's own function is nowhere near these tests.
-TEST(PowerWindows, restart_and_power_off_have_their_flags_and_force_nothing)
+// The system's own function is nowhere near this test.
+TEST(PowerWindows, restart_and_power_off_have_their_flags_force_nothing_and_need_a_privilege)
 {
     std::vector<std::pair<UINT, DWORD>> calls;
     WindowsPower power([&](UINT flags, DWORD reason) {
         calls.emplace_back(flags, reason);
-        return TRUE;
+        return calls.size() < 3;
     });
+    ASSERT_FALSE(HasShutdownPrivilege());
+    power.EnableShutdownPrivilege();
+    EXPECT_TRUE(HasShutdownPrivilege());
     EXPECT_TRUE(power.Restart());
     EXPECT_TRUE(power.PowerOff());
-    EXPECT_THAT(calls, testing::ElementsAre(std::pair(2U, 0xFFFFFFFFUL), std::pair(8U, 0xFFFFFFFFUL)));
+    EXPECT_FALSE(power.PowerOff());
+    const std::pair off(8U, 0xFFFFFFFFUL);
+    EXPECT_THAT(calls, ElementsAre(std::pair(2U, 0xFFFFFFFFUL), off, off));
 }
 
-TEST(PowerWindows, the_privilege_is_held_once_it_was_enabled)
+TEST(SleepInhibitorWindows, display_and_system_are_held_once_and_let_go_at_the_latest_with_the_object)
 {
-    ASSERT_FALSE(HasShutdownPrivilege());
-    WindowsPower([](UINT, DWORD) { return FALSE; }).EnableShutdownPrivilege();
-    EXPECT_TRUE(HasShutdownPrivilege());
+    constexpr EXECUTION_STATE held = ES_CONTINUOUS | ES_DISPLAY_REQUIRED | ES_SYSTEM_REQUIRED;
+    constexpr EXECUTION_STATE released = ES_CONTINUOUS;
+    std::vector<EXECUTION_STATE> calls;
+    {
+        WindowsSleepInhibitor inhibitor([&](EXECUTION_STATE state) {
+            calls.push_back(state);
+            return state;
+        });
+        for (const bool isHeld : { false, true, true, false, true })
+            inhibitor.Hold(isHeld);
+    }
+    EXPECT_THAT(calls, ElementsAre(held, released, held, released));
 }
+
+} // namespace
+} // namespace zentaro::platform

@@ -29,20 +29,15 @@ protected:
     std::unique_ptr<StringStore> store = StringStore::Open();
 };
 
-TEST_F(Registry, values_lie_under_their_names_as_plain_strings)
+TEST_F(Registry, texts_of_any_language_and_length_lie_under_their_names_as_plain_strings)
 {
     ASSERT_TRUE(store->Write(Root::CurrentUser, key, "txtHwnd", "65566"));
     ASSERT_TRUE(store->Write(Root::CurrentUser, key, "", "own value"));
     EXPECT_EQ(key, "Software\\" + title + "\\Setting");
     EXPECT_EQ(Raw("txtHwnd"), std::string("65566\0", 6));
     EXPECT_EQ(Raw(nullptr), std::string("own value\0", 10));
-}
-
-TEST_F(Registry, gives_back_texts_of_any_language_and_length)
-{
-    const std::string texts[] = { "", "C:\\Clips\\Ä 日本 😀.avi", std::string(255, 'x'), std::string(256, 'y'),
-        std::string(20'000, 'z') };
-    for (const auto& text : texts) {
+    for (const auto& text : { std::string(), std::string("C:\\Clips\\Ä 日本 😀.avi"), std::string(255, 'x'),
+             std::string(256, 'y'), std::string(20'000, 'z') }) {
         ASSERT_TRUE(store->Write(Root::CurrentUser, key, "Ä", text));
         EXPECT_EQ(store->Read(Root::CurrentUser, key, "Ä", "fallback"), text);
     }
@@ -50,17 +45,16 @@ TEST_F(Registry, gives_back_texts_of_any_language_and_length)
 
 TEST_F(Registry, what_is_missing_or_no_text_gives_the_fallback)
 {
-    EXPECT_EQ(store->Read(Root::CurrentUser, key, "txtHwnd", "-1"), "-1");
+    const auto read = [&](const char* name) { return store->Read(Root::CurrentUser, key, name, "-1"); };
+    EXPECT_EQ(read("txtHwnd"), "-1");
     EXPECT_TRUE(store->Delete(Root::CurrentUser, key, "txtHwnd"));
     ASSERT_TRUE(store->Write(Root::CurrentUser, key, "txtHwnd", "1"));
     EXPECT_TRUE(store->Delete(Root::CurrentUser, key, "txtHwnd"));
     EXPECT_TRUE(store->Delete(Root::CurrentUser, key, "txtHwnd"));
-    EXPECT_EQ(store->Read(Root::CurrentUser, key, "txtHwnd", "-1"), "-1");
     const DWORD number = 7;
     RegSetKeyValueA(HKEY_CURRENT_USER, key.c_str(), "number", REG_DWORD, &number, sizeof number);
     RegSetKeyValueA(HKEY_CURRENT_USER, key.c_str(), "unended", REG_SZ, "abc", 3);
-    EXPECT_EQ(store->Read(Root::CurrentUser, key, "number", "-1"), "-1");
-    EXPECT_EQ(store->Read(Root::CurrentUser, key, "unended", "-1"), "abc");
+    EXPECT_EQ(read("txtHwnd") + read("number") + read("unended"), "-1-1abc");
 }
 
 TEST(FoldersOnWindows, an_absolute_path_has_a_drive_or_a_server)
@@ -69,6 +63,17 @@ TEST(FoldersOnWindows, an_absolute_path_has_a_drive_or_a_server)
         EXPECT_TRUE(IsAbsolutePath(path)) << path;
     for (const auto* path : { "", "a.avi", "C:a.avi", "\\a.avi", "C:", "\\\\" })
         EXPECT_FALSE(IsAbsolutePath(path)) << path;
+}
+
+TEST(FoldersOnWindows, a_file_that_another_program_holds_is_not_missing)
+{
+    const auto path = ExecutableFolder() + "\\held.txt";
+    ASSERT_TRUE(ReplaceTextFile(path, "text"));
+    const HANDLE holder = CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    EXPECT_EQ(ReadFileText(path, 10).state, FileState::Unreadable);
+    CloseHandle(holder);
+    EXPECT_EQ(ReadFileText(path, 10).state, FileState::Readable);
+    DeleteFileA(path.c_str());
 }
 
 TEST(Manifest, makes_utf8_the_code_page)

@@ -94,12 +94,15 @@ protected:
 
 } // namespace
 
-TEST_F(WindowsRunner, a_pipe_that_accepts_the_state_is_error_2002)
+TEST_F(WindowsRunner, a_step_that_fails_has_its_number_and_leaves_no_log)
 {
     platform::SetPipeState = &Accept;
-    const auto result = Run({ "print" });
+    EXPECT_EQ(Run({ "print" }).error(), (Error{ 2002, "Could not set pipe state LastError 7" }));
+    platform::SetPipeState = &Refuse;
+    const auto result = ExecuteAndCapture({ "C:\\no\\such.exe", {}, "t" }, Log(), 0, false, 2, "", context);
     ASSERT_FALSE(result);
-    EXPECT_EQ(result.error(), (Error{ 2002, "Could not set pipe state LastError 7" }));
+    EXPECT_EQ(result.error().number, 2003);
+    EXPECT_TRUE(result.error().text.starts_with("Could not create piped process. LastError ")) << result.error().text;
     EXPECT_FALSE(fs::exists(Log()));
 }
 
@@ -117,33 +120,13 @@ TEST_F(WindowsRunner, arguments_arrive_unchanged_and_both_streams_are_captured)
     EXPECT_EQ(Printed({ "fill" }), std::string(20'000, 'x')) << "more than the pipe holds";
 }
 
-TEST_F(WindowsRunner, the_child_works_in_the_given_or_in_the_current_folder)
+TEST_F(WindowsRunner, a_running_tool_works_in_its_folder_takes_another_priority_and_can_be_cancelled)
 {
     EXPECT_EQ(Printed({ "folder" }, 2, m_folder.string()), m_folder.string());
     EXPECT_EQ(Printed({ "folder" }), fs::current_path().string());
-}
-
-TEST_F(WindowsRunner, a_running_tool_takes_a_pending_priority_class)
-{
     EXPECT_EQ(Printed({ "priority", "0" }), std::to_string(NORMAL_PRIORITY_CLASS));
-    context.pumpMessages = [&, first = true]() mutable {
-        if (std::exchange(first, false))
-            context.PendingPriorityClass = platform::kBelowNormalPriority;
-    };
+    context.pumpMessages = [&] { context.PendingPriorityClass = platform::kBelowNormalPriority; };
     EXPECT_EQ(Printed({ "priority", "300" }), std::to_string(BELOW_NORMAL_PRIORITY_CLASS));
-}
-
-TEST_F(WindowsRunner, a_missing_program_is_error_2003)
-{
-    const auto result = ExecuteAndCapture({ "C:\\no\\such.exe", {}, "t" }, Log(), 0, false, 2, "", context);
-    ASSERT_FALSE(result);
-    EXPECT_EQ(result.error().number, 2003);
-    EXPECT_EQ(result.error().text.substr(0, 41), "Could not create piped process. LastError");
-    EXPECT_FALSE(fs::exists(Log()));
-}
-
-TEST_F(WindowsRunner, a_silent_tool_can_be_cancelled_and_leaves_what_it_printed)
-{
     int pumps = 0;
     context.pumpMessages = [&] { context.CancelExecute = ++pumps > 8; };
     EXPECT_EQ(Printed({ "forever" }), "ready");
@@ -173,12 +156,8 @@ TEST_F(WindowsRunner, a_shell_run_completes_a_bare_name_waits_and_can_be_cancell
     ToolCommand missing{ "zentaro-no-such-tool", {}, "" };
     EXPECT_FALSE(ShellExecuteAndWait(missing, 0, true, true, context));
     EXPECT_EQ(missing.program, context.programFolder + "\\zentaro-no-such-tool");
-}
 
-TEST_F(WindowsRunner, a_tool_is_taken_from_the_program_folder_before_the_search_path)
-{
-    const auto inPath = FindTool("cmd", m_folder.string());
-    EXPECT_TRUE(fs::path(inPath).is_absolute()) << inPath;
+    EXPECT_TRUE(fs::path(FindTool("cmd", m_folder.string())).is_absolute());
     std::ofstream(m_folder / "cmd.exe") << "x";
     EXPECT_EQ(FindTool("cmd", m_folder.string()), (m_folder / "cmd.exe").string());
     EXPECT_EQ(FindTool("c:cmd.exe", m_folder.string()), "c:cmd.exe");

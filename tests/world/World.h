@@ -8,6 +8,7 @@
 #include <deque>
 #include <map>
 #include <memory>
+#include <random>
 #include <sstream>
 #include <string>
 #include <utility>
@@ -222,7 +223,7 @@ public:
     std::vector<std::string> told;
     std::deque<std::function<std::function<void()>()>> background;
     std::vector<std::pair<std::chrono::milliseconds, std::function<void()>>> timers;
-    RandomSource random = [] { return 0.0; };
+    RandomSource random = [draws = std::mt19937(1)]() mutable { return std::uniform_real_distribution()(draws); };
     bool isSleepHeldOff = false;
     std::function<void()> askForDrives = [] {};
     bool isToldOfDiscs = false;

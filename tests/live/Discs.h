@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace zentaro::desktop {
+namespace zentaro::trial {
 
 /// A video DVD, made for one test. Its first menu has two buttons, waits for ever, and loops nothing: the left one
 /// plays a title of 3 s that comes back to the menu, the right one a title of 2 s after which the disc ends.
@@ -14,4 +14,4 @@ struct VideoDisc {
     std::string image;
 };
 
-} // namespace zentaro::desktop
+} // namespace zentaro::trial

@@ -1,10 +1,10 @@
-#include "tests/desktop/Discs.h"
+#include "tests/live/Discs.h"
 
 #include "tests/desktop/Process.h"
 
 #include <stdexcept>
 
-namespace zentaro::desktop {
+namespace zentaro::trial {
 
 namespace {
 
@@ -41,10 +41,9 @@ VideoDisc::VideoDisc(const std::string& where)
 {
     WriteWholeFile(where + "/buttons.xml", kButtons);
     WriteWholeFile(where + "/disc.xml", kDisc);
-    Process maker(
-        { .program = "/bin/sh", .arguments = { "-c", kScript }, .folder = where, .errorFile = where + "/log" });
+    Process maker({ "sh", "-c", kScript }, where);
     if (maker.WaitForEnd() != 0)
-        throw std::runtime_error("cannot make a disc: " + maker.ErrorText());
+        throw std::runtime_error("cannot make a disc: " + maker.Output());
 }
 
-} // namespace zentaro::desktop
+} // namespace zentaro::trial

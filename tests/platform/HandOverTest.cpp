@@ -1,0 +1,196 @@
+#include "tests/platform/HandOverFixture.h"
+
+#include <filesystem>
+
+namespace zentaro::platform {
+namespace {
+
+using namespace std::chrono_literals;
+using enum HandOverOutcome;
+
+std::string g_program;
+
+/// What this program does as another process:
+/// send HANDLE TEXT FILE: writes the outcome's number
+/// listen FILE:           writes both handles, then takes texts over and opens none
+/// lock FILE:             takes the lock, then as above
+int Peer(const std::vector<std::string>& arguments)
+{
+    const EventLoop loop;
+    if (arguments[0] == "send") {
+        const auto outcome = SendHandOverText(arguments[1], arguments[2]);
+        return ReplaceTextFile(arguments[3], std::to_string(static_cast<int>(outcome))) ? 0 : 1;
+    }
+    const auto lock = arguments[0] == "lock" ? HandOverLock::Take(5s) : nullptr;
+    const auto ends = HandOverEnds::Listen();
+    (*ends)->Deliver([](const std::string&, const HandOverDone&) {});
+    IgnoreFailure(ReplaceTextFile(arguments[1], (*ends)->CommandHandle() + " " + (*ends)->ProbeHandle()));
+    return RunUntil([] { return false; }) ? 0 : 1;
+}
+
+} // namespace
+
+const std::string& OwnProgram()
+{
+    return g_program;
+}
+
+std::unique_ptr<StartedProcess> StartPeer(std::vector<std::string> arguments, const std::string& program)
+{
+    arguments.insert(arguments.begin(), "peer");
+    return ShellStart({ program.empty() ? OwnProgram() : program, std::move(arguments), "", 0, false });
+}
+
+TEST_F(HandOverTest, a_process_that_sends_ends_when_its_text_is_opened)
+{
+    Listen();
+    const std::string text = "/My Clips/Ä 日本.avi *Add";
+    for (std::size_t i = 0; i < 2; ++i) { // the same text twice is two texts
+        const auto sender = StartPeer({ "send", ends->CommandHandle(), text, folder / "outcome" });
+        loop.meanwhile = [&] {
+            if (received.size() == i + 1) {
+                EXPECT_FALSE(PathExists(folder / "outcome") && i == 0);
+                tokens[i]();
+                loop.meanwhile = nullptr;
+            }
+        };
+        ASSERT_TRUE(RunUntil([&] { return sender->HasEnded(0ms); }));
+        EXPECT_EQ(ReadTextFile(folder / "outcome", 10), "0");
+    }
+    EXPECT_EQ(received, (std::vector{ text, text }));
+}
+
+TEST_F(HandOverTest, a_later_text_is_opened_while_an_earlier_one_waits)
+{
+    Listen();
+    Sending second;
+    auto first = Send(ends->CommandHandle(), "1");
+    loop.meanwhile = [&] {
+        if (received.size() == 1 && !second.valid()) {
+            EXPECT_FALSE(IsDone(first));
+            second = Send(ends->CommandHandle(), "2");
+        }
+        if (received.size() == 2 && !IsDone(second)) {
+            tokens[1]();
+            tokens[1]();
+        } else if (received.size() == 2) {
+            EXPECT_FALSE(IsDone(first));
+            tokens[0]();
+            loop.meanwhile = nullptr;
+        }
+    };
+    EXPECT_EQ(OutcomeOf(first), Opened);
+    EXPECT_EQ(second.get(), Opened);
+    auto third = Send(ends->CommandHandle(), "3");
+    loop.meanwhile = [&] {
+        if (tokens.size() == 3)
+            tokens[2]();
+    };
+    EXPECT_EQ(OutcomeOf(third), Opened);
+    EXPECT_EQ(received, (std::vector<std::string>{ "1", "2", "3" }));
+}
+
+TEST_F(HandOverTest, a_text_that_is_not_opened_in_time_counts_as_taken_over)
+{
+    Listen({ 2min, 100ms });
+    const auto start = std::chrono::steady_clock::now();
+    auto sending = Send(ends->CommandHandle(), "a.avi");
+    EXPECT_EQ(OutcomeOf(sending), TakenOver);
+    const auto receiver = StartPeer({ "listen", folder / "handles" });
+    auto impatient = Send(HandlesIn(folder / "handles").first, "b.avi", { 2min, 10ms });
+    EXPECT_EQ(OutcomeOf(impatient), TakenOver);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 8s);
+    tokens.at(0)();
+    EXPECT_EQ(received, std::vector<std::string>{ "a.avi" });
+}
+
+TEST_F(HandOverTest, long_texts_arrive_the_probe_has_no_handler_and_what_is_too_long_is_not_sent)
+{
+    Listen();
+    loop.meanwhile = [this] {
+        for (const auto& token : tokens)
+            token();
+    };
+    const std::string text = "/\xFF\n\"" + std::string(1'000'000, 'x') + ".avi";
+    auto probe = Send(ends->ProbeHandle(), "Hello");
+    EXPECT_EQ(OutcomeOf(probe), Opened);
+    auto longText = Send(ends->CommandHandle(), text + std::string("\0cut", 4));
+    EXPECT_EQ(OutcomeOf(longText), Opened);
+    EXPECT_EQ(received, (std::vector<std::string>{ text }));
+    EXPECT_EQ(SendHandOverText(ends->CommandHandle(), std::string(16 * 1024 * 1024 + 1, 'a')), Silent);
+}
+
+TEST_F(HandOverTest, a_player_that_does_not_run_is_given_up_and_opens_nothing_later)
+{
+    // As when it is stopped: nobody handles its events.
+    Listen();
+    const auto start = std::chrono::steady_clock::now();
+    for (const auto& handle : { ends->CommandHandle(), ends->ProbeHandle() })
+        EXPECT_EQ(Send(handle, "late.avi", { 200ms, 2min }).get(), Silent);
+    EXPECT_EQ(Send(ends->CommandHandle(), std::string(4'000'000, 'x'), { 200ms, 2min }).get(), Silent);
+    EXPECT_GE(std::chrono::steady_clock::now() - start, 600ms);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, 20s);
+    EXPECT_TRUE(IsHandOverAlive(ends->CommandHandle()) && IsHandOverAlive(ends->ProbeHandle()));
+    auto next = Send(ends->CommandHandle(), "next.avi");
+    loop.meanwhile = [this] {
+        if (!tokens.empty())
+            tokens.back()();
+    };
+    EXPECT_EQ(OutcomeOf(next), Opened);
+    EXPECT_EQ(received, std::vector<std::string>{ "next.avi" });
+}
+
+TEST_F(HandOverTest, the_handler_may_end_the_player_and_drops_all_who_wait)
+{
+    Listen();
+    const auto handle = ends->CommandHandle();
+    Sending last;
+    ends->Deliver([&](const std::string& text, HandOverDone done) {
+        tokens.push_back(std::move(done));
+        if (text == "last.avi")
+            ends.reset();
+    });
+    auto waiting = Send(handle, "waiting.avi");
+    loop.meanwhile = [&] {
+        if (tokens.size() == 1 && !last.valid())
+            last = Send(handle, "last.avi");
+    };
+    EXPECT_EQ(OutcomeOf(waiting), Silent);
+    EXPECT_EQ(OutcomeOf(last), Silent);
+    for (const auto& token : tokens)
+        token();
+    EXPECT_EQ(tokens.size(), 2U);
+    EXPECT_FALSE(IsHandOverAlive(handle));
+}
+
+TEST_F(HandOverTest, a_killed_player_is_given_up_at_once_and_its_lock_falls)
+{
+    const auto receiver = StartPeer({ "lock", folder / "handles" });
+    const auto [command, probe] = HandlesIn(folder / "handles");
+    auto hello = Send(probe, "Hello");
+    EXPECT_EQ(OutcomeOf(hello), Opened);
+    EXPECT_FALSE(HandOverLock::Take(50ms));
+    auto sending = Send(command, "a.avi");
+    EXPECT_EQ(sending.wait_for(200ms), std::future_status::timeout);
+    receiver->Terminate();
+    EXPECT_EQ(OutcomeOf(sending), Silent);
+    EXPECT_TRUE(receiver->HasEnded(10s));
+    for (const auto& handle :
+        { command, probe, std::string(), std::string("-1"), std::string("0"), std::string("x") }) {
+        EXPECT_FALSE(IsHandOverAlive(handle)) << handle;
+        EXPECT_EQ(SendHandOverText(handle, "Hello"), Silent) << handle;
+    }
+    EXPECT_TRUE(HandOverLock::Take(1s));
+    EXPECT_TRUE(HandOverLock::Take(0ms));
+}
+
+} // namespace zentaro::platform
+
+int main(int count, char** arguments)
+{
+    zentaro::platform::g_program = std::filesystem::absolute(arguments[0]).string();
+    if (count > 3 && std::string(arguments[1]) == "peer")
+        return zentaro::platform::Peer({ arguments + 2, arguments + count });
+    testing::InitGoogleTest(&count, arguments);
+    return RUN_ALL_TESTS();
+}

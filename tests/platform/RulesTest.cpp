@@ -1,0 +1,173 @@
+#include "desktop/CommandLine.h"
+#include "desktop/DesktopDefaults.h"
+#include "desktop/DesktopEntry.h"
+#include "desktop/HandOverRules.h"
+#include "desktop/MprisRules.h"
+#include "desktop/StoreNames.h"
+
+#include <gmock/gmock.h>
+#include <set>
+
+namespace zentaro::desktop {
+namespace {
+
+using namespace std::chrono_literals;
+using testing::ElementsAre;
+
+TEST(CommandLineRules, a_programs_own_name_is_cut_off_and_only_a_whole_file_name_made_absolute)
+{
+    EXPECT_EQ(TextAfterProgramName(R"(zentaro.exe  C:\a b.avi *Add)"), R"(C:\a b.avi *Add)");
+    EXPECT_EQ(TextAfterProgramName(R"("C:\My Programs\zentaro.exe" "C:\My Clips\a.avi")"), R"("C:\My Clips\a.avi")");
+    for (const auto* alone : { R"("C:\zentaro.exe")", R"("C:\never closed)", "zentaro.exe " })
+        EXPECT_EQ(TextAfterProgramName(alone), "") << alone;
+
+    const auto absolute = [](const std::string& path) { return "/here/" + path; };
+    EXPECT_EQ(JoinArguments({}, absolute), "");
+    EXPECT_EQ(JoinArguments({ "my clip.avi" }, absolute), "/here/my clip.avi");
+    EXPECT_EQ(JoinArguments({ "a.avi", "*Add" }, absolute), "/here/a.avi *Add");
+    EXPECT_EQ(JoinArguments({ "a.avi", "b.avi" }, absolute), "a.avi b.avi");
+    EXPECT_EQ(JoinArguments({ "a.avi", "b.avi", "*Add" }, absolute), "a.avi b.avi *Add");
+}
+
+std::optional<std::string> ReadIn(const std::string& bytes, std::size_t pieceSize)
+{
+    HandOverFrameReader reader;
+    for (std::size_t at = 0; at < bytes.size(); at += pieceSize)
+        reader.Take(std::string_view(bytes).substr(at, pieceSize));
+    return reader.Finish();
+}
+
+TEST(HandOverRules, a_frame_arrives_whole_in_pieces_of_any_size_or_not_at_all)
+{
+    const std::string text = "/clips/\xFF\"a\n b\".avi *Add";
+    const auto frame = EncodeHandOverFrame(text);
+    for (std::size_t size = 1; size <= frame.size(); ++size) {
+        EXPECT_EQ(ReadIn(frame, size), text) << size;
+        EXPECT_EQ(ReadIn(frame.substr(0, size - 1), 4), std::nullopt) << size;
+        EXPECT_EQ(ReadIn(frame + "x", size), std::nullopt) << size;
+    }
+    EXPECT_EQ(ReadIn("GET / HTTP/1.0\r\n\r\n", 100), std::nullopt);
+    HandOverFrameReader tooLong;
+    EXPECT_FALSE(tooLong.Take(std::string_view("ZNT1\x01\x00\x00\x01", 8)));
+    EXPECT_FALSE(tooLong.Take("and it stays so"));
+    EXPECT_TRUE(HandOverFrameReader().Take(std::string_view("ZNT1\x00\x00\x00\x01", 8)));
+}
+
+TEST(HandOverRules, a_handle_is_a_plain_number_that_is_not_zero)
+{
+    EXPECT_EQ(ParseHandOverHandle("18446744073709551615"), 18446744073709551615U);
+    for (const auto* text : { "", "-1", "0", "+5", " 5", "5 ", "5x", "../5", "18446744073709551616" })
+        EXPECT_EQ(ParseHandOverHandle(text), std::nullopt) << text;
+}
+
+TEST(StoreNames, are_readable_and_differ_for_different_values)
+{
+    EXPECT_EQ(StoreFileName("Software\\Some Maker\\Zentaro", "txtHwnd"), "Software/Some Maker/Zentaro/txtHwnd");
+    const std::pair<std::string, std::string> values[] = { { "", "" }, { "", "A" }, { "A", "" }, { "A", "_" },
+        { "A", "_default" }, { "A", "default" }, { "A\\B", "" }, { "A", "B" }, { "A", "B\\" }, { "A\\", "B" },
+        { "\\A", "B" }, { "A\\\\B", "C" }, { "A\\B", "C" }, { "A", "B\\C" }, { "A/B", "C" }, { "A_2FB", "C" },
+        { "A", "B/C" }, { "A", "\xC3\xA4" }, { "A", "\xE4" }, { "A", std::string("\0", 1) }, { "a", "b" } };
+    std::set<std::string> names;
+    for (const auto& [key, name] : values)
+        EXPECT_TRUE(names.insert(StoreFileName(key, name)).second) << key << " | " << name;
+}
+
+MediaTracks Tracks(const std::vector<std::uint64_t>& ids)
+{
+    std::vector<MediaTrack> tracks;
+    for (const auto id : ids)
+        tracks.push_back({ id, {}, {} });
+    return std::make_shared<const std::vector<MediaTrack>>(std::move(tracks));
+}
+
+TEST(MprisRules, a_path_of_any_bytes_survives_its_uri)
+{
+    const std::string path = "/a b/100%/#?\"\xFF\xC3\xA4.mp4";
+    EXPECT_EQ(FileUri(path), "file:///a%20b/100%25/%23%3F%22%FF%C3%A4.mp4");
+    EXPECT_EQ(PathOfFileUri(FileUri(path)), path);
+    EXPECT_EQ(PathOfFileUri("file://localhost/x.avi"), "/x.avi");
+    for (const auto* const uri : { "", "/x.avi", "http://h/x.avi", "file://other/x.avi", "file:///%", "file:///%4",
+             "file:///%zz", "file:///%00", "file:///% 1" })
+        EXPECT_EQ(PathOfFileUri(uri), std::nullopt) << uri;
+}
+
+TEST(MprisRules, the_position_runs_on_between_two_readings_and_a_jump_is_what_playing_cannot_explain)
+{
+    MediaStatus before;
+    before.playback = MediaPlayback::Playing;
+    before.track = { 7, "One", "/one.mp4" };
+    before.length = 60'000;
+    before.position = 10'000;
+    before.readAt = std::chrono::steady_clock::time_point(1h);
+    EXPECT_EQ(MprisPosition(before, before.readAt + 500ms), 10'500'000);
+    EXPECT_EQ(MprisPosition(before, before.readAt + 10min), 60'000'000);
+    auto now = before;
+    now.readAt += 500ms;
+    now.position = 10'300; // the engine's clock moves in steps
+    EXPECT_FALSE(HasJumped(before, now));
+    now.position = 30'000;
+    EXPECT_TRUE(HasJumped(before, now));
+    before.rate = now.rate = 8;
+    now.position = 12'000;
+    EXPECT_FALSE(HasJumped(before, now));
+    before.playback = now.playback = MediaPlayback::Paused;
+    EXPECT_EQ(MprisPosition(before, before.readAt + 500ms), 10'000'000);
+    now.track.id = 8;
+    now.position = 0;
+    EXPECT_FALSE(HasJumped(before, now));
+}
+
+TEST(MprisRules, a_few_tracks_come_and_go_one_by_one_and_many_as_a_new_list)
+{
+    const auto change = ChangeOfTracks(Tracks({ 1, 2, 3 }), Tracks({ 1, 3, 4 }));
+    EXPECT_FALSE(change.replaced);
+    EXPECT_THAT(change.removed, ElementsAre(2));
+    EXPECT_EQ(change.addedFrom, 2U);
+    EXPECT_TRUE(ChangeOfTracks(nullptr, Tracks({ 1, 2, 3, 4, 5, 6, 7, 8, 9 })).replaced);
+    EXPECT_THAT(ChangeOfTracks(Tracks({ 1 }), nullptr).removed, ElementsAre(1));
+}
+
+TEST(DesktopEntries, a_path_comes_out_of_its_quotes_as_it_went_in)
+{
+    for (const std::string path :
+        { "/usr/bin/zentaro", "/My $Player`s 100% \\ \"Folder\"/zentaro", "/%%", "/\xC3\xA4" })
+        EXPECT_EQ(PathInExec(ExecQuoted(path)), path);
+}
+
+TEST(Defaults, a_program_opens_by_preference_then_by_what_it_is_made_for_unless_it_was_removed)
+{
+    DesktopDefaults defaults;
+    defaults.isInstalled = [](const std::string& entry) { return entry != "gone.desktop"; };
+    defaults.own.emplace_back("[Removed Associations]\nx/a=first.desktop;\nx/a=gone.desktop;second.desktop;\n");
+    defaults.caches.emplace_back("[MIME Cache]\nx/a=first.desktop;second.desktop;third.desktop;\nx/b=first.desktop\n");
+    EXPECT_EQ(defaults.ProgramOf("x/a", true), "third.desktop");
+    EXPECT_EQ(defaults.ProgramOf("x/b", true), "first.desktop");
+    defaults.others.emplace_back("[Added Associations]\nx/a=gone.desktop;added.desktop\n");
+    EXPECT_EQ(defaults.ProgramOf("x/a", true), "added.desktop");
+    defaults.others.emplace_back("[Default Applications]\nx/a=zentaro.desktop;chosen.desktop\n");
+    EXPECT_EQ(defaults.ProgramOf("x/a", true), "zentaro.desktop");
+    EXPECT_EQ(defaults.ProgramOf("x/a", false), "chosen.desktop");
+}
+
+TEST(Defaults, of_a_type_that_is_named_twice_every_line_is_taken_and_given_back)
+{
+    for (const std::string text : { "[Default Applications]\nx/a=zentaro.desktop\nx/a=a.desktop;\n",
+             "[Default Applications]\nx/a=\nx/a=a.desktop;\n[Default Applications]\nx/a=b.desktop;" }) {
+        DesktopDefaults defaults;
+        defaults.isInstalled = [](const std::string&) { return true; };
+        defaults.own.emplace_back(text);
+        const auto before = defaults.ProgramOf("x/a", false);
+        EXPECT_EQ(before, "a.desktop");
+        defaults.Take("x/a");
+        // Whether the first line counts for a reader, or the last one.
+        const auto taken = defaults.own[0].Text();
+        EXPECT_EQ(taken.find("x/a=a"), std::string::npos) << taken;
+        EXPECT_EQ(taken.find("x/a=b"), std::string::npos) << taken;
+        defaults.Release("x/a");
+        EXPECT_EQ(defaults.ProgramOf("x/a", true), before);
+        EXPECT_EQ(defaults.own[0].Text().find("zentaro"), std::string::npos);
+    }
+}
+
+} // namespace
+} // namespace zentaro::desktop
