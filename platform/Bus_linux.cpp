@@ -38,12 +38,13 @@ std::optional<std::chrono::milliseconds> UntilTimeout(sd_bus* bus)
     return std::max(rest, std::chrono::milliseconds(0));
 }
 
-/// The file of a bus's address; empty when it has none.
+/// The file of a bus's address; empty when it has none, or more than one place.
 std::filesystem::path SocketOf(const std::string& address)
 {
     constexpr std::string_view prefix = "unix:path=";
-    return address.starts_with(prefix) ? address.substr(prefix.size(), address.find_first_of(",;") - prefix.size())
-                                       : std::string();
+    if (!address.starts_with(prefix) || address.find_first_of(";%") != std::string::npos)
+        return {};
+    return address.substr(prefix.size(), address.find(',') - prefix.size());
 }
 
 /// Tells of every name that comes into the folder, or into the next one above it that is there.
