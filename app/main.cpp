@@ -12,6 +12,7 @@
 #include "inspect/QtServices.h"
 #include "platform/AssociationShell.h"
 #include "platform/Files.h"
+#include "platform/Leftovers.h"
 #include "platform/MediaControl.h"
 #include "platform/Power.h"
 #include "platform/Process.h"
@@ -36,6 +37,7 @@ namespace {
 using namespace zentaro;
 
 constexpr auto kEngineDelay = std::chrono::milliseconds(100); // until the engine shows what it was told
+constexpr auto kTidyDelay = std::chrono::seconds(5);          // a start has shown its first picture by then
 
 HandOverService RealHandOver()
 {
@@ -200,5 +202,18 @@ int main(int argc, char** argv)
         endProcess();
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
         [&] { IgnoreFailure(player.WriteConfigurations()); });
-    return QApplication::exec();
+    // As at a logout, when the display is gone before anybody has asked the player to end.
+    platform::OnForcedExit([&] {
+        IgnoreFailure(player.WriteConfigurations());
+        endProcess();
+    });
+    after(kTidyDelay, [&] {
+        RunInBackground(onWindowThread, [] {
+            platform::RemoveLeftovers(platform::SettingsFolder());
+            return [] {};
+        });
+    });
+    QApplication::exec();
+    player.Unload();
+    return 0;
 }

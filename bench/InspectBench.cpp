@@ -4,6 +4,7 @@
 #include "inspect/QtServices.h"
 #include "inspect/clsSource.h"
 #include "platform/Files.h"
+#include "platform/Leftovers.h"
 
 #include <benchmark/benchmark.h>
 

@@ -6,6 +6,7 @@
 #include "inspect/QtServices.h"
 #include "inspect/clsSource.h"
 #include "platform/Files.h"
+#include "platform/Leftovers.h"
 #include "tools/DictionaryJson.h"
 
 #include <QCoreApplication>
