@@ -27,7 +27,7 @@
 
 #include <chrono>
 #include <cstdio>
-#include <optional>
+#include <memory>
 #include <random>
 #include <utility>
 
@@ -142,9 +142,11 @@ int main(int argc, char** argv)
 
     auto* const video = new VideoFrame(ToQString(programFolder) + "Audio.JPG", nullptr);
     VlcEngines engines(*video, workingFolder.empty() ? std::string() : workingFolder + "engine.log");
-    std::optional<InspectionBase> base;
-    const auto inspectionContext = [&]() -> const InspectionContext& {
-        return (base ? *base : base.emplace(programFolder)).context;
+    std::shared_ptr<InspectionBase> base;
+    const auto inspectionContext = [&] {
+        if (!base)
+            base = std::make_shared<InspectionBase>(programFolder);
+        return std::shared_ptr<const InspectionContext>(base, &base->context);
     };
     InspectionThreads inspections(inspectionContext, workingFolder, onWindowThread);
     DriveQueries drives(platform::Drives::Open(), onWindowThread);

@@ -4,6 +4,7 @@
 #include "inspect/CodecNames.h"
 #include "inspect/ToolRunner.h"
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -36,6 +37,11 @@ struct AviStream {
     std::int32_t delay = 0; // ms; -1 not found, -2 given up
 };
 
+/// Why a file is refused that is not read in time.
+inline constexpr const char* kHangsText =
+    "It took too long to read the file, so Zentaro gave up. The drive or the network"
+    " place that holds it may not answer.";
+
 /// All that an inspection needs from the world. Two inspections may run side by side when each has a working folder
 /// and a runner of its own. What is pointed at outlives the inspection.
 struct InspectionContext {
@@ -45,6 +51,8 @@ struct InspectionContext {
     std::function<std::optional<std::vector<AviStream>>(const std::string& path)> readAviStreams;
     /// No picture when the file cannot be decoded.
     std::function<Picture(const std::string& path)> decodePicture;
+    RunLimit reportLimit{ .silence = std::chrono::seconds(60), .total = std::chrono::minutes(5) };
+    RunLimit pictureLimit{ .total = std::chrono::seconds(30) };
     std::string ffmpeg;        // the program: its full path
     std::string mpgtx;         // the program: its full path
     std::string workingFolder; // private to this inspection, with a trailing separator

@@ -81,9 +81,13 @@ bool clsSource::Inspect(const std::string& fileName)
 /// What the tool printed; nothing when it could not be run, and then the reason is left in the outcome.
 std::optional<std::string> clsSource::RunTool(const ToolCommand& command, const std::string& logFile)
 {
-    const auto captured = m_context.tools->Capture(command, logFile);
+    auto limited = command;
+    limited.limit = m_context.reportLimit;
+    const auto captured = m_context.tools->Capture(limited, logFile);
     if (!captured) {
-        m_outcome.error = captured.error().text;
+        const auto& error = captured.error();
+        m_outcome.error = error.number == kToolHangs ? kHangsText : error.text;
+        m_context.files->Remove(logFile);
         return std::nullopt;
     }
     auto log = m_context.files->Read(logFile, kLogLimit);

@@ -17,6 +17,7 @@ protected:
     std::string version = "ffmpeg version 5.1";
     std::vector<std::string> thumbnailRuns; // the arguments' text
     std::vector<bool> thumbnailMade;        // by run; later ones succeed
+    bool thumbnailHangs = false;
     std::optional<Error> failure;
     std::optional<std::vector<AviStream>> avi;
     CodecNames audioNames{ "mp3,MP3" }, videoNames{ "h264,H.264" };
@@ -37,8 +38,8 @@ protected:
         EXPECT_FALSE(files.contains("/t/img.jpg"));
         thumbnailRuns.push_back(command.text);
         if (thumbnailRuns.size() > thumbnailMade.size() || thumbnailMade[thumbnailRuns.size() - 1])
-            files["/t/img.jpg"] = "jpeg";
-        return true;
+            files["/t/img.jpg"] = "jpeg"; // half a picture of a tool that hangs
+        return !thumbnailHangs;
     }
 
     std::optional<std::string> Read(const std::string& path, std::size_t limit) override
@@ -117,6 +118,9 @@ TEST_F(SourceTest, failures_leave_their_reason_and_keep_the_report_of_the_last_s
     failure = Error{ 2003, "Could not create piped process. LastError 2" };
     EXPECT_FALSE(source.GetVideoInformation("/a.mkv"));
     EXPECT_EQ(source.Outcome().error, "Could not create piped process. LastError 2");
+    failure = Error{ kToolHangs, "" };
+    EXPECT_FALSE(source.GetVideoInformation("/a.mkv"));
+    EXPECT_EQ(source.Outcome().error, kHangsText);
     failure.reset();
     report = "  Duration: N/A, bitrate: N/A\n" + kSound;
     EXPECT_FALSE(source.GetVideoInformation("/a.mkv"));
@@ -157,6 +161,13 @@ TEST_F(SourceTest, a_picture_that_cannot_be_made_is_tried_again_without_seeking)
     EXPECT_EQ(source.Outcome().messages,
         (std::vector<InspectionMessage>{
             { "Cannot render thumbnail for /a.mkv. The video codec may be unsupported." } }));
+
+    thumbnailHangs = true;
+    source = Inspected("/a.mkv", kTenSeconds + kFilm);
+    EXPECT_EQ(thumbnailRuns.size(), 5U); // it would hang again
+    EXPECT_EQ(source.StreamImage(0), defaultVideo);
+    EXPECT_EQ(source.Outcome().messages.size(), 1U);
+    EXPECT_FALSE(files.contains("/t/img.jpg"));
 }
 
 TEST_F(SourceTest, several_films_get_a_picture_each_and_a_turned_one_stands_upright)
