@@ -11,6 +11,7 @@
 #include "inspect/DiskFiles.h"
 #include "inspect/QtServices.h"
 #include "platform/AssociationShell.h"
+#include "platform/ChildProcess.h"
 #include "platform/Files.h"
 #include "platform/MediaControl.h"
 #include "platform/Power.h"
@@ -63,6 +64,7 @@ struct InspectionBase {
         context.decodePicture = &DecodePictureFile;
         context.ffmpeg = FindTool("ffmpeg", programFolder);
         context.mpgtx = FindTool("mpgtx", programFolder);
+        context.installAdvice = &platform::InstallAdvice;
         context.separator = platform::PathSeparator();
         context.audioCodecNames = &audioNames;
         context.videoCodecNames = &videoNames;

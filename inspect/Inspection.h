@@ -20,6 +20,9 @@ struct FileFacts {
     std::string lastModified; // date and time as a text of the user's locale
 };
 
+/// What keeps a file from being read, as far as its directory entry and its first byte tell.
+enum class FileTrouble { None, Missing, Folder, Empty, Unreadable };
+
 /// The files that an inspection touches.
 class InspectionFiles {
 public:
@@ -27,6 +30,7 @@ public:
     /// The first `limit` bytes; nothing when the file cannot be read.
     virtual std::optional<std::string> Read(const std::string& path, std::size_t limit) = 0;
     virtual std::optional<FileFacts> Facts(const std::string& path) = 0;
+    virtual FileTrouble Trouble(const std::string& path) = 0;
     /// A file that is not there is no failure.
     virtual void Remove(const std::string& path) = 0;
 };
@@ -57,6 +61,8 @@ struct InspectionContext {
     std::string mpgtx;         // the program: its full path
     std::string workingFolder; // private to this inspection, with a trailing separator
     char separator = '/';      // between the folders of a path
+    /// How the user gets a tool of that name: a sentence.
+    std::function<std::string(const std::string& tool)> installAdvice = [](const std::string&) { return ""; };
     const CodecNames* audioCodecNames = nullptr;
     const CodecNames* videoCodecNames = nullptr;
     Picture defaultVideoPicture;

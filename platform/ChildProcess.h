@@ -92,4 +92,7 @@ void EndStartedProcesses();
 /// may be executed, else in the search path; nothing when it is in neither.
 std::optional<std::string> FindTool(const std::string& name, const std::string& firstFolder);
 
+/// A sentence for the user: how the tool of that name gets onto this system.
+std::string InstallAdvice(const std::string& name);
+
 } // namespace zentaro::platform

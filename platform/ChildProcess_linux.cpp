@@ -415,4 +415,9 @@ std::optional<std::string> FindTool(const std::string& name, const std::string& 
     }
 }
 
+std::string InstallAdvice(const std::string& name)
+{
+    return "Install the package \"" + name + "\", for example with: sudo apt install " + name;
+}
+
 } // namespace zentaro::platform

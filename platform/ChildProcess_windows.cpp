@@ -291,4 +291,9 @@ std::optional<std::string> FindTool(const std::string& name, const std::string& 
     return std::nullopt;
 }
 
+std::string InstallAdvice(const std::string& name)
+{
+    return "Put \"" + name + ".exe\" into the folder that Zentaro lies in, or into a folder of the search path (PATH).";
+}
+
 } // namespace zentaro::platform

@@ -15,6 +15,7 @@ protected:
     std::string report;                       // behind the command and the version
     std::string mpgtx;
     std::string version = "ffmpeg version 5.1";
+    std::map<std::string, FileTrouble> troubles;
     std::vector<std::string> thumbnailRuns; // the arguments' text
     std::vector<bool> thumbnailMade;        // by run; later ones succeed
     bool thumbnailHangs = false;
@@ -56,6 +57,8 @@ protected:
         return FileFacts{ static_cast<std::int64_t>(file->second.size()), "yesterday" };
     }
 
+    FileTrouble Trouble(const std::string& path) override { return troubles[path]; }
+
     void Remove(const std::string& path) override { files.erase(path); }
 
     /// Inspects it; its tools print `lines` behind the head of a report.
@@ -77,6 +80,7 @@ protected:
         context.ffmpeg = "/p/ffmpeg";
         context.mpgtx = "/p/mpgtx";
         context.workingFolder = "/t/";
+        context.installAdvice = [](const std::string& tool) { return "Get " + tool + "."; };
         context.audioCodecNames = &audioNames;
         context.videoCodecNames = &videoNames;
         context.defaultVideoPicture = defaultVideo;
@@ -117,7 +121,12 @@ TEST_F(SourceTest, failures_leave_their_reason_and_keep_the_report_of_the_last_s
     auto source = Source();
     failure = Error{ 2003, "Could not create piped process. LastError 2" };
     EXPECT_FALSE(source.GetVideoInformation("/a.mkv"));
-    EXPECT_EQ(source.Outcome().error, "Could not create piped process. LastError 2");
+    EXPECT_TRUE(source.Outcome().error.starts_with("Could not create piped process. LastError 2\r\n"));
+    EXPECT_NE(source.Outcome().error.find("\"ffmpeg\""), std::string::npos);
+    EXPECT_TRUE(source.Outcome().error.ends_with("Get ffmpeg."));
+    failure = Error{ 2001, "Could not create pipe LastError 24" };
+    EXPECT_FALSE(source.GetVideoInformation("/a.mkv"));
+    EXPECT_EQ(source.Outcome().error, failure->text);
     failure = Error{ kToolHangs, "" };
     EXPECT_FALSE(source.GetVideoInformation("/a.mkv"));
     EXPECT_EQ(source.Outcome().error, kHangsText);
@@ -125,6 +134,9 @@ TEST_F(SourceTest, failures_leave_their_reason_and_keep_the_report_of_the_last_s
     report = "  Duration: N/A, bitrate: N/A\n" + kSound;
     EXPECT_FALSE(source.GetVideoInformation("/a.mkv"));
     EXPECT_EQ(source.Outcome().error, "File may be incomplete or corrupted.");
+    troubles["/a.mkv"] = FileTrouble::Empty;
+    EXPECT_FALSE(source.GetVideoInformation("/a.mkv"));
+    EXPECT_EQ(source.Outcome().error, "File may be incomplete or corrupted.\r\nThe file is empty.");
     EXPECT_TRUE(files.empty());
     report = "";
     EXPECT_TRUE(source.GetVideoInformation("/a.mkv"));
