@@ -228,14 +228,11 @@ protected:
         Screen().Press("ctrl+p");
         EXPECT_TRUE(Stands(player));
         const auto paused = Time(player);
-        Screen().Press("space");
-        EXPECT_TRUE(ReachesTime(player, paused + 0.1, paused + 3));
-        Screen().Press("Right Right");
-        EXPECT_TRUE(ReachesTime(player, paused + 9.5, paused + 15));
-        Screen().Press("Left");
-        EXPECT_TRUE(ReachesTime(player, paused + 4.5, paused + 9));
-        Screen().Press("shift+Left");
-        EXPECT_TRUE(ReachesTime(player, 0, paused - 15));
+        for (const auto& [keys, from, to] : { std::tuple("space", 0.1, 3.0), std::tuple("Right Right", 9.5, 15.0),
+                 std::tuple("Left", 4.5, 9.0), std::tuple("shift+Left", -kLength, -15.0) }) {
+            Screen().Press(keys);
+            EXPECT_TRUE(ReachesTime(player, paused + from, paused + to)) << keys;
+        }
         Screen().Press("bracketright ctrl+Up");
         EXPECT_TRUE(TakesSpeed(player, 4));
         Screen().Press("bracketleft ctrl+Down ctrl+Down ctrl+r");
