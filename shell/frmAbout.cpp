@@ -6,7 +6,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace zentaro {
@@ -135,14 +134,13 @@ frmAbout::frmAbout(Skin& skin, QWidget* owner)
     auto* const all = new QVBoxLayout(this);
     all->setContentsMargins(1, 0, 1, 0);
     all->setSpacing(0);
-    auto* const scroll = new SkinScroll(page, this);
-    all->addWidget(scroll);
+    all->addWidget(new SkinScroll(page, this));
     all->addLayout(buttons);
     ok->setFocus();
-    auto size = sizeHint();
-    if (size.height() > Room().height())
-        size.rwidth() += scroll->verticalScrollBar()->sizeHint().width();
-    setFixedSize(size.boundedTo(Room()));
+    const bool isNarrow = sizeHint().width() > Room().width();
+    for (auto* const label : page->findChildren<QLabel*>())
+        label->setWordWrap(isNarrow);
+    setFixedSize(Fitting(sizeHint()));
 }
 
 void frmAbout::PaintBody(QPainter& painter)
