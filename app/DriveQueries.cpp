@@ -28,9 +28,16 @@ bool DriveQueries::Watch()
     return m_drives->Watch([post = m_post, alive = std::weak_ptr(m_alive)] {
         post([alive] {
             if (const auto self = alive.lock())
-                (*self)->onChange();
+                (*self)->Changed();
         });
     });
+}
+
+void DriveQueries::Changed()
+{
+    m_hasChanged = m_isAsking;
+    if (!m_hasChanged)
+        onChange();
 }
 
 void DriveQueries::Answered(std::vector<platform::OpticalDrive> drives)
@@ -38,6 +45,8 @@ void DriveQueries::Answered(std::vector<platform::OpticalDrive> drives)
     m_isAsking = false;
     if (onFound)
         onFound(std::move(drives));
+    if (std::exchange(m_hasChanged, false))
+        onChange();
 }
 
 } // namespace zentaro

@@ -27,11 +27,13 @@ public:
     bool Watch();
 
 private:
+    void Changed();
     void Answered(std::vector<platform::OpticalDrive> drives);
 
     std::shared_ptr<platform::Drives> m_drives;
     Post m_post;
     bool m_isAsking = false;
+    bool m_hasChanged = false; ///< since the question that is out, whose answer may be from before
     /// An answer that comes after the end finds it gone.
     std::shared_ptr<DriveQueries*> m_alive;
 };

@@ -11,7 +11,9 @@
 #include "inspect/DiskFiles.h"
 #include "inspect/QtServices.h"
 #include "platform/AssociationShell.h"
+#include "platform/ChildProcess.h"
 #include "platform/Files.h"
+#include "platform/Leftovers.h"
 #include "platform/MediaControl.h"
 #include "platform/Power.h"
 #include "platform/Process.h"
@@ -27,7 +29,7 @@
 
 #include <chrono>
 #include <cstdio>
-#include <optional>
+#include <memory>
 #include <random>
 #include <utility>
 
@@ -36,6 +38,7 @@ namespace {
 using namespace zentaro;
 
 constexpr auto kEngineDelay = std::chrono::milliseconds(100); // until the engine shows what it was told
+constexpr auto kTidyDelay = std::chrono::seconds(5);          // a start has shown its first picture by then
 
 HandOverService RealHandOver()
 {
@@ -63,6 +66,7 @@ struct InspectionBase {
         context.decodePicture = &DecodePictureFile;
         context.ffmpeg = FindTool("ffmpeg", programFolder);
         context.mpgtx = FindTool("mpgtx", programFolder);
+        context.installAdvice = &platform::InstallAdvice;
         context.separator = platform::PathSeparator();
         context.audioCodecNames = &audioNames;
         context.videoCodecNames = &videoNames;
@@ -142,9 +146,11 @@ int main(int argc, char** argv)
 
     auto* const video = new VideoFrame(ToQString(programFolder) + "Audio.JPG", nullptr);
     VlcEngines engines(*video, workingFolder.empty() ? std::string() : workingFolder + "engine.log");
-    std::optional<InspectionBase> base;
-    const auto inspectionContext = [&]() -> const InspectionContext& {
-        return (base ? *base : base.emplace(programFolder)).context;
+    std::shared_ptr<InspectionBase> base;
+    const auto inspectionContext = [&] {
+        if (!base)
+            base = std::make_shared<InspectionBase>(programFolder);
+        return std::shared_ptr<const InspectionContext>(base, &base->context);
     };
     InspectionThreads inspections(inspectionContext, workingFolder, onWindowThread);
     DriveQueries drives(platform::Drives::Open(), onWindowThread);
@@ -200,5 +206,18 @@ int main(int argc, char** argv)
         endProcess();
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
         [&] { IgnoreFailure(player.WriteConfigurations()); });
-    return QApplication::exec();
+    // As at a logout, when the display is gone before anybody has asked the player to end.
+    platform::OnForcedExit([&] {
+        IgnoreFailure(player.WriteConfigurations());
+        endProcess();
+    });
+    after(kTidyDelay, [&] {
+        RunInBackground(onWindowThread, [] {
+            platform::RemoveLeftovers(platform::SettingsFolder());
+            return [] {};
+        });
+    });
+    QApplication::exec();
+    player.Unload();
+    return 0;
 }

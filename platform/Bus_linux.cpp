@@ -1,11 +1,16 @@
 #include "platform/Bus_linux.h"
 
+#include "platform/Files_linux.h"
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdlib>
+#include <filesystem>
 #include <poll.h>
+#include <string_view>
 #include <sys/eventfd.h>
+#include <sys/inotify.h>
 #include <systemd/sd-bus.h>
 #include <unistd.h>
 #include <utility>
@@ -15,20 +20,44 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kPatience = 25s;
-constexpr auto kLongWait = 1h;
+constexpr auto kPatience = 25s;    // for an answer
+constexpr int kQuickTries = 6;     // a bus that comes up takes a moment to listen
+constexpr int kMostDoublings = 15; // of the wait for a bus that no folder tells of
 
-std::chrono::milliseconds UntilTimeout(sd_bus* bus, std::chrono::milliseconds limit)
+/// Nothing while the connection waits for no answer.
+std::optional<std::chrono::milliseconds> UntilTimeout(sd_bus* bus)
 {
     std::uint64_t at = 0;
     if (sd_bus_get_timeout(bus, &at) < 0 || at == UINT64_MAX)
-        return limit;
+        return std::nullopt;
     timespec now{};
     clock_gettime(CLOCK_MONOTONIC, &now);
     const auto passed = std::chrono::seconds(now.tv_sec) + std::chrono::nanoseconds(now.tv_nsec);
     const auto rest =
         std::chrono::ceil<std::chrono::milliseconds>(std::chrono::microseconds(static_cast<std::int64_t>(at)) - passed);
-    return std::clamp(rest, std::chrono::milliseconds(0), limit);
+    return std::max(rest, std::chrono::milliseconds(0));
+}
+
+/// The file of a bus's address; empty when it has none, or more than one place.
+std::filesystem::path SocketOf(const std::string& address)
+{
+    constexpr std::string_view prefix = "unix:path=";
+    if (!address.starts_with(prefix) || address.find_first_of(";%") != std::string::npos)
+        return {};
+    return address.substr(prefix.size(), address.find(',') - prefix.size());
+}
+
+/// Tells of every name that comes into the folder, or into the next one above it that is there.
+FileDescriptor WatchFolder(std::filesystem::path folder)
+{
+    FileDescriptor watch(inotify_init1(IN_CLOEXEC | IN_NONBLOCK));
+    constexpr std::uint32_t kEvents = IN_CREATE | IN_MOVED_TO | IN_DELETE_SELF | IN_MOVE_SELF;
+    while (inotify_add_watch(watch.Number(), folder.c_str(), kEvents) < 0) {
+        if (!folder.has_relative_path())
+            return FileDescriptor();
+        folder = folder.parent_path();
+    }
+    return watch;
 }
 
 } // namespace
@@ -89,52 +118,58 @@ void BusThread::Wake()
 
 void BusThread::Run(const std::stop_token& stop)
 {
-    while (!stop.stop_requested() && !m_address.empty()) {
-        if (const auto bus = ConnectToBus(m_address, kPatience)) {
-            Serve(bus.get(), stop);
-            m_client.Lost();
+    const auto socket = SocketOf(m_address);
+    for (int failures = 0; !stop.stop_requested() && !m_address.empty();) {
+        // Watched before the try, so that no bus comes up unseen between the two.
+        const auto folder = WatchFolder(socket.parent_path());
+        failures = Serve(stop) ? 1 : failures + 1;
+        std::error_code ignored;
+        const bool isDue = failures <= kQuickTries && std::filesystem::exists(socket, ignored);
+        if (isDue || !folder) {
+            const auto again = std::chrono::steady_clock::now() + m_retry * (1 << std::min(failures, kMostDoublings));
+            for (auto rest = again - std::chrono::steady_clock::now(); rest > 0s && !stop.stop_requested();
+                 rest = again - std::chrono::steady_clock::now())
+                Wait(-1, 0, std::chrono::ceil<std::chrono::milliseconds>(rest));
+        } else {
+            while (!stop.stop_requested() && !Wait(folder.Number(), POLLIN, std::nullopt)) { }
+            failures = 0;
         }
-        const auto again = std::chrono::steady_clock::now() + m_retry;
-        for (auto now = again - m_retry; now < again && !stop.stop_requested(); now = std::chrono::steady_clock::now())
-            Wait(nullptr, std::chrono::ceil<std::chrono::milliseconds>(again - now));
     }
 }
 
-void BusThread::Serve(sd_bus* bus, const std::stop_token& stop)
+bool BusThread::Serve(const std::stop_token& stop)
 {
+    const auto bus = ConnectToBus(m_address, kPatience);
     bool isConnected = false;
-    for (;;) {
+    for (bool isLast = !bus; !isLast;) {
         // Read before the client speaks: what it was woken for before a stop is still said.
-        const bool isLast = stop.stop_requested();
-        const int handled = sd_bus_process(bus, nullptr);
+        isLast = stop.stop_requested();
+        const int handled = sd_bus_process(bus.get(), nullptr);
         if (handled < 0)
-            return;
-        if (!isConnected && sd_bus_is_ready(bus) > 0) {
+            break;
+        if (!isConnected && sd_bus_is_ready(bus.get()) > 0) {
             isConnected = true;
-            m_client.Connected(bus);
+            m_client.Connected(bus.get());
         }
         if (isConnected)
-            m_client.Speak(bus);
-        if (isLast)
-            return;
-        if (handled == 0)
-            Wait(bus, kLongWait);
+            m_client.Speak(bus.get());
+        if (handled == 0 && !isLast)
+            Wait(sd_bus_get_fd(bus.get()), sd_bus_get_events(bus.get()), UntilTimeout(bus.get()));
     }
+    if (bus)
+        m_client.Lost();
+    return isConnected;
 }
 
-void BusThread::Wait(sd_bus* bus, std::chrono::milliseconds limit)
+bool BusThread::Wait(int descriptor, int events, std::optional<std::chrono::milliseconds> limit) const
 {
-    std::array<pollfd, 2> waited{ pollfd{ m_wakeUp, POLLIN, 0 }, pollfd{ -1, 0, 0 } };
-    if (bus != nullptr) {
-        const int events = sd_bus_get_events(bus);
-        if (events < 0)
-            return;
-        waited[1] = { sd_bus_get_fd(bus), static_cast<short>(events), 0 };
-        limit = UntilTimeout(bus, limit);
-    }
-    poll(waited.data(), waited.size(), static_cast<int>(limit.count()));
+    if (events < 0)
+        return false;
+    std::array<pollfd, 2> waited{ pollfd{ m_wakeUp, POLLIN, 0 }, pollfd{ descriptor, static_cast<short>(events), 0 } };
+    poll(waited.data(), waited.size(), limit ? static_cast<int>(limit->count()) : -1);
     std::uint64_t ignored = 0;
     [[maybe_unused]] const auto got = read(m_wakeUp, &ignored, sizeof ignored);
+    return waited[1].revents != 0;
 }
 
 } // namespace zentaro::platform

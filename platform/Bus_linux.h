@@ -3,6 +3,7 @@
 #include <chrono>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <systemd/sd-bus.h>
 #include <thread>
@@ -37,12 +38,16 @@ public:
     virtual void Lost() = 0;
 };
 
+/// The first wait after a bus that was lost or refused; each further one is twice as long.
+inline constexpr std::chrono::milliseconds kBusRetry{ 100 };
+
 /// A connection to a message bus on a thread of its own, so that nobody waits for a bus that hangs. A connection that
-/// is lost or refused is tried again every `retry`.
+/// is lost or refused is tried again for some seconds, and then whenever something happens in the folder where the bus
+/// was: a thread that has nothing to say sleeps for good.
 class BusThread {
 public:
     /// `client` outlives the object.
-    BusThread(std::string address, BusClient& client, std::chrono::milliseconds retry = std::chrono::seconds(2));
+    BusThread(std::string address, BusClient& client, std::chrono::milliseconds retry = kBusRetry);
     /// The client may speak once more; then the connection goes.
     ~BusThread();
 
@@ -51,8 +56,10 @@ public:
 
 private:
     void Run(const std::stop_token& stop);
-    void Serve(sd_bus* bus, const std::stop_token& stop);
-    void Wait(sd_bus* bus, std::chrono::milliseconds limit);
+    /// True when a connection stood and is gone.
+    bool Serve(const std::stop_token& stop);
+    /// Sleeps until the descriptor has one of the events (true), somebody wakes the thread, or the time is over.
+    bool Wait(int descriptor, int events, std::optional<std::chrono::milliseconds> limit) const;
 
     std::string m_address;
     BusClient& m_client;

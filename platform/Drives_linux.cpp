@@ -3,6 +3,7 @@
 #include "platform/Bus_linux.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdarg>
 #include <cstdint>
 #include <dirent.h>
@@ -213,6 +214,53 @@ std::string MountPoint(const Properties& block)
 
 } // namespace
 
+DiskServiceWatch::DiskServiceWatch(
+    std::string busAddress, std::function<void()> onChange, std::chrono::milliseconds retry)
+    : m_onChange(std::move(onChange))
+    , m_thread(std::move(busAddress), static_cast<BusClient&>(*this), retry)
+{
+}
+
+DiskServiceWatch::~DiskServiceWatch() = default;
+
+void DiskServiceWatch::Connected(sd_bus* bus)
+{
+    // The service also tells of jobs and of a hard disk's health; nobody here is to be woken for that.
+    static constexpr std::array kRules = {
+        "type='signal',sender='org.freedesktop.UDisks2',interface='org.freedesktop.DBus.ObjectManager',"
+        "arg0path='/org/freedesktop/UDisks2/block_devices/'",
+        "type='signal',sender='org.freedesktop.UDisks2',interface='org.freedesktop.DBus.ObjectManager',"
+        "arg0path='/org/freedesktop/UDisks2/drives/'",
+        "type='signal',sender='org.freedesktop.UDisks2',interface='org.freedesktop.DBus.Properties',"
+        "arg0='org.freedesktop.UDisks2.Block'",
+        "type='signal',sender='org.freedesktop.UDisks2',interface='org.freedesktop.DBus.Properties',"
+        "arg0='org.freedesktop.UDisks2.Drive'",
+        "type='signal',sender='org.freedesktop.UDisks2',interface='org.freedesktop.DBus.Properties',"
+        "arg0='org.freedesktop.UDisks2.Filesystem'",
+        "type='signal',sender='org.freedesktop.DBus',interface='org.freedesktop.DBus',member='NameOwnerChanged',"
+        "arg0='org.freedesktop.UDisks2'",
+    };
+    // Once all rules hold, whoever asks then misses nothing any more.
+    for (const auto* const rule : kRules)
+        sd_bus_add_match_async(bus, nullptr, rule, &OnSignal, rule == kRules.back() ? &OnSignal : &OnRuleHolds, this);
+}
+
+void DiskServiceWatch::Lost()
+{
+    m_onChange();
+}
+
+int DiskServiceWatch::OnRuleHolds(sd_bus_message*, void*, sd_bus_error*)
+{
+    return 0;
+}
+
+int DiskServiceWatch::OnSignal(sd_bus_message*, void* watch, sd_bus_error*)
+{
+    static_cast<DiskServiceWatch*>(watch)->m_onChange();
+    return 0;
+}
+
 DiskServiceDrives::DiskServiceDrives(std::string busAddress, std::chrono::milliseconds patience)
     : m_busAddress(std::move(busAddress))
     , m_patience(patience)
@@ -246,6 +294,12 @@ std::vector<OpticalDrive> DiskServiceDrives::Find()
         return std::pair(left.name.size(), left.name) < std::pair(right.name.size(), right.name);
     });
     return drives;
+}
+
+bool DiskServiceDrives::Watch(std::function<void()> onChange)
+{
+    m_watch = std::make_unique<DiskServiceWatch>(m_busAddress, std::move(onChange));
+    return true;
 }
 
 bool DiskServiceDrives::HasVideoFolder(const OpticalDrive& drive, const std::string& mountPoint, Answers& answers) const

@@ -55,10 +55,6 @@ std::string DesktopFolder();
 /// The user's Pictures folder, or the home folder.
 std::string PicturesFolder();
 
-/// A new private folder of this run under the system's temporary folder, owner-only, without a trailing separator;
-/// empty when none can be made. The caller removes it.
-std::string MakeWorkingFolder();
-
 /// Makes the folder, with those that it lies in, where it is missing; false when it is not there afterwards.
 bool MakeFolder(const std::string& folder);
 

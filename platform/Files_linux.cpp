@@ -67,14 +67,15 @@ Result<void> WriteAll(int file, const std::string& text)
 FileDescriptor CreateBeside(const std::string& folder, std::string& path)
 {
     std::random_device random;
-    FileDescriptor file;
-    for (int i = 0; i < 100 && !file; ++i) {
-        path = folder + ".zentaro-" + std::to_string(random());
-        file = FileDescriptor(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    for (int i = 0; i < 100; ++i) {
+        path = folder + std::string(kReplacementPrefix) + std::to_string(random());
+        FileDescriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
         if (!file && errno != EEXIST)
             break;
+        if (file && LockNew(file.Number()))
+            return file;
     }
-    return file;
+    return FileDescriptor();
 }
 
 Result<void> FillAndRename(int file, const std::string& from, const std::string& to, const std::string& text)
@@ -115,12 +116,6 @@ std::string AbsoluteWhenThere(const std::string& path)
     if (error)
         return path;
     return current == "/" ? current + path : current + "/" + path;
-}
-
-std::string MakeFolderIn(const std::string& parent)
-{
-    auto name = parent + "/zentaro-XXXXXX";
-    return mkdtemp(name.data()) ? name : "";
 }
 
 constexpr int kFolderFlags = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
@@ -263,13 +258,6 @@ std::string PicturesFolder()
     return UserFolder(QStandardPaths::PicturesLocation);
 }
 
-std::string MakeWorkingFolder()
-{
-    const auto parent = TemporaryFolder();
-    const auto folder = MakeFolderIn(parent);
-    return folder.empty() && parent != "/tmp" ? MakeFolderIn("/tmp") : folder;
-}
-
 std::string CommandLineText(const std::vector<std::string>& arguments)
 {
     return JoinArguments(arguments, AbsoluteWhenThere);
@@ -309,6 +297,15 @@ bool LockWithin(int descriptor, std::chrono::milliseconds timeout)
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
     return true;
+}
+
+bool LockNew(int descriptor)
+{
+    struct stat facts { };
+    if (flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
+        return false;
+    // Where files cannot be locked nobody takes anything for a leftover.
+    return fstat(descriptor, &facts) == 0 && facts.st_nlink > 0;
 }
 
 } // namespace zentaro::platform

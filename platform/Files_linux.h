@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <cstring>
 #include <string>
+#include <string_view>
 #include <unistd.h>
 #include <utility>
 
@@ -58,6 +59,13 @@ Result<FileDescriptor> OpenRuntimeFolder();
 
 /// Takes the file lock; false when another holder kept it all the time.
 bool LockWithin(int descriptor, std::chrono::milliseconds timeout);
+
+/// Locks what was just made, a file or a folder, so that nobody takes it for a leftover. False when somebody did so
+/// before, and has removed it or will.
+bool LockNew(int descriptor);
+
+/// How the names of new files begin that have not yet taken the place of old ones.
+inline constexpr std::string_view kReplacementPrefix = ".zentaro-";
 
 /// The system's folder for temporary files, without a trailing separator.
 std::string TemporaryFolder();

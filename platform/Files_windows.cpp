@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cctype>
 #include <cstdlib>
-#include <memory>
 #include <random>
 #include <windows.h>
 
@@ -16,19 +15,13 @@ using namespace desktop;
 
 namespace {
 
-struct CloseFile {
-    using pointer = HANDLE;
-    void operator()(HANDLE file) const { CloseHandle(file); }
-};
-using File = std::unique_ptr<HANDLE, CloseFile>;
-
-File OpenFile(const std::string& path, DWORD access, DWORD disposition, DWORD flags)
+SystemObject OpenFile(const std::string& path, DWORD access, DWORD disposition, DWORD flags)
 {
     constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
     const bool hasNul = path.find('\0') != std::string::npos;
     const HANDLE file = hasNul ? INVALID_HANDLE_VALUE
                                : CreateFileA(path.c_str(), access, kShareAll, nullptr, disposition, flags, nullptr);
-    return File(file == INVALID_HANDLE_VALUE ? nullptr : file);
+    return SystemObject(file == INVALID_HANDLE_VALUE ? nullptr : file);
 }
 
 bool IsMissing(DWORD error)
@@ -131,7 +124,10 @@ Result<void> ReplaceTextFile(const std::string& path, const std::string& text)
         return Error{ ERROR_ACCESS_DENIED, target + " is a folder" };
     const auto separator = target.find_last_of("\\/:");
     const auto folder = separator == std::string::npos ? "" : target.substr(0, separator + 1);
-    const auto temporary = folder + "zentaro-" + std::to_string(std::random_device()()) + ".tmp";
+    const auto name =
+        std::string(kOurPrefix) + std::to_string(std::random_device()()) + std::string(kReplacementSuffix);
+    const auto temporary = folder + name;
+    const auto inUse = MarkInUse(name);
     auto done = WriteNewFile(temporary, text);
     if (done)
         done = TakeName(temporary, target);
@@ -176,22 +172,6 @@ std::string PicturesFolder()
 {
     const char* home = std::getenv("USERPROFILE");
     return ShellFolder("My Pictures", home ? home : "C:\\");
-}
-
-std::string MakeWorkingFolder()
-{
-    char parent[MAX_PATH + 1] = {};
-    if (GetTempPathA(sizeof parent, parent) == 0)
-        return "";
-    std::random_device random;
-    for (int i = 0; i < 100; ++i) {
-        const auto folder = std::string(parent) + "zentaro-" + std::to_string(random());
-        if (CreateDirectoryA(folder.c_str(), nullptr))
-            return folder;
-        if (GetLastError() != ERROR_ALREADY_EXISTS)
-            break;
-    }
-    return "";
 }
 
 std::string CommandLineText(const std::vector<std::string>&)

@@ -14,7 +14,7 @@ namespace zentaro::platform {
 class MprisControl : public MediaControl, private BusClient {
 public:
     MprisControl(std::string busAddress, std::function<void(MediaCommand)> onCommand,
-        std::chrono::milliseconds retry = std::chrono::seconds(2)); ///< after a bus that was lost
+        std::chrono::milliseconds retry = kBusRetry); ///< after a bus that was lost
     ~MprisControl() override;
 
     void Publish(MediaStatus status) override;

@@ -43,7 +43,7 @@ private:
 class SessionSleepInhibitor : public SleepInhibitor, private BusClient {
 public:
     explicit SessionSleepInhibitor(std::string busAddress,
-        std::chrono::milliseconds retry = std::chrono::seconds(2)); ///< after a bus that was lost
+        std::chrono::milliseconds retry = kBusRetry); ///< after a bus that was lost
     ~SessionSleepInhibitor() override;
 
     void Hold(bool held) override;

@@ -3,11 +3,17 @@
 #include <QSocketNotifier>
 
 #include <array>
+#include <chrono>
+#include <condition_variable>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <mutex>
+#include <thread>
 #include <unistd.h>
+#include <utility>
 
 namespace zentaro::platform {
 namespace {
@@ -19,6 +25,45 @@ void OnSignal(int)
 {
     const char note = 0;
     [[maybe_unused]] const auto written = write(g_pipe[1], &note, 1);
+}
+
+constexpr auto kPatienceAtExit = std::chrono::seconds(3);
+
+/// What is to be done before the process ends, once, and by whom.
+struct LastDuty {
+    std::thread::id thread;
+    QObject* onThread = nullptr; // an object of that thread
+    std::function<void()> work;
+    std::mutex mutex;
+    std::condition_variable done;
+    bool isDone = false;
+};
+
+LastDuty& Duty()
+{
+    // Never destroyed: it is used when all else is.
+    static auto* const duty = new LastDuty;
+    return *duty;
+}
+
+void DoDuty()
+{
+    auto& duty = Duty();
+    if (const auto work = std::exchange(duty.work, nullptr))
+        work();
+    const std::lock_guard lock(duty.mutex);
+    duty.isDone = true;
+    duty.done.notify_all();
+}
+
+void OnExit()
+{
+    auto& duty = Duty();
+    if (std::this_thread::get_id() == duty.thread)
+        return DoDuty();
+    QMetaObject::invokeMethod(duty.onThread, &DoDuty, Qt::QueuedConnection);
+    std::unique_lock lock(duty.mutex);
+    duty.done.wait_for(lock, kPatienceAtExit, [&] { return duty.isDone; });
 }
 
 using ErrorHandler = void (*)(const char* file, int line, const char* function, int error, const char* format, ...);
@@ -47,6 +92,17 @@ void OnQuitRequest(std::function<void()> onQuit)
     action.sa_flags = SA_RESTART;
     for (const int signal : { SIGTERM, SIGINT, SIGHUP })
         sigaction(signal, &action, nullptr);
+}
+
+void OnForcedExit(std::function<void()> onExit)
+{
+    Duty().thread = std::this_thread::get_id();
+    Duty().onThread = new QObject;
+    Duty().work = std::move(onExit);
+    // Twice: while another thread waits in the one, this thread, for which the display has gone as well, may come to
+    // the other.
+    std::atexit(&OnExit);
+    std::atexit(&OnExit);
 }
 
 void SilenceSoundLibrary()

@@ -14,6 +14,9 @@ void EndProcess()
 // The end of a session reaches the window as a message.
 void OnQuitRequest(std::function<void()>) { }
 
+// Nothing here ends a process that way.
+void OnForcedExit(std::function<void()>) { }
+
 // The system's sound functions report by return value only.
 void SilenceSoundLibrary() { }
 

@@ -1,4 +1,8 @@
+#include "app/DriveQueries.h"
 #include "tests/app/PlayerFixture.h"
+
+#include <future>
+#include <semaphore>
 
 using namespace zentaro;
 using namespace std::chrono_literals;
@@ -155,4 +159,39 @@ TEST_F(DiscsTest, the_watcher_starts_each_video_disc_once_while_nothing_plays)
     TickAndFind({ movie, Disc("/dev/sr1", "OTHER") });
     EXPECT_EQ(Starts(), 3U); // the second replaces the first
     EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr1>");
+}
+
+TEST(DriveQueriesTest, a_change_while_a_question_is_out_is_told_of_when_it_is_answered)
+{
+    struct SlowDrives : platform::Drives {
+        std::vector<platform::OpticalDrive> Find() override
+        {
+            answers.acquire();
+            return {};
+        }
+        bool Watch(std::function<void()> onChange) override
+        {
+            changed = std::move(onChange);
+            return true;
+        }
+        std::counting_semaphore<> answers{ 0 };
+        std::function<void()> changed;
+    };
+    const auto drives = std::make_shared<SlowDrives>();
+    std::promise<std::function<void()>> answer;
+    DriveQueries queries(drives, [&](auto work) { answer.set_value(std::move(work)); });
+    std::string heard;
+    queries.onChange = [&] { heard += "changed "; };
+    queries.onFound = [&](auto) { heard += "found "; };
+    ASSERT_TRUE(queries.Watch());
+    drives->changed();
+    answer.get_future().get()();
+    EXPECT_EQ(heard, "changed ");
+    queries.Ask();
+    for (const bool isAnswer : { false, false, true }) {
+        answer = {};
+        isAnswer ? drives->answers.release() : drives->changed();
+        answer.get_future().get()();
+    }
+    EXPECT_EQ(heard, "changed found changed ");
 }

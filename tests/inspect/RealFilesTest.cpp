@@ -10,8 +10,10 @@
 
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <sstream>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace zentaro;
 namespace fs = std::filesystem;
@@ -193,10 +195,29 @@ TEST_F(RealFiles, a_film_taken_upright_stands_upright)
 TEST_F(RealFiles, what_is_no_media_file_is_refused_in_words)
 {
     std::ofstream(Path("text.mp3")) << "no sound";
-    for (const std::string name : { "missing.avi", "text.mp3" }) {
+    std::ofstream(Path("empty.mp4"));
+    std::ofstream(Path("closed.mp4")) << "secret";
+    fs::permissions(Path("closed.mp4"), fs::perms::none);
+    fs::create_directory(Path("folder.mkv"));
+    ASSERT_EQ(::mkfifo(Path("pipe.mp4").c_str(), 0600), 0);
+    m_context.reportLimit.silence = std::chrono::seconds(2);
+    const std::string bad = "Unsupported file format or the file is corrupted.";
+    const bool isRoot = ::geteuid() == 0; // who may read anything
+    for (const auto& [name, reason] : std::map<std::string, std::string>{
+             { "missing.avi", bad + "\r\nThere is no such file." },
+             { "text.mp3", bad },
+             { "empty.mp4", bad + "\r\nThe file is empty." },
+             { "closed.mp4",
+                 bad
+                     + (isRoot ? ""
+                               : "\r\nThe file cannot be read. It may belong to another user, or its drive may be "
+                                 "damaged.") },
+             { "folder.mkv", bad + "\r\nIt is a folder, not a file." },
+             { "pipe.mp4", kHangsText },
+         }) {
         clsSource source(m_context);
         EXPECT_FALSE(source.GetVideoInformation(Path(name)));
-        EXPECT_EQ(source.Outcome().error, "Unsupported file format or the file is corrupted.");
+        EXPECT_EQ(source.Outcome().error, reason) << name;
     }
     m_context.ffmpeg = Path("no tool here");
     clsSource source(m_context);

@@ -62,6 +62,8 @@ public:
             { "Size", qulonglong(0) } };
         Of(device, "drives")["org.freedesktop.UDisks2.Drive"] = { { "MediaCompatibility", media }, { "Optical", true },
             { "Seat", "seat0" } };
+        for (const auto* const kind : { "drives", "block_devices" })
+            Tell("Added", Path(device, kind), QVariant::fromValue(Of(device, kind)));
     }
     void InsertDisc(const std::string& device, const std::string& label, const QByteArrayList& mountPoints = {})
     {
@@ -70,16 +72,33 @@ public:
         block["org.freedesktop.UDisks2.Block"]["IdLabel"] = QString::fromStdString(label);
         block["org.freedesktop.UDisks2.Filesystem"]["MountPoints"] = QVariant::fromValue(mountPoints);
         Of(device, "drives")["org.freedesktop.UDisks2.Drive"]["TimeMediaDetected"] = ++m_time;
+        TellOfProperties(device, "block_devices", "Block");
     }
     void RemoveDisc(const std::string& device)
     {
         auto& block = Of(device, "block_devices")["org.freedesktop.UDisks2.Block"];
         block["IdUsage"] = block["IdLabel"] = "";
+        TellOfProperties(device, "block_devices", "Block");
     }
     void RemoveDrive(const std::string& device)
     {
         objects.remove(Path(device, "drives"));
         objects.remove(Path(device, "block_devices"));
+        Tell("Removed", Path(device, "drives"), QStringList("org.freedesktop.UDisks2.Drive"));
+    }
+
+    /// An object has come or gone ("Added", "Removed").
+    void Tell(const QString& what, const QDBusObjectPath& path, const QVariant& interfaces)
+    {
+        auto signal = QDBusMessage::createSignal(
+            "/org/freedesktop/UDisks2", "org.freedesktop.DBus.ObjectManager", "Interfaces" + what);
+        m_bus.send(signal << QVariant::fromValue(path) << interfaces);
+    }
+    void TellOfProperties(const std::string& device, const char* kind, const QString& interface)
+    {
+        auto signal = QDBusMessage::createSignal(
+            Path(device, kind).path(), "org.freedesktop.DBus.Properties", "PropertiesChanged");
+        m_bus.send(signal << "org.freedesktop.UDisks2." + interface << QVariantMap() << QStringList());
     }
 
     Objects objects;

@@ -4,8 +4,11 @@
 
 #include <gmock/gmock.h>
 
+#include <atomic>
 #include <filesystem>
+#include <functional>
 #include <future>
+#include <optional>
 
 namespace zentaro::platform {
 namespace {
@@ -109,6 +112,36 @@ TEST_F(DrivesLinuxTest, AServiceIsWaitedForWithinPatienceAndWithoutOneThereAreNo
     const PrivateBus empty;
     for (const auto& address : { empty.Address(), "unix:path=" + (files / "nobody"), std::string("nonsense:") })
         EXPECT_TRUE(DiskServiceDrives(address, 10s).Find().empty()) << address;
+}
+
+TEST_F(DrivesLinuxTest, WhoeverWatchesHearsOfDiscsOfTheServiceAndOfTheBusAndOfNothingElse)
+{
+    std::atomic<int> told = 0;
+    ASSERT_TRUE(drives.Watch([&] { ++told; }));
+    const auto isTold = [&](const std::function<void()>& change) {
+        const int before = told;
+        change();
+        return RunUntil([&] { return told > before; });
+    };
+    EXPECT_TRUE(isTold([] {})) << "once the rules hold";
+    const auto comes = [&](const char* object) {
+        service.Tell("Added", QDBusObjectPath(object), QVariant::fromValue(Interfaces()));
+    };
+    EXPECT_TRUE(isTold([&] { comes("/org/freedesktop/UDisks2/block_devices/sr0"); }));
+    EXPECT_TRUE(isTold([&] { service.RemoveDrive("/dev/sr0"); }));
+    const int before = told;
+    comes("/org/freedesktop/UDisks2/jobs/1");
+    service.TellOfProperties("/dev/sda", "drives", "Drive.Ata");
+    for (const auto* const interface : { "Drive", "Filesystem", "Block" })
+        EXPECT_TRUE(isTold([&] { service.TellOfProperties("/dev/sr0", "drives", interface); })) << interface;
+    EXPECT_EQ(told, before + 3);
+    EXPECT_TRUE(isTold([&] { bus.Restart(); }));
+    const auto noAnswer = [](const QDBusMessage&) { return std::nullopt; };
+    std::optional<BusService> later;
+    const int rules = told;
+    ASSERT_TRUE(RunUntil([&] { return told > rules; })) << "the bus is back";
+    EXPECT_TRUE(isTold([&] { later.emplace(bus, QStringList("org.freedesktop.UDisks2"), noAnswer); }));
+    EXPECT_TRUE(isTold([&] { later.reset(); }));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "platform/Files.h"
 #include "platform/Files_linux.h"
+#include "platform/Leftovers.h"
 #include "tests/platform/PrivateUser.h"
 
 #include <csignal>
@@ -49,20 +50,48 @@ TEST_F(FilesOnLinux, what_a_link_names_is_replaced_and_keeps_its_rights)
     EXPECT_FALSE(ReplaceTextFile(folder / "loop", "new"));
 }
 
-TEST_F(FilesOnLinux, a_reader_never_sees_a_part)
+TEST_F(FilesOnLinux, a_reader_never_sees_a_part_and_a_writer_that_lives_is_not_tidied_away)
 {
     const auto path = folder / "a.cfg";
     ASSERT_TRUE(ReplaceTextFile(path, std::string(100'000, 'a')));
     const auto writer = StartProcess([&] {
-        for (int i = 0;; ++i)
-            IgnoreFailure(ReplaceTextFile(path, std::string(100'000, i % 2 == 0 ? 'b' : 'a')));
+        for (int i = 0; ReplaceTextFile(path, std::string(100'000, i % 2 == 0 ? 'b' : 'a')); ++i) { }
     });
     for (int i = 0; i < 200; ++i) {
         const auto text = ReadTextFile(path, 200'000);
         ASSERT_TRUE(text && *text == std::string(100'000, text->front()));
+        RemoveLeftovers(folder.Path());
     }
     kill(writer, SIGKILL);
-    WaitForProcess(writer);
+    EXPECT_TRUE(WIFSIGNALED(WaitForProcess(writer)));
+}
+
+TEST_F(FilesOnLinux, what_killed_runs_left_goes_and_nothing_else)
+{
+    setenv("TMPDIR", folder.Path().c_str(), 1);
+    const auto killed = StartProcess([&] {
+        IgnoreFailure(ReplaceTextFile(MakeWorkingFolder() + "/engine.log", "text"));
+        raise(SIGSTOP);
+    });
+    int status = 0;
+    waitpid(killed, &status, WUNTRACED);
+    const auto own = MakeWorkingFolder();
+    const auto count = [&] { return std::distance(fs::directory_iterator(folder.Path()), {}); };
+    const auto before = count();
+    RemoveLeftovers(folder.Path());
+    EXPECT_EQ(count(), before);
+    kill(killed, SIGKILL);
+    WaitForProcess(killed);
+    for (const auto* const name : { ".zentaro-12", ".zentaro-x", ".zentaro-", "zentaro-run-abcdef" })
+        ASSERT_TRUE(ReplaceTextFile(folder / name, ""));
+    fs::create_directory(folder / ".zentaro-34");
+    fs::create_directory(folder / "zentaro-run-abc");
+    fs::create_directory_symlink(own, folder / "zentaro-run-link12");
+    RemoveLeftovers(folder.Path());
+    EXPECT_EQ(count(), before - 1 + 6);
+    EXPECT_FALSE(PathExists(folder / ".zentaro-12"));
+    EXPECT_TRUE(PathExists(own));
+    unsetenv("TMPDIR");
 }
 
 TEST_F(FilesOnLinux, a_relative_argument_that_exists_becomes_absolute_with_its_bytes_and_links)

@@ -6,6 +6,8 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+
 namespace zentaro::platform {
 namespace {
 
@@ -159,13 +161,19 @@ TEST_F(SleepInhibitorLinuxTest, what_is_held_at_the_end_is_given_back_by_whichev
 
 TEST_F(SleepInhibitorLinuxTest, a_bus_and_a_service_that_come_later_or_anew_are_asked_while_it_is_still_held)
 {
-    SessionSleepInhibitor inhibitor("unix:path=" + bus.Folder() + "/nobody;" + bus.Address(), 50ms);
-    inhibitor.Hold(true);
-    for (const bool restarts : { false, false, true }) {
-        if (restarts)
-            bus.Restart();
-        const auto session = Serve({ "org.freedesktop.ScreenSaver" });
-        EXPECT_THAT(Asked(1), ElementsAre("ScreenSaver.Inhibit"));
+    const auto later = bus.Folder() + "/later";
+    for (const auto& address : { "unix:path=" + later + "/nobody;" + bus.Address(), "unix:path=" + later + "/bus" }) {
+        SessionSleepInhibitor inhibitor(address, 50ms);
+        inhibitor.Hold(true);
+        std::this_thread::sleep_for(100ms);
+        std::filesystem::create_directory_symlink(bus.Folder(), later);
+        for (const bool restarts : { false, false, true, true }) {
+            if (restarts)
+                bus.Restart();
+            const auto session = Serve({ "org.freedesktop.ScreenSaver" });
+            EXPECT_THAT(Asked(1), ElementsAre("ScreenSaver.Inhibit")) << address;
+        }
+        std::filesystem::remove(later);
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Files.h"
+#include "platform/Leftovers.h"
 
 #include <string>
 

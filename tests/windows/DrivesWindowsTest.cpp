@@ -1,5 +1,6 @@
 #include "platform/Drives.h"
 #include "platform/Files.h"
+#include "platform/Leftovers.h"
 
 #include <gtest/gtest.h>
 
