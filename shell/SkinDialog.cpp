@@ -96,6 +96,13 @@ QSize SkinDialog::Room() const
     return (parentWidget() != nullptr ? parentWidget() : this)->screen()->availableSize();
 }
 
+QSize SkinDialog::Fitting(QSize wanted) const
+{
+    if (wanted.height() > Room().height())
+        wanted.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    return wanted.boundedTo(Room());
+}
+
 void SkinDialog::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);

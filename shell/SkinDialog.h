@@ -27,6 +27,8 @@ protected:
     Skin& Pictures() { return m_skin; }
     /// What the screen has for the dialog, in logical pixels.
     QSize Room() const;
+    /// The size that it can have, with room for the scroll bar of content that is higher than the screen.
+    QSize Fitting(QSize wanted) const;
     /// Paints all but the title bar and the outline.
     virtual void PaintBody(QPainter& painter) = 0;
 

@@ -6,7 +6,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
-#include <QScrollBar>
 #include <QVBoxLayout>
 
 namespace zentaro {
@@ -15,7 +14,8 @@ namespace {
 
 constexpr int kPicture = 64;
 constexpr int kMargin = 24;
-constexpr int kHeadTop = 20; // px, over the name
+constexpr int kNarrowRoom = 520; // px: below it margins give way to the text
+constexpr int kHeadTop = 20;     // px, over the name
 constexpr int kBottom = 16;
 constexpr int kNameHeight = 26; // px, of the type
 constexpr const char* kVlcPage = "https://www.videolan.org/vlc/";
@@ -84,10 +84,10 @@ QLayout* Head(Skin& skin, QWidget* page)
     return head;
 }
 
-QLayout* Parts(QWidget* page)
+QLayout* Parts(QWidget* page, int spacing)
 {
     auto* const parts = new QGridLayout;
-    parts->setHorizontalSpacing(24);
+    parts->setHorizontalSpacing(spacing);
     parts->setVerticalSpacing(5);
     for (const auto& part : kParts) {
         const int row = parts->rowCount();
@@ -112,15 +112,16 @@ frmAbout::frmAbout(Skin& skin, QWidget* owner)
     link->setAccessibleName(tr("The web page of VLC"));
     connect(link, &QLabel::linkActivated, this, &frmAbout::LinkChosen);
 
+    const int margin = Room().width() < kNarrowRoom ? kMargin / 2 : kMargin;
     auto* const text = new QVBoxLayout(page);
-    text->setContentsMargins(kMargin, kHeadTop, kMargin, 0);
+    text->setContentsMargins(margin, kHeadTop, margin, 0);
     text->setSpacing(12);
     text->addLayout(Head(skin, page));
     text->addSpacing(6);
     text->addWidget(new QLabel(tr("A desktop media player. Free software under the MIT licence."), page));
     text->addWidget(new SkinLine(Qt::Horizontal, skin, page));
     text->addWidget(SecondText(tr("Made with"), page));
-    text->addLayout(Parts(page));
+    text->addLayout(Parts(page, margin));
     text->addWidget(new SkinLine(Qt::Horizontal, skin, page));
     text->addWidget(link);
 
@@ -128,21 +129,17 @@ frmAbout::frmAbout(Skin& skin, QWidget* owner)
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     auto* const buttons = new QHBoxLayout;
-    buttons->setContentsMargins(kMargin, kBottom, kMargin, kBottom);
+    buttons->setContentsMargins(margin, kBottom, margin, kBottom);
     buttons->addStretch();
     buttons->addWidget(ok);
 
     auto* const all = new QVBoxLayout(this);
     all->setContentsMargins(1, 0, 1, 0);
     all->setSpacing(0);
-    auto* const scroll = new SkinScroll(page, this);
-    all->addWidget(scroll);
+    all->addWidget(new SkinScroll(page, this));
     all->addLayout(buttons);
     ok->setFocus();
-    auto size = sizeHint();
-    if (size.height() > Room().height())
-        size.rwidth() += scroll->verticalScrollBar()->sizeHint().width();
-    setFixedSize(size.boundedTo(Room()));
+    setFixedSize(Fitting(sizeHint()));
 }
 
 void frmAbout::PaintBody(QPainter& painter)

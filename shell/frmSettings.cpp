@@ -51,7 +51,7 @@ frmSettings::frmSettings(const SettingsPages& pages, const std::vector<FileTypeR
     , m_tabs(new SkinTabs(skin, this))
 {
     setObjectName("frmSettings");
-    const auto size = QSize(kWidth, kHeight).boundedTo(Room());
+    const auto size = Fitting({ kWidth, kHeight });
     m_isNarrow = size.width() < kWidth;
     m_tabs->addTab(new SkinScroll(MakePlayerPage(), m_tabs), tr("&Player"));
     m_tabs->addTab(new SkinScroll(MakeAssociationsPage(rows), m_tabs), tr("Asso&ciations"));
