@@ -39,10 +39,14 @@ QRect WindowNotes::Area() const
 
 void WindowNotes::Show(const std::string& text, const std::string& file)
 {
-    QImageReader reader(QFile::decodeName(file.c_str()));
-    const auto room = (QSizeF(NoteBox::kPictureRoom) * m_box->devicePixelRatio()).toSize();
-    reader.setScaledSize(reader.size().scaled(room, Qt::KeepAspectRatio));
-    m_box->Show(Area(), ToQString(text), file.empty() ? QImage() : reader.read(), kNoteTime);
+    QImage picture;
+    if (!file.empty()) {
+        QImageReader reader(QFile::decodeName(file.c_str()));
+        const auto room = (QSizeF(NoteBox::kPictureRoom) * m_box->devicePixelRatio()).toSize();
+        reader.setScaledSize(reader.size().scaled(room, Qt::KeepAspectRatio));
+        picture = reader.read();
+    }
+    m_box->Show(Area(), ToQString(text), picture, kNoteTime);
 }
 
 void WindowNotes::Place()

@@ -128,8 +128,11 @@ TEST_F(Controls, TheListLiesWhereTheSettingSaysAndHides)
                 return video.width == 0;
             return rooms[position] >= kAtLeast && std::count(rooms, rooms + 4, 0) == 3;
         };
-        EXPECT_TRUE(WaitUntil(isDocked));
-        player.Click(Button::PlayList);
+        // A film comes forward from behind a list that takes the whole window.
+        if (position < 4) {
+            EXPECT_TRUE(WaitUntil(isDocked));
+            player.Click(Button::PlayList);
+        }
         EXPECT_TRUE(WaitUntil([&] { return player.Video() == content; }));
         EXPECT_TRUE(player.PictureMoves());
         player.Click(Button::PlayList);

@@ -86,8 +86,8 @@ TEST_F(Dialogs, OptionsChosenByKeysAreWrittenByOkAndForgottenByCancel)
     EXPECT_TRUE(player.WaitForDialogs(0));
     EXPECT_TRUE(WaitUntil([&] { return IsAbove(player); }));
     const auto stored = StoredSettings();
-    EXPECT_EQ(stored.AlwaysOnTop, -1);
-    EXPECT_EQ(stored.DisableScreenSaver, -1);
+    EXPECT_EQ(stored.AlwaysOnTop, 1); // nobody has touched these two
+    EXPECT_EQ(stored.DisableScreenSaver, 1);
     EXPECT_EQ(stored.KeepHistory, 0);
     EXPECT_EQ(stored.TitleBarMode, 0);
     EXPECT_EQ(stored.PlaylistPosition, 1);
