@@ -111,6 +111,16 @@ VideoSurface::~VideoSurface()
         m_sink->Close();
 }
 
+void VideoSurface::Vanish()
+{
+    if (m_sink)
+        m_sink->Close();
+    setObjectName(QString());
+    hide();
+    if (auto* const frame = qobject_cast<VideoFrame*>(parentWidget()))
+        frame->Forget(*this);
+}
+
 bool VideoSurface::TakesWindowNumber()
 {
     const auto name = QGuiApplication::platformName();
@@ -178,6 +188,14 @@ VideoSurface* VideoFrame::AddSurface()
     m_surface->show();
     KeepBelow();
     return m_surface;
+}
+
+void VideoFrame::Forget(const VideoSurface& surface)
+{
+    if (m_surface != &surface)
+        return;
+    m_surface = nullptr;
+    update();
 }
 
 void VideoFrame::ShowAudioLogo(bool shown)
