@@ -38,6 +38,7 @@ const Kind& KindOf(const std::string& name)
         { ".wav", { {}, { "-c:a", "pcm_s16le" }, "wav" } },
         { ".ogg", { {}, vorbis, "ogg" } },
         { ".m4a", { {}, aac, "ipod" } },
+        { ".aac", { {}, aac, "adts" } },
         { ".wma", { {}, { "-c:a", "wmav2" }, "asf" } },
         { ".mka", { {}, vorbis, "matroska" } },
     };
