@@ -51,7 +51,8 @@ MediaPlayback MediaRemote::Playback() const
     auto* const engine = m_player.Transporting().Host().VLCPlayer();
     if (engine == nullptr || !m_player.State().mediaControlsEnabled)
         return MediaPlayback::Stopped;
-    return engine->State() == Engine::kPaused ? MediaPlayback::Paused : MediaPlayback::Playing;
+    const bool isPaused = m_player.State().isPaused || engine->State() == Engine::kPaused;
+    return isPaused ? MediaPlayback::Paused : MediaPlayback::Playing;
 }
 
 platform::MediaStatus MediaRemote::Status()

@@ -35,6 +35,7 @@ public:
     void Add(const MediaLocation&, const EngineOptions&) override { }
     void Play() override { }
     void TogglePause() override { }
+    void SetPause(bool) override { }
     void Stop() override { }
     int ItemCount() override { return 1; }
 

@@ -41,7 +41,7 @@ public:
     static constexpr int kPaused = 4;
     static constexpr int kStopped = 5;
     static constexpr int kEnded = 6;
-    static constexpr int kFailed = 7;
+    static constexpr int kFailed = 7; ///< over, and nothing of it was ever seen or heard
 
     /// The engine decides by the video.
     static constexpr const char* kDeinterlaceAuto = "auto";
@@ -98,6 +98,9 @@ public:
     virtual void Add(const MediaLocation& location, const EngineOptions& options) = 0;
     virtual void Play() = 0;
     virtual void TogglePause() = 0;
+    /// Holds the item, or lets it go on. Holding takes effect once it plays, if that is still to come.
+    virtual void SetPause(bool paused) = 0;
+    /// Never waits for the source; played again, the item starts afresh.
     virtual void Stop() = 0;
     virtual int ItemCount() = 0;
 };

@@ -45,7 +45,7 @@ PositionTick ReadPosition(const EngineReading& reading, bool mediaControlsEnable
     // stands at the total while a menu waits.
     const bool endedByState = reading.state >= Engine::kEnded;
     tick.hasEnded = mediaControlsEnabled && (endedByState || (!reading.isDisc && EndedByTheClock(reading)));
-    tick.hasFailed = tick.hasEnded && endedByState && reading.position <= 0 && reading.time <= 0 && reading.length <= 0;
+    tick.hasFailed = tick.hasEnded && reading.state == Engine::kFailed;
     return tick;
 }
 

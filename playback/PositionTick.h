@@ -23,7 +23,7 @@ struct PositionTick {
     std::string timeText;
     std::optional<bool> showAudioLogo; ///< nothing leaves it as it is
     bool hasEnded = false;
-    /// With hasEnded: the item never played at all.
+    /// With hasEnded: nothing of the item was ever seen or heard.
     bool hasFailed = false;
 };
 

@@ -65,6 +65,7 @@ void Transport::Play()
 void Transport::ItemStarted()
 {
     m_rate.ItemStarted();
+    m_state.isPaused = false;
     m_state.progress = 0;
     m_state.length = 0;
     // The logo of the sound before must not cover the first pictures; between two sounds it stays.
@@ -84,8 +85,18 @@ void Transport::EnableMediaControls(bool enabled)
 
 void Transport::CMDPauseClick()
 {
-    if (auto* const engine = m_host.VLCPlayer())
+    auto* const engine = m_host.VLCPlayer();
+    if (engine == nullptr)
+        return;
+    if (!m_state.mediaControlsEnabled || engine->State() >= Engine::kPlaying) {
         engine->TogglePause();
+        m_state.isPaused = m_state.mediaControlsEnabled && engine->State() == Engine::kPaused;
+    } else {
+        // An engine that still opens its item forgets a pause; this one keeps it, and a second press takes it back.
+        m_state.isPaused = !m_state.isPaused;
+        engine->SetPause(m_state.isPaused);
+    }
+    m_observer.TransportChanged();
 }
 
 void Transport::cmdStopClick()
@@ -101,6 +112,7 @@ void Transport::cmdStopClick()
 void Transport::ShowIdle()
 {
     m_state.isWatched = false;
+    m_state.isPaused = false;
     m_state.showAudioLogo = false;
     m_state.progress = 0;
     m_state.length = 0;
@@ -257,6 +269,8 @@ std::optional<ItemEnd> Transport::OnPositionTick()
     const auto tick = ReadPosition(reading, m_state.mediaControlsEnabled);
     m_state.hasVideoOutput = reading.hasVideoOutput;
     m_state.isWatched = HoldsOffSleep(reading);
+    if (reading.state >= Engine::kPlaying)
+        m_state.isPaused = reading.isLoaded && reading.state == Engine::kPaused;
     m_state.length = reading.length;
     m_state.timeText = tick.timeText;
     m_state.progress = tick.progress ? std::clamp(*tick.progress, 0, 100) / 100.0 : m_state.progress;

@@ -32,6 +32,7 @@ struct TransportState {
     bool hasVideoOutput = false;
     bool isWatched = false; ///< a video is playing: somebody may be watching
     bool showAudioLogo = false;
+    bool isPaused = false;    ///< or will be as soon as it plays
     bool isRewinding = false; ///< Transport::OnRewindTick is due every 10 ms
     bool isMuted = false;
     int volume = 100;      ///< 0 to 100

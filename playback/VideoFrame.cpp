@@ -24,6 +24,8 @@ void MakeBlack(QWidget& widget)
     widget.setAutoFillBackground(true);
 }
 
+constexpr int kSmallestSurface = 32; // px
+
 constexpr int kMarkRadius = 30; // px
 constexpr int kHintGap = 14;    // px, between the mark and the words under it
 
@@ -111,6 +113,16 @@ VideoSurface::~VideoSurface()
         m_sink->Close();
 }
 
+void VideoSurface::Vanish()
+{
+    if (m_sink)
+        m_sink->Close();
+    setObjectName(QString());
+    hide();
+    if (auto* const frame = qobject_cast<VideoFrame*>(parentWidget()))
+        frame->Forget(*this);
+}
+
 bool VideoSurface::TakesWindowNumber()
 {
     const auto name = QGuiApplication::platformName();
@@ -180,6 +192,14 @@ VideoSurface* VideoFrame::AddSurface()
     return m_surface;
 }
 
+void VideoFrame::Forget(const VideoSurface& surface)
+{
+    if (m_surface != &surface)
+        return;
+    m_surface = nullptr;
+    update();
+}
+
 void VideoFrame::ShowAudioLogo(bool shown)
 {
     if (shown == m_logo->isVisible())
@@ -217,7 +237,9 @@ QRect VideoFrame::Inner() const
         return qRound(from * ratio) + qRound(size * ratio) > qRound((from + size) * ratio);
     };
     const auto at = mapTo(window(), QPoint());
-    return rect().adjusted(0, 0, sticksOut(at.x(), width()) ? -1 : 0, sticksOut(at.y(), height()) ? -1 : 0);
+    const auto inner = rect().adjusted(0, 0, sticksOut(at.x(), width()) ? -1 : 0, sticksOut(at.y(), height()) ? -1 : 0);
+    // The engine divides by the size of its window, and a hidden frame can have none.
+    return { inner.topLeft(), inner.size().expandedTo({ kSmallestSurface, kSmallestSurface }) };
 }
 
 void VideoFrame::PlaceParts()

@@ -50,6 +50,8 @@ public:
     /// True when the engine can be handed this window's number.
     static bool TakesWindowNumber();
     const std::shared_ptr<PictureSink>& Sink() const { return m_sink; }
+    /// Nothing of it is seen any more. The engine may draw on it until it is deleted.
+    void Vanish();
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -81,8 +83,10 @@ class VideoFrame : public QWidget {
 public:
     VideoFrame(const QString& logoPath, QWidget* parent);
 
-    /// A fresh surface over the whole frame. The caller removes it.
+    /// A fresh surface over the whole frame. The caller lets it vanish, and deletes it.
     VideoSurface* AddSurface();
+    /// The surface is no longer what the frame shows.
+    void Forget(const VideoSurface& surface);
     void ShowAudioLogo(bool shown);
     /// Whether the pointer is seen over the video.
     void ShowPointer(bool shown);

@@ -4,30 +4,20 @@
 #include "platform/Window.h"
 #include "playback/VideoFrame.h"
 
-#include <QGuiApplication>
-#include <QPointer>
+#include <QCoreApplication>
 #include <vlc/vlc.h>
 
 #include <algorithm>
-#include <cstdarg>
-#include <cstring>
 #include <vector>
 
 namespace zentaro {
 
 namespace {
 
-constexpr long kLogLimit = 1'000'000; // bytes
 constexpr auto kSoundPause = std::chrono::seconds(30);
-
-void OnLogMessage(void* log, int level, const libvlc_log_t*, const char* format, va_list arguments)
-{
-    if (level < LIBVLC_WARNING)
-        return;
-    char text[1024];
-    std::vsnprintf(text, sizeof text, format, arguments);
-    static_cast<VlcLog*>(log)->Write(level, text);
-}
+/// What an item before may take to end: it holds the sound device, or the drive. Nearly all need less.
+constexpr auto kEndingWait = std::chrono::milliseconds(50);
+constexpr auto kLastWait = std::chrono::seconds(1);
 
 std::shared_ptr<libvlc_instance_t> StartLibrary(const std::vector<std::string>& arguments)
 {
@@ -52,79 +42,18 @@ std::vector<std::string> CommonArguments(bool plainOutput)
     return arguments;
 }
 
-// memory output: the library writes into pictures of ours
-unsigned OnFormat(void** opaque, char* chroma, unsigned* width, unsigned* height, unsigned* pitches, unsigned* lines)
-{
-    auto& sink = *static_cast<PictureSink*>(*opaque);
-    std::memcpy(chroma, "RV32", 4);
-    if (!sink.Resize(*width, *height))
-        return 0;
-    *pitches = static_cast<unsigned>(sink.BytesPerLine());
-    *lines = *height;
-    return 1;
-}
-
-void* OnLock(void* opaque, void** planes)
-{
-    *planes = static_cast<PictureSink*>(opaque)->NextPicture();
-    return nullptr;
-}
-
-void OnDisplay(void* opaque, void*)
-{
-    static_cast<PictureSink*>(opaque)->Show();
-}
-
 } // namespace
 
-VlcLog::VlcLog(const std::string& path)
-    : m_file(path.empty() ? nullptr : std::fopen(path.c_str(), "w"))
-    , m_room(kLogLimit)
-{
-}
-
-VlcLog::~VlcLog()
-{
-    if (m_file != nullptr)
-        std::fclose(m_file);
-}
-
-void VlcLog::Attach(libvlc_instance_t* instance)
-{
-    libvlc_log_set(instance, &OnLogMessage, this);
-}
-
-void VlcLog::Write(int level, const char* text)
-{
-    if (std::strstr(text, "failed to create audio output") != nullptr)
-        m_soundFailed = true;
-    const std::lock_guard lock(m_mutex);
-    if (m_file == nullptr || m_room <= 0)
-        return;
-    m_room -= std::fprintf(m_file, "%s: %s\n", level == LIBVLC_ERROR ? "error" : "warning", text);
-    std::fflush(m_file);
-}
-
-/// One libVLC player with its own instance and surface. Library threads only set the flags; everything else runs on the
-/// UI thread.
+/// Plays one item. Each start of it has a player of the library of its own, and no stop is waited for.
 class VlcEngine final : public Engine {
 public:
-    VlcEngine(VlcEngines& engines, VideoSurface* surface)
+    explicit VlcEngine(VlcEngines& engines)
         : m_engines(engines)
-        , m_surface(surface)
+        , m_self(std::make_shared<VlcEngine*>(this))
     {
     }
 
-    ~VlcEngine() override
-    {
-        if (m_player != nullptr) {
-            auto* const events = libvlc_media_player_event_manager(m_player);
-            libvlc_event_detach(events, libvlc_MediaPlayerEncounteredError, &OnFailed, this);
-            libvlc_media_player_stop(m_player);
-            libvlc_media_player_release(m_player);
-        }
-        delete m_surface.data();
-    }
+    ~VlcEngine() override { Close(); }
 
     void SetVolume(int percent) override
     {
@@ -160,7 +89,7 @@ public:
     {
         if (m_player == nullptr)
             return false;
-        auto* const media = libvlc_media_new_path(m_instance.get(), path.c_str());
+        auto* const media = libvlc_media_new_path(m_library.instance.get(), path.c_str());
         auto* const address = media != nullptr ? libvlc_media_get_mrl(media) : nullptr;
         const bool isAdded = address != nullptr
             && libvlc_media_player_add_slave(m_player, libvlc_media_slave_type_subtitle, address, true) == 0;
@@ -210,9 +139,8 @@ public:
     int State() override
     {
         if (m_player == nullptr)
-            return 0;
-        // By its state alone the library shows a failed item as an ended one.
-        return m_failed ? kFailed : static_cast<int>(libvlc_media_player_get_state(m_player));
+            return m_isAdded ? kStopped : 0;
+        return m_item->State();
     }
 
     double Rate() override { return m_player ? static_cast<double>(libvlc_media_player_get_rate(m_player)) : 1.0; }
@@ -232,52 +160,45 @@ public:
 
     void Add(const MediaLocation& location, const EngineOptions& options) override
     {
-        if (m_player != nullptr)
+        if (m_isAdded)
             return;
-        m_instance = m_engines.NewInstance();
-        if (!m_instance)
-            return;
-        auto* const media = location.isLocation ? libvlc_media_new_location(m_instance.get(), location.text.c_str())
-                                                : libvlc_media_new_path(m_instance.get(), location.text.c_str());
-        if (media == nullptr)
-            return;
-        for (const auto& option : options)
-            libvlc_media_add_option(media, option.c_str());
-        // No card decodes either, and asking for one makes the card's library complain on the terminal. The player
-        // would forget this one; the item keeps it.
-        if (m_engines.m_plainOutput)
-            libvlc_media_add_option(media, ":avcodec-hw=none");
-        m_player = libvlc_media_player_new_from_media(media);
-        libvlc_media_release(media);
-        if (m_player != nullptr)
-            Prepare();
+        m_location = location;
+        m_options = options;
+        m_isAdded = Open();
     }
 
     void Play() override
     {
-        if (m_player == nullptr)
+        if (!m_isAdded)
             return;
+        const auto state = State();
         // An ended player takes no order but stop.
-        if (libvlc_media_player_get_state(m_player) == libvlc_Ended)
-            libvlc_media_player_stop(m_player);
-        m_failed = false;
+        if (state >= kEnded)
+            Close();
+        if (m_player == nullptr && !Open())
+            return;
+        if (state > 0)
+            m_pauseWaits = false;
         libvlc_media_player_play(m_player);
     }
 
-    void TogglePause() override
+    void SetPause(bool paused) override
     {
-        if (m_player != nullptr)
-            libvlc_media_player_pause(m_player);
+        const auto state = State();
+        m_pauseWaits = paused && m_isAdded && state < kPlaying;
+        if (m_player == nullptr || m_pauseWaits)
+            return;
+        // The library stops what cannot pause, and waits for it.
+        if (paused ? state == kPlaying && libvlc_media_player_can_pause(m_player) : state == kPaused)
+            libvlc_media_player_set_pause(m_player, paused);
     }
+
+    void TogglePause() override { SetPause(State() != kPaused && !m_pauseWaits); }
 
     void Stop() override
     {
-        if (m_player == nullptr)
-            return;
-        libvlc_media_player_stop(m_player);
-        // The OpenGL output leaves its last picture standing.
-        if (m_surface)
-            m_surface->update();
+        m_pauseWaits = false;
+        Close();
     }
 
     void Navigate(DiscKey key) override
@@ -324,10 +245,18 @@ public:
             libvlc_media_player_set_chapter(m_player, index);
     }
 
-    int ItemCount() override { return m_player != nullptr ? 1 : 0; }
+    int ItemCount() override { return m_isAdded ? 1 : 0; }
 
 private:
-    static void OnFailed(const libvlc_event_t*, void* engine) { static_cast<VlcEngine*>(engine)->m_failed = true; }
+    /// Engine threads. A pause that was asked for too early is given now, where the library may be called.
+    static void PauseLater(std::weak_ptr<VlcEngine*> self)
+    {
+        const auto pause = [self = std::move(self)] {
+            if (const auto engine = self.lock(); engine && (*engine)->m_pauseWaits)
+                (*engine)->SetPause(true);
+        };
+        QMetaObject::invokeMethod(QCoreApplication::instance(), pause, Qt::QueuedConnection);
+    }
 
     template <typename Description> static std::vector<DiscPart> PartsOf(Description* const* all, int count)
     {
@@ -349,40 +278,51 @@ private:
         return tracks;
     }
 
-    /// Everything that a player must know before it plays.
-    void Prepare()
+    bool Open()
     {
-        // The window handles keys and pointer; the library must not compete.
-        libvlc_video_set_mouse_input(m_player, 0);
-        libvlc_video_set_key_input(m_player, 0);
-        AttachSurface();
+        m_engines.WaitForEndings();
+        m_library = m_engines.NewLibrary();
+        if (!m_library.instance)
+            return false;
+        auto* const instance = m_library.instance.get();
+        auto* const media = m_location.isLocation ? libvlc_media_new_location(instance, m_location.text.c_str())
+                                                  : libvlc_media_new_path(instance, m_location.text.c_str());
+        if (media == nullptr)
+            return false;
+        for (const auto& option : m_options)
+            libvlc_media_add_option(media, option.c_str());
+        // No card decodes either, and asking for one makes the card's library complain on the terminal. The player
+        // would forget this one; the item keeps it.
+        if (m_engines.m_plainOutput)
+            libvlc_media_add_option(media, ":avcodec-hw=none");
+        m_item = std::make_unique<VlcItem>(
+            m_library, media, m_engines.m_frame.AddSurface(), [self = std::weak_ptr(m_self)] { PauseLater(self); });
+        m_player = m_item->Player();
+        if (m_player == nullptr)
+            return false;
         if (!m_engines.MayTrySound())
             libvlc_audio_output_set(m_player, "adummy");
         libvlc_audio_set_volume(m_player, m_volume);
         libvlc_audio_set_mute(m_player, m_muted);
-        libvlc_event_attach(
-            libvlc_media_player_event_manager(m_player), libvlc_MediaPlayerEncounteredError, &OnFailed, this);
+        m_deinterlacing = kDeinterlaceAuto;
+        return true;
     }
 
-    void AttachSurface()
+    void Close()
     {
-        if (const auto sink = m_surface->Sink()) {
-            m_sink = sink;
-            libvlc_video_set_callbacks(m_player, &OnLock, nullptr, &OnDisplay, m_sink.get());
-            libvlc_video_set_format_callbacks(m_player, &OnFormat, nullptr);
-        } else if (QGuiApplication::platformName() == "windows") {
-            libvlc_media_player_set_hwnd(m_player, reinterpret_cast<void*>(m_surface->winId()));
-        } else {
-            libvlc_media_player_set_xwindow(m_player, static_cast<std::uint32_t>(m_surface->winId()));
-        }
+        m_player = nullptr;
+        m_engines.End(std::move(m_item));
     }
 
     VlcEngines& m_engines;
-    QPointer<VideoSurface> m_surface;
-    std::shared_ptr<PictureSink> m_sink;
-    VlcEngines::Instance m_instance;
-    libvlc_media_player_t* m_player = nullptr;
-    std::atomic<bool> m_failed = false;
+    std::shared_ptr<VlcEngine*> m_self; // late calls find it gone
+    MediaLocation m_location;
+    EngineOptions m_options;
+    VlcLibrary m_library;
+    std::unique_ptr<VlcItem> m_item;
+    libvlc_media_player_t* m_player = nullptr; // the item's; null while it is stopped
+    bool m_isAdded = false;
+    bool m_pauseWaits = false; // until it plays
     std::string m_deinterlacing = kDeinterlaceAuto;
     int m_volume = 100;
     bool m_muted = false;
@@ -390,12 +330,14 @@ private:
 
 VlcEngines::VlcEngines(VideoFrame& frame, const std::string& logPath)
     : m_frame(frame)
-    , m_log(logPath)
+    , m_log(std::make_shared<VlcLog>(logPath))
+    , m_endings(std::make_shared<VlcEndings>())
 {
 }
 
 VlcEngines::~VlcEngines()
 {
+    m_endings->Wait(kLastWait);
     if (m_base.valid())
         m_base.wait();
 }
@@ -416,22 +358,33 @@ std::unique_ptr<Engine> VlcEngines::Create()
         Prepare();
     if (!m_base.get())
         return nullptr;
-    return std::make_unique<VlcEngine>(*this, m_frame.AddSurface());
+    return std::make_unique<VlcEngine>(*this);
 }
 
-VlcEngines::Instance VlcEngines::NewInstance()
+VlcLibrary VlcEngines::NewLibrary()
 {
-    auto instance = StartLibrary(CommonArguments(m_plainOutput));
-    if (!instance)
-        instance = m_base.get();
-    m_log.Attach(instance.get());
-    return instance;
+    VlcLibrary library{ m_log, StartLibrary(CommonArguments(m_plainOutput)) };
+    if (!library.instance)
+        library.instance = m_base.get();
+    m_log->Attach(library.instance.get());
+    return library;
+}
+
+void VlcEngines::End(std::unique_ptr<VlcItem> item)
+{
+    VlcItem::End(std::move(item), m_endings);
+}
+
+void VlcEngines::WaitForEndings()
+{
+    m_endings->Wait(kEndingWait);
 }
 
 bool VlcEngines::MayTrySound()
 {
     const auto now = std::chrono::steady_clock::now();
-    if (m_log.TakeSoundFailure())
+    // An item that has not ended yet can hold the device.
+    if (m_log->TakeSoundFailure() && !m_endings->AreAny())
         m_silentUntil = now + kSoundPause;
     return now >= m_silentUntil;
 }

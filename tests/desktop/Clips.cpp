@@ -45,7 +45,7 @@ std::string Clips::Make(const std::string& name, double seconds, const std::stri
 
 bool Clips::IsSoundOnly(const std::string& name)
 {
-    static const std::set<std::string> kinds = { ".mp3", ".wav", ".ogg", ".m4a", ".wma", ".mka" };
+    static const std::set<std::string> kinds = { ".mp3", ".wav", ".ogg", ".m4a", ".aac", ".wma", ".mka" };
     return kinds.contains(ExtensionOf(name));
 }
 

@@ -1,8 +1,10 @@
 #include "tests/desktop/Clips.h"
+#include "tests/desktop/Process.h"
 #include "tests/live/LivePlayer.h"
 
 #include <cmath>
 #include <cstdlib>
+#include <filesystem>
 
 namespace zentaro::live {
 namespace {
@@ -105,6 +107,28 @@ TEST_F(Ends, EveryKindOfFileEndsOnceAndIsFollowedByTheNext)
         EXPECT_EQ(watch.played, clips);
     }
     EXPECT_TRUE(world.window.notes.empty());
+}
+
+TEST_F(Ends, TheShortestFilesEndAndOnlyThoseThatGiveNothingFail)
+{
+    player.Sequence().SetRepeatMode(kNoRepeat);
+    const auto fails = [&](const std::string& path) {
+        player.Sequence().RemoveAll();
+        AddEntries({ path });
+        PlayAt(1);
+        EXPECT_TRUE(RunUntilIdle());
+        return watch.state == Engine::kFailed;
+    };
+    for (const auto* const kind : { "avi", "mkv", "mpg", "mp3", "aac", "wav", "ogg" })
+        EXPECT_FALSE(fails(Clips::Make(std::string("short.") + kind, 0.3))) << kind;
+    trial::WriteWholeFile(folder + "text.avi", "Only words.");
+    trial::WriteWholeFile(folder + "noise.mp3", std::string(20'000, '\x55'));
+    trial::WriteWholeFile(folder + "empty.mp4", "");
+    // Its header tells of a length, but nothing is there to be decoded.
+    std::filesystem::copy_file(Clips::Make("whole.mkv", 3), folder + "cut.mkv");
+    std::filesystem::resize_file(folder + "cut.mkv", 700);
+    for (const auto* const name : { "text.avi", "noise.mp3", "empty.mp4", "cut.mkv", "gone.mp4" })
+        EXPECT_TRUE(fails(folder + name)) << name;
 }
 
 } // namespace

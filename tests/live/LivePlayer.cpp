@@ -61,6 +61,7 @@ public:
     }
     void Play() override { m_engine->Play(); }
     void TogglePause() override { m_engine->TogglePause(); }
+    void SetPause(bool paused) override { m_engine->SetPause(paused); }
     void Stop() override { m_engine->Stop(); }
     int ItemCount() override { return m_engine->ItemCount(); }
 

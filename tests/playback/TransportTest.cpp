@@ -118,6 +118,26 @@ TEST_F(TransportTest, the_chosen_rate_holds_for_an_item_and_what_is_held_ends_wi
     EXPECT_EQ(trace.rateSet, 0);
 }
 
+TEST_F(TransportTest, a_pause_of_an_item_that_still_opens_is_kept_and_taken_back)
+{
+    trace.state = 1; // opening
+    PlayItem();
+    transport.CMDPauseClick();
+    EXPECT_TRUE(state.isPaused);
+    EXPECT_EQ(trace.state, Engine::kPaused); // what the engine was told
+    trace.state = 1;
+    transport.OnPositionTick();
+    EXPECT_TRUE(state.isPaused);
+    transport.CMDPauseClick();
+    EXPECT_FALSE(state.isPaused);
+    EXPECT_EQ(trace.state, Engine::kPlaying);
+    transport.CMDPauseClick();
+    EXPECT_TRUE(state.isPaused);
+    transport.CMDPauseClick();
+    transport.OnPositionTick();
+    EXPECT_FALSE(state.isPaused);
+}
+
 TEST_F(TransportTest, openings_and_stops_put_what_was_begun_out_of_date)
 {
     const auto before = transport.Generation();

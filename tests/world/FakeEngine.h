@@ -69,6 +69,7 @@ public:
     int Chapter() override { return -1; }
     void SetChapter(int) override { }
     void TogglePause() override { m_trace.state = m_trace.state == kPaused ? kPlaying : kPaused; }
+    void SetPause(bool paused) override { m_trace.state = paused ? kPaused : kPlaying; }
     void Stop() override { ++m_trace.stops; }
     int ItemCount() override { return m_trace.takesItems ? 1 : 0; }
 
