@@ -1,18 +1,8 @@
 #include "app/ContentPane.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace zentaro {
-
-namespace {
-
-constexpr int kSplitterWidth = 6;   // px
-constexpr int kPaneMinimum = 96;    // px
-constexpr double kListShare = 0.45; // of the content
-constexpr int kListRoom = 280;      // px, at the most
-
-} // namespace
 
 ContentPane::ContentPane(QWidget& video, QWidget& list, QWidget* parent)
     : QSplitter(parent)
@@ -20,15 +10,13 @@ ContentPane::ContentPane(QWidget& video, QWidget& list, QWidget* parent)
     , m_list(list)
 {
     setChildrenCollapsible(false);
-    setHandleWidth(kSplitterWidth);
-    for (auto* const pane : { &m_video, &m_list }) {
-        pane->setMinimumSize(kPaneMinimum, kPaneMinimum);
+    setHandleWidth(PaneShare::kSplitter);
+    for (auto* const pane : { &m_video, &m_list })
         addWidget(pane);
-    }
     connect(this, &QSplitter::splitterMoved, this, [this] { m_isSplitByHand = true; });
 }
 
-void ContentPane::Arrange(PlaylistDock dock, bool isFilled)
+void ContentPane::Arrange(PlaylistDock dock, bool isFilled, const QRect& place)
 {
     // Hiding keeps the place, so that the splitter is where it was when the list comes back.
     if (dock < PlaylistDock::Whole && std::exchange(m_splitFor, dock) != dock) {
@@ -40,26 +28,21 @@ void ContentPane::Arrange(PlaylistDock dock, bool isFilled)
         setStretchFactor(indexOf(&m_list), 0);
         m_isSplitByHand = false;
     }
-    m_list.setVisible(!isFilled && dock != PlaylistDock::Hidden);
+    const bool isShared = !isFilled && dock < PlaylistDock::Whole;
+    const bool isStacked = orientation() == Qt::Vertical;
+    const auto room = isStacked ? place.height() : place.width();
+    const auto share = isShared ? SharePanes(room) : PaneShare();
+    // Panes that need more than there is would stick out over the controls.
+    for (auto* const pane : { &m_video, &m_list })
+        isStacked ? pane->setMinimumSize(0, share.minimum) : pane->setMinimumSize(share.minimum, 0);
+    m_list.setVisible(!isFilled && dock != PlaylistDock::Hidden && (!isShared || share.list > 0));
     m_video.setVisible(isFilled || dock != PlaylistDock::Whole);
-    m_isShared = !isFilled && dock < PlaylistDock::Whole;
-    Share();
-}
-
-void ContentPane::SetPlace(const QRect& place)
-{
     setGeometry(place);
-    Share();
-}
-
-void ContentPane::Share()
-{
-    if (!m_isShared || m_isSplitByHand)
+    // The list has its usual share until the splitter is moved.
+    if (!isShared || m_isSplitByHand)
         return;
-    const auto room = orientation() == Qt::Vertical ? height() : width();
-    const auto listRoom = std::min(static_cast<int>(room * kListShare), kListRoom);
     const bool isListFirst = indexOf(&m_list) == 0;
-    setSizes(isListFirst ? QList{ listRoom, room - listRoom } : QList{ room - listRoom, listRoom });
+    setSizes(isListFirst ? QList{ share.list, room - share.list } : QList{ room - share.list, share.list });
 }
 
 } // namespace zentaro

@@ -14,18 +14,14 @@ public:
     /// Takes both over.
     ContentPane(QWidget& video, QWidget& list, QWidget* parent);
 
-    /// Puts the list where it is docked; while the window is filled with the video there is no list.
-    void Arrange(PlaylistDock dock, bool isFilled);
-    void SetPlace(const QRect& place);
+    /// Takes this place and puts the list where it is docked; while the window is filled with the video, and where
+    /// there is no room for both, there is no list.
+    void Arrange(PlaylistDock dock, bool isFilled, const QRect& place);
 
 private:
-    /// The list has its usual share until the splitter is moved.
-    void Share();
-
     QWidget& m_video;
     QWidget& m_list;
     PlaylistDock m_splitFor = PlaylistDock::Hidden; // the docking that the splitter stands for
-    bool m_isShared = false;
     bool m_isSplitByHand = false;
 };
 

@@ -114,11 +114,10 @@ void ControlPanel::Show()
 
 void ControlPanel::Place(QWidget* control, QWidget* home, const Rect& rect)
 {
-    if (control->parentWidget() != home) {
+    if (control->parentWidget() != home)
         control->setParent(home);
-        control->show();
-    }
     control->setGeometry(ToQt(rect));
+    control->setVisible(rect.width > 0);
 }
 
 template <typename Layout> void ControlPanel::PlaceSliders(QWidget* home, const Layout& layout)
@@ -133,10 +132,8 @@ void ControlPanel::PlaceOnWindow(const WindowLayout& layout)
 {
     PlaceSliders(m_window, layout);
     m_rate->setGeometry(ToQt(layout.RateLabel()));
-    for (const auto& [button, widget] : m_buttons) {
+    for (const auto& [button, widget] : m_buttons)
         Place(widget, m_window, layout.ButtonRect(button));
-        widget->setVisible(true);
-    }
 }
 
 void ControlPanel::PlaceOnBar(FullScreenBar& bar, int width)
@@ -146,10 +143,10 @@ void ControlPanel::PlaceOnBar(FullScreenBar& bar, int width)
     PlaceSliders(&bar, layout);
     for (const auto& [button, widget] : m_buttons) {
         // Its place is taken by the bar's own button, which leaves full screen.
-        const auto rect = button == Button::FullScreen ? Rect() : layout.ButtonRect(button);
-        widget->setVisible(rect.width > 0);
-        if (rect.width > 0)
+        if (const auto rect = layout.ButtonRect(button); button != Button::FullScreen && rect.width > 0)
             Place(widget, &bar, rect);
+        else
+            widget->hide();
     }
 }
 

@@ -128,7 +128,7 @@ void Dialogs::ShowOptions()
     auto* const options =
         new frmSettings(PagesOf(m_player.Settings()), Rows(m_player.Types().Choices()), m_window.Pictures(), &m_window);
     QObject::connect(options, &frmSettings::Commit, &m_window,
-        [this](const SettingsPages& pages) { m_player.CommitOptions(pages); });
+        [this](const SettingsPages& shown, const SettingsPages& chosen) { m_player.CommitOptions(shown, chosen); });
     Open(options);
 }
 

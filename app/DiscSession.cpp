@@ -140,6 +140,7 @@ void DiscSession::Play()
 {
     m_transport.Play();
     m_transport.ItemStarted();
+    m_window.BringFilmForward();
     auto& entries = m_library.Entries();
     for (int i = 0; i < entries.Count(); ++i) {
         if (IsDiscLocation(entries.PathAt(i)))

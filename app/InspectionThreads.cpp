@@ -3,25 +3,39 @@
 #include "base/Paths.h"
 #include "inspect/ConsoleToolRunner.h"
 #include "inspect/clsSource.h"
+#include "platform/ChildProcess.h"
 
 #include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
 #include <filesystem>
+#include <mutex>
 #include <system_error>
+#include <thread>
 #include <utility>
+#include <vector>
 
 namespace zentaro {
 
 namespace {
 
+using Clock = std::chrono::steady_clock;
+
+constexpr auto kLastMoment = std::chrono::milliseconds(100);
+constexpr auto kWatchRound = std::chrono::milliseconds(200);
+
 /// Starts no further tool for an inspection that nobody waits for.
 class CancellableRunner : public ToolRunner {
 public:
-    CancellableRunner(ToolContext& tools, const std::atomic<bool>& cancelled)
+    /// `sign` is called at least every 40 ms while a tool runs.
+    CancellableRunner(ToolContext& tools, const std::atomic<bool>& cancelled, const std::function<void()>& sign)
         : m_runner(tools)
         , m_cancelled(cancelled)
     {
         // A hook that is set before its run starts would be forgotten there.
-        tools.pumpMessages = [&tools, &cancelled] {
+        tools.pumpMessages = [&tools, &cancelled, sign] {
+            sign();
             if (!cancelled)
                 return;
             tools.CancelExecute = -1;
@@ -85,12 +99,133 @@ Inspection ToInspection(const clsSource& source, InspectionFiles& files)
 
 } // namespace
 
+/// One inspection. Its thread and the window's thread share it.
+struct InspectionThreads::Job {
+    int ticket = 0;
+    std::string path;
+    std::string folder; // with a trailing separator; empty when there is no place for one
+    std::shared_ptr<const InspectionContext> context;
+    std::atomic<bool> cancelled = false;
+    /// When its thread last showed that it goes on.
+    std::atomic<Clock::time_point> lastSign = Clock::now();
+    ToolContext tools;
+
+    Inspection Inspect()
+    {
+        std::error_code ignored;
+        // A folder that is not new is not ours to remove.
+        if (!std::filesystem::create_directory(folder, ignored))
+            return Refusal("No working folder can be made.");
+        CancellableRunner runner(tools, cancelled, [this] { lastSign = Clock::now(); });
+        auto ownContext = *context;
+        ownContext.tools = &runner;
+        ownContext.workingFolder = folder;
+        clsSource source(ownContext);
+        source.GetVideoInformation(path);
+        auto inspection = ToInspection(source, *context->files);
+        std::filesystem::remove_all(folder, ignored);
+        return inspection;
+    }
+
+    bool IsStuck() const { return !cancelled && Clock::now() - lastSign.load() >= context->reportLimit.total; }
+};
+
+/// The inspections at work, and the way of their results.
+class InspectionThreads::Jobs : public std::enable_shared_from_this<Jobs> {
+public:
+    explicit Jobs(std::function<void(int, Inspection)> deliver)
+        : m_deliver(std::move(deliver))
+    {
+    }
+
+    void Start(const std::shared_ptr<Job>& job)
+    {
+        const std::lock_guard lock(m_mutex);
+        try {
+            std::thread([self = shared_from_this(), job] { self->Finish(job, job->Inspect()); }).detach();
+            m_jobs.push_back(job);
+            if (m_isWatched)
+                return;
+            std::thread([self = shared_from_this()] { self->Watch(); }).detach();
+            m_isWatched = true;
+        } catch (const std::system_error& error) {
+            // Too many threads. A file that is inspected without being watched is not lost.
+            if (m_jobs.empty() || m_jobs.back() != job)
+                m_deliver(job->ticket, Refusal(error.what()));
+        }
+    }
+
+    void Cancel(int ticket)
+    {
+        const std::lock_guard lock(m_mutex);
+        for (const auto& job : m_jobs)
+            job->cancelled = job->cancelled || job->ticket == ticket;
+    }
+
+    void CancelAll()
+    {
+        std::unique_lock lock(m_mutex);
+        for (const auto& job : m_jobs)
+            job->cancelled = true;
+        m_changed.notify_all();
+        platform::EndStartedProcesses();
+        m_changed.wait_for(lock, kLastMoment, [this] { return m_jobs.empty(); });
+        if (m_jobs.empty())
+            return;
+        // One can have started a tool in the moment before.
+        platform::EndStartedProcesses();
+        std::error_code ignored;
+        for (const auto& job : m_jobs)
+            std::filesystem::remove_all(job->folder, ignored);
+    }
+
+private:
+    /// Whoever cancels waits here: afterwards nothing is delivered.
+    void Finish(const std::shared_ptr<Job>& job, Inspection inspection)
+    {
+        const std::lock_guard lock(m_mutex);
+        if (!job->cancelled)
+            m_deliver(job->ticket, std::move(inspection));
+        std::erase(m_jobs, job);
+        m_changed.notify_all();
+    }
+
+    /// Tools have limits of their own. Between them the file itself is read, and a read from a dead drive never ends.
+    void Watch()
+    {
+        std::unique_lock lock(m_mutex);
+        const auto isDone = [this] {
+            return std::ranges::all_of(m_jobs, [](const auto& job) { return job->cancelled.load(); });
+        };
+        while (!m_changed.wait_for(lock, kWatchRound, isDone)) {
+            for (const auto& job : m_jobs) {
+                if (!job->IsStuck())
+                    continue;
+                job->cancelled = true;
+                m_deliver(job->ticket, Refusal(kHangsText));
+            }
+        }
+        m_isWatched = false;
+    }
+
+    std::function<void(int, Inspection)> m_deliver;
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::vector<std::shared_ptr<Job>> m_jobs;
+    bool m_isWatched = false;
+};
+
 InspectionThreads::InspectionThreads(SharedContext context, std::string workingFolder, Post post)
     : m_context(std::move(context))
     , m_workingFolder(std::move(workingFolder))
-    , m_post(std::move(post))
     , m_alive(std::make_shared<InspectionThreads*>(this))
 {
+    m_jobs = std::make_shared<Jobs>([alive = m_alive, post = std::move(post)](int ticket, Inspection inspection) {
+        post([alive, ticket, result = std::move(inspection)] {
+            if (*alive != nullptr && (*alive)->onCompleted)
+                (*alive)->onCompleted(ticket, result);
+        });
+    });
 }
 
 InspectionThreads::~InspectionThreads()
@@ -101,70 +236,23 @@ InspectionThreads::~InspectionThreads()
 
 void InspectionThreads::Start(int ticket, const std::string& path)
 {
-    Forget([](const Job& job) { return job.finished.load(); });
-    const auto& context = m_context();
-    auto& job = m_jobs.emplace_back();
-    job.ticket = ticket;
-    job.folder = m_workingFolder + "inspect" + std::to_string(++m_started) + context.separator;
-    try {
-        job.thread = std::thread([this, &job, context, path] {
-            auto inspection = Inspect(job, context, path);
-            if (!job.cancelled)
-                Deliver(job.ticket, std::move(inspection));
-            job.finished = true;
-        });
-    } catch (const std::system_error& error) {
-        m_jobs.pop_back();
-        Deliver(ticket, Refusal(error.what()));
-    }
-}
-
-void InspectionThreads::Deliver(int ticket, Inspection inspection) const
-{
-    m_post([alive = m_alive, ticket, result = std::move(inspection)] {
-        if (*alive != nullptr && (*alive)->onCompleted)
-            (*alive)->onCompleted(ticket, result);
-    });
-}
-
-Inspection InspectionThreads::Inspect(Job& job, InspectionContext context, const std::string& path) const
-{
-    std::error_code ignored;
-    // A folder that is not new is not ours to remove.
-    if (m_workingFolder.empty() || !std::filesystem::create_directory(job.folder, ignored))
-        return Refusal("No working folder can be made.");
-    CancellableRunner runner(job.tools, job.cancelled);
-    context.tools = &runner;
-    context.workingFolder = job.folder;
-    clsSource source(context);
-    source.GetVideoInformation(path);
-    std::filesystem::remove_all(job.folder, ignored);
-    return ToInspection(source, *context.files);
+    auto job = std::make_shared<Job>();
+    job->ticket = ticket;
+    job->path = path;
+    job->context = m_context();
+    if (!m_workingFolder.empty())
+        job->folder = m_workingFolder + "inspect" + std::to_string(++m_started) + job->context->separator;
+    m_jobs->Start(job);
 }
 
 void InspectionThreads::Cancel(int ticket)
 {
-    for (auto& job : m_jobs) {
-        if (job.ticket == ticket)
-            job.cancelled = true;
-    }
+    m_jobs->Cancel(ticket);
 }
 
 void InspectionThreads::CancelAll()
 {
-    for (auto& job : m_jobs)
-        job.cancelled = true;
-    Forget([](const Job&) { return true; });
-}
-
-void InspectionThreads::Forget(const std::function<bool(const Job&)>& which)
-{
-    m_jobs.remove_if([&](Job& job) {
-        if (!which(job))
-            return false;
-        job.thread.join();
-        return true;
-    });
+    m_jobs->CancelAll();
 }
 
 } // namespace zentaro

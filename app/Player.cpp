@@ -112,9 +112,12 @@ Result<void> Player::WriteConfigurations()
         isPlaceKept ? std::nullopt : std::optional(WindowPlace{ window.WindowLeft(), window.WindowTop() }));
 }
 
-void Player::CommitOptions(const SettingsPages& pages)
+void Player::CommitOptions(const SettingsPages& shown, const SettingsPages& chosen)
 {
-    m_settings.TakePages(pages);
+    m_settings.TakePages(shown, chosen);
+    // To remember the size means the present one; that of an earlier run would make the window jump.
+    if (chosen.rememberLastSize && !shown.rememberLastSize)
+        m_settings.SetWindowSize(m_face.window->WindowWidth(), m_face.window->WindowHeight());
     IgnoreFailure(WriteConfigurations());
     m_settings.SaveVLCOptions();
     m_window.OptionsCommitted();

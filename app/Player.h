@@ -45,8 +45,8 @@ public:
     void Unload();
     /// Writes the settings; fails when the file is gone or must not be written, and then has changed nothing.
     Result<void> WriteConfigurations();
-    /// Takes over what the options dialog holds, while it is open.
-    void CommitOptions(const SettingsPages& pages);
+    /// Takes over what was changed in the options dialog, while it is open.
+    void CommitOptions(const SettingsPages& shown, const SettingsPages& chosen);
 
     /// Does what the command of this key is for, as the menu strip and its shortcuts ask for it. A key that no item
     /// has, and an item that is disabled or hidden, do nothing.

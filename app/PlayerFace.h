@@ -19,6 +19,8 @@ public:
     virtual bool IsMaximized() const = 0;
     virtual double WindowLeft() const = 0; ///< twips
     virtual double WindowTop() const = 0;  ///< twips
+    virtual int WindowWidth() const = 0;   ///< logical pixels, while neither maximised nor full screen
+    virtual int WindowHeight() const = 0;  ///< as above
     virtual bool IsFullScreen() const = 0;
 
     virtual void ShowWindow() = 0;

@@ -35,17 +35,22 @@ void Sequencer::PlayItem(std::int16_t index, bool fullScreen)
         transport.Host().ToggleFullScreen();
 }
 
-void Sequencer::PlayChosen(int index, bool fullScreen)
+void Sequencer::Chosen(Way way)
 {
     m_failuresInRow = 0;
-    m_way = Way::ByTheModes;
+    m_way = way;
+    m_rooms.window.BringFilmForward();
+}
+
+void Sequencer::PlayChosen(int index, bool fullScreen)
+{
+    Chosen(Way::ByTheModes);
     PlayItem(ItemNumber(index), fullScreen);
 }
 
 void Sequencer::PlayEntry(int index)
 {
-    m_failuresInRow = 0;
-    m_way = Way::ByTheModes;
+    Chosen(Way::ByTheModes);
     Entries().List().SetSelectedItem(index);
     PlaySelected();
 }
@@ -54,8 +59,7 @@ void Sequencer::CMDPlayClick()
 {
     if (Entries().Count() == 0)
         return m_rooms.library.OpenFiles(false);
-    m_failuresInRow = 0;
-    m_way = Way::ByTheModes;
+    Chosen(Way::ByTheModes);
     if (m_rooms.transport.Item().kind == TransportItem::Kind::DriveDisc)
         m_rooms.discs.Play();
     else
@@ -93,22 +97,21 @@ void Sequencer::cmdNextClick()
 {
     if (!m_rooms.transport.State().mediaControlsEnabled)
         return;
-    m_failuresInRow = 0;
-    StepOn(Way::Forward);
+    Chosen(Way::Forward);
+    StepOn();
 }
 
 void Sequencer::cmdPreviousClick()
 {
     if (!m_rooms.transport.State().mediaControlsEnabled)
         return;
-    m_failuresInRow = 0;
-    StepOn(Way::Back);
+    Chosen(Way::Back);
+    StepOn();
 }
 
-void Sequencer::StepOn(Way way)
+void Sequencer::StepOn()
 {
-    m_way = way;
-    if (const auto index = way == Way::Back ? Entries().StepPrevious() : Entries().StepNext())
+    if (const auto index = m_way == Way::Back ? Entries().StepPrevious() : Entries().StepNext())
         PlayItem(ItemNumber(*index), false);
 }
 
@@ -216,7 +219,7 @@ void Sequencer::ItemFailed()
     }
     m_rooms.face.window->ShowNote(FileNamePart(path, m_rooms.settings.Separator()) + " cannot be played");
     if (m_way != Way::ByTheModes)
-        return StepOn(m_way);
+        return StepOn();
     const auto& settings = m_rooms.settings.Settings();
     Follow(Entries().OnEndOfItem(settings.PlayMode, settings.RepeatMode), false);
 }

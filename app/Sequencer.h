@@ -66,8 +66,10 @@ public:
 private:
     enum class Way { ByTheModes, Forward, Back };
 
+    /// What plays next is the user's choice: failures of before do not count, and nothing lies over the film.
+    void Chosen(Way way);
     void PlaySelected();
-    void StepOn(Way way);
+    void StepOn();
     /// What the end of an item asks for; the after-play action only when it `hasPlayed`.
     void Follow(const EndOfItem& next, bool hasPlayed);
     void ItemFailed();

@@ -39,7 +39,11 @@ public:
     /// Where the snapshots of that item belong, without a trailing separator.
     std::string SnapshotFolderOf(const std::string& path) const;
 
-    void TakePages(const SettingsPages& pages) { m_settings = WithPages(m_settings, pages); }
+    /// As WithPages.
+    void TakePages(const SettingsPages& shown, const SettingsPages& chosen)
+    {
+        m_settings = WithPages(m_settings, shown, chosen);
+    }
     void SetPlayMode(std::int32_t mode) { m_settings.PlayMode = mode; }
     void SetRepeatMode(std::int32_t mode) { m_settings.RepeatMode = mode; }
     void SetWindowSize(int width, int height);

@@ -68,6 +68,12 @@ void WindowControl::DockPlaylist(PlaylistDock position)
     SetPlaylistPosition(position);
 }
 
+void WindowControl::BringFilmForward()
+{
+    if (m_dock == PlaylistDock::Whole)
+        SetPlaylistPosition(PlaylistDock::Hidden);
+}
+
 void WindowControl::cmdPlayListClick()
 {
     SetPlaylistPosition(m_dock == PlaylistDock::Hidden ? m_settings.StoredDock() : PlaylistDock::Hidden);

@@ -33,6 +33,8 @@ public:
     void SetPlaylistPosition(PlaylistDock position);
     /// The list lies there from now on, also after a restart.
     void DockPlaylist(PlaylistDock position);
+    /// A chosen item starts: a list that takes the whole window goes from before it, until it is asked for again.
+    void BringFilmForward();
     /// Shows or hides the list.
     void cmdPlayListClick();
 

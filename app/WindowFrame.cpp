@@ -59,32 +59,37 @@ WindowFrame::WindowFrame()
     setMouseTracking(true);
     m_geometrySettled.setSingleShot(true);
     m_geometrySettled.setInterval(kSettling);
-    connect(&m_geometrySettled, &QTimer::timeout, this, &WindowFrame::KeepNormalGeometry);
+    connect(&m_geometrySettled, &QTimer::timeout, this, [this] {
+        KeepNormalGeometry();
+        m_isStarting = false;
+    });
 }
 
 void WindowFrame::TakeSize(int width, int height)
 {
-    if (!isMaximized() && !m_fullScreen)
-        resize(QSize(width, height).boundedTo(screen()->availableSize()).expandedTo(minimumSize()));
+    if (isMaximized() || m_fullScreen)
+        return;
+    const QSize wanted(width, height);
+    resize((isVisible() ? wanted.boundedTo(screen()->availableSize()) : wanted).expandedTo(minimumSize()));
 }
 
 void WindowFrame::TakePlace(int left, int top)
 {
     if (isMaximized() || m_fullScreen)
         return;
-    const Rect wanted{ left, top, width(), height() };
-    setGeometry(zentaro::ToQt(MoveOntoScreen(wanted, ScreenAreas(&QScreen::availableGeometry))));
+    move(left, top);
     m_isPlaced = true;
 }
 
 void WindowFrame::PlaceFirst()
 {
+    auto place = geometry();
     if (!m_isPlaced) {
         const auto room = screen()->availableGeometry();
-        QRect place({}, size().boundedTo(room.size()).expandedTo(minimumSize()));
+        place.setSize(size().boundedTo(room.size()));
         place.moveCenter(room.center());
-        setGeometry(place);
     }
+    setGeometry(zentaro::ToQt(MoveOntoScreen(FromQt(place), ScreenAreas(&QScreen::availableGeometry))));
     KeepNormalGeometry();
 }
 
@@ -131,8 +136,9 @@ void WindowFrame::KeepNormalGeometry()
         windowHandle()->setGeometry(FullScreenArea());
     if (isMaximized() || m_fullScreen || isMinimized())
         return;
-    m_normal = geometry();
-    emit NormalSizeChanged(width(), height());
+    const bool isResized = std::exchange(m_normal, geometry()).size() != size();
+    if (isResized && !m_isStarting)
+        emit NormalSizeChanged(width(), height());
 }
 
 void WindowFrame::resizeEvent(QResizeEvent*)

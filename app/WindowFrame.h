@@ -24,10 +24,11 @@ public:
     /// Its place while neither maximised nor full screen, in logical pixels.
     const QRect& NormalGeometry() const { return m_normal; }
 
-    /// Logical pixels; nothing while it is maximised or fills the screen. A screen that is too small limits it.
+    /// Logical pixels; nothing while it is maximised or fills the screen. The screen limits a shown window; before that
+    /// PlaceFirst() does, which knows the screen of the place.
     void TakeSize(int width, int height);
     void TakePlace(int left, int top);
-    /// Gives it its first place, in the middle of the screen, unless it was given one.
+    /// Before it is first shown: where it was put, else in the middle of the screen, and all of it on one screen.
     void PlaceFirst();
     void FillScreen(bool fill);
     void ToggleMaximized();
@@ -35,7 +36,8 @@ public:
 signals:
     /// It fills the screen from now on, or no longer, by whoever's hand.
     void FillsScreenChanged(bool fills);
-    /// Its usual size, in logical pixels, while neither maximised, minimised nor full screen.
+    /// Its usual size, in logical pixels, was changed while it was neither maximised, minimised nor full screen. What
+    /// it takes on by itself at the start is no change.
     void NormalSizeChanged(int width, int height);
     /// Its parts are to be placed anew.
     void Resized();
@@ -64,6 +66,7 @@ private:
     bool m_fullScreen = false;
     bool m_wasMaximized = false; // before full screen
     bool m_isPlaced = false;
+    bool m_isStarting = true; // until its first size on the screen has settled
 };
 
 } // namespace zentaro

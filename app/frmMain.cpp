@@ -225,8 +225,9 @@ void frmMain::PlaceParts()
     // What is hidden must not keep the keys, nor hand them to the next part.
     if (m_dock == PlaylistDock::Hidden && m_list->hasFocus())
         setFocus();
-    m_content->Arrange(m_dock, fills);
-    m_content->SetPlace(fills ? rect() : ToQt(Layout().Content()));
+    // Beside the list the video says it.
+    m_list->SetHint(m_dock == PlaylistDock::Whole ? "Drop files here, or press Ctrl+O" : QString());
+    m_content->Arrange(m_dock, fills, fills ? rect() : ToQt(Layout().Content()));
     if (fills) {
         for (auto* const part : std::initializer_list<QWidget*>{ m_content, m_bar, &m_notes->Box() })
             part->raise();

@@ -35,6 +35,8 @@ public:
     bool IsMaximized() const override { return CountsAsMaximized(); }
     double WindowLeft() const override;
     double WindowTop() const override;
+    int WindowWidth() const override { return NormalGeometry().width(); }
+    int WindowHeight() const override { return NormalGeometry().height(); }
     bool IsFullScreen() const override { return FillsScreen(); }
     void ShowWindow() override;
     void CloseWindow() override { close(); }

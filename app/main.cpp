@@ -11,6 +11,7 @@
 #include "inspect/DiskFiles.h"
 #include "inspect/QtServices.h"
 #include "platform/AssociationShell.h"
+#include "platform/ChildProcess.h"
 #include "platform/Files.h"
 #include "platform/Leftovers.h"
 #include "platform/MediaControl.h"
@@ -28,7 +29,7 @@
 
 #include <chrono>
 #include <cstdio>
-#include <optional>
+#include <memory>
 #include <random>
 #include <utility>
 
@@ -65,6 +66,7 @@ struct InspectionBase {
         context.decodePicture = &DecodePictureFile;
         context.ffmpeg = FindTool("ffmpeg", programFolder);
         context.mpgtx = FindTool("mpgtx", programFolder);
+        context.installAdvice = &platform::InstallAdvice;
         context.separator = platform::PathSeparator();
         context.audioCodecNames = &audioNames;
         context.videoCodecNames = &videoNames;
@@ -149,9 +151,11 @@ int main(int argc, char** argv)
 
     auto* const video = new VideoFrame(ToQString(programFolder) + "Audio.JPG", nullptr);
     VlcEngines engines(*video, workingFolder.empty() ? std::string() : workingFolder + "engine.log");
-    std::optional<InspectionBase> base;
-    const auto inspectionContext = [&]() -> const InspectionContext& {
-        return (base ? *base : base.emplace(programFolder)).context;
+    std::shared_ptr<InspectionBase> base;
+    const auto inspectionContext = [&] {
+        if (!base)
+            base = std::make_shared<InspectionBase>(programFolder);
+        return std::shared_ptr<const InspectionContext>(base, &base->context);
     };
     InspectionThreads inspections(inspectionContext, workingFolder, onWindowThread);
     DriveQueries drives(platform::Drives::Open(), onWindowThread);

@@ -196,7 +196,8 @@ void ManyFilesAdded(benchmark::State& state)
 {
     for (auto _ : state) {
         WorkList work;
-        InspectionThreads threads([]() -> const InspectionContext& { return TheWorld().context; }, TheWorld().folder,
+        const auto context = std::make_shared<const InspectionContext>(TheWorld().context);
+        InspectionThreads threads([&] { return context; }, TheWorld().folder,
             [&](std::function<void()> done) { work.Post(std::move(done)); });
         Playlist playlist([] { return 0.5; });
         SilentHost host;

@@ -52,6 +52,23 @@ std::optional<FileFacts> DiskFiles::Facts(const std::string& path)
     return facts;
 }
 
+FileTrouble DiskFiles::Trouble(const std::string& path)
+{
+    std::error_code problem;
+    const auto name = PathOf(path);
+    const auto type = std::filesystem::status(name, problem).type();
+    if (type == std::filesystem::file_type::not_found)
+        return FileTrouble::Missing;
+    if (type == std::filesystem::file_type::directory)
+        return FileTrouble::Folder;
+    if (type != std::filesystem::file_type::regular) // reading from a pipe could wait for ever
+        return problem ? FileTrouble::Unreadable : FileTrouble::None;
+    if (std::filesystem::file_size(name, problem) == 0)
+        return FileTrouble::Empty;
+    std::ifstream file(name, std::ios::binary);
+    return file.get() == std::ifstream::traits_type::eof() ? FileTrouble::Unreadable : FileTrouble::None;
+}
+
 void DiskFiles::Remove(const std::string& path)
 {
     std::error_code ignored;

@@ -17,6 +17,7 @@ public:
 
     std::optional<std::string> Read(const std::string& path, std::size_t limit) override;
     std::optional<FileFacts> Facts(const std::string& path) override;
+    FileTrouble Trouble(const std::string& path) override;
     void Remove(const std::string& path) override;
 
 private:

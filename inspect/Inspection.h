@@ -4,6 +4,7 @@
 #include "inspect/CodecNames.h"
 #include "inspect/ToolRunner.h"
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -19,6 +20,9 @@ struct FileFacts {
     std::string lastModified; // date and time as a text of the user's locale
 };
 
+/// What keeps a file from being read, as far as its directory entry and its first byte tell.
+enum class FileTrouble { None, Missing, Folder, Empty, Unreadable };
+
 /// The files that an inspection touches.
 class InspectionFiles {
 public:
@@ -26,6 +30,7 @@ public:
     /// The first `limit` bytes; nothing when the file cannot be read.
     virtual std::optional<std::string> Read(const std::string& path, std::size_t limit) = 0;
     virtual std::optional<FileFacts> Facts(const std::string& path) = 0;
+    virtual FileTrouble Trouble(const std::string& path) = 0;
     /// A file that is not there is no failure.
     virtual void Remove(const std::string& path) = 0;
 };
@@ -36,6 +41,11 @@ struct AviStream {
     std::int32_t delay = 0; // ms; -1 not found, -2 given up
 };
 
+/// Why a file is refused that is not read in time.
+inline constexpr const char* kHangsText =
+    "It took too long to read the file, so Zentaro gave up. The drive or the network"
+    " place that holds it may not answer.";
+
 /// All that an inspection needs from the world. Two inspections may run side by side when each has a working folder
 /// and a runner of its own. What is pointed at outlives the inspection.
 struct InspectionContext {
@@ -45,10 +55,14 @@ struct InspectionContext {
     std::function<std::optional<std::vector<AviStream>>(const std::string& path)> readAviStreams;
     /// No picture when the file cannot be decoded.
     std::function<Picture(const std::string& path)> decodePicture;
+    RunLimit reportLimit{ .silence = std::chrono::seconds(60), .total = std::chrono::minutes(5) };
+    RunLimit pictureLimit{ .total = std::chrono::seconds(30) };
     std::string ffmpeg;        // the program: its full path
     std::string mpgtx;         // the program: its full path
     std::string workingFolder; // private to this inspection, with a trailing separator
     char separator = '/';      // between the folders of a path
+    /// How the user gets a tool of that name: a sentence.
+    std::function<std::string(const std::string& tool)> installAdvice = [](const std::string&) { return ""; };
     const CodecNames* audioCodecNames = nullptr;
     const CodecNames* videoCodecNames = nullptr;
     Picture defaultVideoPicture;

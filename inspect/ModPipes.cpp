@@ -17,10 +17,14 @@ using namespace std::chrono_literals;
 constexpr std::size_t kReadBuffer = 4096;
 constexpr auto kChildWait = 40ms;
 constexpr auto kShellWait = 10ms;
+/// A process that waits for a device which does not answer lives on until it does, whatever it was sent.
+constexpr auto kEndWait = 500ms;
 /// More than a pipe holds: after a cancel only what had been printed is taken, however long somebody goes on printing.
 constexpr std::size_t kMostLeftInPipe = std::size_t{ 1 } << 20;
 
 using platform::ChildProcess;
+
+using Clock = std::chrono::steady_clock;
 
 void Pump(const ToolContext& context)
 {
@@ -62,7 +66,8 @@ private:
 void TerminateAndDrain(ChildProcess& child, ChunkCopy& copy, const ToolContext& context)
 {
     child.Terminate();
-    while (!child.HasEnded(kChildWait))
+    const auto end = Clock::now() + kEndWait;
+    while (!child.HasEnded(kChildWait) && Clock::now() < end)
         Pump(context);
     std::size_t total = 0;
     while (const auto count = copy.Next()) {
@@ -71,6 +76,26 @@ void TerminateAndDrain(ChildProcess& child, ChunkCopy& copy, const ToolContext& 
             return;
     }
 }
+
+/// Measures one run by its limit.
+class RunClock {
+public:
+    explicit RunClock(const RunLimit& limit)
+        : m_limit(limit)
+    {
+    }
+    void NoteOutput() { m_lastOutput = Clock::now(); }
+    bool IsOver() const
+    {
+        const auto now = Clock::now();
+        return now - m_lastOutput >= m_limit.silence || now - m_start >= m_limit.total;
+    }
+
+private:
+    const RunLimit m_limit;
+    const Clock::time_point m_start = Clock::now();
+    Clock::time_point m_lastOutput = m_start;
+};
 
 void ApplyPendingPriority(ChildProcess& child, ToolContext& context)
 {
@@ -129,26 +154,38 @@ std::uint32_t CreationFlags(std::int32_t priority)
     }
 }
 
-void Capture(ChildProcess& child, std::ostream& log, std::int32_t convertMode, ToolContext& context)
+bool Capture(
+    ChildProcess& child, std::ostream& log, std::int32_t convertMode, ToolContext& context, const RunLimit& limit)
 {
     ChunkCopy copy(child, log, convertMode, context);
+    RunClock clock(limit);
+    const auto mustEnd = [&] { return context.CancelExecute != 0 || clock.IsOver(); };
+    const auto end = [&] {
+        const bool isCancelled = context.CancelExecute != 0;
+        TerminateAndDrain(child, copy, context);
+        return isCancelled;
+    };
     do {
         Pump(context);
         child.Pause();
-        copy.Next();
-        if (context.CancelExecute)
-            return TerminateAndDrain(child, copy, context);
+        if (copy.Next().value_or(0) > 0)
+            clock.NoteOutput();
+        if (mustEnd())
+            return end();
         ApplyPendingPriority(child, context);
     } while (!child.HasEnded(kChildWait));
 
-    // Whoever the child left behind may hold the stream for long: this part can be cancelled too.
+    // Whoever the child left behind may hold the stream for long: this part can be ended too.
     while (const auto count = copy.Next()) {
         if (*count == 0)
             child.Pause();
+        else
+            clock.NoteOutput();
         Pump(context);
-        if (context.CancelExecute)
-            return TerminateAndDrain(child, copy, context);
+        if (mustEnd())
+            return end();
     }
+    return true;
 }
 
 Result<void> ExecuteAndCapture(const ToolCommand& command, const std::string& logFile, std::int32_t convertMode,
@@ -164,7 +201,8 @@ Result<void> ExecuteAndCapture(const ToolCommand& command, const std::string& lo
     if (auto begun = WriteFirstLine(logFile, command.text); !begun)
         return begun;
     std::ofstream log(logFile, std::ios::binary | std::ios::app);
-    Capture(**child, log, convertMode, context);
+    if (!Capture(**child, log, convertMode, context, command.limit))
+        return Error{ kToolHangs, "The tool does not end." };
     errno = 0;
     log.close();
     return log ? Result<void>() : FileError(errno);
@@ -178,12 +216,17 @@ bool ShellExecuteAndWait(ToolCommand& command, std::int32_t showCmd, bool wait, 
         { command.program, command.arguments, ParentFolder(command.program, context.separator), showCmd, !wait });
     if (!process || !wait)
         return process != nullptr;
+    const RunClock clock({ .total = command.limit.total });
     while (!process->HasEnded(kShellWait)) {
         if (pumpMessages)
             Pump(context);
         if (context.CancelShellWait) {
             process->Terminate();
             break;
+        }
+        if (clock.IsOver()) {
+            process->Terminate();
+            return false;
         }
     }
     return true;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
-#include "inspect/ToolCommand.h"
+#include "inspect/ToolRunner.h"
 #include "platform/ChildProcess.h"
 
 #include <atomic>
@@ -55,17 +55,21 @@ std::uint32_t CreationFlags(std::int32_t priority);
 /// `convertMode`: 0, or 1 to 3 for ToolContext::convertOutput. `useShellName`: the system's command shell is the
 /// program, the tool's name only its argument 0. `workDir`: empty for the current directory.
 /// Errors: 2001 no pipe, 2002 wrong pipe state, 2003 no process (each text ends with the system's error code; the log
-/// is not touched); the system's own number for a log that cannot be opened or written.
+/// is not touched); kToolHangs for a tool that was ended by its limit; the system's own number for a log that cannot be
+/// opened or written.
 Result<void> ExecuteAndCapture(const ToolCommand& command, const std::string& logFile, std::int32_t convertMode,
     bool useShellName, std::int32_t priority, const std::string& workDir, ToolContext& context = DefaultToolContext);
 
-/// Copies what `child` prints into `log` until it has ended and its stream is drained, or the run is cancelled.
-void Capture(platform::ChildProcess& child, std::ostream& log, std::int32_t convertMode, ToolContext& context);
+/// Copies what `child` prints into `log` until it has ended and its stream is drained, or the run is cancelled. False
+/// when the limit has ended it.
+bool Capture(platform::ChildProcess& child, std::ostream& log, std::int32_t convertMode, ToolContext& context,
+    const RunLimit& limit = {});
 
 /// Starts `command` through the system's shell, in the folder of its program. A program without "/", "\" and ":" is
 /// first completed: with the program folder when it lies there, else from the search path, else with the program folder
 /// all the same; `command.program` is updated. `showCmd`: 0 hidden (the numbers of Windows). `wait`: returns after the
-/// process has ended or CancelShellWait was set; `pumpMessages`: pumps meanwhile. True when the process was started.
+/// process has ended or CancelShellWait was set; `pumpMessages`: pumps meanwhile. True when the process was started and
+/// not ended by its limit in all.
 bool ShellExecuteAndWait(ToolCommand& command, std::int32_t showCmd, bool wait, bool pumpMessages,
     ToolContext& context = DefaultToolContext);
 

@@ -123,10 +123,14 @@ ToolCommand ThumbnailCommand(
 Picture ThumbnailMaker::RenderThumbnail(const ThumbnailRequest& request) const
 {
     const auto output = m_context.workingFolder + "img.jpg";
-    auto firstPicture = request;
-    firstPicture.seekTime.reset();
-    const bool made = Run(request, output) || (request.seekTime && Run(firstPicture, output));
-    auto picture = made ? m_context.decodePicture(output) : Picture();
+    bool hasRun = Run(request, output);
+    // Not after a tool that hangs: it would do so again.
+    if (hasRun && request.seekTime && !IsThere(output)) {
+        auto firstPicture = request;
+        firstPicture.seekTime.reset();
+        hasRun = Run(firstPicture, output);
+    }
+    auto picture = hasRun && IsThere(output) ? m_context.decodePicture(output) : Picture();
     m_context.files->Remove(output);
     return picture;
 }
@@ -134,8 +138,13 @@ Picture ThumbnailMaker::RenderThumbnail(const ThumbnailRequest& request) const
 bool ThumbnailMaker::Run(const ThumbnailRequest& request, const std::string& output) const
 {
     m_context.files->Remove(output); // an old picture must never stand for this file
-    if (!m_context.tools->RunAndWait(ThumbnailCommand(m_context.ffmpeg, m_classicTool, request, output)))
-        return false;
+    auto command = ThumbnailCommand(m_context.ffmpeg, m_classicTool, request, output);
+    command.limit = m_context.pictureLimit;
+    return m_context.tools->RunAndWait(command);
+}
+
+bool ThumbnailMaker::IsThere(const std::string& output) const
+{
     const auto facts = m_context.files->Facts(output);
     return facts && facts->size > 0;
 }

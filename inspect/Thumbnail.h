@@ -48,11 +48,12 @@ public:
     {
     }
 
-    /// No picture when the tool made none. A clip that is too short for the seek time gets its first picture.
+    /// No picture when the tool made none or hangs. A clip that is too short for the seek time gets its first picture.
     Picture RenderThumbnail(const ThumbnailRequest& request) const;
 
 private:
     bool Run(const ThumbnailRequest& request, const std::string& output) const;
+    bool IsThere(const std::string& output) const;
 
     const InspectionContext& m_context;
     bool m_classicTool;

@@ -6,6 +6,7 @@
 #include "inspect/ReportParser.h"
 #include "inspect/StreamReport.h"
 #include "inspect/Thumbnail.h"
+#include "platform/ChildProcess.h"
 
 #include <algorithm>
 #include <array>
@@ -22,6 +23,23 @@ bool IsMpegFile(const std::string& path, char separator)
     constexpr std::array<std::string_view, 7> extensions = { "mpg", "vob", "mpeg", "m2p", "mpv", "m1v", "m2v" };
     const auto extension = LowerExtension(path, separator);
     return std::find(extensions.begin(), extensions.end(), extension) != extensions.end();
+}
+
+std::string TroubleText(FileTrouble trouble)
+{
+    switch (trouble) {
+    case FileTrouble::Missing:
+        return "There is no such file.";
+    case FileTrouble::Folder:
+        return "It is a folder, not a file.";
+    case FileTrouble::Empty:
+        return "The file is empty.";
+    case FileTrouble::Unreadable:
+        return "The file cannot be read. It may belong to another user, or its drive may be damaged.";
+    case FileTrouble::None:
+        break;
+    }
+    return "";
 }
 
 /// "PROGRAM -i "FILE"" and what follows.
@@ -61,8 +79,10 @@ bool clsSource::Inspect(const std::string& fileName)
     // The option stands behind the file, where current tools pass over it: in front it would spoil the report.
     const auto command = InfoCommand(m_context.ffmpeg, fileName, { "-analyzeduration", "30000" });
     const auto log = RunTool(command, m_context.workingFolder + "analyse.txt");
-    if (!log || log->empty() || !ReadStreams(*log, command))
+    if (!log)
         return false;
+    if (log->empty() || !ReadStreams(*log, command))
+        return FailForTrouble();
     ReadAviDelays();
     if (IsMpegFile(fileName, m_context.separator) && !RefineMpeg())
         return false;
@@ -78,12 +98,29 @@ bool clsSource::Inspect(const std::string& fileName)
     return true;
 }
 
+/// Adds to the reason what keeps the file from being read: to the tools it is all the same.
+bool clsSource::FailForTrouble()
+{
+    const auto trouble = TroubleText(m_context.files->Trouble(m_fileName));
+    return Fail(m_outcome.error + (m_outcome.error.empty() || trouble.empty() ? "" : "\r\n") + trouble);
+}
+
 /// What the tool printed; nothing when it could not be run, and then the reason is left in the outcome.
 std::optional<std::string> clsSource::RunTool(const ToolCommand& command, const std::string& logFile)
 {
-    const auto captured = m_context.tools->Capture(command, logFile);
+    auto limited = command;
+    limited.limit = m_context.reportLimit;
+    const auto captured = m_context.tools->Capture(limited, logFile);
     if (!captured) {
-        m_outcome.error = captured.error().text;
+        const auto& error = captured.error();
+        m_outcome.error = error.number == kToolHangs ? kHangsText : error.text;
+        if (error.number == static_cast<std::int32_t>(platform::StartStep::Process)) {
+            const auto tool = FileNamePart(command.program, m_context.separator);
+            m_outcome.error += "\r\nThe program \"" + tool
+                + "\", which reads media files for Zentaro, is missing or cannot" + " be started. "
+                + m_context.installAdvice(tool);
+        }
+        m_context.files->Remove(logFile);
         return std::nullopt;
     }
     auto log = m_context.files->Read(logFile, kLogLimit);

@@ -46,6 +46,7 @@ public:
 
 private:
     bool Fail(std::string reason);
+    bool FailForTrouble();
     bool Inspect(const std::string& fileName);
     std::optional<std::string> RunTool(const ToolCommand& command, const std::string& logFile);
     bool ReadStreams(const std::string& log, const ToolCommand& command);

@@ -42,8 +42,8 @@ inline Error StartError(StartStep step, std::int64_t code)
     return { static_cast<std::int32_t>(step), text + std::to_string(code) };
 }
 
-/// A process of ours that can be waited for and ended. It is waited for (on Linux: reaped) at the latest when the
-/// object goes; one that still runs then is terminated.
+/// A process of ours that can be waited for and ended. One that still runs when the object goes is terminated; nobody
+/// waits for one that does not end even then, such as a process that reads from a dead drive.
 class StartedProcess {
 public:
     virtual ~StartedProcess() = default;
@@ -84,8 +84,15 @@ struct ShellCommand {
 /// Starts a program (on Windows also a document's program) with no standard streams; null when that fails.
 std::unique_ptr<StartedProcess> ShellStart(const ShellCommand& command);
 
+/// Ends, at once and hard, all processes that were started here and that somebody still waits for. For the end of this
+/// process, which does not wait until those who use them are done.
+void EndStartedProcesses();
+
 /// The path of the tool of that bare name (on Windows with or without ".exe"): in `firstFolder` when it lies there and
 /// may be executed, else in the search path; nothing when it is in neither.
 std::optional<std::string> FindTool(const std::string& name, const std::string& firstFolder);
+
+/// A sentence for the user: how the tool of that name gets onto this system.
+std::string InstallAdvice(const std::string& name);
 
 } // namespace zentaro::platform

@@ -9,7 +9,9 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <mutex>
 #include <poll.h>
+#include <set>
 #include <spawn.h>
 #include <string_view>
 #include <sys/resource.h>
@@ -179,6 +181,48 @@ void Reap(pid_t pid)
     while (::waitpid(pid, nullptr, 0) < 0 && errno == EINTR) { }
 }
 
+/// Reaps it whenever it ends.
+void ReapLater(pid_t pid)
+{
+    try {
+        std::thread([pid] { Reap(pid); }).detach();
+    } catch (const std::system_error&) {
+        // Too many threads: the child stays a zombie until this process ends, which harms nobody.
+    }
+}
+
+/// The groups that may be signalled: their leaders are not reaped yet.
+class LiveGroups {
+public:
+    void Add(pid_t leader)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_leaders.insert(leader);
+    }
+    void Remove(pid_t leader)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_leaders.erase(leader);
+    }
+    void Kill()
+    {
+        const std::lock_guard lock(m_mutex);
+        for (const auto leader : m_leaders)
+            ::kill(-leader, SIGKILL);
+    }
+
+private:
+    std::mutex m_mutex;
+    std::set<pid_t> m_leaders;
+};
+
+/// Never destroyed: threads that nobody waits for use it up to the end.
+LiveGroups& Groups()
+{
+    static auto* const groups = new LiveGroups;
+    return *groups;
+}
+
 /// A descriptor that can be read once the process has ended, or -1. (glibc 2.36 declares pidfd_open for C only.)
 int OpenEndSignal(pid_t pid)
 {
@@ -193,6 +237,7 @@ public:
         : m_pid(pid)
         , m_endSignal(OpenEndSignal(pid))
     {
+        Groups().Add(pid);
     }
     GroupLeader(const GroupLeader&) = delete;
     GroupLeader& operator=(const GroupLeader&) = delete;
@@ -200,7 +245,9 @@ public:
     {
         if (!HasEnded())
             Terminate();
-        Reap(m_pid);
+        Wait(kGrace, -1);
+        Groups().Remove(m_pid);
+        HasEnded() ? Reap(m_pid) : ReapLater(m_pid);
     }
 
     pid_t Pid() const { return m_pid; }
@@ -305,14 +352,7 @@ private:
 /// Only says that there was a start.
 class DetachedProcess final : public StartedProcess {
 public:
-    explicit DetachedProcess(pid_t pid)
-    {
-        try {
-            std::thread([pid] { Reap(pid); }).detach();
-        } catch (const std::system_error&) {
-            // Too many threads: the child stays a zombie until this process ends, which harms nobody.
-        }
-    }
+    explicit DetachedProcess(pid_t pid) { ReapLater(pid); }
     bool HasEnded(milliseconds) override { return false; }
     void Terminate() override { }
 };
@@ -353,6 +393,11 @@ std::unique_ptr<StartedProcess> ShellStart(const ShellCommand& command)
     return std::make_unique<LinuxShellProcess>(pid);
 }
 
+void EndStartedProcesses()
+{
+    Groups().Kill();
+}
+
 std::optional<std::string> FindTool(const std::string& name, const std::string& firstFolder)
 {
     const char* searchPath = std::getenv("PATH");
@@ -368,6 +413,11 @@ std::optional<std::string> FindTool(const std::string& name, const std::string& 
         folder = rest.substr(0, end);
         rest.remove_prefix(std::min(end + 1, rest.size()));
     }
+}
+
+std::string InstallAdvice(const std::string& name)
+{
+    return "Install the package \"" + name + "\", for example with: sudo apt install " + name;
 }
 
 } // namespace zentaro::platform

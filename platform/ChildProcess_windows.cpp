@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdlib>
 #include <mutex>
+#include <set>
 #include <shellapi.h>
 #include <utility>
 
@@ -97,10 +98,45 @@ bool HasProcessEnded(HANDLE process, std::chrono::milliseconds wait)
     return ::WaitForSingleObject(process, static_cast<DWORD>(wait.count())) != WAIT_TIMEOUT;
 }
 
+/// The processes that somebody waits for.
+struct LiveProcesses {
+    std::mutex mutex;
+    std::set<HANDLE> handles;
+};
+
+/// Never destroyed: threads that nobody waits for use it up to the end.
+LiveProcesses& AllLive()
+{
+    static auto* const processes = new LiveProcesses;
+    return *processes;
+}
+
+/// A place among the live processes; the process's handle is closed after it.
+class LivePlace {
+public:
+    explicit LivePlace(HANDLE process)
+        : m_process(process)
+    {
+        const std::lock_guard lock(AllLive().mutex);
+        AllLive().handles.insert(process);
+    }
+    LivePlace(const LivePlace&) = delete;
+    LivePlace& operator=(const LivePlace&) = delete;
+    ~LivePlace()
+    {
+        const std::lock_guard lock(AllLive().mutex);
+        AllLive().handles.erase(m_process);
+    }
+
+private:
+    HANDLE m_process;
+};
+
 class WindowsChild final : public ChildProcess {
 public:
     WindowsChild(Handle process, Handle output)
         : m_process(std::move(process))
+        , m_place(m_process.Get())
         , m_output(std::move(output))
     {
     }
@@ -133,6 +169,7 @@ public:
 
 private:
     Handle m_process;
+    LivePlace m_place;
     Handle m_output;
 };
 
@@ -142,6 +179,8 @@ public:
         : m_process(std::move(process))
         , m_detached(detached)
     {
+        if (!detached && m_process.Get() != nullptr)
+            m_place.emplace(m_process.Get());
     }
     ~WindowsShellProcess() override
     {
@@ -157,6 +196,7 @@ public:
 
 private:
     Handle m_process;
+    std::optional<LivePlace> m_place;
     bool m_detached;
 };
 
@@ -225,6 +265,13 @@ std::unique_ptr<StartedProcess> ShellStart(const ShellCommand& command)
     return std::make_unique<WindowsShellProcess>(Handle(info.hProcess), command.detached);
 }
 
+void EndStartedProcesses()
+{
+    const std::lock_guard lock(AllLive().mutex);
+    for (auto* const process : AllLive().handles)
+        ::TerminateProcess(process, 0);
+}
+
 std::optional<std::string> FindTool(const std::string& name, const std::string& firstFolder)
 {
     // Without a list of folders the system also looks into the current one, where a download may lie.
@@ -242,6 +289,11 @@ std::optional<std::string> FindTool(const std::string& name, const std::string& 
             return std::string(path.data(), length);
     }
     return std::nullopt;
+}
+
+std::string InstallAdvice(const std::string& name)
+{
+    return "Put \"" + name + ".exe\" into the folder that Zentaro lies in, or into a folder of the search path (PATH).";
 }
 
 } // namespace zentaro::platform

@@ -84,6 +84,13 @@ void FancyList::ShowAddProgress(const AddProgress& progress)
         PlaceSurface();
 }
 
+void FancyList::SetHint(const QString& hint)
+{
+    m_look.hint = hint;
+    setAccessibleDescription(hint);
+    update();
+}
+
 QSize FancyList::sizeHint() const
 {
     return { 240, 400 };

@@ -67,6 +67,9 @@ public:
     /// Shows how far a batch is in a line at the bottom, which the rows make room for; nothing hides it.
     void ShowAddProgress(const AddProgress& progress);
 
+    /// A line that stands in the list while it has no entries; empty for none.
+    void SetHint(const QString& hint);
+
     QSize sizeHint() const override;
 
 signals:

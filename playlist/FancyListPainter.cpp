@@ -103,6 +103,8 @@ FancyListPainter::FancyListPainter(
 void FancyListPainter::Paint()
 {
     m_painter.fillRect(0, 0, m_layout.SurfaceWidth(), m_layout.SurfaceHeight(), m_look.palette.color(QPalette::Window));
+    if (m_layout.Items().Count() == 0)
+        PaintHint();
     const auto rows = m_layout.VisibleRows();
     for (int row = rows.first; row <= rows.last; ++row)
         PaintRow(row);
@@ -110,6 +112,14 @@ void FancyListPainter::Paint()
         PaintScrollBar();
     if (m_look.focusFrame)
         PaintFocusFrame();
+}
+
+void FancyListPainter::PaintHint()
+{
+    const QRect all(0, 0, m_layout.SurfaceWidth(), m_layout.SurfaceHeight());
+    m_painter.setFont(m_look.detailFont);
+    m_painter.setPen(Mixed(m_look.palette.color(QPalette::ButtonText), m_look.palette.color(QPalette::Window), 0.38));
+    m_painter.drawText(all.adjusted(kFade, 0, -kFade, 0), Qt::AlignCenter | Qt::TextWordWrap, m_look.hint);
 }
 
 void FancyListPainter::PaintRow(int row)

@@ -23,6 +23,7 @@ struct FancyListLook {
     QFont detailFont;
     ScrollBarLook scrollBar = ScrollBarLook::Normal;
     bool focusFrame = false;
+    QString hint; ///< stands in a list without entries
 };
 
 /// Width of the scroll bar in pixels.
@@ -42,6 +43,7 @@ public:
     void RenderThumb(const Picture& picture, const ListRect& box);
 
 private:
+    void PaintHint();
     void PaintRow(int row);
     void PaintText(const FancyListItem& item, const ListRect& rect, const QColor& color, const QColor& dimmed);
     void PaintPlayingMark(int row);

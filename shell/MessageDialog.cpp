@@ -5,7 +5,6 @@
 
 #include <QAccessible>
 #include <QPainter>
-#include <QScreen>
 #include <QStringTokenizer>
 #include <QStyle>
 #include <QTextDocument>
@@ -48,7 +47,7 @@ QString Readable(const std::string& notice)
 /// its lines need, and scrolls when that is higher than it may be.
 class MessageText : public QTextEdit {
 public:
-    MessageText(const QString& text, int highest, QWidget* parent)
+    MessageText(const QString& text, const QSize& room, QWidget* parent)
         : QTextEdit(parent)
     {
         setFrameShape(NoFrame);
@@ -60,14 +59,15 @@ public:
         int width = kNarrowest;
         for (const auto line : qTokenize(text, u'\n', Qt::SkipEmptyParts))
             width = std::max(width, fontMetrics().horizontalAdvance(line.toString()) + 2);
-        width = std::min(width, kWidest);
+        const int extent = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        width = std::min({ width, kWidest, room.width() - extent });
         setLineWrapMode(FixedPixelWidth);
         setLineWrapColumnOrWidth(width);
         const auto height = static_cast<int>(std::ceil(document()->size().height()));
-        const bool scrolls = height > highest;
-        const auto bar = scrolls ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
+        const bool scrolls = height > room.height();
+        const auto bar = scrolls ? extent : 0;
         setVerticalScrollBarPolicy(scrolls ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
-        setFixedSize(width + bar, std::min(height, highest));
+        setFixedSize(width + bar, std::min(height, room.height()));
         setTextInteractionFlags(
             scrolls ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard : Qt::TextSelectableByMouse);
         setFocusPolicy(scrolls ? Qt::StrongFocus : Qt::ClickFocus);
@@ -83,7 +83,8 @@ MessageDialog::MessageDialog(const Notice& notice, Skin& skin, QWidget* owner)
     setObjectName("MessageDialog");
     const auto text = Readable(notice.text);
     setAccessibleDescription(text);
-    auto* const message = new MessageText(text, static_cast<int>(screen()->availableSize().height() * kHighest), this);
+    const QSize room(Room().width() - 2 * kMargin - kSign - kSignGap, static_cast<int>(Room().height() * kHighest));
+    auto* const message = new MessageText(text, room, this);
     auto* const ok = new SkinPushButton(tr("OK"), skin, this);
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);

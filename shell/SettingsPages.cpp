@@ -4,6 +4,7 @@
 #include "platform/Files.h"
 
 #include <algorithm>
+#include <type_traits>
 
 namespace zentaro {
 
@@ -27,6 +28,29 @@ constexpr std::int16_t Flag(bool on)
 bool IsCutByTheFile(const std::string& text)
 {
     return text.find_first_of(",\r\n") != std::string::npos || text.starts_with('"') || text.starts_with(' ');
+}
+
+std::optional<PageFault> FaultInPath(const std::string& path)
+{
+    using enum PageFault::Field;
+    if (!platform::IsAbsolutePath(path))
+        return PageFault{ SnapshotPath, "Please choose a folder for the snapshots, with its whole path." };
+    if (IsCutByTheFile(path))
+        return PageFault{ SnapshotPath,
+            "The folder's name can be kept only without a comma, and without a blank or a quote at its beginning. "
+            "Please choose another folder." };
+    return std::nullopt;
+}
+
+std::optional<PageFault> FaultInPrefix(const std::string& prefix)
+{
+    using enum PageFault::Field;
+    if (IsCutByTheFile(prefix))
+        return PageFault{ SnapshotPrefix,
+            "The prefix can be kept only without a comma, and without a blank or a quote at its beginning." };
+    if (prefix.find_first_of("/\\:*?\"<>|") != std::string::npos)
+        return PageFault{ SnapshotPrefix, "A file's name cannot hold any of / \\ : * ? \" < > |" };
+    return std::nullopt;
 }
 
 } // namespace
@@ -54,40 +78,40 @@ SettingsPages PagesOf(const PlayerSettings& settings)
     return pages;
 }
 
-PlayerSettings WithPages(PlayerSettings settings, const SettingsPages& pages)
+PlayerSettings WithPages(PlayerSettings settings, const SettingsPages& shown, const SettingsPages& chosen)
 {
-    settings.AlwaysOnTop = Flag(pages.alwaysOnTop);
-    settings.TitleBarMode = static_cast<std::int16_t>(pages.titleBarMode);
-    settings.KeepHistory = Flag(pages.keepHistory);
-    settings.LaunchFullScreen = Flag(pages.launchFullScreen);
-    settings.RememberLastPos = Flag(pages.rememberLastPos);
-    settings.RememberLastSize = Flag(pages.rememberLastSize);
-    settings.UseNewPlayer = Flag(pages.useNewPlayer);
-    settings.DisableScreenSaver = Flag(pages.disableScreenSaver);
-    settings.ShowInTray = Flag(pages.showInTray);
-    settings.PlaylistPosition = pages.playlistPosition;
-    std::ranges::transform(pages.associations, settings.Associations.begin(), Flag);
-    settings.SnapshotPath = pages.snapshotPath;
-    settings.SnapshotPrefix = pages.snapshotPrefix;
-    settings.SnapshotPreview = Flag(pages.snapshotPreview);
+    const auto take = [](auto& stored, const auto& before, const auto& now) {
+        if (now == before)
+            return;
+        if constexpr (std::is_same_v<decltype(now), const bool&>)
+            stored = Flag(now);
+        else
+            stored = static_cast<std::remove_reference_t<decltype(stored)>>(now);
+    };
+    take(settings.AlwaysOnTop, shown.alwaysOnTop, chosen.alwaysOnTop);
+    take(settings.TitleBarMode, shown.titleBarMode, chosen.titleBarMode);
+    take(settings.KeepHistory, shown.keepHistory, chosen.keepHistory);
+    take(settings.LaunchFullScreen, shown.launchFullScreen, chosen.launchFullScreen);
+    take(settings.RememberLastPos, shown.rememberLastPos, chosen.rememberLastPos);
+    take(settings.RememberLastSize, shown.rememberLastSize, chosen.rememberLastSize);
+    take(settings.UseNewPlayer, shown.useNewPlayer, chosen.useNewPlayer);
+    take(settings.DisableScreenSaver, shown.disableScreenSaver, chosen.disableScreenSaver);
+    take(settings.ShowInTray, shown.showInTray, chosen.showInTray);
+    take(settings.PlaylistPosition, shown.playlistPosition, chosen.playlistPosition);
+    for (std::size_t type = 0; type < chosen.associations.size(); ++type)
+        take(settings.Associations[type], shown.associations[type], chosen.associations[type]);
+    take(settings.SnapshotPath, shown.snapshotPath, chosen.snapshotPath);
+    take(settings.SnapshotPrefix, shown.snapshotPrefix, chosen.snapshotPrefix);
+    take(settings.SnapshotPreview, shown.snapshotPreview, chosen.snapshotPreview);
     return settings;
 }
 
-std::optional<PageFault> FaultIn(const SettingsPages& pages)
+std::optional<PageFault> FaultIn(const SettingsPages& shown, const SettingsPages& chosen)
 {
-    using enum PageFault::Field;
-    if (!platform::IsAbsolutePath(pages.snapshotPath))
-        return PageFault{ SnapshotPath, "Please choose a folder for the snapshots, with its whole path." };
-    if (IsCutByTheFile(pages.snapshotPath))
-        return PageFault{ SnapshotPath,
-            "The folder's name can be kept only without a comma, and without a blank or a quote at its beginning. "
-            "Please choose another folder." };
-    if (IsCutByTheFile(pages.snapshotPrefix))
-        return PageFault{ SnapshotPrefix,
-            "The prefix can be kept only without a comma, and without a blank or a quote at its beginning." };
-    if (pages.snapshotPrefix.find_first_of("/\\:*?\"<>|") != std::string::npos)
-        return PageFault{ SnapshotPrefix, "A file's name cannot hold any of / \\ : * ? \" < > |" };
-    return std::nullopt;
+    auto fault = chosen.snapshotPath != shown.snapshotPath ? FaultInPath(chosen.snapshotPath) : std::nullopt;
+    if (!fault && chosen.snapshotPrefix != shown.snapshotPrefix)
+        fault = FaultInPrefix(chosen.snapshotPrefix);
+    return fault;
 }
 
 const std::vector<FileTypeFamily>& FileTypeFamilies()

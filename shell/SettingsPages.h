@@ -33,8 +33,9 @@ struct SettingsPages {
 /// A number that names no choice shows as the one that it acts like.
 SettingsPages PagesOf(const PlayerSettings& settings);
 
-/// The settings with what the pages hold; what no page shows stays. A flag that is on becomes -1, one that is off 0.
-PlayerSettings WithPages(PlayerSettings settings, const SettingsPages& pages);
+/// The settings with what the user has changed between `shown` and `chosen`; all else stays as it is stored, also where
+/// the pages showed it as something else. A flag that is on becomes -1, one that is off 0.
+PlayerSettings WithPages(PlayerSettings settings, const SettingsPages& shown, const SettingsPages& chosen);
 
 /// A value that must not be stored, and why.
 struct PageFault {
@@ -42,8 +43,8 @@ struct PageFault {
     Field field;
     std::string text;
 };
-/// The first value that the settings file or the file system could not keep, or nothing.
-std::optional<PageFault> FaultIn(const SettingsPages& pages);
+/// The first value among those that were changed that the settings file or the file system could not keep, or nothing.
+std::optional<PageFault> FaultIn(const SettingsPages& shown, const SettingsPages& chosen);
 
 /// File types that can be chosen together. Every type belongs to one family.
 struct FileTypeFamily {

@@ -174,7 +174,10 @@ Rect Skin::DrawButton(QPainter& painter, Button button, const SkinButtons& butto
     if (fade.share >= 1)
         return Draw(painter, image, rect);
     return DrawPicture(painter, rect, [&](const QSize& size) {
-        return Mixed(ScaledCopy(ButtonImage(button, fade.from), size), ScaledCopy(image, size), fade.share);
+        const auto from = ScaledCopy(ButtonImage(button, fade.from), size);
+        const auto to = ScaledCopy(image, size);
+        // One that could not be loaded was told of then; nothing can be mixed with it.
+        return from.isNull() || to.isNull() ? to : Mixed(from, to, fade.share);
     });
 }
 

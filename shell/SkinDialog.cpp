@@ -6,9 +6,10 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScreen>
 #include <QShortcut>
-#include <QTabBar>
 #include <QStyle>
+#include <QTabBar>
 #include <QWindow>
 
 #include <algorithm>
@@ -90,6 +91,18 @@ SkinDialog::SkinDialog(const QString& title, Skin& skin, QWidget* owner)
     connect(m_close, &SkinButton::clicked, this, &QDialog::reject);
 }
 
+QSize SkinDialog::Room() const
+{
+    return (parentWidget() != nullptr ? parentWidget() : this)->screen()->availableSize();
+}
+
+QSize SkinDialog::Fitting(QSize wanted) const
+{
+    if (wanted.height() > Room().height())
+        wanted.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    return wanted.boundedTo(Room());
+}
+
 void SkinDialog::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
@@ -131,6 +144,22 @@ void SkinDialog::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton && event->position().y() < kTitleHeight)
         windowHandle()->startSystemMove();
+}
+
+SkinScroll::SkinScroll(QWidget* content, QWidget* parent)
+    : QScrollArea(parent)
+{
+    setFrameShape(NoFrame);
+    setFocusPolicy(Qt::NoFocus); // Tab goes through the content, which follows
+    setWidgetResizable(true);
+    setWidget(content);
+    for (auto* const through : { content, viewport() })
+        through->setAutoFillBackground(false);
+}
+
+QSize SkinScroll::sizeHint() const
+{
+    return widget()->sizeHint();
 }
 
 SkinPushButton::SkinPushButton(const QString& text, Skin& skin, QWidget* parent)

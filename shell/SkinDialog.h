@@ -4,6 +4,7 @@
 
 #include <QDialog>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTabWidget>
 
 class QLabel;
@@ -24,6 +25,10 @@ protected:
     static constexpr int kTitleHeight = 31; // px
 
     Skin& Pictures() { return m_skin; }
+    /// What the screen has for the dialog, in logical pixels.
+    QSize Room() const;
+    /// The size that it can have, with room for the scroll bar of content that is higher than the screen.
+    QSize Fitting(QSize wanted) const;
     /// Paints all but the title bar and the outline.
     virtual void PaintBody(QPainter& painter) = 0;
 
@@ -35,6 +40,14 @@ protected:
 private:
     Skin& m_skin;
     SkinButton* m_close;
+};
+
+/// What a dialog holds beside its buttons. It wants room for all of it and scrolls where the screen has less.
+class SkinScroll : public QScrollArea {
+public:
+    /// Takes the content over.
+    SkinScroll(QWidget* content, QWidget* parent);
+    QSize sizeHint() const override;
 };
 
 /// A push button with the skin's face.

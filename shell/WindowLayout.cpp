@@ -8,9 +8,14 @@ namespace zentaro {
 
 namespace {
 
-// What must show of the title bar for a hand to find it.
-constexpr int kGripWidth = 64;
-constexpr int kGripHeight = 16;
+constexpr int kBarEdge = 16;   // px, the bar's ends
+constexpr int kBarGap = 12;    // px, between groups
+constexpr int kBarSlider = 96; // px
+constexpr int kBarTime = 130;  // px
+constexpr int kPaneWish = 96;  // px, what neither pane falls below where there is room
+constexpr int kPaneLeast = 40; // px, below it a list shows nothing
+constexpr double kListShare = 0.45;
+constexpr int kListRoom = 280; // px, at the most
 
 } // namespace
 
@@ -77,33 +82,73 @@ WindowLayout::Edges WindowLayout::EdgesAt(int x, int y) const
     return edges;
 }
 
+BarLayout::BarLayout(int width)
+    : m_width(width)
+{
+    for (auto fold = Fold::Nothing;; fold = static_cast<Fold>(static_cast<int>(fold) + 1)) {
+        Place(fold);
+        if (m_track.width >= kLeastTrack || fold == Fold::Neighbours)
+            return;
+    }
+}
+
+void BarLayout::Place(Fold fold)
+{
+    // The buttons' pictures end before their places do.
+    const int buttons = PlaceButtons(fold) + (fold == Fold::Nothing ? 22 : kBarGap);
+    int right = m_width - kBarEdge - 30;
+    const auto placeLeftwards = [&](int gap, int top, int width, int height) {
+        right -= gap + width;
+        return Rect{ right, top, width, height };
+    };
+    m_buttons[static_cast<std::size_t>(Button::FullScreen)] = { right, 0, 30, kHeight };
+    m_number = fold < Fold::Number ? placeLeftwards(kBarGap, 18, 30, 20) : Rect();
+    m_slider = fold < Fold::Slider ? placeLeftwards(fold < Fold::Number ? 8 : kBarGap, 18, kBarSlider, 20) : Rect();
+    const auto sound = placeLeftwards(fold < Fold::Slider ? 7 : kBarGap, 0, 23, kHeight);
+    for (const auto button : { Button::SoundOn, Button::SoundOff })
+        m_buttons[static_cast<std::size_t>(button)] = sound;
+    m_time = { buttons, 17, kBarTime, 22 };
+    m_track = { m_time.Right() + 8, 20, sound.left - 16 - m_time.Right() - 8, 16 };
+}
+
+int BarLayout::PlaceButtons(Fold fold)
+{
+    struct Place {
+        Button button;
+        int width;
+        int group;
+        Fold goesWith; // Nothing: never
+    };
+    // Neighbours of the window stay neighbours: their plates fit together.
+    constexpr Place places[] = {
+        { Button::Previous, 29, 0, Fold::Neighbours },
+        { Button::Rewind, 30, 0, Fold::HeldButtons },
+        { Button::Stop, 36, 1, Fold::Stop },
+        { Button::Play, 43, 1, Fold::Nothing },
+        { Button::Pause, 35, 1, Fold::Nothing },
+        { Button::FastForward, 29, 2, Fold::HeldButtons },
+        { Button::Next, 28, 2, Fold::Neighbours },
+    };
+    int right = kBarEdge;
+    int group = -1;
+    for (const auto& place : places) {
+        auto& rect = m_buttons[static_cast<std::size_t>(place.button)];
+        rect = {};
+        if (place.goesWith != Fold::Nothing && fold >= place.goesWith)
+            continue;
+        if (group >= 0 && place.group != group)
+            right += kBarGap;
+        group = place.group;
+        rect = { right, 0, place.width, kHeight };
+        right = rect.Right();
+    }
+    return right;
+}
+
 Rect BarLayout::ButtonRect(Button button) const
 {
-    const auto at = [](int left, int width) { return Rect{ left, 0, width, kHeight }; };
-    // Neighbours of the window stay neighbours: their plates fit together.
-    switch (button) {
-    case Button::Previous:
-        return at(16, 29);
-    case Button::Rewind:
-        return at(45, 30);
-    case Button::Stop:
-        return at(87, 36);
-    case Button::Play:
-        return at(123, 43);
-    case Button::Pause:
-        return at(166, 35);
-    case Button::FastForward:
-        return at(213, 29);
-    case Button::Next:
-        return at(242, 28);
-    case Button::SoundOn:
-    case Button::SoundOff:
-        return at(m_width - 222, 23);
-    case Button::FullScreen:
-        return at(m_width - 46, 30);
-    default:
-        return {};
-    }
+    const auto index = static_cast<std::size_t>(button);
+    return index < m_buttons.size() ? m_buttons[index] : Rect();
 }
 
 Rect BarLayout::PictureRect(Button button, double middle) const
@@ -115,6 +160,16 @@ Rect BarLayout::PictureRect(Button button, double middle) const
         return {};
     const int height = RoundHalfEven(static_cast<double>(inWindow.height) * place.width / inWindow.width);
     return { place.left, RoundHalfEven(kHeight / 2.0 - height * middle), place.width, height };
+}
+
+PaneShare SharePanes(int room)
+{
+    const int both = room - PaneShare::kSplitter;
+    const int minimum = std::clamp(both / 2, 0, kPaneWish);
+    if (minimum < kPaneLeast)
+        return { 0, 0 };
+    const int wished = std::min(static_cast<int>(room * kListShare), kListRoom);
+    return { std::max(wished, minimum), minimum };
 }
 
 const Rect& ScreenOf(const Rect& window, std::span<const Rect> screens)
@@ -130,10 +185,6 @@ const Rect& ScreenOf(const Rect& window, std::span<const Rect> screens)
 Rect MoveOntoScreen(Rect window, std::span<const Rect> screens)
 {
     if (screens.empty())
-        return window;
-    const Rect titleBar{ window.left, window.top, window.width, 2 * kGripHeight };
-    const auto showsGrip = [&](const Rect& screen) { return SharedArea(titleBar, screen) >= kGripWidth * kGripHeight; };
-    if (std::any_of(screens.begin(), screens.end(), showsGrip))
         return window;
     const auto& best = ScreenOf(window, screens);
     window.width = std::min(window.width, best.width);

@@ -2,6 +2,8 @@
 
 #include "base/Geometry.h"
 
+#include <array>
+#include <cstddef>
 #include <span>
 
 namespace zentaro {
@@ -83,35 +85,55 @@ private:
     int m_height;
 };
 
-/// Where the controls lie in the bar of full screen, which is as wide as the screen.
+/// Where the controls lie in the bar of full screen, which is as wide as the screen. On a narrow one it goes without
+/// some, so that the seek track keeps its use: their places are empty.
 class BarLayout {
 public:
     static constexpr int kHeight = 56;
+    static constexpr int kLeastTrack = 120; // px, from a width of 480 on
 
-    explicit BarLayout(int width)
-        : m_width(width)
-    {
-    }
+    explicit BarLayout(int width);
 
     /// What takes the pointer; empty for a button that the bar does not have.
     Rect ButtonRect(Button button) const;
     /// The button's picture, where `middle` of its height, 0 to 1, lies in the middle of the bar: in their pictures the
     /// signs stand at different heights.
     Rect PictureRect(Button button, double middle) const;
-    Rect TimeLabel() const { return { 292, 17, 130, 22 }; }
-    Rect SeekTrack() const { return { 430, 20, m_width - 668, 16 }; }
-    Rect VolumeSlider() const { return { m_width - 192, 18, 96, 20 }; }
-    Rect VolumeNumber() const { return { m_width - 88, 18, 30, 20 }; }
+    Rect TimeLabel() const { return m_time; }
+    Rect SeekTrack() const { return m_track; }
+    Rect VolumeSlider() const { return m_slider; }
+    Rect VolumeNumber() const { return m_number; }
 
 private:
+    /// What goes, in this order: the later ones only after all before.
+    enum class Fold { Nothing, Number, Slider, HeldButtons, Stop, Neighbours };
+
+    void Place(Fold fold);
+    int PlaceButtons(Fold fold);
+
     int m_width;
+    std::array<Rect, static_cast<std::size_t>(Button::PushButton)> m_buttons{};
+    Rect m_time;
+    Rect m_track;
+    Rect m_slider;
+    Rect m_number;
 };
+
+/// How the video and the list beside it share the room along the line on which they lie.
+struct PaneShare {
+    static constexpr int kSplitter = 6; // px, between the two
+
+    int list = 0;    ///< px, the list's usual share; 0: there is no room for one
+    int minimum = 0; ///< px, below which the splitter makes neither of them
+};
+/// `room`: px, for both and the splitter.
+PaneShare SharePanes(int room);
 
 /// The screen that the window shares most with; the first when it shares nothing. `screens` is not empty.
 const Rect& ScreenOf(const Rect& window, std::span<const Rect> screens);
 
-/// The window's rectangle, moved onto a screen when too little of it shows to take hold of it: onto the screen that it
-/// shares most with, else onto the first. Its size stays, unless it is larger than that screen.
+/// The window's rectangle, moved so that all of it lies on the screen that it shares most with, else on the first. Its
+/// size stays, unless it is larger than that screen.
 Rect MoveOntoScreen(Rect window, std::span<const Rect> screens);
 
 } // namespace zentaro

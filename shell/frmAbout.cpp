@@ -14,7 +14,9 @@ namespace {
 
 constexpr int kPicture = 64;
 constexpr int kMargin = 24;
-constexpr int kHeadTop = 20;    // px below the title bar
+constexpr int kNarrowRoom = 520; // px: below it margins give way to the text
+constexpr int kHeadTop = 20;     // px, over the name
+constexpr int kBottom = 16;
 constexpr int kNameHeight = 26; // px, of the type
 constexpr const char* kVlcPage = "https://www.videolan.org/vlc/";
 
@@ -44,66 +46,105 @@ protected:
     }
 };
 
+class ProgramPicture : public QWidget {
+public:
+    ProgramPicture(Skin& skin, QWidget* parent)
+        : QWidget(parent)
+        , m_skin(skin)
+    {
+        setFixedSize(kPicture, kPicture);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        m_skin.Draw(painter, SkinImage::AboutBox, { 0, 0, kPicture, kPicture });
+    }
+
+private:
+    Skin& m_skin;
+};
+
+QLayout* Head(Skin& skin, QWidget* page)
+{
+    auto* const name = new QLabel(kProgramName, page);
+    auto font = name->font();
+    font.setPixelSize(kNameHeight);
+    font.setWeight(QFont::DemiBold);
+    name->setFont(font);
+    auto* const words = new QVBoxLayout;
+    words->setSpacing(4);
+    words->addWidget(name);
+    words->addWidget(SecondText(frmAbout::tr("Version %1").arg(ZENTARO_VERSION), page));
+    auto* const head = new QHBoxLayout;
+    head->setSpacing(18);
+    head->addWidget(new ProgramPicture(skin, page));
+    head->addLayout(words, 1);
+    return head;
+}
+
+QLayout* Parts(QWidget* page, int spacing)
+{
+    auto* const parts = new QGridLayout;
+    parts->setHorizontalSpacing(spacing);
+    parts->setVerticalSpacing(5);
+    for (const auto& part : kParts) {
+        const int row = parts->rowCount();
+        parts->addWidget(new QLabel(part.name, page), row, 0);
+        parts->addWidget(SecondText(part.purpose, page), row, 1);
+        parts->addWidget(SecondText(part.licence, page), row, 2, Qt::AlignRight);
+    }
+    return parts;
+}
+
 } // namespace
 
 frmAbout::frmAbout(Skin& skin, QWidget* owner)
     : SkinDialog(tr("About Zentaro"), skin, owner)
 {
     setObjectName("frmAbout");
-    auto* const name = new QLabel(kProgramName, this);
-    auto font = name->font();
-    font.setPixelSize(kNameHeight);
-    font.setWeight(QFont::DemiBold);
-    name->setFont(font);
-
-    auto* const head = new QVBoxLayout;
-    head->setContentsMargins(kPicture + 18, 0, 0, 0);
-    head->setSpacing(4);
-    head->addWidget(name);
-    head->addWidget(SecondText(tr("Version %1").arg(ZENTARO_VERSION), this));
-
-    auto* const parts = new QGridLayout;
-    parts->setHorizontalSpacing(24);
-    parts->setVerticalSpacing(5);
-    for (const auto& part : kParts) {
-        const int row = parts->rowCount();
-        parts->addWidget(new QLabel(part.name, this), row, 0);
-        parts->addWidget(SecondText(part.purpose, this), row, 1);
-        parts->addWidget(SecondText(part.licence, this), row, 2, Qt::AlignRight);
-    }
-
-    auto* const link = new LinkLabel(this);
+    auto* const page = new QWidget(this);
+    auto* const link = new LinkLabel(page);
     link->setText(tr("<a href=\"%1\">The web page of VLC</a>, whose engine plays everything here").arg(kVlcPage));
     link->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
     link->setFocusPolicy(Qt::StrongFocus);
     link->setAccessibleName(tr("The web page of VLC"));
     connect(link, &QLabel::linkActivated, this, &frmAbout::LinkChosen);
 
+    const int margin = Room().width() < kNarrowRoom ? kMargin / 2 : kMargin;
+    auto* const text = new QVBoxLayout(page);
+    text->setContentsMargins(margin, kHeadTop, margin, 0);
+    text->setSpacing(12);
+    text->addLayout(Head(skin, page));
+    text->addSpacing(6);
+    text->addWidget(new QLabel(tr("A desktop media player. Free software under the MIT licence."), page));
+    text->addWidget(new SkinLine(Qt::Horizontal, skin, page));
+    text->addWidget(SecondText(tr("Made with"), page));
+    text->addLayout(Parts(page, margin));
+    text->addWidget(new SkinLine(Qt::Horizontal, skin, page));
+    text->addWidget(link);
+
     auto* const ok = new SkinPushButton(tr("OK"), skin, this);
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
+    auto* const buttons = new QHBoxLayout;
+    buttons->setContentsMargins(margin, kBottom, margin, kBottom);
+    buttons->addStretch();
+    buttons->addWidget(ok);
 
     auto* const all = new QVBoxLayout(this);
-    all->setContentsMargins(kMargin, kHeadTop, kMargin, 16);
-    all->setSpacing(12);
-    all->addLayout(head);
-    all->addSpacing(6);
-    all->addWidget(new QLabel(tr("A desktop media player. Free software under the MIT licence."), this));
-    all->addWidget(new SkinLine(Qt::Horizontal, skin, this));
-    all->addWidget(SecondText(tr("Made with"), this));
-    all->addLayout(parts);
-    all->addWidget(new SkinLine(Qt::Horizontal, skin, this));
-    all->addWidget(link);
-    all->addSpacing(4);
-    all->addWidget(ok, 0, Qt::AlignRight);
+    all->setContentsMargins(1, 0, 1, 0);
+    all->setSpacing(0);
+    all->addWidget(new SkinScroll(page, this));
+    all->addLayout(buttons);
     ok->setFocus();
-    setFixedSize(sizeHint());
+    setFixedSize(Fitting(sizeHint()));
 }
 
 void frmAbout::PaintBody(QPainter& painter)
 {
     Pictures().Draw(painter, SkinImage::BGCd, { 0, kTitleHeight, width(), height() - kTitleHeight });
-    Pictures().Draw(painter, SkinImage::AboutBox, { kMargin, kTitleHeight + kHeadTop - 4, kPicture, kPicture });
 }
 
 } // namespace zentaro

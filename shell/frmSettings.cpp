@@ -26,11 +26,13 @@ namespace zentaro {
 
 namespace {
 
+constexpr int kSnapshotsPage = 2;
 constexpr int kWidth = 560;
 constexpr int kHeight = 500;
-constexpr int kBand = 52;   // px, the strip of the buttons
-constexpr int kCorner = 16; // px
-constexpr int kTabsTop = 8; // px below the title bar
+constexpr int kBand = 52;      // px, the strip of the buttons
+constexpr int kCorner = 16;    // px
+constexpr int kTabsTop = 8;    // px below the title bar
+constexpr int kFewTypes = 120; // px, the list of types at the least
 
 QVBoxLayout* PageLayout(QWidget* page)
 {
@@ -49,15 +51,17 @@ frmSettings::frmSettings(const SettingsPages& pages, const std::vector<FileTypeR
     , m_tabs(new SkinTabs(skin, this))
 {
     setObjectName("frmSettings");
-    m_tabs->addTab(MakePlayerPage(), tr("&Player"));
-    m_tabs->addTab(MakeAssociationsPage(rows), tr("Asso&ciations"));
-    m_tabs->addTab(MakeSnapshotsPage(), tr("&Snapshots"));
+    const auto size = Fitting({ kWidth, kHeight });
+    m_isNarrow = size.width() < kWidth;
+    m_tabs->addTab(new SkinScroll(MakePlayerPage(), m_tabs), tr("&Player"));
+    m_tabs->addTab(new SkinScroll(MakeAssociationsPage(rows), m_tabs), tr("Asso&ciations"));
+    m_tabs->addTab(new SkinScroll(MakeSnapshotsPage(), m_tabs), tr("&Snapshots"));
     auto* const all = new QVBoxLayout(this);
     all->setContentsMargins(1, kTabsTop, 1, 0);
     all->setSpacing(0);
     all->addWidget(m_tabs);
     all->addLayout(MakeButtons());
-    setFixedSize(kWidth, kHeight);
+    setFixedSize(size);
     m_tabs->tabBar()->setFocus();
     NoteChange();
 }
@@ -65,12 +69,7 @@ frmSettings::frmSettings(const SettingsPages& pages, const std::vector<FileTypeR
 QWidget* frmSettings::MakePlayerPage()
 {
     auto* const page = new QWidget;
-    auto* const columns = new QHBoxLayout;
-    PageLayout(page)->addLayout(columns);
-    columns->setSpacing(18);
-    columns->addLayout(MakeWindowOptions(), 4);
-    columns->addWidget(new SkinLine(Qt::Vertical, Pictures()));
-    columns->addLayout(MakeFileOptions(), 5);
+    AddColumns(*PageLayout(page), MakeWindowOptions(), 4, MakeFileOptions(), 5);
     return page;
 }
 
@@ -134,6 +133,17 @@ QBoxLayout* frmSettings::MakeFileOptions()
     return column;
 }
 
+void frmSettings::AddColumns(QBoxLayout& layout, QBoxLayout* left, int leftShare, QBoxLayout* right, int rightShare)
+{
+    auto* const columns = new QBoxLayout(m_isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+    columns->setSpacing(18);
+    columns->addLayout(left, leftShare);
+    if (!m_isNarrow)
+        columns->addWidget(new SkinLine(Qt::Vertical, Pictures()));
+    columns->addLayout(right, rightShare);
+    layout.addLayout(columns);
+}
+
 QWidget* frmSettings::MakeAssociationsPage(const std::vector<FileTypeRow>& rows)
 {
     auto* const page = new QWidget;
@@ -164,14 +174,14 @@ QWidget* frmSettings::MakeAssociationsPage(const std::vector<FileTypeRow>& rows)
         NoteChange();
     });
 
-    auto* const columns = new QHBoxLayout;
-    columns->setSpacing(18);
-    columns->addWidget(m_types, 5);
-    columns->addWidget(new SkinLine(Qt::Vertical, Pictures()));
-    columns->addLayout(side, 3);
+    m_types->setMinimumHeight(kFewTypes);
+    auto* const types = new QVBoxLayout;
+    types->addWidget(m_types);
     auto* const layout = PageLayout(page);
-    layout->addLayout(columns);
-    layout->addWidget(SecondText(tr("A type that is no longer chosen goes back to the program that had it before.")));
+    AddColumns(*layout, types, 5, side, 3);
+    auto* const note = SecondText(tr("A type that is no longer chosen goes back to the program that had it before."));
+    note->setWordWrap(m_isNarrow);
+    layout->addWidget(note);
     return page;
 }
 
@@ -310,15 +320,15 @@ void frmSettings::NoteChange()
 
 bool frmSettings::CommitPages()
 {
-    if (const auto fault = FaultIn(m_pages)) {
+    if (const auto fault = FaultIn(m_committed, m_pages)) {
         auto* const field = fault->field == PageFault::Field::SnapshotPath ? m_folder : m_prefix;
-        m_tabs->setCurrentWidget(field->parentWidget());
+        m_tabs->setCurrentIndex(kSnapshotsPage);
         MessageDialog({ fault->text, NoticeIcon::Information, ToText(windowTitle()) }, Pictures(), this).exec();
         field->setFocus();
         field->selectAll();
         return false;
     }
-    emit Commit(m_pages);
+    emit Commit(m_committed, m_pages);
     m_committed = m_pages;
     NoteChange();
     return true;

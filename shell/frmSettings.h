@@ -32,8 +32,8 @@ public:
     frmSettings(const SettingsPages& pages, const std::vector<FileTypeRow>& rows, Skin& skin, QWidget* owner);
 
 signals:
-    /// OK or Apply, with values that can be stored.
-    void Commit(const SettingsPages& pages);
+    /// OK or Apply, with values that can be stored. `shown`: what the pages held at the opening or the commit before.
+    void Commit(const SettingsPages& shown, const SettingsPages& chosen);
 
 protected:
     void PaintBody(QPainter& painter) override;
@@ -50,6 +50,7 @@ private:
     QWidget* MakeAssociationsPage(const std::vector<FileTypeRow>& rows);
     QWidget* MakeSnapshotsPage();
     QBoxLayout* MakeButtons();
+    void AddColumns(QBoxLayout& layout, QBoxLayout* left, int leftShare, QBoxLayout* right, int rightShare);
     void AddHeading(QBoxLayout& layout, const QString& text);
     void AddFlag(QBoxLayout& layout, const QString& text, bool SettingsPages::*field);
     void AddFamily(QBoxLayout& layout, const QString& text, std::vector<std::size_t> members);
@@ -62,6 +63,7 @@ private:
 
     SettingsPages m_pages;
     SettingsPages m_committed;
+    bool m_isNarrow = false; // the columns of the pages stand below each other
     QTabWidget* m_tabs = nullptr;
     QListWidget* m_types = nullptr;
     std::vector<FamilyBox> m_families;

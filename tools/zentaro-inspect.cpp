@@ -5,6 +5,7 @@
 #include "inspect/DiskFiles.h"
 #include "inspect/QtServices.h"
 #include "inspect/clsSource.h"
+#include "platform/ChildProcess.h"
 #include "platform/Files.h"
 #include "platform/Leftovers.h"
 #include "tools/DictionaryJson.h"
@@ -137,6 +138,7 @@ int Run(const Options& options)
     context.ffmpeg = FindTool("ffmpeg", folder);
     context.mpgtx = FindTool("mpgtx", folder);
     context.workingFolder = WithTrailingSeparator(working.Path(), separator);
+    context.installAdvice = platform::InstallAdvice;
     context.separator = separator;
     context.audioCodecNames = &audioNames;
     context.videoCodecNames = &videoNames;

@@ -4,38 +4,145 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <filesystem>
+#include <fstream>
+#include <future>
 #include <mutex>
+#include <thread>
 
 using namespace zentaro;
+using namespace std::chrono_literals;
 
-TEST(InspectionThreads, a_cancelled_inspection_gives_no_result_and_a_late_one_finds_nobody)
-{
-    const platform::WorkingFolder folder;
-    DiskFiles files{ [](std::int64_t) { return std::string(); } };
-    const CodecNames names;
-    InspectionContext context;
-    context.files = &files;
-    context.readAviStreams = [](const std::string&) { return std::nullopt; };
-    context.decodePicture = [](const std::string&) { return Picture(); };
-    context.ffmpeg = "/bin/true";
-    context.audioCodecNames = context.videoCodecNames = &names;
-    std::mutex mutex;
-    std::vector<std::function<void()>> posted;
-    int results = 0;
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr auto kAtOnce = 2s; // far above what ending takes, far below what a tool here would
+
+class Threads : public testing::Test {
+protected:
+    Threads()
     {
-        InspectionThreads threads([&]() -> const InspectionContext& { return context; }, folder.Path() + "/",
-            [&](std::function<void()> work) {
-                const std::lock_guard lock(mutex);
-                posted.push_back(std::move(work));
-            });
-        threads.onCompleted = [&](int, const Inspection&) { ++results; };
-        threads.Start(7, "/clips/a.mp3");
-        threads.Cancel(7);
-        threads.Start(8, "/clips/b.mp3");
+        std::filesystem::create_directory(folder / "work");
+        context->files = &m_files;
+        context->readAviStreams = [](const std::string&) { return std::nullopt; };
+        context->decodePicture = [](const std::string&) { return Picture(); };
+        context->ffmpeg = "/bin/true";
+        context->audioCodecNames = context->videoCodecNames = &m_names;
+        Make();
     }
-    for (const auto& work : posted)
-        work();
-    EXPECT_EQ(results, 0);
-    EXPECT_TRUE(std::filesystem::is_empty(folder.Path())); // each inspection has taken its own folder away
+    void Make()
+    {
+        threads = std::make_unique<InspectionThreads>([this] { return context; }, folder / "work/",
+            [this](std::function<void()> work) {
+                const std::lock_guard lock(m_mutex);
+                m_posted.push_back(std::move(work));
+            });
+        threads->onCompleted = [this](int ticket, const Inspection& result) {
+            completed.push_back(std::to_string(ticket) + " " + result.errorText);
+        };
+    }
+    void WriteTool(const std::string& shellText)
+    {
+        context->ffmpeg = folder / "tool";
+        std::ofstream(context->ffmpeg) << "#!/bin/sh\n" << shellText << '\n';
+        std::filesystem::permissions(context->ffmpeg, std::filesystem::perms::owner_all);
+    }
+    bool WaitUntil(const std::function<bool()>& done)
+    {
+        const auto end = Clock::now() + 10s;
+        while (!done() && Clock::now() < end)
+            std::this_thread::sleep_for(5ms);
+        return done();
+    }
+    /// Does what was posted meanwhile.
+    bool RunUntil(const std::function<bool()>& done)
+    {
+        return WaitUntil([&] {
+            std::vector<std::function<void()>> posted;
+            {
+                const std::lock_guard lock(m_mutex);
+                posted.swap(m_posted);
+            }
+            for (const auto& work : posted)
+                work();
+            return done();
+        });
+    }
+    std::size_t Posted()
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_posted.size();
+    }
+    bool IsWorkEmpty() { return std::filesystem::is_empty(folder / "work"); }
+
+    const platform::WorkingFolder folder;
+    std::shared_ptr<InspectionContext> context = std::make_shared<InspectionContext>();
+    std::vector<std::string> completed;
+    std::unique_ptr<InspectionThreads> threads;
+
+private:
+    DiskFiles m_files{ [](std::int64_t) { return std::string(); } };
+    CodecNames m_names;
+    std::mutex m_mutex;
+    std::vector<std::function<void()>> m_posted;
+};
+
+} // namespace
+
+TEST_F(Threads, a_cancelled_inspection_gives_no_result_and_a_late_one_finds_nobody)
+{
+    threads->Start(7, "/clips/a.mp3");
+    threads->Cancel(7);
+    threads->Start(8, "/clips/b.mp3");
+    // Each inspection takes its own folder away.
+    EXPECT_TRUE(WaitUntil([&] { return Posted() == 1 && IsWorkEmpty(); }));
+    threads.reset();
+    EXPECT_TRUE(RunUntil([&] { return Posted() == 0; }));
+    EXPECT_TRUE(completed.empty());
+}
+
+TEST_F(Threads, a_tool_that_hangs_refuses_its_file_and_does_not_hold_up_the_end)
+{
+    WriteTool("trap '' TERM; echo $$ > \"$2\"; sleep 100");
+    context->reportLimit.silence = 300ms;
+    threads->Start(1, folder / "hangs");
+    EXPECT_TRUE(RunUntil([&] { return !completed.empty(); }));
+    EXPECT_EQ(completed, std::vector<std::string>{ std::string("1 ") + kHangsText });
+
+    context->reportLimit = {};
+    threads->Start(2, folder / "goes-on");
+    pid_t tool = 0;
+    EXPECT_TRUE(RunUntil([&] { return bool(std::ifstream(folder / "goes-on") >> tool); }));
+    const auto start = Clock::now();
+    threads.reset();
+    EXPECT_LT(Clock::now() - start, kAtOnce);
+    EXPECT_TRUE(IsWorkEmpty());
+    EXPECT_TRUE(RunUntil([&] { return ::kill(tool, 0) != 0; }));
+}
+
+TEST_F(Threads, a_read_that_never_ends_holds_up_neither_the_queue_nor_the_end)
+{
+    // What such a read still uses when it comes back outlives everything else.
+    std::promise<void> drive;
+    context->readAviStreams = [answer = drive.get_future().share()](const std::string&) {
+        answer.wait();
+        return std::nullopt;
+    };
+    WriteTool("echo 'Input #0, mp3:'");
+    context->reportLimit.total = 500ms;
+    threads->Start(1, "/clips/a.mp3");
+    EXPECT_TRUE(RunUntil([&] { return !completed.empty(); }));
+    EXPECT_EQ(completed, std::vector<std::string>{ std::string("1 ") + kHangsText });
+    context->reportLimit.total = 1h;
+    threads->Start(2, "/clips/b.mp3");
+    EXPECT_TRUE(RunUntil([&] { return std::filesystem::exists(folder / "work/inspect2"); }));
+    const auto start = Clock::now();
+    threads.reset();
+    EXPECT_LT(Clock::now() - start, kAtOnce);
+    EXPECT_TRUE(IsWorkEmpty());
+    drive.set_value();
+    EXPECT_TRUE(RunUntil([&] { return context.use_count() == 1; }));
+    EXPECT_EQ(completed.size(), 1U);
 }

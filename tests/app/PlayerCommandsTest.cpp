@@ -121,7 +121,8 @@ TEST_F(PlayerTest, dialogs_are_never_under_a_window_that_stays_on_top)
         world.player->RunCommand(key);
     EXPECT_EQ(world.dialogs.log.str(), "options about help ");
     EXPECT_FALSE(window.IsTopmost());
-    world.player->CommitOptions(PagesOf(world.player->Settings()));
+    const auto shown = PagesOf(world.player->Settings());
+    world.player->CommitOptions(shown, shown);
     EXPECT_FALSE(window.IsTopmost());
     window.DialogClosed();
     EXPECT_TRUE(window.IsTopmost());

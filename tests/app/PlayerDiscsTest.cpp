@@ -39,6 +39,7 @@ TEST_F(DiscsTest, a_disc_replaces_the_list_and_plays_by_its_root_after_half_a_se
     auto& player = StartWithEntries(2, kPlayContinuous, kRepeatAll);
     Discs().DrivesFound({ Disc("/dev/sr0", "MOVIE") });
     EXPECT_EQ(LastPlayed(), "/a.avi"); // while something plays the answer only fills the menus
+    player.Window().SetPlaylistPosition(PlaylistDock::Whole);
     Discs().dvdsList_Click(0);
     world.Elapse(499ms);
     player.OnPositionTick();
@@ -47,6 +48,7 @@ TEST_F(DiscsTest, a_disc_replaces_the_list_and_plays_by_its_root_after_half_a_se
     world.Elapse(1ms);
     EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr0>");
     EXPECT_EQ(trace.plays, 2);
+    EXPECT_EQ(player.Window().Dock(), PlaylistDock::Hidden);
     ASSERT_EQ(player.Entries().Count(), 1);
     const auto entry = *player.Entries().EntryAt(0);
     EXPECT_EQ(entry.Title + "|" + entry.FullPath + "|" + entry.MediaInfo, "MOVIE (/dev/sr0)|dvd:///dev/sr0|Video DVD");

@@ -279,9 +279,10 @@ TEST_F(PlayerTest, sleep_is_held_off_while_a_video_plays_and_the_settings_want_i
     player.OnPositionTick();
     player.Transporting().cmdStopClick();
     EXPECT_FALSE(world.isSleepHeldOff);
-    auto pages = PagesOf(player.Settings());
-    pages.disableScreenSaver = false;
-    player.CommitOptions(pages);
+    const auto shown = PagesOf(player.Settings());
+    auto chosen = shown;
+    chosen.disableScreenSaver = false;
+    player.CommitOptions(shown, chosen);
     player.Sequence().CMDPlayClick();
     player.OnPositionTick();
     EXPECT_FALSE(world.isSleepHeldOff);
@@ -330,4 +331,53 @@ TEST_F(PlayerTest, drops_come_in_their_order_and_one_that_plays_waits_for_none)
     world.player->Unload();
     world.Settle();
     EXPECT_EQ(world.player->Entries().Count(), 4);
+}
+
+TEST_F(PlayerTest, what_a_user_starts_comes_before_a_list_that_takes_the_whole_window)
+{
+    Store([](PlayerSettings& settings) {
+        settings.PlaylistPosition = static_cast<std::int32_t>(PlaylistDock::Whole);
+        settings.PlayMode = kPlayContinuous;
+    });
+    auto& window = Start().Window();
+    EXPECT_EQ(window.Dock(), PlaylistDock::Whole);
+    Add("/a.avi", false);
+    EXPECT_EQ(window.Dock(), PlaylistDock::Whole);
+    for (const auto& start : std::initializer_list<std::function<void()>>{ [&] { Run("Play"); },
+             [&] { Add("/b.avi", true); }, [&] { Run("Next"); }, [&] { world.player->Sequence().PlayEntry(0); } }) {
+        start();
+        EXPECT_EQ(window.Dock(), PlaylistDock::Hidden);
+        Run("PlayList");
+        EXPECT_EQ(window.Dock(), PlaylistDock::Whole);
+    }
+    // Who looks at the list while one item follows the other goes on looking at it.
+    const auto starts = Starts();
+    EndItem();
+    EXPECT_EQ(Starts(), starts + 1);
+    EXPECT_EQ(window.Dock(), PlaylistDock::Whole);
+    window.DockPlaylist(PlaylistDock::Right);
+    Run("Play");
+    EXPECT_EQ(window.Dock(), PlaylistDock::Right);
+}
+
+TEST_F(PlayerTest, options_write_what_was_changed_and_remember_the_size_that_the_window_has)
+{
+    Store([](PlayerSettings& settings) {
+        settings.SnapshotPath = "C:\\";
+        settings.TitleBarMode = 9;
+        settings.WindowWidth = 900;
+    });
+    auto& player = Start();
+    const auto shown = PagesOf(player.Settings());
+    player.CommitOptions(shown, shown);
+    auto saved = *ParseConfigurations(*ConfigText());
+    EXPECT_EQ(saved.SnapshotPath, "C:\\");
+    EXPECT_EQ(saved.TitleBarMode, 9);
+    EXPECT_EQ(saved.WindowWidth, 900);
+    auto chosen = shown;
+    chosen.rememberLastSize = true;
+    player.CommitOptions(shown, chosen);
+    saved = *ParseConfigurations(*ConfigText());
+    EXPECT_EQ(saved.WindowWidth, 400);
+    EXPECT_EQ(saved.WindowHeight, 500);
 }

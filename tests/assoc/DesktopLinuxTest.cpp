@@ -214,6 +214,10 @@ TEST_F(DesktopOfUser, what_a_user_has_removed_is_no_owner)
     EXPECT_EQ(DefaultByGio("flv"), "");
     EXPECT_EQ(shell->CurrentOwner(".flv")->owner, "");
     EXPECT_EQ(shell->CurrentOwner(".mp4")->owner, DefaultByGio("mp4"));
+    fs::create_directories(applications);
+    Save(applications + "second.desktop", PlayerEntry("Second") + "Hidden=true\n");
+    shell->Refresh();
+    EXPECT_EQ(shell->CurrentOwner(".mp4")->owner, "other.desktop");
 }
 
 TEST_F(DesktopOfUser, files_to_be_added_come_to_one_program_in_their_order)

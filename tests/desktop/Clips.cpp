@@ -37,9 +37,10 @@ std::string Clips::Make(const std::string& name, double seconds, const std::stri
         command += " -f lavfi -i sine=frequency=440:sample_rate=44100:duration=" + duration;
     const auto choice = choices.find(ExtensionOf(name));
     Process tool(Words(command + " -pix_fmt yuv420p " + (choice == choices.end() ? "" : choice->second) + " " + path));
-    if (tool.WaitForEnd() != 0)
-        throw std::runtime_error("cannot make " + name + ": " + tool.Output());
-    return path;
+    if (tool.WaitForEnd(4 * kPatience) == 0)
+        return path;
+    std::filesystem::remove(path);
+    throw std::runtime_error("cannot make " + name + ": " + tool.Output());
 }
 
 bool Clips::IsSoundOnly(const std::string& name)

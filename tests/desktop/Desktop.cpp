@@ -11,12 +11,6 @@
 
 namespace zentaro::trial {
 
-namespace {
-
-constexpr int kIconSize = 24; // px
-
-} // namespace
-
 Desktop::Desktop(int width, int height, WindowManager manager)
     : m_width(width)
     , m_height(height)
@@ -260,19 +254,36 @@ void Desktop::WaitForFreePointer()
     XSync(m_display, False);
 }
 
-bool Desktop::Drag(int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere)
+bool Desktop::Drag(
+    int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere, std::chrono::seconds limit)
 {
     constexpr int kSteps = 8;
     Hold(fromX, fromY);
-    int step = 0;
     // Whoever follows the hand late gets one more small movement to see where it is.
-    const bool came = WaitUntil([&] {
-        step = step < kSteps ? step + 1 : kSteps - step % 2;
-        MoveTo(fromX + (toX - fromX) * step / kSteps, fromY + (toY - fromY) * step / kSteps);
-        return step == kSteps && isThere();
-    });
+    const bool came = WaitUntil(
+        [&, step = 0]() mutable {
+            step = step < kSteps ? step + 1 : kSteps - step % 2;
+            MoveTo(fromX + (toX - fromX) * step / kSteps, fromY + (toY - fromY) * step / kSteps);
+            std::this_thread::sleep_for(20ms);
+            return step == kSteps && isThere();
+        },
+        limit);
     Release();
     return came;
+}
+
+bool Desktop::DragWindow(Window window, int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere)
+{
+    // A busy machine's window manager can take hold of a window when the hand is on its way already: then once more
+    // from where the hand let go.
+    return WaitUntil([&] {
+        const auto before = Place(window);
+        const bool came = Drag(fromX, fromY, toX, toY, isThere, 5s);
+        const auto now = Place(window);
+        fromX += now.left != before.left ? now.left - before.left : now.Right() - before.Right();
+        fromY += now.top != before.top ? now.top - before.top : now.Bottom() - before.Bottom();
+        return came;
+    });
 }
 
 bool Desktop::DropFiles(int x, int y, const std::vector<std::string>& paths)
@@ -281,12 +292,15 @@ bool Desktop::DropFiles(int x, int y, const std::vector<std::string>& paths)
     command.insert(command.end(), paths.begin(), paths.end());
     m_dragSource = Process(command);
     const auto says = [this](const char* word) { return m_dragSource.Output().ends_with(word); };
-    WaitUntil([&] { return says("shown\n"); });
-    return Drag(5, 5, x, y, [&] { return says("taken\n"); }) && WaitUntil([&] { return says("dropped\n"); });
+    return WaitUntil([&] { return says("shown\n"); })
+        && Drag(
+            5, 5, x, y, [&] { return says("taken\n"); }, kPatience)
+        && WaitUntil([&] { return says("dropped\n"); });
 }
 
 Window Desktop::TakeTrayIcon()
 {
+    constexpr int kIconSize = 24; // px
     XSetWindowAttributes values{};
     values.override_redirect = True;
     values.background_pixel = 0x404040;
@@ -321,17 +335,14 @@ QColor MeanOf(const QImage& picture)
 
 double ShareThatDiffers(const QImage& a, const QImage& b)
 {
-    constexpr int kTolerance = 16;
     if (a.isNull() || a.size() != b.size())
         return 1;
     int different = 0;
-    for (int y = 0; y < a.height(); ++y) {
-        for (int x = 0; x < a.width(); ++x) {
-            const QRgb first = a.pixel(x, y);
-            const QRgb second = b.pixel(x, y);
-            const auto differs = [&](int (*part)(QRgb)) { return std::abs(part(first) - part(second)) > kTolerance; };
-            different += differs(qRed) || differs(qGreen) || differs(qBlue);
-        }
+    for (int i = 0; i < a.width() * a.height(); ++i) {
+        const auto first = a.pixelColor(i % a.width(), i / a.width());
+        const auto second = b.pixelColor(i % a.width(), i / a.width());
+        different += std::abs(first.red() - second.red()) > 16 || std::abs(first.green() - second.green()) > 16
+            || std::abs(first.blue() - second.blue()) > 16;
     }
     return static_cast<double>(different) / (a.width() * a.height());
 }

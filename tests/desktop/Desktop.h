@@ -63,8 +63,9 @@ public:
     void Release();
     /// Positive: away from the user.
     void Wheel(int x, int y, int steps) { Click(x, y, steps > 0 ? 4 : 5, std::abs(steps)); }
-    /// With the left button, which is let go when `isThere`; whether it came so far.
-    bool Drag(int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere);
+    /// With the title bar or an edge of a window in the left hand, which lets go when `isThere`; whether it came so
+    /// far.
+    bool DragWindow(Window window, int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere);
     /// Drags files from another program's window to a place of the screen; false when nobody takes them there.
     bool DropFiles(int x, int y, const std::vector<std::string>& paths);
     /// Opens a panel at the top left of the screen and takes the next icon for the tray into it; 0 when none came.
@@ -80,6 +81,7 @@ private:
     /// What xdotool is to do.
     void Do(std::vector<std::string> words) const;
     void MoveButton(int button, bool down);
+    bool Drag(int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere, std::chrono::seconds limit);
     /// Waits until nobody holds the pointer, as a window manager does while it looks at a press.
     void WaitForFreePointer();
 

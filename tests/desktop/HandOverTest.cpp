@@ -1,12 +1,7 @@
-#include "platform/HandOver.h"
 #include "tests/desktop/PlayerDesk.h"
 #include "tests/platform/PrivateBus.h"
 
 #include <algorithm>
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <thread>
-#include <unistd.h>
 
 namespace zentaro::trial {
 namespace {
@@ -112,7 +107,7 @@ TEST_F(HandOver, OfTwentyStartsAtOnceOnePlayerReceivesAllFiles)
             { "DBUS_SESSION_BUS_ADDRESS=" + bus.Address() }));
     }
     const auto isRunning = [](Process& start) { return start.IsRunning(); };
-    EXPECT_TRUE(WaitUntil([&] { return std::count_if(starts.begin(), starts.end(), isRunning) == 1; }, 2 * kPatience));
+    EXPECT_TRUE(WaitUntil([&] { return std::count_if(starts.begin(), starts.end(), isRunning) == 1; }, 6 * kPatience));
     auto player = Show(std::move(*std::find_if(starts.begin(), starts.end(), isRunning)));
     EXPECT_TRUE(WaitUntil([&] {
         return bus
@@ -127,37 +122,6 @@ TEST_F(HandOver, OfTwentyStartsAtOnceOnePlayerReceivesAllFiles)
             EXPECT_EQ(start.Output(), "");
         }
     }
-}
-
-TEST_F(HandOver, SendersThatDieOrLieHarmNobody)
-{
-    auto player = StartAndShow({ ClipNamed("one.mp4") });
-    EXPECT_TRUE(player.WaitForTitle("one.mp4"));
-    const auto handle = Published("txtHwnd");
-    sockaddr_un address{ .sun_family = AF_UNIX, .sun_path = {} };
-    ASSERT_EQ(chdir(InHome("run/zentaro").c_str()), 0); // a socket's path must be short
-    handle.copy(address.sun_path, sizeof address.sun_path - 1);
-    using namespace std::string_literals;
-    const std::vector<std::string> pieces = { "", "ZN", "ZNT1\xFF\xFF\xFF\x7F"s + "/half", "ZNT1\x05\0\0\0/a"s,
-        "GET / HTTP/1.0\r\n\r\n" };
-    for (const auto& bytes : pieces) {
-        const int sender = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-        ASSERT_EQ(connect(sender, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
-        EXPECT_EQ(send(sender, bytes.data(), bytes.size(), MSG_NOSIGNAL), static_cast<ssize_t>(bytes.size()));
-        close(sender);
-    }
-    ASSERT_EQ(chdir("/"), 0);
-    ExpectMessenger({ ClipNamed("two.mp4") });
-    EXPECT_TRUE(player.WaitForTitle("two.mp4"));
-
-    // A text of 1 MB names no file; its sender is told when the user has been.
-    auto sender = std::thread([&] {
-        EXPECT_NE(platform::SendHandOverText(handle, std::string(1 << 20, 'x')), platform::HandOverOutcome::Silent);
-    });
-    EXPECT_EQ(player.AnswerDialog(), "Zentaro");
-    sender.join();
-    EXPECT_TRUE(player.WaitForTitle("two.mp4"));
-    EXPECT_CLOSES_CLEANLY(player);
 }
 
 } // namespace

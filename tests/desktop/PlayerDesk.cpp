@@ -18,6 +18,7 @@ namespace fs = std::filesystem;
 
 // Of 255: a black frame with a thin line of something is still black.
 constexpr int kDark = 12;
+constexpr int kUnpainted = 5;
 constexpr double kMovingShare = 0.01;
 // The X server gives each client the window numbers of one block.
 constexpr int kClientShift = 21;
@@ -237,7 +238,7 @@ ShownPlayer PlayerDesk::Show(Process process, Desktop& desktop)
     Window found = 0;
     WaitUntil([&] {
         for (const auto window : desktop.WindowsOf(process.Id())) {
-            if (!desktop.IsDialog(window))
+            if (!desktop.IsDialog(window) && MeanOf(desktop.Grab(desktop.Place(window))).value() > kUnpainted)
                 found = window;
         }
         return found != 0 || !process.IsRunning();

@@ -65,7 +65,7 @@ protected:
     /// A process of the player that may be a messenger; `folder` is its working folder, `environment` words NAME=value.
     Process Start(const std::vector<std::string>& arguments = {}, const std::string& folder = ".",
         const std::vector<std::string>& environment = {}) const;
-    /// Waits for the main window, on `desktop` or on the shared one. Throws when none comes.
+    /// Waits until the main window is painted, on `desktop` or on the shared one. Throws when none comes.
     static ShownPlayer Show(Process process, Desktop& desktop = Screen());
     ShownPlayer StartAndShow(const std::vector<std::string>& arguments = {}) const { return Show(Start(arguments)); }
     /// What runs of all that was started, and of what that has started itself.

@@ -106,10 +106,6 @@ TEST_F(Session, MediaKeysAndScreenSaverGoWithThePlayer)
     EXPECT_TRUE(screenSaver->BecomesHeldBy(1));
     Ctl("volume 0.3");
     Becomes("volume", "0.300000");
-    Ctl("loop Track");
-    Becomes("loop", "Track");
-    Ctl("shuffle On");
-    Becomes("shuffle", "On");
 
     // The session's bus is started anew, and the player plays on.
     screenSaver.reset();
@@ -127,18 +123,6 @@ TEST_F(Session, MediaKeysAndScreenSaverGoWithThePlayer)
         "");
     EXPECT_ENDED_CLEANLY(player);
     EXPECT_TRUE(screenSaver->BecomesHeldBy(0));
-}
-
-TEST_F(Session, WhoWantsTheScreenSaverKeepsIt)
-{
-    ScreenSaver screenSaver(bus.Address());
-    StoreSettings([](PlayerSettings& settings) { settings.DisableScreenSaver = 0; });
-    auto player = ShowInSession({ ClipNamed("first.mp4") });
-    Becomes("status", "Playing");
-    EXPECT_TRUE(player.PictureMoves());
-    EXPECT_TRUE(screenSaver.BecomesHeldBy(0));
-    EXPECT_EQ(screenSaver.TimesHeld(), 0);
-    EXPECT_CLOSES_CLEANLY(player);
 }
 
 } // namespace

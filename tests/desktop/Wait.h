@@ -8,7 +8,7 @@ namespace zentaro::trial {
 using namespace std::chrono_literals;
 
 /// How long anything may take on a slow, busy machine. A test that holds never waits as long.
-constexpr std::chrono::milliseconds kPatience = 30s;
+constexpr auto kPatience = 30s;
 
 /// Asks again and again; the last answer after `limit`.
 template <class Condition> bool WaitUntil(Condition condition, std::chrono::milliseconds limit = kPatience)

@@ -38,11 +38,12 @@ TEST_F(MainWindow, IsMovedByItsTitleBarAndResizedAtItsEdges)
         return drag == 0 ? by == 0
                          : by * drag > 0 && std::abs(by) > std::abs(drag) - 16 && std::abs(by) <= std::abs(drag);
     };
-    EXPECT_TRUE(Screen().Drag(before.left + 150, before.top + 15, before.left + 30, before.top + 75, [&] {
-        const auto now = player.Place();
-        return moves(now.left - before.left, -120) && moves(now.top - before.top, 60) && now.width == before.width
-            && now.height == before.height;
-    }));
+    EXPECT_TRUE(
+        Screen().DragWindow(player.window, before.left + 150, before.top + 15, before.left + 30, before.top + 75, [&] {
+            const auto now = player.Place();
+            return moves(now.left - before.left, -120) && moves(now.top - before.top, 60) && now.width == before.width
+                && now.height == before.height;
+        }));
     for (int side = 0; side < 9; ++side) {
         const int horizontal = side % 3 - 1;
         const int vertical = side / 3 - 1;
@@ -55,7 +56,7 @@ TEST_F(MainWindow, IsMovedByItsTitleBarAndResizedAtItsEdges)
         };
         const int x = edge(horizontal, before.left, before.width);
         const int y = edge(vertical, before.top, before.height);
-        EXPECT_TRUE(Screen().Drag(x, y, x + 60 * horizontal, y + 20 * vertical, [&] {
+        EXPECT_TRUE(Screen().DragWindow(player.window, x, y, x + 60 * horizontal, y + 20 * vertical, [&] {
             const auto now = player.Place();
             return moves(now.width - before.width, 60 * std::abs(horizontal))
                 && moves(now.height - before.height, 20 * std::abs(vertical))
@@ -64,31 +65,15 @@ TEST_F(MainWindow, IsMovedByItsTitleBarAndResizedAtItsEdges)
         }));
     }
     before = player.Place();
-    EXPECT_TRUE(Screen().Drag(before.left + 3, before.top + 200, before.left + 500, before.top + 200, [&] {
-        return player.Place().width == WindowLayout::kMinimumWidth && player.Place().Right() == before.Right();
-    }));
+    EXPECT_TRUE(
+        Screen().DragWindow(player.window, before.left + 3, before.top + 200, before.left + 500, before.top + 200, [&] {
+            return player.Place().width == WindowLayout::kMinimumWidth && player.Place().Right() == before.Right();
+        }));
     EXPECT_TRUE(player.PictureMoves());
     EXPECT_CLOSES_CLEANLY(player);
 }
 
-TEST_F(MainWindow, MaximisesAndComesBackByItsTitleBarAndItsButton)
-{
-    auto player = ShowPlaying();
-    const auto before = player.Place();
-    DoubleClickTitleBar(player);
-    EXPECT_TRUE(TakesPlace(player, Screen().Area()));
-    EXPECT_TRUE(player.PictureMoves());
-    player.Click(Button::Maximize);
-    EXPECT_TRUE(TakesPlace(player, before));
-    player.Click(Button::Maximize);
-    EXPECT_TRUE(TakesPlace(player, Screen().Area()));
-    DoubleClickTitleBar(player);
-    EXPECT_TRUE(TakesPlace(player, before));
-    player.Click(Button::Close);
-    EXPECT_ENDED_CLEANLY(player);
-}
-
-TEST_F(MainWindow, FullScreenComesByADoubleClickAndLeavesTheWindowAsItWas)
+TEST_F(MainWindow, FullScreenAndMaximisingLeaveTheWindowAsItWas)
 {
     auto player = ShowPlaying();
     const auto before = player.Place();
@@ -111,7 +96,12 @@ TEST_F(MainWindow, FullScreenComesByADoubleClickAndLeavesTheWindowAsItWas)
     EXPECT_EQ(player.Place(), Screen().Area());
     DoubleClickTitleBar(player);
     EXPECT_TRUE(TakesPlace(player, before));
-    EXPECT_CLOSES_CLEANLY(player);
+    player.Click(Button::Maximize);
+    EXPECT_TRUE(TakesPlace(player, Screen().Area()));
+    player.Click(Button::Maximize);
+    EXPECT_TRUE(TakesPlace(player, before));
+    player.Click(Button::Close);
+    EXPECT_ENDED_CLEANLY(player);
 }
 
 TEST_F(MainWindow, PlaysWithoutAWindowManager)
@@ -128,6 +118,30 @@ TEST_F(MainWindow, PlaysWithoutAWindowManager)
     EXPECT_TRUE(TakesPlace(player, before));
     player.process.Signal(SIGTERM);
     EXPECT_ENDED_CLEANLY(player);
+}
+
+TEST_F(MainWindow, KeepsItsPartsAndDialogsInSightOnASmallScreen)
+{
+    StoreSettings([](PlayerSettings& settings) { settings.PlaylistPosition = 2; }); // above the video
+    Desktop small(480, 320);
+    auto player = Show(Start({ Clips::Make("clip.mp4") }, ".", { "DISPLAY=" + small.Name() }), small);
+    const auto isInSight = [&small](const Rect& place) {
+        return place.width > 0 && SharedArea(place, small.Area()) == 1LL * place.width * place.height;
+    };
+    EXPECT_TRUE(player.PictureMoves());
+    EXPECT_TRUE(isInSight(player.Place()));
+    EXPECT_LE(player.Video().Bottom(), player.OnScreen(player.Layout().Panel()).top);
+    for (const auto* const menu : { "alt+t", "alt+h" }) {
+        small.Activate(player.window);
+        small.Press(menu);
+        EXPECT_TRUE(player.WaitForMenus(1));
+        small.Press("Return");
+        EXPECT_TRUE(player.WaitForDialogs(1));
+        EXPECT_TRUE(isInSight(small.Place(player.Dialogs().at(0)))) << menu;
+        small.Press("Escape");
+        EXPECT_TRUE(player.WaitForDialogs(0));
+    }
+    EXPECT_CLOSES_CLEANLY(player);
 }
 
 } // namespace

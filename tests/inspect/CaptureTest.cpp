@@ -5,15 +5,17 @@
 #include <algorithm>
 #include <deque>
 #include <sstream>
+#include <thread>
 
 using namespace zentaro;
+using namespace std::chrono_literals;
 
 namespace {
 
 /// Ends after a number of waits; gives a piece of text for each read, then nothing, then the end of the stream.
 class ScriptedChild final : public platform::ChildProcess {
 public:
-    bool HasEnded(std::chrono::milliseconds) override { return terminated || waits-- <= 0; }
+    bool HasEnded(std::chrono::milliseconds) override { return (terminated && !immortal) || waits-- <= 0; }
     void Terminate() override { terminated = true; }
     void Pause() override { }
     std::optional<std::size_t> Read(std::span<char> buffer) override
@@ -32,6 +34,7 @@ public:
     bool streamStaysOpen = false;
     bool endless = false;
     bool terminated = false;
+    bool immortal = false;
     std::vector<std::uint32_t> classes;
 };
 
@@ -43,10 +46,12 @@ protected:
         int pumps = 0;
         m_context.pumpMessages = [&] { pumped(++pumps); };
         std::ostringstream log;
-        Capture(m_child, log, mode, m_context);
+        m_hasEnded = Capture(m_child, log, mode, m_context, m_limit);
         return log.str();
     }
 
+    RunLimit m_limit;
+    bool m_hasEnded = false;
     ScriptedChild m_child;
     ToolContext m_context;
 };
@@ -72,7 +77,33 @@ TEST_F(CaptureTest, a_cancel_ends_the_child_and_keeps_what_it_had_printed)
     m_child.waits = 1000;
     m_child.streamStaysOpen = true; // a process that the child has left behind holds it
     EXPECT_EQ(Captured([&](int pump) { m_context.CancelExecute = pump == 2; }), "1234");
-    EXPECT_TRUE(m_child.terminated);
+    EXPECT_TRUE(m_child.terminated && m_hasEnded);
+}
+
+TEST_F(CaptureTest, a_limit_ends_who_is_silent_or_goes_on_for_too_long_and_waits_for_nobody)
+{
+    m_child.waits = 1'000'000'000;
+    m_child.streamStaysOpen = true;
+    m_child.output.assign(20, "x");
+    m_limit.silence = 100ms;
+    int pumps = 0;
+    const auto printed = Captured([&](int pump) {
+        pumps = pump;
+        std::this_thread::sleep_for(10ms);
+    });
+    EXPECT_EQ(printed.size(), 20U);
+    EXPECT_GE(pumps, 22); // each output has counted
+    EXPECT_TRUE(m_child.terminated && !m_hasEnded);
+
+    m_child.output = { "x" };
+    m_child.endless = true;
+    m_child.immortal = true; // in the middle of a read from a dead drive
+    m_limit.total = 100ms;
+    EXPECT_FALSE(Captured([](int) {}).empty());
+    EXPECT_FALSE(m_hasEnded);
+    m_child.waits = 0; // has ended, and left others that go on printing
+    Captured([](int) {});
+    EXPECT_FALSE(m_hasEnded);
 }
 
 TEST_F(CaptureTest, a_stream_that_never_ends_does_not_outlive_a_cancel)

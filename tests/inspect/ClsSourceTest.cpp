@@ -15,8 +15,10 @@ protected:
     std::string report;                       // behind the command and the version
     std::string mpgtx;
     std::string version = "ffmpeg version 5.1";
+    std::map<std::string, FileTrouble> troubles;
     std::vector<std::string> thumbnailRuns; // the arguments' text
     std::vector<bool> thumbnailMade;        // by run; later ones succeed
+    bool thumbnailHangs = false;
     std::optional<Error> failure;
     std::optional<std::vector<AviStream>> avi;
     CodecNames audioNames{ "mp3,MP3" }, videoNames{ "h264,H.264" };
@@ -37,8 +39,8 @@ protected:
         EXPECT_FALSE(files.contains("/t/img.jpg"));
         thumbnailRuns.push_back(command.text);
         if (thumbnailRuns.size() > thumbnailMade.size() || thumbnailMade[thumbnailRuns.size() - 1])
-            files["/t/img.jpg"] = "jpeg";
-        return true;
+            files["/t/img.jpg"] = "jpeg"; // half a picture of a tool that hangs
+        return !thumbnailHangs;
     }
 
     std::optional<std::string> Read(const std::string& path, std::size_t limit) override
@@ -54,6 +56,8 @@ protected:
             return std::nullopt;
         return FileFacts{ static_cast<std::int64_t>(file->second.size()), "yesterday" };
     }
+
+    FileTrouble Trouble(const std::string& path) override { return troubles[path]; }
 
     void Remove(const std::string& path) override { files.erase(path); }
 
@@ -76,6 +80,7 @@ protected:
         context.ffmpeg = "/p/ffmpeg";
         context.mpgtx = "/p/mpgtx";
         context.workingFolder = "/t/";
+        context.installAdvice = [](const std::string& tool) { return "Get " + tool + "."; };
         context.audioCodecNames = &audioNames;
         context.videoCodecNames = &videoNames;
         context.defaultVideoPicture = defaultVideo;
@@ -116,11 +121,22 @@ TEST_F(SourceTest, failures_leave_their_reason_and_keep_the_report_of_the_last_s
     auto source = Source();
     failure = Error{ 2003, "Could not create piped process. LastError 2" };
     EXPECT_FALSE(source.GetVideoInformation("/a.mkv"));
-    EXPECT_EQ(source.Outcome().error, "Could not create piped process. LastError 2");
+    EXPECT_TRUE(source.Outcome().error.starts_with("Could not create piped process. LastError 2\r\n"));
+    EXPECT_NE(source.Outcome().error.find("\"ffmpeg\""), std::string::npos);
+    EXPECT_TRUE(source.Outcome().error.ends_with("Get ffmpeg."));
+    failure = Error{ 2001, "Could not create pipe LastError 24" };
+    EXPECT_FALSE(source.GetVideoInformation("/a.mkv"));
+    EXPECT_EQ(source.Outcome().error, failure->text);
+    failure = Error{ kToolHangs, "" };
+    EXPECT_FALSE(source.GetVideoInformation("/a.mkv"));
+    EXPECT_EQ(source.Outcome().error, kHangsText);
     failure.reset();
     report = "  Duration: N/A, bitrate: N/A\n" + kSound;
     EXPECT_FALSE(source.GetVideoInformation("/a.mkv"));
     EXPECT_EQ(source.Outcome().error, "File may be incomplete or corrupted.");
+    troubles["/a.mkv"] = FileTrouble::Empty;
+    EXPECT_FALSE(source.GetVideoInformation("/a.mkv"));
+    EXPECT_EQ(source.Outcome().error, "File may be incomplete or corrupted.\r\nThe file is empty.");
     EXPECT_TRUE(files.empty());
     report = "";
     EXPECT_TRUE(source.GetVideoInformation("/a.mkv"));
@@ -157,6 +173,13 @@ TEST_F(SourceTest, a_picture_that_cannot_be_made_is_tried_again_without_seeking)
     EXPECT_EQ(source.Outcome().messages,
         (std::vector<InspectionMessage>{
             { "Cannot render thumbnail for /a.mkv. The video codec may be unsupported." } }));
+
+    thumbnailHangs = true;
+    source = Inspected("/a.mkv", kTenSeconds + kFilm);
+    EXPECT_EQ(thumbnailRuns.size(), 5U); // it would hang again
+    EXPECT_EQ(source.StreamImage(0), defaultVideo);
+    EXPECT_EQ(source.Outcome().messages.size(), 1U);
+    EXPECT_FALSE(files.contains("/t/img.jpg"));
 
     // The tool's own version decides how it is called.
     version = "FFmpeg version 0.6.6";

@@ -10,8 +10,10 @@
 
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <sstream>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace zentaro;
 namespace fs = std::filesystem;
@@ -193,10 +195,29 @@ TEST_F(RealFiles, a_film_taken_upright_stands_upright)
 TEST_F(RealFiles, what_is_no_media_file_is_refused_in_words)
 {
     std::ofstream(Path("text.mp3")) << "no sound";
-    for (const std::string name : { "missing.avi", "text.mp3" }) {
+    std::ofstream(Path("empty.mp4"));
+    std::ofstream(Path("closed.mp4")) << "secret";
+    fs::permissions(Path("closed.mp4"), fs::perms::none);
+    fs::create_directory(Path("folder.mkv"));
+    ASSERT_EQ(::mkfifo(Path("pipe.mp4").c_str(), 0600), 0);
+    m_context.reportLimit.silence = std::chrono::seconds(2);
+    const std::string bad = "Unsupported file format or the file is corrupted.";
+    const bool isRoot = ::geteuid() == 0; // who may read anything
+    for (const auto& [name, reason] : std::map<std::string, std::string>{
+             { "missing.avi", bad + "\r\nThere is no such file." },
+             { "text.mp3", bad },
+             { "empty.mp4", bad + "\r\nThe file is empty." },
+             { "closed.mp4",
+                 bad
+                     + (isRoot ? ""
+                               : "\r\nThe file cannot be read. It may belong to another user, or its drive may be "
+                                 "damaged.") },
+             { "folder.mkv", bad + "\r\nIt is a folder, not a file." },
+             { "pipe.mp4", kHangsText },
+         }) {
         clsSource source(m_context);
         EXPECT_FALSE(source.GetVideoInformation(Path(name)));
-        EXPECT_EQ(source.Outcome().error, "Unsupported file format or the file is corrupted.");
+        EXPECT_EQ(source.Outcome().error, reason) << name;
     }
     m_context.ffmpeg = Path("no tool here");
     clsSource source(m_context);
@@ -230,4 +251,17 @@ TEST_F(RealFiles, avi_files_of_a_current_muxer_are_read_and_only_regular_files)
     ASSERT_EQ(::mkfifo(Path("fifo").c_str(), 0600), 0);
     for (const auto& path : { m_folder.Path(), Path("missing"), Path("fifo"), std::string("/dev/zero"), std::string() })
         EXPECT_FALSE(clsAVIDelay().OpenFile(path)) << path;
+}
+
+TEST_F(RealFiles, a_picture_is_saved_and_decoded_with_every_bit)
+{
+    const std::vector<std::uint32_t> pixels{ 0xFF102030, 0x80405060, 0xFF708090, 0x01FF0000, 0xFFFFFFFF, 0xFF000001 };
+    const std::string name = "\xC3\xA4 picture"; // without an extension
+    ASSERT_TRUE(SavePictureFile(Picture(3, 2, pixels), Path(name)));
+    const auto decoded = DecodePictureFile(Path(name));
+    ASSERT_EQ(decoded.Width(), 3);
+    ASSERT_EQ(decoded.Height(), 2);
+    EXPECT_EQ(std::vector(decoded.Pixels(), decoded.Pixels() + 6), pixels);
+    EXPECT_FALSE(SavePictureFile({}, Path("empty")));
+    EXPECT_TRUE(DecodePictureFile(Path("missing")).IsEmpty());
 }

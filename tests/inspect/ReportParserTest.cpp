@@ -46,7 +46,7 @@ TEST(ReportParser, lines_become_streams_and_what_cannot_be_converted_stays_zero)
         { "Audio: a, 1 Hz, stereo", "0 a 1 Hz x2 0 kb/s" },
         { "Audio: a, 1 Hz, 7 channels", "0 a 1 Hz x7 0 kb/s" },
         { "Audio: a, 1 Hz, 5 channels", "0 a 1 Hz x6 0 kb/s" },
-        { "Audio: a, 1 Hz, mono, s16, 64 kb/s", "0 a 1 Hz x1 0 kb/s" }, // a rate is the fourth of four parts
+        { "Audio: a, 1 Hz, mono, 64 kb/s, s16", "0 a 1 Hz x1 0 kb/s" }, // a rate is the fourth of four parts
         { "Audio: a, 1 Hz, mono, 64", "0 a 1 Hz x1 0 kb/s" },
         { "Audio: b, 99999999999 Hz, :, x y", "0 b 0 Hz x0 0 kb/s" },
         { "Stream #0.x: Audio: a", "0 a 0 Hz x0 0 kb/s" },

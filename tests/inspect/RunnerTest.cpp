@@ -201,6 +201,23 @@ TEST_F(Runner, without_a_pipe_or_a_log_there_is_an_error_and_no_tool)
     EXPECT_FALSE(HasChildren());
 }
 
+TEST_F(Runner, a_limit_ends_a_stubborn_tool_and_its_children)
+{
+    ToolCommand command{ "/bin/sh", { "-c", "trap '' TERM; echo $$; sh -c 'echo $$; sleep 100'; sleep 100" }, "sh" };
+    command.limit.silence = 500ms;
+    const auto result = ExecuteAndCapture(command, Path("log"), 0, false, 2, "", context);
+    ASSERT_FALSE(result);
+    EXPECT_EQ(result.error().number, kToolHangs);
+    std::istringstream list(Content("log").substr(3));
+    int count = 0;
+    for (pid_t pid = 0; list >> pid; ++count)
+        EXPECT_TRUE(Eventually([&] { return IsGone(pid); })) << pid;
+    EXPECT_EQ(count, 2);
+    command.limit.total = 500ms;
+    EXPECT_FALSE(ShellExecuteAndWait(command, 0, true, true, context));
+    EXPECT_FALSE(HasChildren());
+}
+
 TEST_F(Runner, a_cancel_ends_a_stubborn_tool_with_its_group_and_waits_for_nobody_else)
 {
     std::istringstream pids(

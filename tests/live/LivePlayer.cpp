@@ -76,6 +76,9 @@ void EnterSilentDesktop()
     static const bool entered = [] {
         setenv("DISPLAY", screen.Name().c_str(), 1);
         setenv("QT_QPA_PLATFORM", "xcb", 1);
+        // Nobody listens there: without an address, libraries would start a bus of their own.
+        setenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent", 1);
+        setenv("DBUS_SYSTEM_BUS_ADDRESS", "unix:path=/nonexistent", 1);
         setenv("PULSE_SERVER", "unix:/nonexistent", 1);
         setenv("ALSA_CONFIG_PATH", "/nonexistent", 1);
         static int argc = 1;

@@ -46,6 +46,8 @@ TEST_F(HandOverTest, a_text_that_comes_before_there_is_a_handler_waits_for_it)
     EXPECT_EQ(OutcomeOf(sending), Opened);
     EXPECT_EQ(received, std::vector<std::string>{ "early.avi" });
     EXPECT_EQ(SendHandOverText(ends->CommandHandle(), ""), Opened);
+    for (int i = 0; i < 110; ++i) // more than may wait at once
+        EXPECT_EQ(SendHandOverText(ends->CommandHandle(), "next.avi"), Opened);
 }
 
 } // namespace

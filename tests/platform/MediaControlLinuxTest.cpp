@@ -10,6 +10,7 @@ namespace zentaro::platform {
 namespace {
 
 using namespace std::chrono_literals;
+using testing::AllOf;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using Kind = MediaCommand::Kind;
@@ -27,7 +28,7 @@ public:
             0);
     }
 
-    /// The next signals, with the first thing that each tells.
+    /// The next signals with all that they tell.
     std::vector<std::string> Next(std::size_t count)
     {
         const auto end = std::chrono::steady_clock::now() + 30s;
@@ -40,24 +41,14 @@ public:
 private:
     static int OnSignal(sd_bus_message* message, void* listener, sd_bus_error*)
     {
-        std::string text = sd_bus_message_get_member(message);
-        const char* value = nullptr;
-        std::int64_t number = 0;
-        if (text == "PropertiesChanged") {
-            sd_bus_message_skip(message, "s");
-            sd_bus_message_enter_container(message, 'a', "{sv}");
-            while (sd_bus_message_enter_container(message, 'e', "sv") > 0) {
-                sd_bus_message_read(message, "s", &value);
-                text += std::string(" ") + value;
-                sd_bus_message_skip(message, "v");
-                sd_bus_message_exit_container(message);
-            }
-        } else if (text == "Seeked" && sd_bus_message_read(message, "x", &number) > 0) {
-            text += " " + std::to_string(number);
-        } else if (text == "TrackRemoved" && sd_bus_message_read(message, "o", &value) > 0) {
-            text += std::string(" ") + value;
-        }
-        static_cast<Listener*>(listener)->m_heard.push_back(text);
+        char* text = nullptr;
+        std::size_t size = 0;
+        auto* const file = open_memstream(&text, &size);
+        sd_bus_message_dump(message, file, 0);
+        std::fclose(file);
+        static_cast<Listener*>(listener)->m_heard.push_back(
+            sd_bus_message_get_member(message) + (" " + std::string(text, size)));
+        std::free(text);
         return 0;
     }
 
@@ -177,13 +168,15 @@ TEST_F(MediaControlLinuxTest, changes_and_jumps_are_announced)
     Listener listener(bus.Address());
     status.playback = MediaPlayback::Playing;
     control.Publish(status);
-    EXPECT_THAT(listener.Next(1), ElementsAre("PropertiesChanged PlaybackStatus"));
+    EXPECT_THAT(listener.Next(1), ElementsAre(HasSubstr("\"PlaybackStatus\"")));
     status.position = 60'000;
     control.Publish(status);
-    EXPECT_THAT(listener.Next(1), ElementsAre("Seeked 60000000"));
+    EXPECT_THAT(listener.Next(1), ElementsAre(AllOf(HasSubstr("Seeked"), HasSubstr("INT64 60000000;"))));
     status.tracks = TracksWith({ 9, "Three", "/clips/three.mp4" });
     control.Publish(status);
-    EXPECT_THAT(listener.Next(3), ElementsAre("PropertiesChanged", "TrackRemoved /org/zentaro/track/8", "TrackAdded"));
+    EXPECT_THAT(listener.Next(3),
+        ElementsAre(HasSubstr("\"Tracks\""), AllOf(HasSubstr("TrackRemoved"), HasSubstr("/org/zentaro/track/8")),
+            AllOf(HasSubstr("TrackAdded"), HasSubstr("\"Three\""))));
 }
 
 TEST_F(MediaControlLinuxTest, a_second_player_has_a_name_of_its_own_and_both_come_back_with_the_bus)

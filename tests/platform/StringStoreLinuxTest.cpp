@@ -43,22 +43,16 @@ TEST_F(StoreOfFiles, gives_back_every_text_byte_by_byte)
 
 TEST_F(StoreOfFiles, keeps_keys_names_and_roots_apart)
 {
-    ASSERT_TRUE(Write("", "own value", "A"));
-    ASSERT_TRUE(Write("B", "value", "A"));
-    ASSERT_TRUE(Write("", "key below", "A\\B"));
-    ASSERT_TRUE(Write("x", "in General", "General"));
-    ASSERT_TRUE(Write("x", "no key", ""));
+    const std::pair<const char*, const char*> places[] = { { "A", "" }, { "A", "B" }, { "A\\B", "" },
+        { "General", "x" }, { "", "x" } };
+    for (const auto& [key, name] : places)
+        ASSERT_TRUE(Write(name, std::string(key) + "+" + name, key));
     ASSERT_TRUE(store->Write(Root::ClassesRoot, "A", "B", "other root"));
-    EXPECT_EQ(Read("", "A"), "own value");
-    EXPECT_EQ(Read("", "A\\B"), "key below");
-    EXPECT_EQ(Read("x", "General"), "in General");
-    EXPECT_EQ(Read("x", ""), "no key");
-
-    EXPECT_TRUE(store->Delete(Root::CurrentUser, "A", "B"));
-    EXPECT_TRUE(store->Delete(Root::CurrentUser, "A", "B"));
-    EXPECT_TRUE(store->Delete(Root::CurrentUser, "missing", "B"));
-    EXPECT_EQ(Read("B", "A"), "-1");
-    EXPECT_EQ(Read("", "A\\B"), "key below");
+    for (const auto& [key, name] : places)
+        EXPECT_EQ(Read(name, key), std::string(key) + "+" + name);
+    for (const auto* key : { "A", "A", "missing" })
+        EXPECT_TRUE(store->Delete(Root::CurrentUser, key, "B"));
+    EXPECT_EQ(Read("B", "A") + Read("", "A\\B"), "-1A\\B+");
     EXPECT_EQ(store->Read(Root::ClassesRoot, "A", "B", ""), "other root");
 }
 

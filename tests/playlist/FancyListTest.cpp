@@ -94,6 +94,17 @@ TEST_F(FancyListTest, RowsHaveSeparatorsTheSelectedOneItsColourAndNone)
     EXPECT_EQ(Shot().pixel(0, 0), kWindow) << "the pointer shows where a click went";
 }
 
+TEST_F(FancyListTest, AHintStandsInAnEmptyListAlone)
+{
+    const auto plain = Shot();
+    list.SetHint("Drop files here, or press Ctrl+O");
+    EXPECT_NE(Shot(), plain);
+    Add(1);
+    const auto filled = Shot();
+    list.SetHint({});
+    EXPECT_EQ(Shot(), filled);
+}
+
 TEST_F(FancyListTest, AThumbnailLiesFittedInItsBlackBox)
 {
     list.AddItem("", Plain(640, 480, kGreen));

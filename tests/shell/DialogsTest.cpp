@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QScreen>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTextEdit>
 #include <QtTest/QTest>
@@ -75,7 +76,10 @@ TEST(DialogsTest, EveryBoxSetsTheOptionThatItNames)
         frmSettings dialog(before, std::vector<FileTypeRow>(24), skin, nullptr);
         std::vector<SettingsPages> committed;
         QObject::connect(
-            &dialog, &frmSettings::Commit, [&](const SettingsPages& pages) { committed.push_back(pages); });
+            &dialog, &frmSettings::Commit, [&](const SettingsPages& shown, const SettingsPages& chosen) {
+                committed.push_back(shown);
+                committed.push_back(chosen);
+            });
         const auto press = [&dialog](const QString& text) {
             for (auto* const button : dialog.findChildren<QAbstractButton*>()) {
                 if (button->text() == text)
@@ -87,7 +91,7 @@ TEST(DialogsTest, EveryBoxSetsTheOptionThatItNames)
         press("&Apply"); // nothing is left to apply
         press(name);
         press("OK");
-        EXPECT_EQ(committed, (std::vector{ after, before })) << name;
+        EXPECT_EQ(committed, (std::vector{ before, after, after, before })) << name;
     }
 }
 

@@ -46,8 +46,8 @@ TEST(SettingsPagesTest, EveryFlagHasAPlaceOfItsOwnOnTheWayThereAndBack)
         pages.*shown = true;
         EXPECT_EQ(PagesOf(settings), pages) << "flag " << &stored - &kFlags[0].stored;
         settings.*stored = -1;
-        EXPECT_EQ(WithPages(Dark(), pages), settings);
-        EXPECT_EQ(WithPages(settings, PagesOf(Dark())), Dark());
+        EXPECT_EQ(WithPages(Dark(), PagesOf(Dark()), pages), settings);
+        EXPECT_EQ(WithPages(settings, pages, PagesOf(Dark())), Dark());
     }
     for (std::size_t type = 0; type < 24; ++type) {
         auto settings = Dark();
@@ -55,7 +55,8 @@ TEST(SettingsPagesTest, EveryFlagHasAPlaceOfItsOwnOnTheWayThereAndBack)
         auto pages = PagesOf(Dark());
         pages.associations[type] = true;
         EXPECT_EQ(PagesOf(settings), pages);
-        EXPECT_EQ(WithPages(Dark(), pages), settings);
+        EXPECT_EQ(WithPages(Dark(), PagesOf(Dark()), pages), settings);
+        EXPECT_EQ(WithPages(settings, pages, PagesOf(Dark())), Dark());
     }
 }
 
@@ -73,7 +74,7 @@ TEST(SettingsPagesTest, ChoicesAndTextsGoThereAndBackAndOtherNumbersShowAsWhatTh
         EXPECT_EQ(pages.snapshotPath, settings.SnapshotPath);
         EXPECT_EQ(pages.snapshotPrefix, "two");
         pages.snapshotPath = "three";
-        const auto written = WithPages(Dark(), pages);
+        const auto written = WithPages(Dark(), PagesOf(Dark()), pages);
         EXPECT_EQ(written.TitleBarMode, pages.titleBarMode);
         EXPECT_EQ(written.PlaylistPosition, pages.playlistPosition);
         EXPECT_EQ(written.SnapshotPath, "three");
@@ -84,22 +85,42 @@ TEST(SettingsPagesTest, ChoicesAndTextsGoThereAndBackAndOtherNumbersShowAsWhatTh
     EXPECT_EQ(PagesOf(settings).snapshotPath, platform::PicturesFolder());
 }
 
+TEST(SettingsPagesTest, WhatWasNotTouchedStaysAsItIsStoredHoweverItShows)
+{
+    PlayerSettings settings;
+    settings.AlwaysOnTop = settings.Associations[5] = 7;
+    settings.TitleBarMode = 9;
+    settings.PlaylistPosition = -3;
+    settings.SnapshotPath = "C:\\";
+    settings.SnapshotPrefix = "a,b";
+    const auto shown = PagesOf(settings);
+    EXPECT_EQ(WithPages(settings, shown, shown), settings);
+    EXPECT_FALSE(FaultIn(shown, shown));
+    auto chosen = shown;
+    chosen.showInTray = !shown.showInTray;
+    auto expected = settings;
+    expected.ShowInTray = chosen.showInTray ? -1 : 0;
+    EXPECT_EQ(WithPages(settings, shown, chosen), expected);
+    EXPECT_FALSE(FaultIn(shown, chosen));
+}
+
 TEST(SettingsPagesTest, WhatTheFileWouldCutIsRefused)
 {
-    SettingsPages pages;
-    pages.snapshotPath = platform::PicturesFolder();
+    SettingsPages before;
+    before.snapshotPath = platform::PicturesFolder();
+    auto pages = before;
     pages.snapshotPrefix = "IMG 1_";
-    EXPECT_FALSE(FaultIn(pages));
+    EXPECT_FALSE(FaultIn(before, pages));
     for (const auto* const prefix :
         { "a,b", "\"a", " a", "a\rb", "a\nb", "a/b", "a\\b", "a:", "a*", "a?", "a\"", "<", ">", "|" }) {
         pages.snapshotPrefix = prefix;
-        ASSERT_TRUE(FaultIn(pages)) << prefix;
-        EXPECT_EQ(FaultIn(pages)->field, PageFault::Field::SnapshotPrefix);
+        ASSERT_TRUE(FaultIn(before, pages)) << prefix;
+        EXPECT_EQ(FaultIn(before, pages)->field, PageFault::Field::SnapshotPrefix);
     }
     for (const auto& path : { std::string(), std::string("pictures"), platform::PicturesFolder() + ",old" }) {
         pages.snapshotPath = path;
-        ASSERT_TRUE(FaultIn(pages)) << path;
-        EXPECT_EQ(FaultIn(pages)->field, PageFault::Field::SnapshotPath);
+        ASSERT_TRUE(FaultIn(before, pages)) << path;
+        EXPECT_EQ(FaultIn(before, pages)->field, PageFault::Field::SnapshotPath);
     }
 }
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -50,16 +51,16 @@ TEST(WindowLayout, edges_and_corners_take_hold_to_the_pixel_and_alike_on_all_sid
     }
 }
 
-TEST(WindowLayout, a_window_off_every_screen_comes_back_and_one_that_shows_stays)
+TEST(WindowLayout, all_of_a_window_comes_onto_the_screen_that_has_most_of_it)
 {
     const std::array<Rect, 2> screens{ Rect{ 0, 0, 1920, 1080 }, Rect{ -1280, 0, 1280, 1024 } };
     const Rect onSecond{ -1200, 100, 388, 515 };
     EXPECT_EQ(MoveOntoScreen(onSecond, screens), onSecond);
-    const Rect halfOut{ 1800, 900, 388, 515 };
-    EXPECT_EQ(MoveOntoScreen(halfOut, screens), halfOut);
+    EXPECT_EQ(MoveOntoScreen({ 1800, 900, 388, 515 }, screens), (Rect{ 1532, 565, 388, 515 }));
+    EXPECT_EQ(MoveOntoScreen({ -190, -100, 388, 515 }, screens), (Rect{ 0, 0, 388, 515 }));
+    EXPECT_EQ(MoveOntoScreen({ -200, 100, 388, 515 }, screens), (Rect{ -388, 100, 388, 515 }));
     EXPECT_EQ(MoveOntoScreen({ 5000, 300, 388, 515 }, screens), (Rect{ 1532, 300, 388, 515 }));
-    // The title bar above the screen cannot be reached, though most of the window shows.
-    EXPECT_EQ(MoveOntoScreen({ 100, -100, 388, 515 }, screens), (Rect{ 100, 0, 388, 515 }));
+    EXPECT_EQ(MoveOntoScreen({ -1900, 9, 1800, 1070 }, screens), (Rect{ -1280, 0, 1280, 1024 }));
     EXPECT_EQ(MoveOntoScreen({ 9000, 9000, 4000, 4000 }, screens), (Rect{ 0, 0, 1920, 1080 }));
     EXPECT_EQ(MoveOntoScreen(onSecond, {}), onSecond);
     // Full screen takes the screen that shows most of the window.
@@ -68,7 +69,7 @@ TEST(WindowLayout, a_window_off_every_screen_comes_back_and_one_that_shows_stays
     EXPECT_EQ(ScreenOf({ 9000, 9000, 388, 515 }, screens), screens[0]);
 }
 
-TEST(WindowLayout, the_controls_keep_apart_in_the_first_window_and_on_the_narrowest_screen)
+TEST(WindowLayout, the_controls_keep_apart_in_the_first_window)
 {
     const int width = WindowLayout::kFirstWidth;
     const int height = WindowLayout::kFirstHeight;
@@ -78,12 +79,53 @@ TEST(WindowLayout, the_controls_keep_apart_in_the_first_window_and_on_the_narrow
             window.SeekTrack(), window.VolumeSlider(), window.VolumeNumber() },
         { 0, 0, width, height });
     const BarLayout bar(800);
-    ExpectControlsApart(bar, { bar.TimeLabel(), bar.SeekTrack(), bar.VolumeSlider(), bar.VolumeNumber() },
-        { 0, 0, 800, BarLayout::kHeight });
     // A picture lies with its sign's middle on the middle of the bar; the round one is made smaller.
     EXPECT_EQ(bar.PictureRect(Button::Pause, 0.25), (Rect{ 166, 17, 35, 44 }));
     EXPECT_EQ(bar.PictureRect(Button::Play, 0.5), (Rect{ 123, 2, 43, 52 }));
     EXPECT_EQ(bar.PictureRect(Button::Close, 0.5), Rect());
+}
+
+TEST(WindowLayout, the_bar_of_full_screen_goes_without_controls_before_its_track_gets_short)
+{
+    std::size_t before = 0;
+    for (int width = 480; width <= 1920; ++width) {
+        SCOPED_TRACE(width);
+        const BarLayout bar(width);
+        EXPECT_GE(bar.SeekTrack().width, BarLayout::kLeastTrack);
+        std::vector<Rect> parts{ bar.TimeLabel(), bar.SeekTrack() };
+        for (const auto& rect : { bar.VolumeSlider(), bar.VolumeNumber() }) {
+            if (rect.width > 0)
+                parts.push_back(rect);
+        }
+        ExpectControlsApart(bar, parts, { 0, 0, width, BarLayout::kHeight });
+        for (const auto button : { Button::Play, Button::Pause, Button::SoundOn, Button::FullScreen })
+            EXPECT_GT(bar.ButtonRect(button).width, 0);
+        for (const auto button : { Button::Previous, Button::Rewind, Button::Stop })
+            parts.push_back(bar.ButtonRect(button));
+        const auto shown = static_cast<std::size_t>(std::ranges::count_if(parts, [](auto& r) { return r.width > 0; }));
+        EXPECT_GE(shown, before); // nothing goes where there is more room
+        before = shown;
+    }
+    EXPECT_EQ(before, 7u);
+    EXPECT_EQ(BarLayout(787).VolumeNumber(), Rect());
+    EXPECT_EQ(BarLayout(788).VolumeNumber(), (Rect{ 700, 18, 30, 20 }));
+    EXPECT_EQ(BarLayout(788).SeekTrack(), (Rect{ 430, 20, 120, 16 }));
+    EXPECT_GT(BarLayout(640).ButtonRect(Button::Rewind).width, 0);
+}
+
+TEST(WindowLayout, two_panes_never_need_more_than_there_is)
+{
+    for (int room = -20; room < 800; ++room) {
+        const auto share = SharePanes(room);
+        EXPECT_TRUE(share.list == 0 || 2 * share.minimum + PaneShare::kSplitter <= room) << room;
+        EXPECT_TRUE(share.list == 0 || share.list >= share.minimum) << room;
+        EXPECT_TRUE(share.list == 0 || room - PaneShare::kSplitter - share.list >= share.minimum) << room;
+    }
+    EXPECT_EQ(SharePanes(85).list, 0);
+    EXPECT_EQ(SharePanes(WindowLayout(360, WindowLayout::kMinimumHeight).Content().height).list, 55);
+    EXPECT_EQ(SharePanes(400).minimum, 96);
+    EXPECT_EQ(SharePanes(400).list, 180);
+    EXPECT_EQ(SharePanes(1000).list, 280);
 }
 
 TEST(Caption, follows_the_title_bar_mode)

@@ -1,5 +1,6 @@
 #include "platform/Files.h"
 #include "platform/StringStore.h"
+#include "tests/platform/WorkingFolder.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -67,13 +68,13 @@ TEST(FoldersOnWindows, an_absolute_path_has_a_drive_or_a_server)
 
 TEST(FoldersOnWindows, a_file_that_another_program_holds_is_not_missing)
 {
-    const auto path = ExecutableFolder() + "\\held.txt";
+    const WorkingFolder folder;
+    const auto path = folder / "held.txt";
     ASSERT_TRUE(ReplaceTextFile(path, "text"));
     const HANDLE holder = CreateFileA(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
     EXPECT_EQ(ReadFileText(path, 10).state, FileState::Unreadable);
     CloseHandle(holder);
     EXPECT_EQ(ReadFileText(path, 10).state, FileState::Readable);
-    DeleteFileA(path.c_str());
 }
 
 TEST(Manifest, makes_utf8_the_code_page)

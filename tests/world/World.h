@@ -23,6 +23,8 @@ public:
     bool IsMaximized() const override { return maximized; }
     double WindowLeft() const override { return left; }
     double WindowTop() const override { return 45; }
+    int WindowWidth() const override { return 400; }
+    int WindowHeight() const override { return 500; }
     bool IsFullScreen() const override { return isFullScreen; }
     void ShowWindow() override { log << "show "; }
     void CloseWindow() override { ++closes; }
