@@ -53,6 +53,10 @@ bool Player::Load(const std::string& commandLine, PlayerFace face)
     m_window.SetPlaylistPosition(m_settings.StoredDock());
     m_face.window->ShowWindow();
     m_instance.Receive([this](const std::string& text, auto done) { ReceiveText(text, std::move(done)); });
+    m_instance.ReceiveAdded([this](const std::string& path) {
+        m_face.window->FlashCaption();
+        m_library.DropOnList({ path });
+    });
     return true;
 }
 

@@ -12,12 +12,12 @@ constexpr auto kRoot = platform::StringStore::Root::CurrentUser;
 
 constexpr int kMostCalls = 2; // before this process plays by itself
 
-std::string SettingKey()
+} // namespace
+
+std::string HandOverKey()
 {
     return platform::SettingsKey(kApplicationTitle, "Setting");
 }
-
-} // namespace
 
 SingleInstance::SingleInstance(HandOverService service, platform::StringStore& store, char separator)
     : m_service(std::move(service))
@@ -28,7 +28,7 @@ SingleInstance::SingleInstance(HandOverService service, platform::StringStore& s
 
 std::string SingleInstance::Read(const char* name, const char* fallback)
 {
-    return m_store.Read(kRoot, SettingKey(), name, fallback);
+    return m_store.Read(kRoot, HandOverKey(), name, fallback);
 }
 
 bool SingleInstance::BecomePlayer(StartupRequest request, bool useNewPlayer)
@@ -60,14 +60,26 @@ void SingleInstance::Publish()
     if (!ends)
         return; // a player that cannot be reached plays all the same
     m_ends = std::move(*ends);
-    IgnoreFailure(m_store.Write(kRoot, SettingKey(), "txtHwnd", m_ends->CommandHandle()));
-    IgnoreFailure(m_store.Write(kRoot, SettingKey(), "txtHwnd1", m_ends->ProbeHandle()));
+    IgnoreFailure(m_store.Write(kRoot, HandOverKey(), "txtHwnd", m_ends->CommandHandle()));
+    IgnoreFailure(m_store.Write(kRoot, HandOverKey(), "txtHwnd1", m_ends->ProbeHandle()));
+    if (!m_ends->AddHandle().empty())
+        IgnoreFailure(m_store.Write(kRoot, HandOverKey(), kAddHandle, m_ends->AddHandle()));
 }
 
 void SingleInstance::Receive(std::function<void(std::string text, platform::HandOverDone done)> onText)
 {
     if (m_ends)
         m_ends->Deliver(std::move(onText));
+}
+
+void SingleInstance::ReceiveAdded(std::function<void(std::string path)> onPath)
+{
+    if (!m_ends)
+        return;
+    m_ends->DeliverAdded([onPath = std::move(onPath)](std::string path, const platform::HandOverDone& done) {
+        onPath(std::move(path));
+        done();
+    });
 }
 
 } // namespace zentaro

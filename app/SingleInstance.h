@@ -20,6 +20,11 @@ struct HandOverService {
     std::function<void(const std::string& text)> tell = [](const std::string&) {};
 };
 
+/// Where the per-user store says how a running player is reached: its key, and the name of the handle for paths that
+/// are to be added.
+std::string HandOverKey();
+inline constexpr const char* kAddHandle = "AddHandle";
+
 /// Sees to it that one player receives the files of all starts.
 class SingleInstance {
 public:
@@ -32,6 +37,8 @@ public:
     const StartupRequest& Request() const { return m_request; }
     /// From now on texts of later starts arrive, those of before first. Each is answered through its `done`.
     void Receive(std::function<void(std::string text, platform::HandOverDone done)> onText);
+    /// The same for the paths that others want to be added.
+    void ReceiveAdded(std::function<void(std::string path)> onPath);
     /// Later starts look for another player.
     void Close() { m_ends.reset(); }
 

@@ -94,11 +94,15 @@ std::string MakeFolderOfThisRun()
     return folder.empty() ? folder : WithTrailingSeparator(std::move(folder), platform::PathSeparator());
 }
 
-void ChooseWindowSystem()
+/// False when no window can be shown, which was said.
+bool ChooseWindowSystem()
 {
-    const auto* const chosen = platform::WindowSystem();
-    if (*chosen != '\0' && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", chosen);
+    const auto chosen = platform::WindowSystem(qgetenv("QT_QPA_PLATFORM").toStdString());
+    if (!chosen)
+        std::fprintf(stderr, "%s\n", chosen.error().text.c_str());
+    else if (!chosen->empty())
+        qputenv("QT_QPA_PLATFORM", chosen->c_str());
+    return bool(chosen);
 }
 
 /// The window and its pictures, for the desktop's media controls.
@@ -122,7 +126,8 @@ MediaRemote::Window RemoteWindow(frmMain& window, const std::string& workingFold
 int main(int argc, char** argv)
 {
     const auto commandLine = platform::CommandLineText({ argv + 1, argv + argc });
-    ChooseWindowSystem();
+    if (!ChooseWindowSystem())
+        return 1;
     // Qt takes words of its own from the command line; all of ours belong to the file.
     int ownArgument = 1;
     QApplication application(ownArgument, argv);

@@ -3,7 +3,7 @@ include_guard()
 
 function(zentaro_options target)
   target_compile_features(${target} PUBLIC cxx_std_20)
-  target_compile_options(${target} PRIVATE -Wall -Wextra -Wconversion -Wshadow -Werror)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wconversion -Wshadow $<$<BOOL:${ZENTARO_WERROR}>:-Werror>)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     # GCC 12 sees overlapping copies in the standard library's own operator+ for strings.
     target_compile_options(${target} PRIVATE -Wno-restrict)

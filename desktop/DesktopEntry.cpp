@@ -34,20 +34,20 @@ std::string Escaped(std::string_view text)
 }
 
 /// Some readers look for the command's first word as it stands, quotes included: then another program comes first.
-std::string Command(const DesktopEntryFacts& facts, const std::string& arguments)
+std::string Command(const std::string& program, const std::string& arguments)
 {
-    const auto* starter = facts.program.starts_with('"') ? "env " : "";
-    return starter + Escaped(facts.program + " " + arguments);
+    const auto* starter = program.starts_with('"') ? "env " : "";
+    return starter + Escaped(program + " " + arguments);
 }
 
-std::string TryExec(const DesktopEntryFacts& facts)
+std::string TryExec(const std::string& program)
 {
-    return "\nTryExec=" + Escaped(PathInExec(facts.program));
+    return "\nTryExec=" + Escaped(PathInExec(program));
 }
 
 constexpr const char* kAddName = "Add To Playlist";
 constexpr const char* kAddComment = "Add to the playlist of Zentaro";
-constexpr const char* kAddArguments = "%f \"*Add\"";
+constexpr const char* kAddArguments = "%F"; // all at once, so that they keep their order
 
 } // namespace
 
@@ -115,7 +115,7 @@ std::string OpenEntryText(const DesktopEntryFacts& facts)
 {
     return "[Desktop Entry]\nType=Application\nVersion=1.0\nName=Zentaro\nGenericName=Media Player\n"
            "Comment=Play films and music\nKeywords=video;film;movie;audio;music;sound;playlist;\nExec="
-        + Command(facts, "%f") + TryExec(facts) + "\nIcon=" + Escaped(facts.icon)
+        + Command(facts.program, "%f") + TryExec(facts.program) + "\nIcon=" + Escaped(facts.icon)
         + "\nTerminal=false\nStartupNotify=false\nStartupWMClass=Quorvane Zentaro\n"
           "Categories=AudioVideo;Audio;Video;Player;Qt;\nMimeType="
         + Joined(facts.mimeTypes) + "\n";
@@ -124,15 +124,16 @@ std::string OpenEntryText(const DesktopEntryFacts& facts)
 std::string AddEntryText(const DesktopEntryFacts& facts)
 {
     return std::string("[Desktop Entry]\nType=Application\nVersion=1.0\nName=") + kAddName + "\nComment=" + kAddComment
-        + "\nExec=" + Command(facts, kAddArguments) + TryExec(facts) + "\nIcon=" + Escaped(facts.icon)
+        + "\nExec=" + Command(facts.adder, kAddArguments) + TryExec(facts.program) + "\nIcon=" + Escaped(facts.icon)
         + "\nTerminal=false\nStartupNotify=false\nNoDisplay=true\nMimeType=" + Joined(facts.mimeTypes) + "\n";
 }
 
 std::string AddServiceMenuText(const DesktopEntryFacts& facts)
 {
     return "[Desktop Entry]\nType=Service\nServiceTypes=KonqPopupMenu/Plugin\nMimeType=" + Joined(facts.mimeTypes)
-        + TryExec(facts) + "\nActions=AddToPlaylist;\nX-KDE-Priority=TopLevel\n\n[Desktop Action AddToPlaylist]\nName="
-        + kAddName + "\nIcon=" + Escaped(facts.icon) + "\nExec=" + Command(facts, kAddArguments) + "\n";
+        + TryExec(facts.program)
+        + "\nActions=AddToPlaylist;\nX-KDE-Priority=TopLevel\n\n[Desktop Action AddToPlaylist]\nName=" + kAddName
+        + "\nIcon=" + Escaped(facts.icon) + "\nExec=" + Command(facts.adder, kAddArguments) + "\n";
 }
 
 std::string AddNemoActionText(const DesktopEntryFacts& facts)
@@ -140,11 +141,10 @@ std::string AddNemoActionText(const DesktopEntryFacts& facts)
     std::string names;
     for (const auto& extension : facts.extensions)
         names += extension.substr(1) + ";";
-    // One file at a time: here only whole selections can be handed on.
     return std::string("[Nemo Action]\nActive=true\nName=") + kAddName + "\nComment=" + kAddComment
-        + "\nExec=" + Command(facts, "%F \"*Add\"") + "\nIcon-Name=" + Escaped(facts.icon)
-        + "\nSelection=s\nQuote=double\nExtensions=" + names + "\nDependencies=" + Escaped(PathInExec(facts.program))
-        + ";\n";
+        + "\nExec=" + Command(facts.adder, kAddArguments) + "\nIcon-Name=" + Escaped(facts.icon)
+        + "\nSelection=notnone\nQuote=double\nExtensions=" + names
+        + "\nDependencies=" + Escaped(PathInExec(facts.program)) + ";\n";
 }
 
 std::string MimePackageText(const std::vector<MimeAddition>& additions)

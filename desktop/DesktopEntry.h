@@ -23,6 +23,7 @@ std::string PathInExec(std::string_view quoted);
 /// are not on offer any more when it has been removed.
 struct DesktopEntryFacts {
     std::string program; ///< as of ExecQuoted()
+    std::string adder;   ///< the program that adds its arguments to the playlist, as of ExecQuoted()
     std::string icon;    ///< a path, or a name of the icon theme
     std::vector<std::string> mimeTypes;
     std::vector<std::string> extensions; ///< with their dots

@@ -1,34 +1,34 @@
 # The Debian packages that Zentaro needs, with what each is for. Sourced by ./run, ./test and bench/launch.
-# Names hold for Debian 12 and newer.
+# Names hold for Debian 12 and newer, and for Ubuntu 24.04. Libraries that a -dev package of the build brings are not
+# named again: their own names differ from release to release.
 
 packages_run='
-libqt6widgets6          the windows
-libvlc5                 the engine that plays
-libvlc-bin              its plug-in cache: without it every start costs a tenth of a second more
-vlc-plugin-base         its readers, decoders and sound outputs
+vlc-plugin-base         the readers, decoders and sound outputs of the engine
 vlc-plugin-video-output its picture outputs
 ffmpeg                  reads what is inside a file, makes thumbnails, the demo clip and the JPG pictures
 mpgtx                   reads MPEG program streams
-libsystemd0             speaks to the login manager, the disk service and the session; Qt brings it anyway
-libdvdread8             finds the video folder of a disc that is not mounted; the disc reader of the engine brings it anyway
-fonts-inter             the typeface of the windows
+'
+# What is only better with them: no start fails where they cannot be had.
+packages_help='
+ccache                  makes the second build quick
+fonts-inter             the typeface of the windows, and of the icons
+libvlc-bin              the plug-in cache of the engine: without it every start costs a tenth of a second more
+qt6-wayland             shows the windows where there is no X server beside a Wayland display
 xdg-utils               opens the help and web pages in the browser
 '
 packages_build='
 g++                     the compiler
 cmake                   describes the build
 ninja-build             runs the build
-ccache                  makes the second build quick
 pkg-config              finds the libraries
 qt6-base-dev            the windows
-libvlc-dev              the engine
+libvlc-dev              the engine that plays
 libxcb1-dev             window states that Qt has no call for
-libsystemd-dev          sd-bus: restart, power off, drives, sleep, media keys
-libdvdread-dev          reads the folders of a disc
+libsystemd-dev          sd-bus: speaks to the login manager, the disk service and the session
+libdvdread-dev          finds the video folder of a disc that is not mounted
 nlohmann-json3-dev      prints what zentaro-inspect knows as JSON
 librsvg2-bin            draws the SVG sources of all pictures
 icoutils                packs the icons of Windows
-fonts-inter             the letters on the icons
 '
 packages_package='
 dpkg-dev                finds what the .deb depends on
@@ -54,6 +54,7 @@ appstream               checks the metadata of the package
 lintian                 checks the package
 playerctl               a client of the media controls
 systemd                 busctl, another one
+weston                  a Wayland display in memory
 clang                   builds the fuzz targets
 libclang-rt-dev         libFuzzer and the sanitizers of clang
 g++-mingw-w64-x86-64-posix  builds for Windows
@@ -68,36 +69,80 @@ vlc                     what we compare with
 mpv                     what we compare with
 '
 
-# install_packages GROUP...: installs what is missing of these groups and says so.
-install_packages() {
-  local group list names missing
+# missing_of NAME...: those that neither are installed nor are provided by an installed package of another name.
+missing_of() {
+  local missing
+  # A package of the right architecture and fully installed prints one line "name installed".
+  missing=$(comm -23 <(printf '%s\n' "$@" | sort -u) \
+                     <(dpkg-query -W -f '${Package} ${db:Status-Status}\n' "$@" 2>/dev/null | sed -n 's/ installed$//p' | sort -u))
+  [[ -z $missing ]] && return
+  # As "libdvdread8" by "libdvdread8t64". A list of provided names looks like "name (= 1.2), other".
+  comm -23 <(echo "$missing") \
+           <(dpkg-query -W -f '${db:Status-Status}, ${Provides}\n' 2>/dev/null | sed -n 's/^installed, //p' |
+             tr ',' '\n' | sed 's/^ *//; s/ .*//' | sort -u) | tr '\n' ' '
+}
+
+names_of() {
+  local group list
   for group in "$@"; do
     list="packages_$group"
-    names+=" $(sed 's/[[:space:]].*//' <<<"${!list}")"
+    sed -n 's/[[:space:]].*//; /./p' <<<"${!list}"
   done
+}
+
+# run_apt COMMAND...: as the administrator. Another installation may hold its locks; one of them apt does not wait for.
+run_apt() {
+  local as_root=() tries=40 code
+  ((EUID == 0)) || as_root=(sudo)
+  while true; do
+    code=0
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout=600 -qq "$@" \
+      </dev/null >&2 2>"$apt_errors" || code=$?
+    cat "$apt_errors" >&2
+    ((code == 0)) && return
+    grep -q 'Could not get lock' "$apt_errors" && ((tries-- > 0)) || return $code
+    echo "Waiting for another installation to end ..." >&2
+    sleep 3
+  done
+}
+
+# fetch_packages NAME...: installs them all, or none.
+fetch_packages() {
+  local apt_errors code=0
+  apt_errors=$(mktemp)
+  apt-cache show --no-all-versions "$@" >/dev/null 2>&1 || run_apt update || code=$?
+  # Package lists that have grown old name versions that are gone: then new lists and once more.
+  if ((code == 0)); then
+    run_apt install -y --no-install-recommends "$@" ||
+      { run_apt update && run_apt install -y --no-install-recommends "$@"; } || code=$?
+  fi
+  rm -f "$apt_errors"
+  return $code
+}
+
+# install_packages GROUP...: installs what is missing of these groups and says so. Fails when something needed is still
+# missing then. What only helps is asked for once: where it cannot be had, nobody hears of it again.
+install_packages() {
+  local needed helping known="$root/build/packages-tried" name
   if ! command -v dpkg-query >/dev/null; then
-    echo "This is no Debian system; please see to these packages yourself:" $names >&2
+    echo "This is no Debian system; please see to these packages yourself:" $(names_of "$@" help) >&2
     return 0
   fi
-  # A package of the right architecture and fully installed prints one line "name installed".
-  missing=$(comm -23 <(tr -s ' \n' '\n\n' <<<"$names" | sed '/^$/d' | sort -u) \
-                     <(dpkg-query -W -f '${Package} ${db:Status-Status}\n' $names 2>/dev/null | sed -n 's/ installed$//p' | sort -u))
-  [[ -z $missing ]] && return 0
-  missing=$(tr '\n' ' ' <<<"$missing")
-
-  local as_root=()
-  if ((EUID != 0)); then
-    if ! command -v sudo >/dev/null; then
-      echo "Missing packages; as root, please run: apt-get install --no-install-recommends $missing" >&2
-      return 1
-    fi
-    as_root=(sudo)
+  needed=$(missing_of $(names_of "$@"))
+  helping=
+  for name in $(missing_of $(names_of help)); do
+    grep -qsx "$name" "$known" || helping+="$name "
+  done
+  [[ -z $needed$helping ]] && return 0
+  if ((EUID != 0)) && ! command -v sudo >/dev/null; then
+    [[ -z $needed ]] || echo "Missing packages; as root, please run: apt-get install --no-install-recommends $needed$helping" >&2
+    [[ -z $needed ]]
+    return
   fi
-  echo "Installing: $missing" >&2
-  local install=("${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends)
-  if ! apt-cache show --no-all-versions $missing >/dev/null 2>&1; then
-    "${as_root[@]}" apt-get update -qq >&2 || return 1
+  echo "Installing: $needed$helping" >&2
+  [[ -z $needed ]] || fetch_packages $needed || return
+  if [[ -n $helping ]] && ! fetch_packages $helping; then
+    echo "Going on without these, which only help: $helping" >&2
+    mkdir -p "$(dirname "$known")" && printf '%s\n' $helping >>"$known"
   fi
-  # Package lists that have grown old name versions that are gone: then new lists and once more.
-  "${install[@]}" $missing </dev/null >&2 || { "${as_root[@]}" apt-get update -qq >&2 && "${install[@]}" $missing </dev/null >&2; }
 }

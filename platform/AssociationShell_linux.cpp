@@ -183,7 +183,7 @@ private:
 
     DesktopEntryFacts Facts(const std::vector<AssociatedType>& types) const
     {
-        DesktopEntryFacts facts{ m_programPath, "zentaro", {}, {} };
+        DesktopEntryFacts facts{ m_programPath, ExecQuoted(m_programFolder + "zentaro-add"), "zentaro", {}, {} };
         for (const auto* name : { "icons/zentaro.png", "icons/png/256/zentaro.png" }) {
             if (PathExists(m_programFolder + name))
                 facts.icon = m_programFolder + name;

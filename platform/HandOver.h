@@ -21,13 +21,14 @@ struct HandOverLimits {
 /// that comes late, or after the sender or the ends are gone, does nothing.
 using HandOverDone = std::function<void()>;
 
-/// The two named ends at which a running player receives texts from later starts: one for commands, one that only
-/// answers that the player is alive. A handle is the decimal text of a number that is not 0.
+/// The named ends at which a running player receives texts from later starts: one for commands, one that only answers
+/// that the player is alive, and one for paths that are to be added. A handle is the decimal text of a number that is
+/// not 0.
 ///
 /// Texts do not wait for each other: each is handed on as soon as it is complete, also while others are still being
 /// opened, and its sender is answered when its own `done` is called.
 ///
-/// Linux: two sockets of this user in the runtime folder, served by Qt's event loop.
+/// Linux: sockets of this user in the runtime folder, served by Qt's event loop.
 /// Windows: two hidden edit windows that receive WM_SETTEXT. The window procedure waits for `done` by handling
 /// messages, so a text that comes meanwhile is handed on from within, and a sender is answered only after those that
 /// came later and still wait. No sender waits longer than the limit for that.
@@ -40,10 +41,14 @@ public:
 
     virtual std::string CommandHandle() const = 0;
     virtual std::string ProbeHandle() const = 0;
+    /// Empty on Windows, where files are added by the command line of a start.
+    virtual std::string AddHandle() const { return {}; }
     /// From now on texts are delivered, on this thread, by its event loop. Earlier ones have waited.
     virtual void Deliver(std::function<void(std::string text, HandOverDone done)> onCommand) = 0;
+    /// The same for the paths that are to be added.
+    virtual void DeliverAdded(std::function<void(std::string path, HandOverDone done)> /*onPath*/) { }
 
-    /// Both ends, ready to be connected to.
+    /// All ends, ready to be connected to.
     static Result<std::unique_ptr<HandOverEnds>> Listen();
     static Result<std::unique_ptr<HandOverEnds>> ListenWithin(HandOverLimits limits);
 };
@@ -66,11 +71,12 @@ HandOverOutcome SendHandOverText(const std::string& handle, const std::string& t
 HandOverOutcome SendHandOverTextWithin(const std::string& handle, const std::string& text, HandOverLimits limits);
 
 /// Held while the handles are read, tested and published, so that of several starts at once exactly one becomes the
-/// player. Per user. Waits at most `timeout` for another holder, then is empty; the caller goes on all the same.
+/// player; under another purpose by whoever adds files, so that those of two do not mix. Per user. Waits at most
+/// `timeout` for another holder, then is empty; the caller goes on all the same.
 class HandOverLock {
 public:
     virtual ~HandOverLock() = default;
-    static std::unique_ptr<HandOverLock> Take(std::chrono::milliseconds timeout);
+    static std::unique_ptr<HandOverLock> Take(std::chrono::milliseconds timeout, const std::string& purpose = "start");
 };
 
 /// Marks, until the process ends, that a player runs: on Windows a named mutex, elsewhere a locked file of that name in

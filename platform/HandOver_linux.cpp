@@ -114,48 +114,57 @@ Result<End> ListenIn(const FileDescriptor& folder)
 
 class SocketEnds : public HandOverEnds {
 public:
-    SocketEnds(FileDescriptor folder, End command, HandOverLimits limits)
+    using Handler = HandOverReceiver::Handler;
+
+    SocketEnds(FileDescriptor folder, HandOverLimits limits)
         : m_folder(std::move(folder))
-        , m_command(std::move(command))
-        , m_limits(limits)
     {
+        m_limits.opening = limits.opening;
     }
     ~SocketEnds() override
     {
-        for (const auto* end : { &m_command, &m_probe }) {
+        for (const auto* end : { &m_command, &m_probe, &m_add }) {
             if (end->socket)
                 unlinkat(m_folder.Number(), end->handle.c_str(), 0);
         }
     }
 
-    Result<void> AddProbe()
+    Result<void> Listen()
     {
-        auto probe = ListenIn(m_folder);
-        if (!probe)
-            return probe.error();
-        m_probe = std::move(*probe);
+        for (auto* end : { &m_command, &m_probe, &m_add }) {
+            auto made = ListenIn(m_folder);
+            if (!made)
+                return made.error();
+            *end = std::move(*made);
+        }
         return {};
     }
 
     std::string CommandHandle() const override { return m_command.handle; }
     std::string ProbeHandle() const override { return m_probe.handle; }
+    std::string AddHandle() const override { return m_add.handle; }
 
-    void Deliver(std::function<void(std::string, HandOverDone)> onCommand) override
+    void Deliver(Handler onCommand) override
     {
-        HandOverReceiver::Limits limits;
-        limits.opening = m_limits.opening;
-        m_commands = std::make_unique<HandOverReceiver>(m_command.socket.Number(), std::move(onCommand), limits);
-        m_probes = std::make_unique<HandOverReceiver>(
-            m_probe.socket.Number(), [](const std::string&, const HandOverDone& done) { done(); }, limits);
+        m_commands = Receive(m_command, std::move(onCommand));
+        m_probes = Receive(m_probe, [](const std::string&, const HandOverDone& done) { done(); });
     }
+    void DeliverAdded(Handler onPath) override { m_added = Receive(m_add, std::move(onPath)); }
 
 private:
+    std::unique_ptr<HandOverReceiver> Receive(const End& end, Handler handler) const
+    {
+        return std::make_unique<HandOverReceiver>(end.socket.Number(), std::move(handler), m_limits);
+    }
+
     FileDescriptor m_folder;
     End m_command;
     End m_probe;
-    HandOverLimits m_limits;
+    End m_add;
+    HandOverReceiver::Limits m_limits;
     std::unique_ptr<HandOverReceiver> m_commands;
     std::unique_ptr<HandOverReceiver> m_probes;
+    std::unique_ptr<HandOverReceiver> m_added;
 };
 
 /// The sender's side of one hand-over.
@@ -278,12 +287,9 @@ Result<std::unique_ptr<HandOverEnds>> HandOverEnds::ListenWithin(HandOverLimits 
     const FileDescriptor locked(openat(folder->Number(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (LockWithin(locked.Number(), std::chrono::seconds(2)))
         RemoveDeadSockets(*folder);
-    auto command = ListenIn(*folder);
-    if (!command)
-        return command.error();
-    auto ends = std::make_unique<SocketEnds>(std::move(*folder), std::move(*command), limits);
-    if (const auto probe = ends->AddProbe(); !probe)
-        return probe.error();
+    auto ends = std::make_unique<SocketEnds>(std::move(*folder), limits);
+    if (const auto listening = ends->Listen(); !listening)
+        return listening.error();
     return std::unique_ptr<HandOverEnds>(std::move(ends));
 }
 
@@ -310,9 +316,9 @@ HandOverOutcome SendHandOverTextWithin(const std::string& handle, const std::str
     return socket.Outcome();
 }
 
-std::unique_ptr<HandOverLock> HandOverLock::Take(std::chrono::milliseconds timeout)
+std::unique_ptr<HandOverLock> HandOverLock::Take(std::chrono::milliseconds timeout, const std::string& purpose)
 {
-    auto file = OpenRuntimeFile("start.lock");
+    auto file = OpenRuntimeFile(purpose + ".lock");
     if (!file || !LockWithin(file->Number(), timeout))
         return nullptr;
     return std::make_unique<FolderLock>(std::move(*file));

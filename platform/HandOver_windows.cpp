@@ -259,9 +259,9 @@ HandOverOutcome SendHandOverTextWithin(const std::string& handle, const std::str
     return answer == kTakenOver ? HandOverOutcome::TakenOver : HandOverOutcome::Silent;
 }
 
-std::unique_ptr<HandOverLock> HandOverLock::Take(std::chrono::milliseconds timeout)
+std::unique_ptr<HandOverLock> HandOverLock::Take(std::chrono::milliseconds timeout, const std::string& purpose)
 {
-    const HANDLE mutex = CreateMutexA(nullptr, FALSE, "Local\\ZentaroStart");
+    const HANDLE mutex = CreateMutexA(nullptr, FALSE, ("Local\\Zentaro-" + purpose).c_str());
     if (!mutex)
         return nullptr;
     const DWORD outcome = WaitForSingleObject(mutex, static_cast<DWORD>(timeout.count()));

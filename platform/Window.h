@@ -1,6 +1,9 @@
 #pragma once
 
+#include "base/Result.h"
+
 #include <cstdint>
+#include <string>
 
 namespace zentaro::platform {
 
@@ -8,7 +11,9 @@ namespace zentaro::platform {
 using NativeWindow = std::uintptr_t;
 
 /// Qt's name for the window system to be used; empty where Qt chooses well by itself. "offscreen" without a display.
-const char* WindowSystem();
+/// `wanted`: which one the user has told Qt to use, empty for none. Fails, with what can be done, where there is a
+/// display and Qt lacks the plug-in for it: Qt itself would abort.
+Result<std::string> WindowSystem(const std::string& wanted);
 
 /// Keeps the (shown) window above all others, or no longer. Its place, size and focus stay.
 void SetTopmost(NativeWindow window, bool topmost);

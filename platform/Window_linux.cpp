@@ -1,9 +1,17 @@
 #include "platform/Window.h"
 
+#include "platform/Files_linux.h"
+
+#include <QDir>
+#include <QLibraryInfo>
+
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <initializer_list>
 #include <memory>
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <xcb/xcb.h>
 
 namespace zentaro::platform {
@@ -56,16 +64,59 @@ void RequestState(NativeWindow window, std::uint32_t action, const char* state)
     const Reply<xcb_generic_error_t> error(xcb_request_check(connection.get(), cookie));
 }
 
+std::string Variable(const char* name)
+{
+    const char* const value = std::getenv(name);
+    return value != nullptr ? value : "";
+}
+
+/// `usual`: the name of the display where no variable has one.
+bool IsWaylandThere(const std::string& usual)
+{
+    if (!Variable("WAYLAND_SOCKET").empty())
+        return true; // a connection that stands already
+    auto path = Variable("WAYLAND_DISPLAY");
+    if (path.empty())
+        path = usual;
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    if (!path.starts_with('/'))
+        path = Variable("XDG_RUNTIME_DIR") + "/" + path;
+    if (path.ends_with('/') || path.size() >= sizeof address.sun_path)
+        return false;
+    path.copy(address.sun_path, sizeof address.sun_path - 1);
+    const FileDescriptor display(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+    return connect(display.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+}
+
+bool HasWaylandPlugin()
+{
+    auto folders = QString::fromLocal8Bit(qgetenv("QT_PLUGIN_PATH")).split(QDir::listSeparator(), Qt::SkipEmptyParts);
+    folders.append(QLibraryInfo::path(QLibraryInfo::PluginsPath));
+    return std::any_of(folders.begin(), folders.end(), [](const QString& folder) {
+        return !QDir(folder + "/platforms").entryList({ "libqwayland*" }, QDir::Files).isEmpty();
+    });
+}
+
 } // namespace
 
-const char* WindowSystem()
+Result<std::string> WindowSystem(const std::string& wanted)
 {
+    const bool wantsWayland = wanted.find("wayland") != std::string::npos;
+    if (!wanted.empty() && !wantsWayland && wanted.find("xcb") == std::string::npos)
+        return std::string();
     const Connection connection(xcb_connect(nullptr, nullptr));
     // The engine draws into X windows only, so a Wayland session with an X server beside it is used through that.
     if (xcb_connection_has_error(connection.get()) == 0)
-        return "xcb";
-    // Without any display Qt would abort; in memory a file can still be played or handed over.
-    return std::getenv("WAYLAND_DISPLAY") != nullptr ? "" : "offscreen";
+        return std::string("xcb");
+    // In memory a file can still be played or handed over.
+    if (!IsWaylandThere(wantsWayland ? "wayland-0" : ""))
+        return std::string("offscreen");
+    if (!HasWaylandPlugin())
+        return Error{ 0,
+            "The display speaks Wayland only, and Qt's plug-in for that is missing: please install the package "
+            "qt6-wayland, or xwayland." };
+    return std::string("wayland");
 }
 
 void SetTopmost(NativeWindow window, bool topmost)

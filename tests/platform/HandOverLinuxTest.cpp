@@ -53,6 +53,24 @@ TEST_F(HandOverOnLinux, a_full_queue_is_given_up_too_and_what_a_killed_player_le
     EXPECT_NE(stat(own.sun_path, &facts), 0);
 }
 
+TEST_F(HandOverOnLinux, paths_to_be_added_have_an_end_of_their_own)
+{
+    Listen();
+    std::vector<std::string> added;
+    ends->DeliverAdded([&](const std::string& path, const HandOverDone& done) {
+        added.push_back(path);
+        done();
+    });
+    auto sending = Send(ends->AddHandle(), "/a *Add.avi");
+    EXPECT_EQ(OutcomeOf(sending), Opened);
+    EXPECT_EQ(added, std::vector<std::string>{ "/a *Add.avi" });
+    EXPECT_TRUE(received.empty());
+    const auto forStarts = HandOverLock::Take(0ms);
+    const auto forAdding = HandOverLock::Take(0ms, "add");
+    EXPECT_TRUE(forStarts && forAdding);
+    EXPECT_FALSE(HandOverLock::Take(0ms, "add"));
+}
+
 TEST_F(HandOverOnLinux, silent_senders_are_let_go_and_waiting_ones_make_room)
 {
     Listen();
