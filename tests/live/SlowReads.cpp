@@ -2,6 +2,7 @@
 
 #include <array>
 #include <atomic>
+#include <chrono>
 #include <condition_variable>
 #include <dlfcn.h>
 #include <mutex>
@@ -9,6 +10,9 @@
 #include <unistd.h>
 
 namespace {
+
+/// Somebody who waits for the reader must not wait for ever, or no test would fail.
+constexpr std::chrono::seconds kLimit{ 20 };
 
 std::atomic<bool> g_isOn = false;
 std::atomic<int> g_held = 0;
@@ -28,7 +32,7 @@ void HoldIfSlow(int file)
     if (g_path != path.data())
         return;
     ++g_held;
-    g_released.wait(lock, [] { return !g_isOn; });
+    g_released.wait_for(lock, kLimit, [] { return !g_isOn; });
     --g_held;
 }
 

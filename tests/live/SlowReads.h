@@ -5,7 +5,7 @@
 namespace zentaro::live {
 
 /// A source that does not answer: from now on every read of that file in this process, by whichever library, waits
-/// until the object goes. One at a time.
+/// until the object goes, or for 20 s. One at a time.
 class SlowReads {
 public:
     explicit SlowReads(const std::string& path);
