@@ -250,31 +250,20 @@ void Desktop::Release()
     XSync(m_display, False);
 }
 
-bool Desktop::Drag(
-    int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere, std::chrono::seconds limit)
-{
-    constexpr int kSteps = 8;
-    Hold(fromX, fromY);
-    // Whoever follows the hand late gets one more small movement to see where it is.
-    const bool came = WaitUntil(
-        [&, step = 0]() mutable {
-            step = step < kSteps ? step + 1 : kSteps - step % 2;
-            MoveTo(fromX + (toX - fromX) * step / kSteps, fromY + (toY - fromY) * step / kSteps);
-            std::this_thread::sleep_for(20ms);
-            return step == kSteps && isThere();
-        },
-        limit);
-    Release();
-    return came;
-}
-
 bool Desktop::DragWindow(Window window, int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere)
 {
+    constexpr int kSteps = 8;
     // A busy machine's window manager can take hold of a window when the hand is on its way already: then once more
     // from where the hand let go.
     return WaitUntil([&] {
         const auto before = Place(window);
-        const bool came = Drag(fromX, fromY, toX, toY, isThere, 5s);
+        Hold(fromX, fromY);
+        for (int step = 1; step <= kSteps; ++step) {
+            MoveTo(fromX + (toX - fromX) * step / kSteps, fromY + (toY - fromY) * step / kSteps);
+            std::this_thread::sleep_for(20ms);
+        }
+        const bool came = WaitUntil(isThere, 5s);
+        Release();
         const auto now = Place(window);
         fromX += now.left != before.left ? now.left - before.left : now.Right() - before.Right();
         fromY += now.top != before.top ? now.top - before.top : now.Bottom() - before.Bottom();
@@ -288,10 +277,15 @@ bool Desktop::DropFiles(int x, int y, const std::vector<std::string>& paths)
     command.insert(command.end(), paths.begin(), paths.end());
     m_dragSource = Process(command);
     const auto says = [this](const char* word) { return m_dragSource.Output().ends_with(word); };
-    return WaitUntil([&] { return says("shown\n"); })
-        && Drag(
-            5, 5, x, y, [&] { return says("taken\n"); }, kPatience)
-        && WaitUntil([&] { return says("dropped\n"); });
+    WaitUntil([&] { return says("shown\n"); });
+    Hold(5, 5);
+    // At once to the place: whoever takes the files on the way would get them there.
+    const bool isTaken = WaitUntil([&, step = 0]() mutable {
+        MoveTo(x + ++step % 2, y);
+        return says("taken\n");
+    });
+    Release();
+    return isTaken && WaitUntil([&] { return says("dropped\n"); });
 }
 
 Window Desktop::TakeTrayIcon()
