@@ -73,7 +73,7 @@ TEST_F(Controls, EveryButtonShowsItsStatesAndAPressThatLeavesDoesNothing)
     std::map<Button, QImage> disabled;
     for (const auto button : { Button::Pause, Button::Stop, Button::FastForward, Button::Rewind, Button::Next,
              Button::Previous, Button::FullScreen, Button::Snapshot })
-        disabled[button] = NewLook(MiddleOf(player, button), {});
+        disabled[button] = SettledLook(MiddleOf(player, button));
     EXPECT_EQ(Start({ Clips::Make("clip.mp4") }).WaitForEnd(), 0);
     EXPECT_TRUE(player.PictureMoves());
     Screen().Activate(player.window);
@@ -153,8 +153,10 @@ TEST_F(Controls, ASnapshotIsAPictureInTheFolderOfItsFile)
     const auto folder = InHome("shots/clip.mp4 Images");
     fs::create_directory(InHome("shots"));
     WriteWholeFile(folder, "in the way");
-    auto player = StartAndShow({ Clips::Make("clip.mp4") });
-    EXPECT_TRUE(player.PictureMoves());
+    auto player = StartAndShow();
+    const auto disabled = SettledLook(MiddleOf(player, Button::Snapshot));
+    EXPECT_EQ(Start({ Clips::Make("clip.mp4") }).WaitForEnd(), 0);
+    NewLook(MiddleOf(player, Button::Snapshot), disabled);
     player.Click(Button::Snapshot);
     EXPECT_TRUE(WaitUntil([&] { return Note(player).height > 0; }));
 

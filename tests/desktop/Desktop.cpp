@@ -28,7 +28,11 @@ Desktop::Desktop(int width, int height, WindowManager manager)
 
 void Desktop::StartWindowManager()
 {
-    m_windowManager = Process(Words("DISPLAY=" + m_name + " openbox --sm-disable"));
+    // Without its mouse bindings: to look at each press first, it holds the pointer, and on a busy machine clicks get
+    // lost.
+    const std::string settings = "<openbox_config xmlns=\"http://openbox.org/3.4/rc\"><mouse/></openbox_config>";
+    m_windowManager = Process({ "DISPLAY=" + m_name, "bash", "-c",
+        "exec openbox --sm-disable --config-file /dev/stdin <<<'" + settings + "'" });
     if (!WaitUntil([this] { return !Numbers(m_root, "_NET_SUPPORTING_WM_CHECK").empty(); }))
         throw std::runtime_error("the window manager did not start");
 }
@@ -224,7 +228,7 @@ void Desktop::Click(int x, int y, int button, int times)
         MoveButton(button, true);
         MoveButton(button, false);
     }
-    WaitForFreePointer();
+    XSync(m_display, False);
 }
 
 void Desktop::Hold(int x, int y)
@@ -237,48 +241,29 @@ void Desktop::Hold(int x, int y)
 void Desktop::Release()
 {
     MoveButton(1, false);
-    WaitForFreePointer();
-}
-
-void Desktop::WaitForFreePointer()
-{
-    WaitUntil(
-        [&] {
-            constexpr unsigned nothing = 0;
-            return XGrabPointer(
-                       m_display, m_root, False, nothing, GrabModeAsync, GrabModeAsync, None, None, CurrentTime)
-                == GrabSuccess;
-        },
-        1s);
+    // A window manager that moves a window holds the pointer until it has seen the end.
+    WaitUntil([&] {
+        return XGrabPointer(m_display, m_root, False, 0, GrabModeAsync, GrabModeAsync, None, None, CurrentTime)
+            == GrabSuccess;
+    });
     XUngrabPointer(m_display, CurrentTime);
     XSync(m_display, False);
 }
 
-bool Desktop::Drag(
-    int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere, std::chrono::seconds limit)
-{
-    constexpr int kSteps = 8;
-    Hold(fromX, fromY);
-    // Whoever follows the hand late gets one more small movement to see where it is.
-    const bool came = WaitUntil(
-        [&, step = 0]() mutable {
-            step = step < kSteps ? step + 1 : kSteps - step % 2;
-            MoveTo(fromX + (toX - fromX) * step / kSteps, fromY + (toY - fromY) * step / kSteps);
-            std::this_thread::sleep_for(20ms);
-            return step == kSteps && isThere();
-        },
-        limit);
-    Release();
-    return came;
-}
-
 bool Desktop::DragWindow(Window window, int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere)
 {
+    constexpr int kSteps = 8;
     // A busy machine's window manager can take hold of a window when the hand is on its way already: then once more
     // from where the hand let go.
     return WaitUntil([&] {
         const auto before = Place(window);
-        const bool came = Drag(fromX, fromY, toX, toY, isThere, 5s);
+        Hold(fromX, fromY);
+        for (int step = 1; step <= kSteps; ++step) {
+            MoveTo(fromX + (toX - fromX) * step / kSteps, fromY + (toY - fromY) * step / kSteps);
+            std::this_thread::sleep_for(20ms);
+        }
+        const bool came = WaitUntil(isThere, 5s);
+        Release();
         const auto now = Place(window);
         fromX += now.left != before.left ? now.left - before.left : now.Right() - before.Right();
         fromY += now.top != before.top ? now.top - before.top : now.Bottom() - before.Bottom();
@@ -292,10 +277,15 @@ bool Desktop::DropFiles(int x, int y, const std::vector<std::string>& paths)
     command.insert(command.end(), paths.begin(), paths.end());
     m_dragSource = Process(command);
     const auto says = [this](const char* word) { return m_dragSource.Output().ends_with(word); };
-    return WaitUntil([&] { return says("shown\n"); })
-        && Drag(
-            5, 5, x, y, [&] { return says("taken\n"); }, kPatience)
-        && WaitUntil([&] { return says("dropped\n"); });
+    WaitUntil([&] { return says("shown\n"); });
+    Hold(5, 5);
+    // At once to the place: whoever takes the files on the way would get them there.
+    const bool isTaken = WaitUntil([&, step = 0]() mutable {
+        MoveTo(x + ++step % 2, y);
+        return says("taken\n");
+    });
+    Release();
+    return isTaken && WaitUntil([&] { return says("dropped\n"); });
 }
 
 Window Desktop::TakeTrayIcon()

@@ -81,9 +81,6 @@ private:
     /// What xdotool is to do.
     void Do(std::vector<std::string> words) const;
     void MoveButton(int button, bool down);
-    bool Drag(int fromX, int fromY, int toX, int toY, const std::function<bool()>& isThere, std::chrono::seconds limit);
-    /// Waits until nobody holds the pointer, as a window manager does while it looks at a press.
-    void WaitForFreePointer();
 
     int m_width;
     int m_height;

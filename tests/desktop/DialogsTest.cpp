@@ -36,15 +36,10 @@ protected:
     /// A button acts a moment after its letter; until then the next key would call that off.
     static void Choose(const std::string& letter)
     {
-        const auto look = [] { return Screen().Grab(Screen().Area()); };
-        const auto before = look();
+        const auto before = Screen().Grab(Screen().Area());
         Screen().Press("alt+" + letter);
-        EXPECT_TRUE(WaitUntil([&] { return look() != before; })) << letter;
-        WaitUntil([&] {
-            const auto now = look();
-            std::this_thread::sleep_for(300ms);
-            return look() == now;
-        });
+        EXPECT_TRUE(WaitUntil([&] { return Screen().Grab(Screen().Area()) != before; })) << letter;
+        SettledLook(Screen().Area());
     }
     bool WasOpened(const std::string& what) const
     {

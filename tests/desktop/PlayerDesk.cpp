@@ -202,6 +202,17 @@ Desktop& PlayerDesk::Screen()
     return witness.screen;
 }
 
+QImage PlayerDesk::SettledLook(const Rect& part)
+{
+    QImage look;
+    WaitUntil([&] {
+        look = Screen().Grab(part);
+        std::this_thread::sleep_for(300ms);
+        return Screen().Grab(part) == look;
+    });
+    return look;
+}
+
 PlayerSettings PlayerDesk::StoredSettings() const
 {
     const auto settings = ParseConfigurations(ReadWholeFile(ConfigPath()));

@@ -52,6 +52,9 @@ protected:
 
     static Desktop& Screen();
 
+    /// What a part of the screen looks like when it has come to rest.
+    static QImage SettledLook(const Rect& part);
+
     const std::string& Home() const { return m_home.Path(); }
     std::string InHome(const std::string& name) const { return m_home / name; }
     std::string ConfigPath() const { return InHome("program/Config.cfg"); }

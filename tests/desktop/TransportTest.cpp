@@ -51,20 +51,14 @@ protected:
         for (const auto& name : names)
             EXPECT_EQ(Start({ CopyOf(Clips::Make("clock.mp4", kLength, kClockPicture), name) }).WaitForEnd(), 0);
         Screen().Activate(player.window);
-        // The window manager has placed the window, and all of it is painted.
-        EXPECT_TRUE(WaitUntil([&] {
-            const auto place = player.Place();
-            const auto look = Screen().Grab(place);
-            std::this_thread::sleep_for(300ms);
-            return MeanOf(look).value() > 5 && player.Place() == place && Screen().Grab(place) == look;
-        }));
+        SettledLook(player.Place());
         return player;
     }
     ShownPlayer ShowPlaying(const std::vector<std::string>& names) const
     {
         auto player = ShowWith(names);
         player.Click(Button::Play);
-        EXPECT_TRUE(ReachesTime(player, 0.1, 5));
+        EXPECT_TRUE(ReachesTime(player, 0.1, 15));
         return player;
     }
     /// How a part of the window looks while the pointer is elsewhere.
@@ -154,10 +148,11 @@ TEST_F(Transport, HeldButtonsMoveTheirWayAndAPauseChangesNothing)
         const auto place = player.PlaceOf(button);
         Screen().Hold(place.left + place.width / 2, place.top + place.height / 2);
     };
+    const auto first = Time(player);
     const auto start = Clock::now();
     hold(Button::FastForward);
-    EXPECT_TRUE(ReachesTime(player, 9, kLength));
-    EXPECT_LT(Since(start), 8);
+    EXPECT_TRUE(ReachesTime(player, 12, kLength));
+    EXPECT_GT(Time(player) - first, 1.5 * Since(start));
     Screen().Release();
     EXPECT_TRUE(TakesSpeed(player, 1));
     const auto last = Time(player);
@@ -192,7 +187,7 @@ TEST_F(Transport, ButtonsAndSlidersShowWhatTheyDo)
         EXPECT_TRUE(WaitUntil([&] { return player.Title() != before; }));
         EXPECT_NE(player.Title().find(name), std::string::npos) << player.Title();
     }
-    EXPECT_TRUE(ReachesTime(player, 0.1, 5));
+    EXPECT_TRUE(ReachesTime(player, 0.1, 15));
     ClickTrack(player, 0.5);
     for (std::size_t i = 0; i < parts.size(); ++i)
         EXPECT_TRUE(LosesLook(parts[i], idle[i])) << "part " << i;
@@ -242,7 +237,7 @@ protected:
         EXPECT_TRUE(WaitUntil([&] { return player.Title() != title; }));
         Screen().Press("Prior");
         EXPECT_TRUE(player.WaitForTitle(title));
-        EXPECT_TRUE(ReachesTime(player, 0.1, 5));
+        EXPECT_TRUE(ReachesTime(player, 0.1, 15));
     }
     static bool FillsTheScreen(const ShownPlayer& player, bool fills = true)
     {
@@ -256,9 +251,10 @@ TEST_F(TransportKeys, WorkInTheWindowAndInFullScreen)
     Screen().Press("Return"); // nothing is selected yet
     Screen().Press("space");
     EXPECT_TRUE(player.WaitForTitle(".mp4"));
-    EXPECT_TRUE(ReachesTime(player, 0.1, 5));
+    EXPECT_TRUE(ReachesTime(player, 0.1, 15));
     UseKeys(player);
     // The picture goes on where it was.
+    const auto place = player.Place();
     const auto before = Time(player);
     const auto start = Clock::now();
     Screen().Press("f");
@@ -270,14 +266,14 @@ TEST_F(TransportKeys, WorkInTheWindowAndInFullScreen)
     Screen().Press("ctrl+f");
     EXPECT_TRUE(FillsTheScreen(player));
     Screen().Press("f");
-    EXPECT_TRUE(FillsTheScreen(player, false));
-    for (const auto& [key, back, place] : { std::tuple("m", "m", player.PlaceOf(Button::SoundOn)),
+    EXPECT_TRUE(WaitUntil([&] { return player.Place() == place; }));
+    for (const auto& [key, back, part] : { std::tuple("m", "m", player.PlaceOf(Button::SoundOn)),
              std::tuple("Down", "Up", player.OnScreen(player.Layout().VolumeNumber())) }) {
-        const auto look = Look(place);
+        const auto look = SettledLook(part);
         Screen().Press(key);
-        EXPECT_TRUE(LosesLook(place, look));
+        EXPECT_TRUE(LosesLook(part, look));
         Screen().Press(back);
-        EXPECT_TRUE(TakesLook(place, look));
+        EXPECT_TRUE(TakesLook(part, look));
     }
     // In the list the arrows select; what is selected is what Return plays and Delete removes.
     const auto content = player.OnScreen(player.Layout().Content());
