@@ -19,8 +19,8 @@ struct TransportItem {
         DriveDisc, ///< a disc chosen by its drive: play goes on in the same engine
     };
     Kind kind = Kind::File;
-    std::string path; ///< the current item path
-    std::string name; ///< names the folder of its snapshots
+    std::string path;     ///< the current item path
+    std::string name;     ///< names the folder of its snapshots
     bool hasVideo = true; ///< as far as is known before it plays
 
     bool IsDisc() const { return kind != Kind::File; }

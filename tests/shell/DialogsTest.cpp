@@ -75,11 +75,10 @@ TEST(DialogsTest, EveryBoxSetsTheOptionThatItNames)
         Skin skin;
         frmSettings dialog(before, std::vector<FileTypeRow>(24), skin, nullptr);
         std::vector<SettingsPages> committed;
-        QObject::connect(
-            &dialog, &frmSettings::Commit, [&](const SettingsPages& shown, const SettingsPages& chosen) {
-                committed.push_back(shown);
-                committed.push_back(chosen);
-            });
+        QObject::connect(&dialog, &frmSettings::Commit, [&](const SettingsPages& shown, const SettingsPages& chosen) {
+            committed.push_back(shown);
+            committed.push_back(chosen);
+        });
         const auto press = [&dialog](const QString& text) {
             for (auto* const button : dialog.findChildren<QAbstractButton*>()) {
                 if (button->text() == text)
