@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <ranges>
 #include <utility>
 
 namespace zentaro {
@@ -109,9 +108,9 @@ void AddQueue::Advance()
 void AddQueue::StartAhead()
 {
     ReportProgress();
-    for (auto& batch : m_batches | std::views::reverse) {
-        if (batch.turn == AddTurn::AtOnce)
-            StartIn(batch);
+    for (auto batch = m_batches.rbegin(); batch != m_batches.rend(); ++batch) {
+        if (batch->turn == AddTurn::AtOnce)
+            StartIn(*batch);
     }
     for (auto& batch : m_batches) {
         if (batch.turn == AddTurn::AfterOthers)
