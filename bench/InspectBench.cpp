@@ -184,12 +184,11 @@ private:
 
 class SilentHost : public AddQueueHost {
 public:
-    void ShowNotice(const Notice&) override { }
+    void ShowNotice(const Notice&, std::function<void()>) override { }
     void PlayItem(int, bool) override { }
     std::int32_t PlayMode() const override { return kPlayContinuous; }
-    void InspectionTaken(const Inspection&) override { }
     void EntryAdded() override { }
-    void AddProgressChanged(const AddProgress&) override { }
+    void AddProgressChanged() override { }
 };
 
 void ManyFilesAdded(benchmark::State& state)
@@ -201,7 +200,8 @@ void ManyFilesAdded(benchmark::State& state)
             [&](std::function<void()> done) { work.Post(std::move(done)); });
         Playlist playlist([] { return 0.5; });
         SilentHost host;
-        AddQueue queue(playlist, host, threads);
+        InspectionState inspected;
+        AddQueue queue(playlist, inspected, host, threads);
         threads.onCompleted = [&](int ticket, Inspection inspection) {
             queue.Completed(ticket, std::move(inspection));
         };

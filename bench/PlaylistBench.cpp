@@ -20,10 +20,9 @@ constexpr int kEntries = 10'000;
 constexpr int kReportLength = 600;
 
 struct SilentHost : AddHost {
-    void ShowNotice(const Notice&) override { }
+    void ShowNotice(const Notice&, std::function<void()>) override { }
     void PlayItem(int, bool) override { }
     std::int32_t PlayMode() const override { return playMode; }
-    void InspectionTaken(const Inspection&) override { }
     void EntryAdded() override { }
     std::int32_t playMode = kPlayContinuous;
 };
@@ -48,6 +47,7 @@ std::vector<Picture> SmallPictures()
 
 void AddAll(Playlist& playlist, SilentHost& host, const std::vector<Picture>& pictures)
 {
+    InspectionState inspected;
     Inspection inspection;
     inspection.ok = true;
     inspection.mediaInfo.assign(kReportLength, 'x');
@@ -55,8 +55,9 @@ void AddAll(Playlist& playlist, SilentHost& host, const std::vector<Picture>& pi
     for (int i = 0; i < static_cast<int>(pictures.size()); ++i) {
         const auto name = "A film of some length, part " + std::to_string(i) + ".mkv";
         inspection.thumbnail = pictures[static_cast<std::size_t>(i)];
-        LoadThumb(playlist, host, { name, "/media/films/a longer folder name/" + name, false, false },
-            [&] { return inspection; });
+        LoadThumb(
+            playlist, inspected, host, { name, "/media/films/a longer folder name/" + name, false, false }, inspection)
+            .Finish();
     }
 }
 
