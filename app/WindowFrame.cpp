@@ -2,6 +2,7 @@
 
 #include "shell/QtGeometry.h"
 
+#include <QAccessibleWidget>
 #include <QGuiApplication>
 #include <QMouseEvent>
 #include <QScreen>
@@ -49,11 +50,19 @@ std::vector<Rect> ScreenAreas(QRect (QScreen::*area)() const)
     return areas;
 }
 
+/// Screen readers look for a window around what has the focus; a plain widget would be a mere part of one.
+QAccessibleInterface* MakeAccessibleWindow(const QString&, QObject* object)
+{
+    auto* const window = qobject_cast<WindowFrame*>(object);
+    return window != nullptr ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
+}
+
 } // namespace
 
 WindowFrame::WindowFrame()
     : QWidget(nullptr, Qt::FramelessWindowHint | Qt::Window)
 {
+    QAccessible::installFactory(&MakeAccessibleWindow);
     setMinimumSize(WindowLayout::kMinimumWidth, WindowLayout::kMinimumHeight);
     resize(WindowLayout::kFirstWidth, WindowLayout::kFirstHeight);
     setMouseTracking(true);

@@ -22,7 +22,6 @@
 #include "shell/SkinButton.h"
 #include "shell/Style.h"
 
-#include <QAccessibleWidget>
 #include <QApplication>
 #include <QHelpEvent>
 #include <QMimeData>
@@ -42,13 +41,6 @@ using namespace std::chrono_literals;
 constexpr double kTwipsPerPixel = 15;
 constexpr auto kProgressDelay = 700ms;
 
-/// Screen readers look for a window around what has the focus; a plain widget would be a mere part of one.
-QAccessibleInterface* MakeAccessibleWindow(const QString&, QObject* object)
-{
-    auto* const window = qobject_cast<frmMain*>(object);
-    return window != nullptr ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
-}
-
 } // namespace
 
 frmMain::frmMain(Player& player, VideoFrame* video, const QString& programFolder)
@@ -65,7 +57,6 @@ frmMain::frmMain(Player& player, VideoFrame* video, const QString& programFolder
     , m_notes(new WindowNotes(player, *video, *m_content))
     , m_caption(kProgramName)
 {
-    QAccessible::installFactory(&MakeAccessibleWindow);
     setObjectName("frmMain");
     setWindowTitle(kProgramName);
     setWindowIcon(QIcon(programFolder + "icons/zentaro.png"));
