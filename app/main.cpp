@@ -29,6 +29,7 @@
 
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <random>
 #include <utility>
@@ -94,15 +95,30 @@ std::string MakeFolderOfThisRun()
     return folder.empty() ? folder : WithTrailingSeparator(std::move(folder), platform::PathSeparator());
 }
 
-/// False when no window can be shown, which was said.
-bool ChooseWindowSystem()
+void ChooseWindowSystem()
 {
     const auto chosen = platform::WindowSystem(qgetenv("QT_QPA_PLATFORM").toStdString());
-    if (!chosen)
-        std::fprintf(stderr, "%s\n", chosen.error().text.c_str());
-    else if (!chosen->empty())
-        qputenv("QT_QPA_PLATFORM", chosen->c_str());
-    return bool(chosen);
+    if (!chosen.empty())
+        qputenv("QT_QPA_PLATFORM", chosen.c_str());
+}
+
+/// While Qt comes up: where it finds no way to show a window it would abort.
+void SayOrEnd(QtMsgType type, const QMessageLogContext&, const QString& text)
+{
+    std::fprintf(stderr, "%s\n", qPrintable(text));
+    if (type != QtFatalMsg)
+        return;
+    if (qgetenv("QT_QPA_PLATFORM") == "wayland")
+        std::fputs("Without an X server Qt's plug-in for Wayland is needed: the package qt6-wayland.\n", stderr);
+    std::_Exit(1);
+}
+
+/// While Qt runs on Wayland: it leaves at once when the display goes, without a word to anybody else.
+void SayOrExit(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, text)));
+    if (text.startsWith("The Wayland connection"))
+        std::exit(1);
 }
 
 /// The window and its pictures, for the desktop's media controls.
@@ -126,11 +142,12 @@ MediaRemote::Window RemoteWindow(frmMain& window, const std::string& workingFold
 int main(int argc, char** argv)
 {
     const auto commandLine = platform::CommandLineText({ argv + 1, argv + argc });
-    if (!ChooseWindowSystem())
-        return 1;
+    ChooseWindowSystem();
+    qInstallMessageHandler(&SayOrEnd);
     // Qt takes words of its own from the command line; all of ours belong to the file.
     int ownArgument = 1;
     QApplication application(ownArgument, argv);
+    qInstallMessageHandler(QGuiApplication::platformName() == "wayland" ? &SayOrExit : nullptr);
     QApplication::setApplicationName(kApplicationTitle);
     QApplication::setDesktopFileName("zentaro");
     QApplication::setQuitOnLastWindowClosed(false);

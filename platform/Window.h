@@ -1,7 +1,5 @@
 #pragma once
 
-#include "base/Result.h"
-
 #include <cstdint>
 #include <string>
 
@@ -11,9 +9,9 @@ namespace zentaro::platform {
 using NativeWindow = std::uintptr_t;
 
 /// Qt's name for the window system to be used; empty where Qt chooses well by itself. "offscreen" without a display.
-/// `wanted`: which one the user has told Qt to use, empty for none. Fails, with what can be done, where there is a
-/// display and Qt lacks the plug-in for it: Qt itself would abort.
-Result<std::string> WindowSystem(const std::string& wanted);
+/// `wanted`: which one the user has told Qt to use, empty for none. "wayland" needs a plug-in of Qt's that may not be
+/// installed.
+std::string WindowSystem(const std::string& wanted);
 
 /// Keeps the (shown) window above all others, or no longer. Its place, size and focus stay.
 void SetTopmost(NativeWindow window, bool topmost);

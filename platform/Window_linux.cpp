@@ -2,10 +2,6 @@
 
 #include "platform/Files_linux.h"
 
-#include <QDir>
-#include <QLibraryInfo>
-
-#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <initializer_list>
@@ -89,34 +85,19 @@ bool IsWaylandThere(const std::string& usual)
     return connect(display.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
 }
 
-bool HasWaylandPlugin()
-{
-    auto folders = QString::fromLocal8Bit(qgetenv("QT_PLUGIN_PATH")).split(QDir::listSeparator(), Qt::SkipEmptyParts);
-    folders.append(QLibraryInfo::path(QLibraryInfo::PluginsPath));
-    return std::any_of(folders.begin(), folders.end(), [](const QString& folder) {
-        return !QDir(folder + "/platforms").entryList({ "libqwayland*" }, QDir::Files).isEmpty();
-    });
-}
-
 } // namespace
 
-Result<std::string> WindowSystem(const std::string& wanted)
+std::string WindowSystem(const std::string& wanted)
 {
     const bool wantsWayland = wanted.find("wayland") != std::string::npos;
     if (!wanted.empty() && !wantsWayland && wanted.find("xcb") == std::string::npos)
-        return std::string();
+        return {};
     const Connection connection(xcb_connect(nullptr, nullptr));
     // The engine draws into X windows only, so a Wayland session with an X server beside it is used through that.
     if (xcb_connection_has_error(connection.get()) == 0)
-        return std::string("xcb");
+        return "xcb";
     // In memory a file can still be played or handed over.
-    if (!IsWaylandThere(wantsWayland ? "wayland-0" : ""))
-        return std::string("offscreen");
-    if (!HasWaylandPlugin())
-        return Error{ 0,
-            "The display speaks Wayland only, and Qt's plug-in for that is missing: please install the package "
-            "qt6-wayland, or xwayland." };
-    return std::string("wayland");
+    return IsWaylandThere(wantsWayland ? "wayland-0" : "") ? "wayland" : "offscreen";
 }
 
 void SetTopmost(NativeWindow window, bool topmost)

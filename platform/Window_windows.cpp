@@ -5,9 +5,9 @@
 
 namespace zentaro::platform {
 
-Result<std::string> WindowSystem(const std::string&)
+std::string WindowSystem(const std::string&)
 {
-    return std::string();
+    return {};
 }
 
 void SetTopmost(NativeWindow window, bool topmost)
