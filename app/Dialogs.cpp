@@ -1,5 +1,6 @@
 #include "app/Dialogs.h"
 
+#include "app/Background.h"
 #include "app/Player.h"
 #include "app/frmMain.h"
 #include "platform/AssociationShell.h"
@@ -137,24 +138,32 @@ void Dialogs::ShowAbout()
     if (IsOneOpen())
         return;
     auto* const about = new frmAbout(m_window.Pictures(), &m_window);
-    QObject::connect(
-        about, &frmAbout::LinkChosen, &m_window, [this](const QString& address) { OpenPage(ToText(address)); });
+    QObject::connect(about, &frmAbout::LinkChosen, &m_window,
+        [this](const QString& address) { OpenPage(ToText(address), "There is no browser that shows this page:\r\n"); });
     Open(about);
 }
 
 void Dialogs::ShowHelp()
 {
     const auto help = m_programFolder + platform::HelpFile();
-    if (!platform::PathExists(help))
+    if (platform::PathExists(help))
+        OpenPage(help, "There is no program that shows the help:\r\n");
+    else
         Say("The help is missing. It should be here:\r\n" + help);
-    else if (!platform::OpenDocument(help))
-        Say("There is no program that shows the help:\r\n" + help);
 }
 
-void Dialogs::OpenPage(const std::string& address)
+void Dialogs::OpenPage(const std::string& page, const std::string& complaint)
 {
-    if (!platform::OpenDocument(address))
-        Say("There is no browser that shows this page:\r\n" + address);
+    const auto onWindowThread = [this](std::function<void()> work) {
+        QMetaObject::invokeMethod(&m_window, std::move(work), Qt::QueuedConnection);
+    };
+    RunInBackground(onWindowThread, [this, page, complaint] {
+        const bool isOpen = bool(platform::OpenDocument(page));
+        return [this, text = complaint + page, isOpen] {
+            if (!isOpen)
+                Say(text);
+        };
+    });
 }
 
 void Dialogs::Say(const std::string& text)

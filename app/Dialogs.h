@@ -31,7 +31,8 @@ public:
     void ShowHelp() override;
 
 private:
-    void OpenPage(const std::string& address);
+    /// A file or a web address; shows `complaint` with it in a box where nothing opens it.
+    void OpenPage(const std::string& page, const std::string& complaint);
     void Say(const std::string& text);
     /// True when there is a dialog already: it comes forward.
     bool IsOneOpen();

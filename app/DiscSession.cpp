@@ -100,7 +100,7 @@ void DiscSession::PlayDisc(int index, std::function<void()> then)
         { TransportItem::Kind::DriveDisc, root, name }, { location, true }, m_settings.ItemOptions(name));
     m_transport.ShowWord("LOADING...");
     if (!isOpen)
-        return Failed();
+        return Ended(true);
     m_start = std::make_shared<Start>(Start{ m_transport.Generation(), std::move(then) });
     m_service.after(kBeforeDisc, [this, start = std::weak_ptr(m_start)] {
         if (const auto awaited = start.lock(); awaited && awaited == m_start)

@@ -14,6 +14,7 @@ using namespace std::chrono_literals;
 
 constexpr const char* kRunningMark = "QuorvaneZentaro";
 constexpr auto kAfterStart = 2s; // then nobody waits for anything any more
+constexpr const char* kNotKept = "Config.cfg cannot be read at the moment: the settings of this run are not kept.";
 
 } // namespace
 
@@ -52,6 +53,8 @@ bool Player::Load(const std::string& commandLine, PlayerFace face)
     OpenStartupFile();
     m_window.SetPlaylistPosition(m_settings.StoredDock());
     m_face.window->ShowWindow();
+    if (!m_settings.IsRead())
+        m_face.window->ShowNote(kNotKept);
     m_instance.Receive([this](const std::string& text, auto done) { ReceiveText(text, std::move(done)); });
     m_instance.ReceiveAdded([this](const std::string& path) {
         m_face.window->FlashCaption();
@@ -78,6 +81,9 @@ void Player::OpenStartupFile()
 void Player::StartIsOver()
 {
     m_starting = false;
+    // What settings that could not be read say of types of files is not known.
+    if (!m_settings.IsRead())
+        return;
     m_associations.Postpone();
     m_world.after(kAfterStart, [this] { m_associations.ApplyPostponed(Settings().Associations); });
 }
@@ -114,6 +120,8 @@ Result<void> Player::WriteConfigurations()
 
 void Player::CommitOptions(const SettingsPages& shown, const SettingsPages& chosen)
 {
+    // Again, so that what was chosen joins what the file holds.
+    m_settings.TryAgain();
     m_settings.TakePages(shown, chosen);
     // To remember the size means the present one; that of an earlier run would make the window jump.
     if (chosen.rememberLastSize && !shown.rememberLastSize)
@@ -121,7 +129,10 @@ void Player::CommitOptions(const SettingsPages& shown, const SettingsPages& chos
     IgnoreFailure(WriteConfigurations());
     m_settings.SaveVLCOptions();
     m_window.OptionsCommitted();
-    m_associations.Apply(Settings().Associations);
+    if (m_settings.IsRead())
+        m_associations.Apply(Settings().Associations);
+    else
+        m_face.window->ShowNote(kNotKept);
 }
 
 void Player::WindowResized(int width, int height)

@@ -23,18 +23,34 @@ SettingsStore::SettingsStore(std::string folder, char separator)
 
 void SettingsStore::LoadConfigurations(const ScreenExtent& screen)
 {
-    const auto text = platform::ReadTextFile(m_path, kConfigLimit);
-    auto loaded = text ? ParseConfigurations(*text) : std::nullopt;
-    const auto desktop = platform::DesktopFolder();
+    const auto file = platform::ReadFileText(m_path, kConfigLimit);
+    // Another program may hold it for a moment, or a disk refuse it: the settings in it are good all the same.
+    m_isRead = file.state != platform::FileState::Unreadable;
+    auto loaded = ParseConfigurations(file.text);
     if (!loaded) {
-        loaded = DefaultSettings(desktop, screen);
+        loaded = DefaultSettings(platform::DesktopFolder(), screen);
         // A damaged file is replaced, a missing one made; one that must not be written stays as it is.
-        if (!platform::PathExists(m_path) || platform::MayWriteFile(m_path))
+        if (m_isRead && (!platform::PathExists(m_path) || platform::MayWriteFile(m_path)))
             IgnoreFailure(platform::ReplaceTextFile(m_path, FormatConfigurations(*loaded)));
-    } else if (loaded->DefaultFolder.find_first_not_of(' ') == std::string::npos) {
-        loaded->DefaultFolder = desktop;
     }
-    m_settings = std::move(*loaded);
+    Take(std::move(*loaded));
+}
+
+void SettingsStore::TryAgain()
+{
+    if (m_isRead)
+        return;
+    const auto file = platform::ReadFileText(m_path, kConfigLimit);
+    m_isRead = file.state != platform::FileState::Unreadable;
+    if (auto loaded = ParseConfigurations(file.text))
+        Take(std::move(*loaded));
+}
+
+void SettingsStore::Take(PlayerSettings settings)
+{
+    if (settings.DefaultFolder.find_first_not_of(' ') == std::string::npos)
+        settings.DefaultFolder = platform::DesktopFolder();
+    m_settings = std::move(settings);
     SaveVLCOptions();
 }
 
@@ -44,7 +60,7 @@ Result<void> SettingsStore::WriteConfigurations(std::optional<WindowPlace> place
         m_settings.WindowLeft = RoundHalfEven(place->left);
         m_settings.WindowTop = RoundHalfEven(place->top);
     }
-    if (!platform::MayWriteFile(m_path))
+    if (!m_isRead || !platform::MayWriteFile(m_path))
         return Error{ 0, "Config.cfg cannot be replaced" };
     return platform::ReplaceTextFile(m_path, FormatConfigurations(m_settings));
 }

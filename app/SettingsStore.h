@@ -27,10 +27,15 @@ public:
     /// Between the folders of a path.
     char Separator() const { return m_separator; }
 
-    /// Reads the file. A missing or damaged one is replaced by the defaults.
+    /// Reads the file. A missing or damaged one is replaced by the defaults; one that cannot be read now stays as it
+    /// is, and the defaults hold for this run.
     void LoadConfigurations(const ScreenExtent& screen);
-    /// Fails when the file is gone or must not be written; nothing has changed then. Without a place the one of before
-    /// stays.
+    /// False when the file could not be read: what it holds is not in the settings.
+    bool IsRead() const { return m_isRead; }
+    /// Reads it once more where that has failed; its settings take the place of those of this run.
+    void TryAgain();
+    /// Fails when the file is gone, was not read or must not be written; nothing has changed then. Without a place the
+    /// one of before stays.
     Result<void> WriteConfigurations(std::optional<WindowPlace> place);
     /// Works the engine's options out of the settings.
     void SaveVLCOptions();
@@ -52,8 +57,11 @@ public:
     void StoreDock(PlaylistDock dock) { m_settings.PlaylistPosition = static_cast<std::int32_t>(dock); }
 
 private:
+    void Take(PlayerSettings settings);
+
     std::string m_path;
     char m_separator;
+    bool m_isRead = true;
     PlayerSettings m_settings;
     EngineOptions m_options;
 };

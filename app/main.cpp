@@ -95,21 +95,25 @@ std::string MakeFolderOfThisRun()
     return folder.empty() ? folder : WithTrailingSeparator(std::move(folder), platform::PathSeparator());
 }
 
-void ChooseWindowSystem()
+/// False when no window can be shown, which was said.
+bool ChooseWindowSystem()
 {
     const auto chosen = platform::WindowSystem(qgetenv("QT_QPA_PLATFORM").toStdString());
-    if (!chosen.empty())
-        qputenv("QT_QPA_PLATFORM", chosen.c_str());
+    if (!chosen)
+        std::fprintf(stderr, "%s\n", chosen.error().text.c_str());
+    else if (!chosen->empty())
+        qputenv("QT_QPA_PLATFORM", chosen->c_str());
+    return bool(chosen);
 }
 
-/// While Qt comes up: where it finds no way to show a window it would abort.
+/// While Qt comes up: where it cannot use the plug-in that it needs it would abort.
 void SayOrEnd(QtMsgType type, const QMessageLogContext&, const QString& text)
 {
     std::fprintf(stderr, "%s\n", qPrintable(text));
     if (type != QtFatalMsg)
         return;
     if (qgetenv("QT_QPA_PLATFORM") == "wayland")
-        std::fputs("Without an X server Qt's plug-in for Wayland is needed: the package qt6-wayland.\n", stderr);
+        std::fprintf(stderr, "%s\n", platform::kNoWaylandPlugin);
     std::_Exit(1);
 }
 
@@ -142,7 +146,8 @@ MediaRemote::Window RemoteWindow(frmMain& window, const std::string& workingFold
 int main(int argc, char** argv)
 {
     const auto commandLine = platform::CommandLineText({ argv + 1, argv + argc });
-    ChooseWindowSystem();
+    if (!ChooseWindowSystem())
+        return 1;
     qInstallMessageHandler(&SayOrEnd);
     // Qt takes words of its own from the command line; all of ours belong to the file.
     int ownArgument = 1;

@@ -33,7 +33,7 @@ public:
 
     /// Looks anew at who opens what. False when the desktop takes no change, as when its file of defaults is read-only.
     virtual bool Refresh() = 0;
-    /// As of the last Refresh(); nothing where the store itself is the truth.
+    /// As of the last Refresh(); nothing where the store itself is the truth, or where it could not be found out.
     virtual std::optional<LiveOwner> CurrentOwner(const std::string& extension) = 0;
     /// One type has changed in the store.
     virtual void AssociationsChanged() = 0;
@@ -52,8 +52,8 @@ std::string ShortProgramPath();
 /// Where the help begins, below the program folder: one file on Windows, pages for the browser elsewhere.
 std::string HelpFile();
 
-/// Opens a file (an absolute path) or a web address in the program that the user has chosen for it, and does not wait.
-/// Fails when the system knows no such program.
+/// Opens a file (an absolute path) or a web address in the program that the user has chosen for it. Fails when the
+/// system knows no such program; on Linux its tools take up to some seconds to find that out.
 Result<void> OpenDocument(const std::string& target);
 
 /// The icon at that place of a program or a library; a negative number is the icon's own number there. No picture when

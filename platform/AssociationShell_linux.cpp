@@ -2,17 +2,16 @@
 
 #include "desktop/DesktopDefaults.h"
 #include "desktop/DesktopEntry.h"
+#include "platform/ChildProcess.h"
 #include "platform/DesktopFiles_linux.h"
 #include "platform/Files.h"
 
-#include <QDesktopServices>
-#include <QFile>
 #include <QMimeDatabase>
 #include <QStandardPaths>
-#include <QUrl>
 
 #include <algorithm>
 #include <cctype>
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <map>
@@ -27,6 +26,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kCacheLimit = 8 << 20; // bytes
+constexpr std::chrono::seconds kOpenerWait{ 5 };
 
 const std::string kOpenEntryFile = std::string("applications/") + kOpenEntry;
 const std::string kAddEntryFile = std::string("applications/") + kAddEntry;
@@ -66,6 +66,8 @@ public:
         m_defaults.own.clear();
         m_defaults.others.clear();
         m_defaults.caches.clear();
+        // What we have taken could otherwise not be told from what the user has chosen.
+        m_isBlind = IsUnreadable(DataPath(kAddEntryFile));
         bool mayChange = true;
         for (const auto& name : DefaultsNames())
             mayChange = ReadOwnDefaults(m_configFolders.front() + "/" + name) && mayChange;
@@ -77,11 +79,13 @@ public:
             if (const auto text = ReadTextFile(folder + "/applications/mimeinfo.cache", kCacheLimit))
                 m_defaults.caches.emplace_back(*text);
         }
-        return mayChange;
+        return mayChange && !m_isBlind;
     }
 
     std::optional<LiveOwner> CurrentOwner(const std::string& extension) override
     {
+        if (m_isBlind)
+            return std::nullopt;
         const auto owner = m_defaults.ProgramOf(UsualType(extension), true);
         if (owner.empty() || IsOurEntry(owner))
             return LiveOwner{ !owner.empty(), owner, "" };
@@ -127,8 +131,12 @@ private:
 
     std::string DataPath(const std::string& name) const { return m_dataFolders.front() + "/" + name; }
 
+    /// Perhaps for a moment only: not as if nothing were there.
+    static bool IsUnreadable(const std::string& path) { return ReadFileText(path, 1).state == FileState::Unreadable; }
+
     bool ReadOwnDefaults(const std::string& path)
     {
+        m_isBlind = m_isBlind || IsUnreadable(path);
         const bool exists = PathExists(path);
         const auto text = ReadDesktopFile(path);
         m_ownFiles.push_back({ path, text });
@@ -268,6 +276,7 @@ private:
     std::vector<std::string> m_configFolders;
     std::vector<OwnFile> m_ownFiles; // those of m_defaults.own
     DesktopDefaults m_defaults;
+    bool m_isBlind = false; // a file of the user's cannot be read now
     std::map<std::string, std::optional<std::string>> m_entries;
 };
 
@@ -292,9 +301,14 @@ std::string HelpFile()
 
 Result<void> OpenDocument(const std::string& target)
 {
-    const auto bytes = QByteArray::fromStdString(target);
-    const auto url = IsAbsolutePath(target) ? QUrl::fromLocalFile(QFile::decodeName(bytes)) : QUrl::fromEncoded(bytes);
-    if (!QDesktopServices::openUrl(url))
+    // Each desktop has a tool of its own; this one knows them all, and without it the common library's is tried.
+    const auto xdgOpen = FindTool("xdg-open", "");
+    const auto tool = xdgOpen ? xdgOpen : FindTool("gio", "");
+    const std::vector<std::string> arguments =
+        xdgOpen ? std::vector{ target } : std::vector{ std::string("open"), target };
+    const auto process = tool ? ShellStart({ *tool, arguments, "", 0, true }) : nullptr;
+    // One that still runs has become the browser.
+    if (!process || (process->HasEnded(kOpenerWait) && process->HasFailed()))
         return Error{ 0, "No program opens " + target };
     return {};
 }

@@ -101,8 +101,12 @@ std::string HelpFile()
 
 Result<void> OpenDocument(const std::string& target)
 {
+    // Some extensions of the shell ask for it in the thread that they are called from.
+    const auto prepared = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
     const auto code =
         reinterpret_cast<std::intptr_t>(ShellExecuteA(nullptr, "open", target.c_str(), nullptr, "C:\\", SW_SHOWNORMAL));
+    if (SUCCEEDED(prepared))
+        CoUninitialize();
     if (code <= kLastError)
         return Error{ static_cast<std::int32_t>(code), "No program opens " + target };
     return {};

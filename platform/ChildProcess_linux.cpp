@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <future>
 #include <mutex>
 #include <poll.h>
 #include <set>
@@ -176,19 +177,26 @@ std::string Image(const std::string& program)
     return failure ? program : path.string();
 }
 
-void Reap(pid_t pid)
+/// The status that it has ended with.
+int Reap(pid_t pid)
 {
-    while (::waitpid(pid, nullptr, 0) < 0 && errno == EINTR) { }
+    int status = 0;
+    while (::waitpid(pid, &status, 0) < 0 && errno == EINTR) { }
+    return status;
 }
 
 /// Reaps it whenever it ends.
-void ReapLater(pid_t pid)
+std::shared_future<int> ReapLater(pid_t pid)
 {
+    std::packaged_task<int()> reap([pid] { return Reap(pid); });
+    std::shared_future<int> status = reap.get_future();
     try {
-        std::thread([pid] { Reap(pid); }).detach();
+        std::thread(std::move(reap)).detach();
     } catch (const std::system_error&) {
         // Too many threads: the child stays a zombie until this process ends, which harms nobody.
+        return {};
     }
+    return status;
 }
 
 /// The groups that may be signalled: their leaders are not reaped yet.
@@ -247,7 +255,10 @@ public:
             Terminate();
         Wait(kGrace, -1);
         Groups().Remove(m_pid);
-        HasEnded() ? Reap(m_pid) : ReapLater(m_pid);
+        if (HasEnded())
+            Reap(m_pid);
+        else
+            ReapLater(m_pid);
     }
 
     pid_t Pid() const { return m_pid; }
@@ -349,12 +360,25 @@ private:
     GroupLeader m_leader;
 };
 
-/// Only says that there was a start.
 class DetachedProcess final : public StartedProcess {
 public:
-    explicit DetachedProcess(pid_t pid) { ReapLater(pid); }
-    bool HasEnded(milliseconds) override { return false; }
+    explicit DetachedProcess(pid_t pid)
+        : m_status(ReapLater(pid))
+    {
+    }
+    bool HasEnded(milliseconds wait) override
+    {
+        return m_status.valid() && m_status.wait_for(wait) == std::future_status::ready;
+    }
+    bool HasFailed() const override
+    {
+        return m_status.valid() && m_status.wait_for(milliseconds(0)) == std::future_status::ready
+            && m_status.get() != 0;
+    }
     void Terminate() override { }
+
+private:
+    std::shared_future<int> m_status;
 };
 
 bool IsExecutableFile(const std::string& path)

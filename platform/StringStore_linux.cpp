@@ -1,4 +1,5 @@
 #include "desktop/StoreNames.h"
+#include "platform/Files.h"
 #include "platform/Files_linux.h"
 #include "platform/StringStore.h"
 
@@ -82,6 +83,8 @@ public:
         m_batch.emplace();
         for (const auto root : { Root::ClassesRoot, Root::CurrentUser }) {
             auto& collected = (*m_batch)[root];
+            if (!IsReadable(PathOf(root)))
+                collected.writable = Unwritable(PathOf(root), QSettings::AccessError);
             const QSettings file(PathOf(root), QSettings::IniFormat);
             for (const auto& place : file.allKeys())
                 collected.stored.insert(place, file.value(place));
@@ -171,11 +174,17 @@ private:
         return Unwritable(path, status);
     }
 
+    /// What cannot be read for the moment would look like an empty file, and be replaced by one.
+    static bool IsReadable(const QString& path)
+    {
+        return ReadFileText(QFile::encodeName(path).toStdString(), 1).state != FileState::Unreadable;
+    }
+
     /// Asked first: QSettings would keep a change that it could not write, and show it to later reads.
     Result<void> Writable(Root root, const FileDescriptor& folder) const
     {
         const auto path = PathOf(root);
-        if (faccessat(folder.Number(), ".", W_OK, AT_EACCESS) == 0
+        if (faccessat(folder.Number(), ".", W_OK, AT_EACCESS) == 0 && IsReadable(path)
             && QSettings(path, QSettings::IniFormat).isWritable())
             return {};
         return Unwritable(path, QSettings::AccessError);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Result.h"
+
 #include <cstdint>
 #include <string>
 
@@ -8,10 +10,15 @@ namespace zentaro::platform {
 /// A window's number in the window system; 0 for none.
 using NativeWindow = std::uintptr_t;
 
-/// Qt's name for the window system to be used; empty where Qt chooses well by itself. "offscreen" without a display.
-/// `wanted`: which one the user has told Qt to use, empty for none. "wayland" needs a plug-in of Qt's that may not be
-/// installed.
-std::string WindowSystem(const std::string& wanted);
+/// What is to be done where Qt cannot show windows on a Wayland display that has no X server beside it.
+inline constexpr const char* kNoWaylandPlugin =
+    "No window can be shown: the display speaks Wayland, Qt's plug-in for that is missing, and no X server can be "
+    "reached. Please install the package qt6-wayland, or xwayland for an X server beside the display.";
+
+/// Qt's name for the window system to be used; empty where Qt chooses well by itself. "offscreen" where no display is
+/// named. `wanted`: which one the user has told Qt to use, empty for none. Fails, with what can be done, where a
+/// Wayland display is named and neither that nor an X server can be used: Qt itself would abort.
+Result<std::string> WindowSystem(const std::string& wanted);
 
 /// Keeps the (shown) window above all others, or no longer. Its place, size and focus stay.
 void SetTopmost(NativeWindow window, bool topmost);

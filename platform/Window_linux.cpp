@@ -2,6 +2,10 @@
 
 #include "platform/Files_linux.h"
 
+#include <QDir>
+#include <QLibraryInfo>
+
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <initializer_list>
@@ -66,38 +70,57 @@ std::string Variable(const char* name)
     return value != nullptr ? value : "";
 }
 
-/// `usual`: the name of the display where no variable has one.
-bool IsWaylandThere(const std::string& usual)
+/// `usual`: the name of the display where no variable has one. An empty path: no display is named at all.
+std::string WaylandPath(const std::string& usual)
 {
-    if (!Variable("WAYLAND_SOCKET").empty())
-        return true; // a connection that stands already
     auto path = Variable("WAYLAND_DISPLAY");
     if (path.empty())
         path = usual;
+    return path.empty() || path.starts_with('/') ? path : Variable("XDG_RUNTIME_DIR") + "/" + path;
+}
+
+bool IsWaylandThere(const std::string& path)
+{
+    if (!Variable("WAYLAND_SOCKET").empty())
+        return true; // a connection that stands already
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
-    if (!path.starts_with('/'))
-        path = Variable("XDG_RUNTIME_DIR") + "/" + path;
-    if (path.ends_with('/') || path.size() >= sizeof address.sun_path)
+    if (path.empty() || path.size() >= sizeof address.sun_path)
         return false;
     path.copy(address.sun_path, sizeof address.sun_path - 1);
     const FileDescriptor display(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
     return connect(display.Number(), reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
 }
 
+bool HasWaylandPlugin()
+{
+    auto folders = QString::fromLocal8Bit(qgetenv("QT_PLUGIN_PATH")).split(QDir::listSeparator(), Qt::SkipEmptyParts);
+    folders.append(QLibraryInfo::path(QLibraryInfo::PluginsPath));
+    return std::any_of(folders.begin(), folders.end(), [](const QString& folder) {
+        return !QDir(folder + "/platforms").entryList({ "libqwayland*" }, QDir::Files).isEmpty();
+    });
+}
+
 } // namespace
 
-std::string WindowSystem(const std::string& wanted)
+Result<std::string> WindowSystem(const std::string& wanted)
 {
     const bool wantsWayland = wanted.find("wayland") != std::string::npos;
     if (!wanted.empty() && !wantsWayland && wanted.find("xcb") == std::string::npos)
-        return {};
+        return std::string();
     const Connection connection(xcb_connect(nullptr, nullptr));
     // The engine draws into X windows only, so a Wayland session with an X server beside it is used through that.
     if (xcb_connection_has_error(connection.get()) == 0)
-        return "xcb";
+        return std::string("xcb");
+    const auto wayland = WaylandPath(wantsWayland ? "wayland-0" : "");
+    if (IsWaylandThere(wayland))
+        return HasWaylandPlugin() ? Result(std::string("wayland")) : Error{ 0, kNoWaylandPlugin };
+    if (!wayland.empty())
+        return Error{ 0,
+            "No window can be shown: no X server can be reached, and nobody answers at the Wayland display \"" + wayland
+                + "\". Please start Zentaro within a desktop session, or let DISPLAY or WAYLAND_DISPLAY name one." };
     // In memory a file can still be played or handed over.
-    return IsWaylandThere(wantsWayland ? "wayland-0" : "") ? "wayland" : "offscreen";
+    return std::string("offscreen");
 }
 
 void SetTopmost(NativeWindow window, bool topmost)

@@ -5,9 +5,9 @@
 
 namespace zentaro::platform {
 
-std::string WindowSystem(const std::string&)
+Result<std::string> WindowSystem(const std::string&)
 {
-    return {};
+    return std::string();
 }
 
 void SetTopmost(NativeWindow window, bool topmost)

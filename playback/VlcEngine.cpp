@@ -165,6 +165,9 @@ public:
         m_location = location;
         m_options = options;
         m_isAdded = Open();
+        // A refused item leaves no black surface behind.
+        if (!m_isAdded)
+            Close();
     }
 
     void Play() override

@@ -116,6 +116,39 @@ TEST_F(PlayerTest, a_file_that_is_gone_or_read_only_at_the_end_stays_so)
     EXPECT_FALSE(fs::exists(ConfigPath()));
 }
 
+TEST_F(PlayerTest, settings_that_cannot_be_read_at_first_are_kept_and_joined_by_what_is_chosen)
+{
+    const auto aside = folder / "aside";
+    Store([](PlayerSettings& settings) {
+        settings.PlayMode = 2;
+        settings.Associations[0] = -1;
+    });
+    fs::rename(ConfigPath(), aside);
+    fs::create_directory(ConfigPath()); // no text
+    world.associations.ours = -2;
+    auto& player = Start();
+    EXPECT_NE(player.Settings().PlayMode, 2);
+    EXPECT_EQ(world.window.notes.size(), 1U);
+    fs::remove(ConfigPath());
+    fs::rename(aside, ConfigPath());
+    const auto before = ConfigText();
+    world.Elapse(2s);
+    EXPECT_FALSE(player.WriteConfigurations());
+    player.Unload();
+    EXPECT_EQ(ConfigText(), before);
+    EXPECT_EQ(world.associations.ours, -2);
+
+    const auto shown = PagesOf(player.Settings());
+    auto chosen = shown;
+    chosen.alwaysOnTop = !shown.alwaysOnTop;
+    player.CommitOptions(shown, chosen);
+    const auto saved = *ParseConfigurations(*ConfigText());
+    EXPECT_EQ(saved.PlayMode, 2);
+    EXPECT_EQ(saved.AlwaysOnTop != 0, chosen.alwaysOnTop);
+    EXPECT_EQ(world.associations.ours, 1);
+    EXPECT_EQ(world.window.notes.size(), 1U);
+}
+
 TEST_F(PlayerTest, continuous_play_goes_round_and_normal_play_stops)
 {
     auto& player = StartWithEntries(2, kPlayContinuous, kRepeatAll);

@@ -306,6 +306,17 @@ TEST_F(DesktopOfUser, what_must_not_be_written_leaves_all_as_it_is)
     fs::permissions(defaults, fs::perms::owner_read);
     Start(All());
     EXPECT_EQ(Files(), readOnly);
+    // Nor is a file that cannot be read one that names nobody: whom the store has as owner stays.
+    fs::permissions(defaults, fs::perms::owner_all);
+    Start(All());
+    const auto taken = Files();
+    fs::permissions(defaults, fs::perms::owner_write);
+    Start({});
+    const auto store = platform::StringStore::Open();
+    const auto shell = platform::AssociationShell::Open(program, programFolder + "/");
+    ModAssoc(*store, *shell, program, programFolder + "/", '/').AdoptLiveOwners();
+    fs::permissions(defaults, fs::perms::owner_all);
+    EXPECT_EQ(Files(), taken);
 }
 
 TEST_F(DesktopOfUser, a_desktops_own_file_missing_tools_and_a_settings_page_are_no_obstacle)

@@ -11,10 +11,14 @@ namespace fs = std::filesystem;
 /// The options, the about box and the help, without a hand on the mouse.
 class Dialogs : public PlayerDesk {
 protected:
-    /// A browser that only notes what it is to show.
     Dialogs()
     {
         fs::create_directories(InHome("bin"));
+        PutBrowser();
+    }
+    /// A browser that only notes what it is to show.
+    void PutBrowser() const
+    {
         WriteWholeFile(InHome("bin/xdg-open"), "#!/bin/sh\necho \"$1\" >> '" + InHome("opened") + "'\n");
         fs::permissions(InHome("bin/xdg-open"), fs::perms::owner_all);
     }
@@ -116,16 +120,22 @@ TEST_F(Dialogs, ASecondStartHandsItsFileOverWhileTheOptionsAreOpen)
     EXPECT_CLOSES_CLEANLY(player);
 }
 
-TEST_F(Dialogs, HelpAndTheWebPageOpenInTheBrowserAndMissingHelpIsSaid)
+TEST_F(Dialogs, HelpAndTheWebPageOpenInTheBrowserAndWhatIsMissingIsSaid)
 {
     auto player = ShowWithBrowser();
     Screen().Activate(player.window);
     Screen().Press("F1");
     EXPECT_TRUE(WasOpened("/program/help/index.html"));
+    // No browser is found, or the help is not there.
+    WriteWholeFile(InHome("bin/xdg-open"), "#!/bin/sh\nexit 3\n");
+    Screen().Press("F1");
+    EXPECT_EQ(player.AnswerDialog(), "Zentaro");
+    EXPECT_TRUE(player.WaitForDialogs(0));
     fs::remove(fs::path(ConfigPath()).parent_path() / "help");
     Screen().Press("F1");
     EXPECT_EQ(player.AnswerDialog(), "Zentaro");
 
+    PutBrowser();
     OpenByMenu(player, "h");
     Screen().Press("Tab");
     Screen().Press("Return");

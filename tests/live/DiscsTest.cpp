@@ -107,10 +107,11 @@ TEST_F(Discs, AnImageInsertedIntoADrivePlaysByItselfAndEndsWhenItIsPulledOut)
     EXPECT_EQ(world.power.restarts, 0);
 }
 
-TEST_F(Discs, WhatIsNoVideoDiscIsSaidOnce)
+TEST_F(Discs, WhatIsNoVideoDiscIsSaidOnceAndLeavesTheIdlePicture)
 {
     PlayDisc(folder);
     ASSERT_TRUE(RunUntilIdle());
+    EXPECT_EQ(frame.findChild<QWidget*>("VLCPlayer"), nullptr);
     RunFor(1100ms);
     EXPECT_EQ(world.dialogs.boxes.size(), 1U);
 }

@@ -114,7 +114,14 @@ TEST_F(StoreOfFiles, says_so_when_it_cannot_write)
     EXPECT_FALSE(Write("name", "other"));
     EXPECT_FALSE(store->Delete(Root::CurrentUser, "Software\\Test", "name"));
     EXPECT_EQ(Read("name"), "text");
-    std::filesystem::permissions(path, std::filesystem::perms::owner_write, std::filesystem::perm_options::add);
+    // Unreadable for a moment, and no empty file for that.
+    std::filesystem::permissions(path, std::filesystem::perms::owner_write);
+    EXPECT_FALSE(Write("other", "text"));
+    store->BeginBatch();
+    EXPECT_FALSE(Write("other", "text"));
+    store->DropBatch();
+    std::filesystem::permissions(path, std::filesystem::perms::owner_all);
+    EXPECT_EQ(Read("name"), "text");
     const auto parent = std::filesystem::path(path).parent_path();
     std::filesystem::permissions(parent, std::filesystem::perms::owner_write, std::filesystem::perm_options::remove);
     EXPECT_FALSE(Write("name", "other"));
