@@ -111,9 +111,9 @@ TEST_F(Discs, WhatIsNoVideoDiscIsSaidOnceAndLeavesTheIdlePicture)
 {
     PlayDisc(folder);
     ASSERT_TRUE(RunUntilIdle());
-    EXPECT_EQ(frame.findChild<QWidget*>("VLCPlayer"), nullptr);
     RunFor(1100ms);
     EXPECT_EQ(world.dialogs.boxes.size(), 1U);
+    EXPECT_EQ(frame.findChild<QWidget*>("VLCPlayer"), nullptr);
 }
 
 TEST_F(Discs, AnAnswerThatNeverComesHoldsUpNothing)
