@@ -1,5 +1,8 @@
 #include "app/History.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace zentaro {
 
 namespace {
@@ -11,9 +14,10 @@ constexpr int kFull = 10; // entries, from which on they shift
 
 } // namespace
 
-History::History(platform::StringStore& store, Menus& menus)
+History::History(platform::StringStore& store, Menus& menus, Background background)
     : m_store(store)
     , m_menus(menus)
+    , m_background(std::move(background))
 {
 }
 
@@ -34,36 +38,68 @@ void History::LoadHistory()
 
 void History::AddToHistory(const std::string& path, const std::string& title)
 {
-    const int count = CountHistory();
     for (int slot = 0; slot < kHistorySlots; ++slot) {
         if (PathAt(slot) == path)
             return;
     }
-    const bool isEmpty = TitleAt(0) == kNoHistory;
+    {
+        const std::lock_guard lock(m_mutex);
+        if (std::any_of(m_waiting.begin(), m_waiting.end(), [&](const auto& file) { return file.path == path; }))
+            return;
+        m_waiting.push_back({ path, title, m_waiting.empty() && TitleAt(0) == kNoHistory });
+    }
+    m_background([this] {
+        const auto show = StoreNext();
+        return show ? show : [] {};
+    });
+}
+
+void History::Close()
+{
+    while (const auto show = StoreNext())
+        show();
+}
+
+std::function<void()> History::StoreNext()
+{
+    const std::lock_guard storing(m_storing);
+    Played file;
+    {
+        const std::lock_guard lock(m_mutex);
+        const auto next =
+            std::find_if(m_waiting.begin(), m_waiting.end(), [](const auto& each) { return !each.isTaken; });
+        if (next == m_waiting.end())
+            return nullptr;
+        next->isTaken = true;
+        file = *next;
+    }
+    return [this, file, slot = Store(file)] { Show(file, slot); };
+}
+
+int History::Store(const Played& file)
+{
     // Together: each change by itself would wait for the disk.
     m_store.BeginBatch();
-    if (!isEmpty && count >= kFull)
-        ShiftDown(path, title);
-    else
-        Record(isEmpty ? 0 : count, path, title);
-    IgnoreFailure(m_store.CommitBatch());
-}
-
-void History::Record(int slot, const std::string& path, const std::string& title)
-{
-    Fill(slot, title, path);
-    Write(slot, path, title);
-}
-
-void History::ShiftDown(const std::string& path, const std::string& title)
-{
-    for (int slot = 0; slot < kFull; ++slot) {
-        Fill(slot, m_menus.frmMenu.Find("mnuRecent", slot + 1)->caption, PathAt(slot + 1));
+    const int count = file.isFirst ? 0 : CountHistory();
+    if (count < kFull) {
+        Write(count, file.path, file.title);
+    } else {
         // The new file's name into every value, on purpose: the next start shows the first file and nine times this
         // one.
-        Write(slot + 1, path, title);
+        for (int slot = 1; slot <= kFull; ++slot)
+            Write(slot, file.path, file.title);
     }
-    Fill(kFull, title, path);
+    IgnoreFailure(m_store.CommitBatch());
+    return count;
+}
+
+void History::Show(const Played& file, int slot)
+{
+    for (int upper = 0; slot == kFull && upper < kFull; ++upper)
+        Fill(upper, m_menus.frmMenu.Find("mnuRecent", upper + 1)->caption, PathAt(upper + 1));
+    Fill(slot, file.title, file.path);
+    const std::lock_guard lock(m_mutex);
+    std::erase_if(m_waiting, [&](const auto& each) { return each.path == file.path; });
 }
 
 void History::Fill(int slot, const std::string& caption, const std::string& path)

@@ -104,7 +104,8 @@ struct InspectionThreads::Job {
     int ticket = 0;
     std::string path;
     std::string folder; // with a trailing separator; empty when there is no place for one
-    std::shared_ptr<const InspectionContext> context;
+    SharedContext askForContext;
+    std::atomic<std::chrono::milliseconds> limit = InspectionContext().reportLimit.total;
     std::atomic<bool> cancelled = false;
     /// When its thread last showed that it goes on.
     std::atomic<Clock::time_point> lastSign = Clock::now();
@@ -117,6 +118,8 @@ struct InspectionThreads::Job {
         if (!std::filesystem::create_directory(folder, ignored))
             return Refusal("No working folder can be made.");
         CancellableRunner runner(tools, cancelled, [this] { lastSign = Clock::now(); });
+        const auto context = askForContext();
+        limit = context->reportLimit.total;
         auto ownContext = *context;
         ownContext.tools = &runner;
         ownContext.workingFolder = folder;
@@ -127,7 +130,7 @@ struct InspectionThreads::Job {
         return inspection;
     }
 
-    bool IsStuck() const { return !cancelled && Clock::now() - lastSign.load() >= context->reportLimit.total; }
+    bool IsStuck() const { return !cancelled && Clock::now() - lastSign.load() >= limit.load(); }
 };
 
 /// The inspections at work, and the way of their results.
@@ -239,9 +242,9 @@ void InspectionThreads::Start(int ticket, const std::string& path)
     auto job = std::make_shared<Job>();
     job->ticket = ticket;
     job->path = path;
-    job->context = m_context();
+    job->askForContext = m_context;
     if (!m_workingFolder.empty())
-        job->folder = m_workingFolder + "inspect" + std::to_string(++m_started) + job->context->separator;
+        job->folder = m_workingFolder + "inspect" + std::to_string(++m_started) + m_workingFolder.back();
     m_jobs->Start(job);
 }
 

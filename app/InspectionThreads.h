@@ -15,8 +15,8 @@ namespace zentaro {
 /// end.
 class InspectionThreads : public InspectionRunner {
 public:
-    /// What all inspections share, asked for when one starts and held until it has ended; its tools and working folder
-    /// are set here for each one.
+    /// What all inspections share, asked for in the thread of each and held until it has ended; its tools and working
+    /// folder are set here for each one.
     using SharedContext = std::function<std::shared_ptr<const InspectionContext>()>;
 
     /// `workingFolder`: the folder of this run, with a trailing separator; without one (empty) every inspection fails.

@@ -25,7 +25,7 @@ Player::Player(PlayerWorld world)
           m_world.engines, [this](bool fullScreen) { m_face.window->SetFullScreen(fullScreen); }, *this)
     , m_library(*this, m_world.inspections, m_world.random, m_world.separator)
     , m_window(m_settings, m_transport, m_library.Entries(), m_face)
-    , m_history(m_world.store, m_menus)
+    , m_history(m_world.historyStore, m_menus, m_world.runForHistory)
     , m_discs(m_world.discs, m_settings, m_transport, m_library, m_menus, m_window, m_face)
     , m_sequencer({ m_settings, m_transport, m_library, m_discs, m_menus, m_history, m_window, m_world.power, m_face })
     , m_instance(m_world.handOver, m_world.store, m_world.separator)
@@ -101,6 +101,7 @@ void Player::ReceiveText(const std::string& text, platform::HandOverDone done)
 void Player::Unload()
 {
     m_library.Close();
+    m_history.Close();
     IgnoreFailure(WriteConfigurations());
     m_associations.ApplyPostponed(Settings().Associations);
     m_world.holdOffSleep(false);

@@ -15,6 +15,7 @@ struct PlayerWorld {
     EngineFactory& engines;
     InspectionRunner& inspections; ///< results come back through Library::InspectionCompleted
     platform::StringStore& store;
+    platform::StringStore& historyStore; ///< used beside the other, from another thread
     platform::Power& power;
     HandOverService handOver;
     RandomSource random; ///< uniform in [0, 1)
@@ -28,6 +29,8 @@ struct PlayerWorld {
     std::function<void(std::chrono::milliseconds, std::function<void()>)> after;
     /// As LibraryHost::RunInBackground.
     std::function<void(std::function<std::function<void()>()>)> runInBackground;
+    /// The same, for the history.
+    History::Background runForHistory = [](auto work) { work()(); };
     /// Holds the screen saver and sleep off, or lets them come again.
     std::function<void(bool held)> holdOffSleep = [](bool) {};
 };

@@ -1,5 +1,6 @@
 #include "app/WindowNotes.h"
 
+#include "app/Background.h"
 #include "app/Player.h"
 #include "playback/VideoFrame.h"
 #include "shell/NoteBox.h"
@@ -39,14 +40,18 @@ QRect WindowNotes::Area() const
 
 void WindowNotes::Show(const std::string& text, const std::string& file)
 {
-    QImage picture;
-    if (!file.empty()) {
+    const auto room = (QSizeF(NoteBox::kPictureRoom) * m_box->devicePixelRatio()).toSize();
+    const auto show = [this, text](const QImage& picture) { m_box->Show(Area(), ToQString(text), picture, kNoteTime); };
+    if (file.empty())
+        return show({});
+    const auto onWindowThread = [this](std::function<void()> work) {
+        QMetaObject::invokeMethod(m_box, std::move(work), Qt::QueuedConnection);
+    };
+    RunInBackground(onWindowThread, [file, room, show] {
         QImageReader reader(QFile::decodeName(file.c_str()));
-        const auto room = (QSizeF(NoteBox::kPictureRoom) * m_box->devicePixelRatio()).toSize();
         reader.setScaledSize(reader.size().scaled(room, Qt::KeepAspectRatio));
-        picture = reader.read();
-    }
-    m_box->Show(Area(), ToQString(text), picture, kNoteTime);
+        return [show, picture = reader.read()] { show(picture); };
+    });
 }
 
 void WindowNotes::Place()

@@ -31,6 +31,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <mutex>
 #include <random>
 #include <utility>
 
@@ -87,6 +88,19 @@ struct InspectionBase {
     DiskFiles files;
     InspectionContext context;
 };
+
+/// Made by the first inspection that needs it, in its thread; the others wait for it.
+InspectionThreads::SharedContext SharedInspectionBase(const std::string& programFolder)
+{
+    struct Shared {
+        std::once_flag isMade;
+        std::shared_ptr<InspectionBase> base;
+    };
+    return [programFolder, shared = std::make_shared<Shared>()] {
+        std::call_once(shared->isMade, [&] { shared->base = std::make_shared<InspectionBase>(programFolder); });
+        return std::shared_ptr<const InspectionContext>(shared->base, &shared->base->context);
+    };
+}
 
 /// With a trailing separator; empty when no folder can be made, as on a full disk.
 std::string MakeFolderOfThisRun()
@@ -162,6 +176,7 @@ int main(int argc, char** argv)
     const auto programFolder = WithTrailingSeparator(platform::ExecutableFolder(), separator);
     const auto workingFolder = MakeFolderOfThisRun();
     const auto store = platform::StringStore::Open();
+    const auto historyStore = platform::StringStore::Open();
     const auto power = platform::Power::Open();
     auto sleepInhibitor = platform::SleepInhibitor::Open();
     const auto onWindowThread = [&](std::function<void()> work) {
@@ -171,15 +186,13 @@ int main(int argc, char** argv)
         QTimer::singleShot(time, &application, std::move(work));
     };
 
+    const auto runInBackground = [&](std::function<std::function<void()>()> work) {
+        RunInBackground(onWindowThread, std::move(work));
+    };
+
     auto* const video = new VideoFrame(ToQString(programFolder) + "Audio.JPG", nullptr);
     VlcEngines engines(*video, workingFolder.empty() ? std::string() : workingFolder + "engine.log");
-    std::shared_ptr<InspectionBase> base;
-    const auto inspectionContext = [&] {
-        if (!base)
-            base = std::make_shared<InspectionBase>(programFolder);
-        return std::shared_ptr<const InspectionContext>(base, &base->context);
-    };
-    InspectionThreads inspections(inspectionContext, workingFolder, onWindowThread);
+    InspectionThreads inspections(SharedInspectionBase(programFolder), workingFolder, onWindowThread);
     DriveQueries drives(platform::Drives::Open(), onWindowThread);
     const bool isToldOfDiscs = drives.Watch();
     const auto endProcess = [&] {
@@ -195,6 +208,7 @@ int main(int argc, char** argv)
         .engines = engines,
         .inspections = inspections,
         .store = *store,
+        .historyStore = *historyStore,
         .power = *power,
         .handOver = RealHandOver(),
         .random = RealRandom(),
@@ -202,12 +216,13 @@ int main(int argc, char** argv)
         .endProcess = endProcess,
         .settingsFolder = WithTrailingSeparator(platform::SettingsFolder(), separator),
         .separator = separator,
-        .discs = { [&] { drives.Ask(); }, [&] { return DecodePictureFile(programFolder + "DVD.jpg"); }, isToldOfDiscs,
-            after },
+        .discs = {
+            [&] { drives.Ask(); }, [&] { return DecodePictureFile(programFolder + "DVD.jpg"); }, isToldOfDiscs, after },
         .associations = { shell.get(), programPath, programFolder,
             { &platform::IconInFile, [](const std::string& file) { return LoadIconPicture(file, iconSide); } } },
         .after = after,
-        .runInBackground = [&](auto work) { RunInBackground(onWindowThread, std::move(work)); },
+        .runInBackground = runInBackground,
+        .runForHistory = runInBackground,
         .holdOffSleep = [&](bool held) { sleepInhibitor->Hold(held); },
     });
     drives.onChange = [&] { player.Discs().OnDVDTick(); };

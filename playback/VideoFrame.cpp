@@ -1,5 +1,7 @@
 #include "playback/VideoFrame.h"
 
+#include <QBuffer>
+#include <QFile>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QPainter>
@@ -154,7 +156,14 @@ VLCAudioLogo::VLCAudioLogo(QString picturePath, QWidget* parent)
 
 void VLCAudioLogo::resizeEvent(QResizeEvent*)
 {
-    QImageReader reader(m_picturePath);
+    // Once: a window that grows or shrinks does not wait for the disk.
+    if (m_file.isEmpty()) {
+        QFile file(m_picturePath);
+        if (file.open(QIODevice::ReadOnly))
+            m_file = file.readAll();
+    }
+    QBuffer buffer(&m_file);
+    QImageReader reader(&buffer);
     const auto ratio = devicePixelRatio();
     const auto inner = (QSizeF(size()) * ratio).toSize();
     if (inner.isEmpty())

@@ -73,6 +73,7 @@ protected:
 
 private:
     QString m_picturePath;
+    QByteArray m_file;
     QPixmap m_picture;
 };
 

@@ -26,7 +26,7 @@ struct Session {
 
     std::unique_ptr<platform::StringStore> store = platform::StringStore::Open();
     Menus menus;
-    History history{ *store, menus };
+    History history{ *store, menus, [](auto work) { work()(); } };
 };
 
 class RecentFiles : public platform::PrivateUser { };
