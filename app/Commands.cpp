@@ -17,6 +17,7 @@ constexpr int kVolumeStep = 5;   // percent
 
 template <std::size_t Count> using Keys = std::array<std::string_view, Count>;
 
+constexpr Keys<1> kCtrlPageDown{ "Ctrl+PgDown" }, kCtrlPageUp{ "Ctrl+PgUp" };
 constexpr Keys<1> kCtrlF{ "Ctrl+F" }, kCtrlO{ "Ctrl+O" }, kCtrlP{ "Ctrl+P" }, kCtrlR{ "Ctrl+R" }, kCtrlS{ "Ctrl+S" },
     kCtrlX{ "Ctrl+X" }, kEscape{ "Esc" }, kF{ "F" }, kF1{ "F1" }, kLeft{ "Left" }, kM{ "M" }, kPageDown{ "PgDown" },
     kPageUp{ "PgUp" }, kRight{ "Right" }, kS{ "S" }, kShiftLeft{ "Shift+Left" }, kShiftRight{ "Shift+Right" },
@@ -66,6 +67,17 @@ template <DiscKey Key, int Percent> void TurnVolume(Player& player, int)
 {
     if (!player.Discs().Navigate(Key))
         player.Transporting().SetVolume(player.State().volume + Percent);
+}
+
+template <int Direction> void StepChapter(Player& player, int)
+{
+    if (const auto caption = player.Discs().StepChapter(Direction); !caption.empty())
+        player.Face().window->ShowNote(caption);
+}
+
+bool HasChapters(const Player& player)
+{
+    return IsLoaded(player) && player.State().chapters.size() > 1;
 }
 
 // "Remove" itself stays: on an empty list it does nothing.
@@ -144,6 +156,8 @@ constexpr std::array kCommands{
         [](Player& player, int) { player.Transporting().SeekBy(kLongStep); }, IsLoaded, nullptr, nullptr, true },
     Command{ "JumpToTenth", "Jump to That Tenth of the Item", kDigits,
         [](Player& player, int which) { player.Transporting().Seek(which / 10.0); }, IsLoaded },
+    Command{ "NextChapter", "Next Chapter", kCtrlPageDown, StepChapter<1>, HasChapters },
+    Command{ "PreviousChapter", "Previous Chapter", kCtrlPageUp, StepChapter<-1>, HasChapters },
     Command{ "Louder", "Louder", kUp, TurnVolume<DiscKey::Up, kVolumeStep>, nullptr, nullptr, nullptr, true },
     Command{ "Quieter", "Quieter", kDown, TurnVolume<DiscKey::Down, -kVolumeStep>, nullptr, nullptr, nullptr, true },
     Command{ "Mute", "Mute", kM, [](Player& player, int) { player.Transporting().cmdMuteClick(); }, nullptr,

@@ -108,7 +108,7 @@ void ControlPanel::Show()
     m_time->setText(ToQString(state.timeText));
     m_rate->setText(ToQString(state.rateText));
     m_volumeNumber->setText(QString::number(state.volume));
-    m_seek->Show(state.mediaControlsEnabled, state.progress, state.length);
+    m_seek->Show(state.mediaControlsEnabled, state.progress, state.length, state.chapters);
     m_volume->Show(state.volume);
 }
 

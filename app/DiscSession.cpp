@@ -174,14 +174,13 @@ bool DiscSession::Navigate(DiscKey key)
 PartChoice DiscSession::Titles() const
 {
     auto* const engine = m_transport.LoadedEngine();
-    return engine != nullptr ? PartChoice{ PartCaptions(engine->Titles(), "Title"), engine->Title() } : PartChoice{};
+    return engine != nullptr ? PartChoice{ TitleCaptions(engine->Titles()), engine->Title() } : PartChoice{};
 }
 
 PartChoice DiscSession::Chapters() const
 {
     auto* const engine = m_transport.LoadedEngine();
-    return engine != nullptr ? PartChoice{ PartCaptions(engine->Chapters(), "Chapter"), engine->Chapter() }
-                             : PartChoice{};
+    return engine != nullptr ? PartChoice{ ChapterCaptions(engine->Chapters()), engine->Chapter() } : PartChoice{};
 }
 
 void DiscSession::SetTitle(int index)
@@ -194,6 +193,22 @@ void DiscSession::SetChapter(int index)
 {
     if (auto* const engine = m_transport.LoadedEngine())
         engine->SetChapter(index);
+}
+
+std::string DiscSession::StepChapter(int direction)
+{
+    auto* const engine = m_transport.LoadedEngine();
+    if (engine == nullptr)
+        return {};
+    const auto chapters = engine->Chapters();
+    const auto index = ChapterAfterStep(chapters, engine->Chapter(), engine->Time(), direction);
+    if (!index)
+        return {};
+    if (HaveStarts(chapters) && engine->Length() > 0)
+        m_transport.Seek(chapters[static_cast<std::size_t>(*index)].start / engine->Length());
+    else
+        engine->SetChapter(*index);
+    return ChapterCaptions(chapters)[static_cast<std::size_t>(*index)];
 }
 
 void DiscSession::SetCaption(const std::string& key, const std::string& caption)

@@ -67,6 +67,8 @@ public:
     PartChoice Chapters() const;
     void SetTitle(int index);
     void SetChapter(int index);
+    /// To the next chapter (1) or back (-1), as ChapterAfterStep; its caption, empty when there is none.
+    std::string StepChapter(int direction);
 
 private:
     /// A disc that the engine waits for.

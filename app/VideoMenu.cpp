@@ -25,12 +25,9 @@ QMenu* AddChoices(QMenu& menu, const char* title, const std::vector<VideoChoice>
     return submenu;
 }
 
-} // namespace
-
-void ShowVideoMenu(QWidget& window, Player& player, const QPoint& at)
+/// As things are now.
+void Fill(QMenu* menu, QWidget& window, Player& player)
 {
-    auto* const menu = new QMenu(&window);
-    menu->setAttribute(Qt::WA_DeleteOnClose);
     const auto choices = ReadVideoChoices(player);
     const auto add = [&](QMenu* target, const char* id, QString caption = {}) {
         const auto& command = *FindCommand(id);
@@ -60,6 +57,25 @@ void ShowVideoMenu(QWidget& window, Player& player, const QPoint& at)
     add(menu, "Snapshot");
     add(menu, "ToggleFullScreen", window.isFullScreen() ? "Leave &Full Screen" : "");
     AddChoices(*menu, "Play&list", choices.docking);
+}
+
+} // namespace
+
+QMenu* MakeVideoMenu(QWidget& window, Player& player)
+{
+    auto* const menu = new QMenu("&Video", &window);
+    QObject::connect(menu, &QMenu::aboutToShow, &window, [menu, &window, &player] {
+        qDeleteAll(menu->findChildren<QMenu*>(Qt::FindDirectChildrenOnly));
+        menu->clear();
+        Fill(menu, window, player);
+    });
+    return menu;
+}
+
+void ShowVideoMenu(QWidget& window, Player& player, const QPoint& at)
+{
+    auto* const menu = MakeVideoMenu(window, player);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->popup(at);
 }
 

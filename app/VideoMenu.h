@@ -1,5 +1,6 @@
 #pragma once
 
+class QMenu;
 class QPoint;
 class QWidget;
 
@@ -7,7 +8,9 @@ namespace zentaro {
 
 class Player;
 
-/// The menu of the video: what the loaded item offers, full screen, where the list lies. `at` is a place of the screen.
+/// The menu of the video: what the loaded item offers, full screen, where the list lies; made anew whenever it opens.
+QMenu* MakeVideoMenu(QWidget& window, Player& player);
+/// Opens one at a place of the screen.
 void ShowVideoMenu(QWidget& window, Player& player, const QPoint& at);
 
 } // namespace zentaro

@@ -2,6 +2,7 @@
 
 #include "app/Background.h"
 #include "app/Player.h"
+#include "playback/TimeText.h"
 #include "playback/VideoFrame.h"
 #include "shell/NoteBox.h"
 #include "shell/QtText.h"
@@ -71,6 +72,12 @@ QString WindowNotes::VolumeText() const
     return QString("Volume %1 %").arg(state.volume) + (state.isMuted ? " (muted)" : "");
 }
 
+QString WindowNotes::PlaceText() const
+{
+    const auto& state = m_player.State();
+    return ToQString(TimeLabelText(state.progress * state.length, state.length));
+}
+
 void WindowNotes::TurnVolume(int eighths)
 {
     m_player.Transporting().TurnVolume(eighths);
@@ -79,12 +86,30 @@ void WindowNotes::TurnVolume(int eighths)
 
 void WindowNotes::ShowState(bool isAlone)
 {
+    const auto& state = m_player.State();
     const auto volume = VolumeText();
-    const auto rate = m_player.State().chosenRate;
     const bool isVolumeNew = std::exchange(m_shownVolume, volume) != volume;
-    const bool isRateNew = std::exchange(m_shownRate, rate) != rate;
-    if (isAlone && (isVolumeNew || isRateNew))
-        ShowChange(isVolumeNew ? volume : ToQString(RateLabelText(rate)));
+    const bool isRateNew = std::exchange(m_shownRate, state.chosenRate) != state.chosenRate;
+    const bool isPauseNew = std::exchange(m_shownPause, state.isPaused) != state.isPaused;
+    const bool isPlaceNew = std::exchange(m_shownSeeks, state.seeks) != state.seeks && state.seeks > 0;
+    if (!isAlone || !state.mediaControlsEnabled)
+        return;
+    if (isVolumeNew)
+        ShowChange(volume);
+    else if (isRateNew)
+        ShowChange(ToQString(RateLabelText(state.chosenRate)));
+    else if (isPauseNew)
+        ShowChange((state.isPaused ? "Paused at " : "Playing from ") + PlaceText());
+    else if (isPlaceNew)
+        ShowChange(PlaceText());
+}
+
+void WindowNotes::ShowDropTarget(bool isTarget)
+{
+    if (isTarget)
+        m_box->Show(Area(), "Let go to play", {}, kNoteTime);
+    else
+        m_box->hide();
 }
 
 } // namespace zentaro

@@ -25,14 +25,17 @@ public:
     void Show(const std::string& text, const std::string& file);
     /// The wheel over the video, in eighths of a degree.
     void TurnVolume(int eighths);
-    /// Volume and speed may be new; `isAlone` where no control shows them.
+    /// Volume, speed, pause or place may be new; `isAlone` where no control shows them.
     void ShowState(bool isAlone);
+    /// Files hover over the video, or have left it.
+    void ShowDropTarget(bool isTarget);
     /// The video has moved.
     void Place();
 
 private:
     QRect Area() const;
     QString VolumeText() const;
+    QString PlaceText() const;
     void ShowChange(const QString& text);
 
     Player& m_player;
@@ -41,6 +44,8 @@ private:
     NoteBox* m_box;
     QString m_shownVolume;
     double m_shownRate = 1;
+    bool m_shownPause = false;
+    int m_shownSeeks = 0;
 };
 
 } // namespace zentaro

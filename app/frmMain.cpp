@@ -1,10 +1,10 @@
 #include "app/frmMain.h"
 
 #include "app/CommandMenu.h"
-#include "app/Commands.h"
 #include "app/ContentPane.h"
 #include "app/ControlPanel.h"
 #include "app/Player.h"
+#include "app/VideoHand.h"
 #include "app/VideoMenu.h"
 #include "app/WindowKeys.h"
 #include "app/WindowMenus.h"
@@ -22,9 +22,8 @@
 #include "shell/SkinButton.h"
 #include "shell/Style.h"
 
-#include <QApplication>
+#include <QGuiApplication>
 #include <QHelpEvent>
-#include <QMimeData>
 #include <QPainter>
 #include <QScreen>
 #include <QToolTip>
@@ -60,9 +59,7 @@ frmMain::frmMain(Player& player, VideoFrame* video, const QString& programFolder
     setObjectName("frmMain");
     setWindowTitle(kProgramName);
     setWindowIcon(QIcon(programFolder + "icons/zentaro.png"));
-    setAcceptDrops(true);
-    m_video->installEventFilter(this);
-    m_video->setAcceptDrops(true);
+    new VideoHand(player, *m_video, *m_bar, *m_notes, *this);
     m_video->setFocusPolicy(Qt::ClickFocus);
     m_video->setAccessibleName("Video");
     LetCoverVideo(*m_bar);
@@ -107,6 +104,7 @@ void frmMain::MakeMenus()
     m_strip = new MenuStrip(this);
     for (auto* const menu : commands->TopMenus())
         m_strip->addMenu(menu);
+    m_strip->insertMenu(m_strip->actions().last(), MakeVideoMenu(*this, m_player));
     new WindowKeys(m_player, *this, { *m_list, *m_strip, *m_controls });
 }
 
@@ -272,62 +270,11 @@ bool frmMain::event(QEvent* event)
     return WindowFrame::event(event);
 }
 
-bool frmMain::eventFilter(QObject* watched, QEvent* event)
-{
-    return (watched == m_video && VideoEvent(*event)) || WindowFrame::eventFilter(watched, event);
-}
-
-bool frmMain::VideoEvent(QEvent& event)
-{
-    switch (event.type()) {
-    case QEvent::MouseButtonDblClick:
-        if (static_cast<QMouseEvent&>(event).button() == Qt::LeftButton)
-            RunCommand(m_player, "ToggleFullScreen");
-        return true;
-    case QEvent::ContextMenu:
-        ShowVideoMenu(*this, m_player, static_cast<QContextMenuEvent&>(event).globalPos());
-        return true;
-    case QEvent::Enter:
-        unsetCursor();
-        return false;
-    case QEvent::Move:
-    case QEvent::Resize:
-        m_notes->Place();
-        return false;
-    case QEvent::MouseMove:
-        m_bar->PointerSeen(static_cast<QMouseEvent&>(event).globalPosition().toPoint());
-        return false;
-    case QEvent::Wheel:
-        m_notes->TurnVolume(static_cast<QWheelEvent&>(event).angleDelta().y());
-        return true;
-    case QEvent::DragEnter:
-        dragEnterEvent(static_cast<QDragEnterEvent*>(&event));
-        return true;
-    case QEvent::Drop:
-        dropEvent(static_cast<QDropEvent*>(&event));
-        return true;
-    default:
-        return false;
-    }
-}
-
 void frmMain::wheelEvent(QWheelEvent* event)
 {
     // What the controls of full screen leave over belongs to the video around them.
     if (FillsScreen())
         m_notes->TurnVolume(event->angleDelta().y());
-}
-
-void frmMain::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (event->mimeData()->hasUrls())
-        AcceptAsCopy(*event);
-}
-
-void frmMain::dropEvent(QDropEvent* event)
-{
-    AcceptAsCopy(*event);
-    m_player.Files().DropOnVideo(DroppedPaths(*event->mimeData()));
 }
 
 void frmMain::changeEvent(QEvent* event)

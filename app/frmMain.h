@@ -51,18 +51,14 @@ public:
 
 protected:
     bool event(QEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
     void MakeList();
     void MakeMenus();
-    bool VideoEvent(QEvent& event);
     void PlaceParts();
     void FillsScreenNow(bool fills);
     void ShowCaption();

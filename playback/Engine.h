@@ -24,6 +24,9 @@ enum class DiscKey { Activate, Up, Down, Left, Right };
 struct DiscPart {
     std::string name;  ///< empty for most
     double length = 0; ///< ms; 0 or below while unknown
+    double start = 0;  ///< ms from the beginning of the title, of a chapter; 0 for all while unknown
+
+    bool operator==(const DiscPart&) const = default;
 };
 
 /// A track of sound or subtitles; below 0 it stands for none.

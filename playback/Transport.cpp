@@ -68,6 +68,8 @@ void Transport::ItemStarted()
     m_state.isPaused = false;
     m_state.progress = 0;
     m_state.length = 0;
+    m_state.seeks = 0;
+    m_state.chapters.clear();
     // The logo of the sound before must not cover the first pictures; between two sounds it stays.
     m_state.showAudioLogo = m_state.showAudioLogo && !m_item.hasVideo;
     EnableMediaControls(true);
@@ -116,6 +118,7 @@ void Transport::ShowIdle()
     m_state.showAudioLogo = false;
     m_state.progress = 0;
     m_state.length = 0;
+    m_state.chapters.clear();
     m_state.timeText = TimeLabelText(0, 0);
     ShowRate(false);
     m_observer.TransportChanged();
@@ -181,6 +184,7 @@ void Transport::Seek(double position)
     if (engine == nullptr)
         return;
     m_state.progress = std::clamp(position, 0.0, 1.0);
+    ++m_state.seeks;
     engine->SetPosition(position);
     m_observer.TransportChanged();
 }
@@ -272,6 +276,9 @@ std::optional<ItemEnd> Transport::OnPositionTick()
     if (reading.state >= Engine::kPlaying)
         m_state.isPaused = reading.isLoaded && reading.state == Engine::kPaused;
     m_state.length = reading.length;
+    // A disc has others in each of its titles.
+    if (reading.isLoaded && reading.state >= Engine::kPlaying)
+        m_state.chapters = m_host.VLCPlayer()->Chapters();
     m_state.timeText = tick.timeText;
     m_state.progress = tick.progress ? std::clamp(*tick.progress, 0, 100) / 100.0 : m_state.progress;
     m_state.showAudioLogo = tick.showAudioLogo.value_or(m_state.showAudioLogo);

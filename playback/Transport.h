@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace zentaro {
 
@@ -41,6 +42,8 @@ struct TransportState {
     std::string timeText;  ///< elapsed and total, or a word in their place
     std::string rateText;  ///< the rate label
     double chosenRate = 1; ///< as PlaybackRate::Value
+    int seeks = 0;         ///< how often a place was chosen in this item
+    std::vector<DiscPart> chapters;
 };
 
 /// Hears what a transport does.

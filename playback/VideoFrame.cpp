@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QImageReader>
+#include <QLineF>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPointer>
 #include <QWindow>
@@ -195,6 +197,7 @@ VideoSurface* VideoFrame::AddSurface()
 {
     m_surface = new VideoSurface(this);
     m_surface->setGeometry(Inner());
+    setCursor(m_pointer);
     m_surface->setCursor(m_pointer);
     m_surface->show();
     KeepBelow();
@@ -284,6 +287,25 @@ void VideoFrame::paintEvent(QPaintEvent*)
 void VideoFrame::resizeEvent(QResizeEvent*)
 {
     PlaceParts();
+}
+
+bool VideoFrame::IsOnIdleMark(const QPointF& at) const
+{
+    return !m_surface && !m_logo->isVisible() && QLineF(at, QRectF(rect()).center()).length() <= kMarkRadius;
+}
+
+void VideoFrame::mouseMoveEvent(QMouseEvent* event)
+{
+    if (!m_surface)
+        setCursor(IsOnIdleMark(event->position()) ? Qt::PointingHandCursor : m_pointer);
+    QWidget::mouseMoveEvent(event);
+}
+
+void VideoFrame::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && IsOnIdleMark(event->position()))
+        emit IdleMarkClicked();
+    QWidget::mouseReleaseEvent(event);
 }
 
 } // namespace zentaro

@@ -92,12 +92,19 @@ public:
     /// Whether the pointer is seen over the video.
     void ShowPointer(bool shown);
 
+signals:
+    /// The mark that stands on the empty stage was clicked.
+    void IdleMarkClicked();
+
 protected:
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    bool IsOnIdleMark(const QPointF& at) const;
     /// The surface, the logo over it, and over both whatever else the window has.
     void KeepBelow();
     QRect Inner() const;

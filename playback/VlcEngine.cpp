@@ -234,7 +234,9 @@ public:
     {
         libvlc_chapter_description_t** all = nullptr;
         const int count = m_player ? libvlc_media_player_get_full_chapter_descriptions(m_player, -1, &all) : 0;
-        const auto parts = PartsOf(all, count);
+        auto parts = PartsOf(all, count);
+        for (std::size_t i = 0; i < parts.size(); ++i)
+            parts[i].start = static_cast<double>(all[i]->i_time_offset);
         if (all != nullptr)
             libvlc_chapter_descriptions_release(all, static_cast<unsigned>(std::max(count, 0)));
         return parts;
@@ -266,7 +268,7 @@ private:
         std::vector<DiscPart> parts;
         for (int i = 0; i < count; ++i)
             parts.push_back(
-                { all[i]->psz_name != nullptr ? all[i]->psz_name : "", static_cast<double>(all[i]->i_duration) });
+                { all[i]->psz_name != nullptr ? all[i]->psz_name : "", static_cast<double>(all[i]->i_duration), 0 });
         return parts;
     }
 

@@ -18,6 +18,8 @@ namespace {
 constexpr double kSlim = 4;         // px
 constexpr double kUnderPointer = 6; // px
 constexpr double kKnobRadius = 6;   // px
+constexpr double kNotch = 2;        // px
+constexpr double kChapterReach = 4; // px, from where a press means a chapter's start
 
 } // namespace
 
@@ -33,10 +35,13 @@ SeekTrack::SeekTrack(QWidget* parent)
     setCursor(Qt::ArrowCursor);
 }
 
-void SeekTrack::Show(bool mediaControlsEnabled, double progress, double length)
+void SeekTrack::Show(bool mediaControlsEnabled, double progress, double length, const std::vector<DiscPart>& chapters)
 {
     m_mediaControlsEnabled = mediaControlsEnabled;
-    m_length = length;
+    if (std::exchange(m_length, length) != length || m_chapters != chapters) {
+        m_chapters = chapters;
+        update();
+    }
     const auto before = m_bar.FillWidth();
     m_bar.SetProgress(progress * 100);
     if (m_bar.FillWidth() != before)
@@ -65,11 +70,23 @@ void SeekTrack::Choose(std::optional<double> position)
 
 void SeekTrack::ShowTimeAt(const QPoint& global, double x)
 {
-    const auto time = m_bar.TimeUnder(x, m_length, m_mediaControlsEnabled);
-    if (time.empty())
+    auto text = ToQString(m_bar.TimeUnder(x, m_length, m_mediaControlsEnabled));
+    if (text.isEmpty()) {
         QToolTip::hideText();
-    else
-        QToolTip::showText(global, ToQString(time), this);
+        return;
+    }
+    const auto chapter = ChapterAt(m_chapters, ChapterMeant(x).value_or(TimeOf(x) / m_length) * m_length);
+    if (chapter >= 0 && !m_chapters[static_cast<std::size_t>(chapter)].name.empty())
+        text += '\n' + ToQString(m_chapters[static_cast<std::size_t>(chapter)].name);
+    QToolTip::showText(global, text, this);
+}
+
+std::optional<double> SeekTrack::ChapterMeant(double x) const
+{
+    if (m_length <= 0 || m_bar.TrackWidth() <= 0)
+        return std::nullopt;
+    const auto near = ChapterNear(m_chapters, TimeOf(x), TimeOf(kChapterReach));
+    return near >= 0 ? std::optional(m_chapters[static_cast<std::size_t>(near)].start / m_length) : std::nullopt;
 }
 
 void SeekTrack::FollowHand()
@@ -101,8 +118,9 @@ void SeekTrack::mousePressEvent(QMouseEvent* event)
     const auto x = event->position().x();
     const bool isLeft = event->button() == Qt::LeftButton;
     m_heldOnFill = m_bar.IsOnFill(x);
-    Choose(m_heldOnFill ? m_bar.PointerOnFill(x, isLeft, m_mediaControlsEnabled)
-                        : m_bar.PressOnTrack(x, isLeft, m_mediaControlsEnabled));
+    const auto place = m_heldOnFill ? m_bar.PointerOnFill(x, isLeft, m_mediaControlsEnabled)
+                                    : m_bar.PressOnTrack(x, isLeft, m_mediaControlsEnabled);
+    Choose(place && isLeft && ChapterMeant(x) ? ChapterMeant(x) : place);
 }
 
 void SeekTrack::mouseMoveEvent(QMouseEvent* event)
@@ -136,6 +154,7 @@ void SeekTrack::paintEvent(QPaintEvent*)
     track.setWidth(m_bar.FillWidth());
     painter.setBrush(style::kLight);
     painter.drawRoundedRect(track, thickness / 2, thickness / 2);
+    PaintNotches(painter, QRectF(0, track.top(), width(), thickness));
     painter.setBrush(style::kLightHigh);
     const auto end = std::clamp(m_bar.FillWidth(), kKnobRadius, std::max(kKnobRadius, width() - kKnobRadius));
     const auto radius = kKnobRadius * m_nearness.Share();
@@ -144,6 +163,19 @@ void SeekTrack::paintEvent(QPaintEvent*)
         painter.setPen(QPen(style::kLight, 1));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), height() / 2.0, height() / 2.0);
+    }
+}
+
+void SeekTrack::PaintNotches(QPainter& painter, const QRectF& track)
+{
+    if (m_length <= 0)
+        return;
+    painter.setBrush(style::kBase);
+    for (const auto& chapter : m_chapters) {
+        // The beginning needs no sign.
+        if (chapter.start > 0 && chapter.start < m_length)
+            painter.drawRect(
+                QRectF(track.width() * chapter.start / m_length - kNotch / 2, track.top(), kNotch, track.height()));
     }
 }
 

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "playback/DiscParts.h"
 #include "shell/Fade.h"
 #include "shell/SeekBar.h"
 #include "shell/SliderAccessible.h"
 
 #include <QWidget>
+
+#include <optional>
+#include <vector>
 
 namespace zentaro {
 
@@ -16,8 +20,9 @@ class SeekTrack : public QWidget, public SliderFace {
 public:
     explicit SeekTrack(QWidget* parent);
 
-    /// Whether it can seek, how much is played (0 to 1), and of which length (ms, 0 or below while unknown).
-    void Show(bool mediaControlsEnabled, double progress, double length);
+    /// Whether it can seek, how much is played (0 to 1), of which length (ms, 0 or below while unknown), and the
+    /// chapters, which get a notch each.
+    void Show(bool mediaControlsEnabled, double progress, double length, const std::vector<DiscPart>& chapters);
 
     double Value() const override;
     void ChooseValue(double value) override;
@@ -38,9 +43,14 @@ private:
     void FollowHand();
     void Choose(std::optional<double> position);
     void ShowTimeAt(const QPoint& global, double x);
+    /// At its start where a chapter begins so near that the hand must have meant it.
+    std::optional<double> ChapterMeant(double x) const;
+    double TimeOf(double x) const { return x / m_bar.TrackWidth() * m_length; }
+    void PaintNotches(QPainter& painter, const QRectF& track);
 
     SeekBar m_bar;
     double m_length = 0;
+    std::vector<DiscPart> m_chapters;
     bool m_mediaControlsEnabled = false;
     bool m_isNear = false;
     Fade m_nearness{ *this, [this] { update(); } };
