@@ -31,7 +31,7 @@ TEST_F(Menus, OpenByKeysAndMouseAndDoWhatTheySay)
     // Walking along the strip, out again with Escape; the menu of the list has a letter of its own.
     Press(player, "F10", 1);
     const auto first = Last(player).left;
-    Screen().Press("Left Left Left");
+    Screen().Press("Left Left Left Left");
     EXPECT_TRUE(WaitUntil([&] { return player.WaitForMenus(1) && Last(player).left > first; }));
     const auto third = Last(player).left;
     Press(player, "Escape Escape", 0);
