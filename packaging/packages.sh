@@ -43,7 +43,6 @@ libgtest-dev            GoogleTest
 libgmock-dev            GoogleMock
 googletest              their sources, cross-built for Windows
 libx11-dev              the tests of the real window look at windows
-libxtst-dev             and move the pointer
 dbus                    a session bus of the tests own
 desktop-file-utils      checks and collects desktop entries
 shared-mime-info        the types of files, and what adds to them

@@ -7,7 +7,6 @@
 
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
-#include <X11/extensions/XTest.h>
 
 namespace zentaro::trial {
 
@@ -105,9 +104,9 @@ std::vector<Window> Desktop::MenusOf(pid_t process) const
 
 std::string Desktop::Title(Window window) const
 {
-    const auto bytes = Numbers(window, "_NET_WM_NAME");
-    std::string title(bytes.size(), ' ');
-    std::transform(bytes.begin(), bytes.end(), title.begin(), [](auto byte) { return static_cast<char>(byte); });
+    std::string title;
+    for (const auto byte : Numbers(window, "_NET_WM_NAME"))
+        title += static_cast<char>(byte);
     return title;
 }
 
@@ -200,47 +199,16 @@ QImage Desktop::Grab(const Rect& area) const
     return picture;
 }
 
-void Desktop::Do(std::vector<std::string> words) const
+void Desktop::Do(const std::string& words) const
 {
-    words.insert(words.begin(), { "DISPLAY=" + m_name, "xdotool" });
-    Process tool(words);
+    Process tool(Words("DISPLAY=" + m_name + " xdotool " + words));
     if (tool.WaitForEnd() != 0)
-        throw std::runtime_error("no such key: " + tool.Output());
-}
-
-void Desktop::MoveTo(int x, int y)
-{
-    XTestFakeMotionEvent(m_display, 0, x, y, 0);
-    XSync(m_display, False);
-}
-
-void Desktop::MoveButton(int button, bool down)
-{
-    // A hand takes its time. The server waits, not we: on a busy machine a double click would else become two.
-    constexpr unsigned long kPause = 25; // ms
-    XTestFakeButtonEvent(m_display, static_cast<unsigned>(button), down, kPause);
-}
-
-void Desktop::Click(int x, int y, int button, int times)
-{
-    MoveTo(x, y);
-    for (int i = 0; i < times; ++i) {
-        MoveButton(button, true);
-        MoveButton(button, false);
-    }
-    XSync(m_display, False);
-}
-
-void Desktop::Hold(int x, int y)
-{
-    MoveTo(x, y);
-    MoveButton(1, true);
-    XSync(m_display, False);
+        throw std::runtime_error("the hand cannot do that: " + tool.Output());
 }
 
 void Desktop::Release()
 {
-    MoveButton(1, false);
+    Do("mouseup 1");
     // A window manager that moves a window holds the pointer until it has seen the end.
     WaitUntil([&] {
         return XGrabPointer(m_display, m_root, False, 0, GrabModeAsync, GrabModeAsync, None, None, CurrentTime)

@@ -53,13 +53,21 @@ public:
 
     // the user's hands
     /// One key, as X names it, after those that are held: "Return", "ctrl+shift+p"; or several, with blanks between.
-    void Press(const std::string& keys) { Do(Words("key --delay 30 " + keys)); }
-    void Type(const std::string& text) { Do({ "type", "--delay", "30", text }); }
-    void MoveTo(int x, int y);
-    void Click(int x, int y, int button = 1, int times = 1);
+    void Type(const std::string& word) { Do("type --delay 30 " + word); }
+    void Press(const std::string& keys) { Do("key --delay 30 " + keys); }
+    void MoveTo(int x, int y) { Do("mousemove " + std::to_string(x) + " " + std::to_string(y)); }
+    void Click(int x, int y, int button = 1, int times = 1)
+    {
+        MoveTo(x, y);
+        Do("click --delay 30 --repeat " + std::to_string(times) + " " + std::to_string(button));
+    }
     void DoubleClick(int x, int y) { Click(x, y, 1, 2); }
     /// The left button goes down here and stays down.
-    void Hold(int x, int y);
+    void Hold(int x, int y)
+    {
+        MoveTo(x, y);
+        Do("mousedown 1");
+    }
     void Release();
     /// Positive: away from the user.
     void Wheel(int x, int y, int steps) { Click(x, y, steps > 0 ? 4 : 5, std::abs(steps)); }
@@ -79,8 +87,7 @@ private:
     unsigned long Atom(const char* name) const;
     void Send(Window to, Window window, const char* message, std::initializer_list<long> values) const;
     /// What xdotool is to do.
-    void Do(std::vector<std::string> words) const;
-    void MoveButton(int button, bool down);
+    void Do(const std::string& words) const;
 
     int m_width;
     int m_height;
