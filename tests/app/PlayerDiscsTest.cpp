@@ -9,9 +9,16 @@ using namespace std::chrono_literals;
 
 namespace {
 
+using Drives = std::vector<platform::OpticalDrive>;
+
 platform::OpticalDrive Disc(const std::string& name, const std::string& label)
 {
     return { name, label, true, label };
+}
+
+platform::OpticalDrive Empty(const std::string& name)
+{
+    return { name, {}, false, {} };
 }
 
 class DiscsTest : public PlayerTest {
@@ -23,16 +30,64 @@ protected:
         world.Elapse(500ms);
     }
     /// The drives answer, after a tick that lets the watcher see to them.
-    void TickAndFind(const std::vector<platform::OpticalDrive>& drives)
+    void TickAndFind(const Drives& drives)
     {
         world.player->OnPositionTick();
         Discs().DrivesFound(drives);
         world.Elapse(500ms);
         world.Elapse(500ms);
     }
+    /// What both menus list when the drives have answered, with a star what cannot be chosen.
+    std::string Listed(const Drives& drives)
+    {
+        Discs().DrivesFound(drives);
+        const auto& menus = world.player->BothMenus();
+        std::string texts;
+        for (const auto& item : menus.SmartMenuXP1.Items())
+            texts += item.parent != "OpenDVD" || !item.visible ? "" : item.caption + (item.enabled ? ", " : "*, ");
+        texts += "and";
+        for (int i = 0; i < menus.frmMenu.Count("dvdsList"); ++i) {
+            const auto& item = *menus.frmMenu.Find("dvdsList", i);
+            texts += " " + item.caption + (item.enabled ? "" : "*");
+        }
+        return texts;
+    }
 };
 
 } // namespace
+
+TEST_F(DiscsTest, both_menus_list_the_drives_by_their_discs)
+{
+    Start();
+    const std::string none = "<No DVD drives were found>*";
+    EXPECT_EQ(Listed({}), none + ", and " + none);
+    const auto one = Disc("D:", "ONE");
+    const auto two = Disc("E:", "TWO");
+    EXPECT_EQ(Listed({ one, two, Empty("F:") }),
+        "ONE (D:), TWO (E:), <Please insert a DVD> (F:), and ONE (D:) TWO (E:) <Please insert a DVD> (F:)");
+    // Drives that go leave their slots behind; from two to none the first one goes along.
+    EXPECT_EQ(Listed({ one }), "ONE (D:), TWO (E:), <Please insert a DVD> (F:), and ONE (D:)");
+    EXPECT_EQ(Listed({}), none + ", TWO (E:), <Please insert a DVD> (F:), and " + none);
+    Listed({ one, two });
+    EXPECT_EQ(Listed({}), "TWO (E:), <Please insert a DVD> (F:), and " + none);
+}
+
+TEST_F(DiscsTest, a_video_disc_is_looked_for_in_the_drive_that_its_label_names_first)
+{
+    const auto starts = [this](const Drives& drives) {
+        Start();
+        trace.played.clear();
+        TickAndFind(drives);
+        return !trace.played.empty();
+    };
+    EXPECT_TRUE(starts({ Disc("/dev/sr10", "MOVIE") }));
+    EXPECT_FALSE(starts({ { "D:", "DATA", false, {} } }));
+    EXPECT_FALSE(starts({ Empty("D:") }));
+    EXPECT_FALSE(starts({ Disc("D:", "MOVIE (UK)") }));
+    EXPECT_FALSE(starts({ Disc("/dev/sr0", "MOVIE (") }));
+    EXPECT_TRUE(starts({ Disc("D:", "MOVIE(D:1") })); // two characters, whatever follows them
+    EXPECT_TRUE(starts({ { "D:", "DATA (E:)", false, {} }, Disc("E:", "MOVIE") }));
+}
 
 TEST_F(DiscsTest, a_disc_replaces_the_list_and_plays_by_its_root_after_half_a_second)
 {
@@ -118,7 +173,7 @@ TEST_F(DiscsTest, a_disc_that_cannot_be_played_is_said_and_an_empty_drive_does_n
 {
     auto& player = StartWithEntries(1, kPlayNormal, kNoRepeat);
     Choose(0);
-    Discs().DrivesFound({ { "/dev/sr0", {}, false, {} }, { "/dev/sr1", "DATA", false, {} } });
+    Discs().DrivesFound({ Empty("/dev/sr0"), { "/dev/sr1", "DATA", false, {} } });
     Choose(0);
     Choose(7);
     EXPECT_EQ(player.Entries().Count(), 1);
@@ -155,7 +210,7 @@ TEST_F(DiscsTest, the_watcher_starts_each_video_disc_once_while_nothing_plays)
     TickAndFind({ movie });
     EXPECT_TRUE(Discs().IsWatching());
     EXPECT_EQ(Starts(), 1U); // stopped, and still in the drive
-    TickAndFind({ { "/dev/sr0", {}, false, {} } });
+    TickAndFind({ Empty("/dev/sr0") });
     TickAndFind({ movie, Disc("/dev/sr1", "OTHER") });
     EXPECT_EQ(Starts(), 3U); // the second replaces the first
     EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr1>");

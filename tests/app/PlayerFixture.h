@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/Commands.h"
-#include "platform/Files.h"
+#include "tests/platform/WorkingFolder.h"
 #include "tests/world/World.h"
 
 #include <gtest/gtest.h>
@@ -16,14 +16,6 @@ namespace fs = std::filesystem;
 /// A player in a folder of its own, in a world of memory.
 class PlayerTest : public testing::Test {
 protected:
-    PlayerTest()
-        : folder(fs::temp_directory_path()
-            / ("zentaro-player-" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name())))
-        , world((fs::remove_all(folder), fs::create_directories(folder), folder.string() + "/"))
-    {
-    }
-    ~PlayerTest() override { fs::remove_all(folder); }
-
     std::string ConfigPath() const { return (folder / "Config.cfg").string(); }
     std::optional<std::string> ConfigText() const { return platform::ReadTextFile(ConfigPath(), 100'000); }
     /// The defaults with these changes, on disk.
@@ -65,6 +57,14 @@ protected:
         world.player->OnPositionTick();
         trace.state = Engine::kPlaying;
     }
+    /// So many ticks long, nothing that is started can be played.
+    void Fail(int ticks = 1)
+    {
+        trace.state = Engine::kFailed;
+        for (int tick = 0; tick < ticks; ++tick)
+            world.player->OnPositionTick();
+        trace.state = Engine::kPlaying;
+    }
     void Run(const char* command, int which = 0) { RunCommand(*world.player, command, which); }
     bool IsEnabled(const char* key) { return world.player->BothMenus().SmartMenuXP1.Find(key)->enabled; }
     /// Which of a group's items are checked.
@@ -79,8 +79,9 @@ protected:
     const std::string& LastPlayed() const { return trace.played.back(); }
     std::size_t Starts() const { return trace.played.size(); }
 
-    fs::path folder;
-    World world;
+    const platform::WorkingFolder own;
+    const fs::path folder{ own.Path() };
+    World world{ own / "" };
     EngineTrace& trace = world.engines.trace;
     bool isPlayer = false;
 };

@@ -78,31 +78,31 @@ TEST_F(PlayerTest, senders_wait_neither_for_each_other_nor_for_a_box)
 
 TEST_F(PlayerTest, the_end_saves_where_the_window_is_unless_it_is_maximised_or_still_starting)
 {
+    const auto saved = [this] {
+        const auto settings = *ParseConfigurations(*ConfigText());
+        return std::to_string(settings.WindowLeft) + " " + std::to_string(settings.WindowWidth);
+    };
     world.Load("/clips/a.avi");
+    const auto first = saved();
     world.window.left = 900;
     world.player->WindowResized(999, 999); // by the start itself
     IgnoreFailure(world.player->WriteConfigurations());
-    EXPECT_EQ(ParseConfigurations(*ConfigText())->WindowWidth, 388);
-    EXPECT_NE(ParseConfigurations(*ConfigText())->WindowLeft, 900);
+    EXPECT_EQ(saved(), first);
     world.Settle();
     world.window.left = -1200.5;
     world.player->WindowResized(640, 480);
     world.player->Unload();
     EXPECT_TRUE(world.ended);
-    auto saved = *ParseConfigurations(*ConfigText());
-    EXPECT_EQ(saved.WindowLeft, -1200);
-    EXPECT_EQ(saved.WindowWidth, 640);
+    EXPECT_EQ(saved(), "-1200 640");
 
     world.window.maximized = true;
     world.window.left = 0;
     world.player->WindowResized(1280, 800);
     world.player->Unload();
-    saved = *ParseConfigurations(*ConfigText());
-    EXPECT_EQ(saved.WindowLeft, -1200);
-    EXPECT_EQ(saved.WindowWidth, 640);
+    EXPECT_EQ(saved(), "-1200 640");
 }
 
-TEST_F(PlayerTest, a_file_that_is_gone_or_read_only_at_the_end_stays_so)
+TEST_F(PlayerTest, a_file_that_is_read_only_gone_or_a_folder_at_the_end_stays_so)
 {
     Start();
     const auto before = ConfigText();
@@ -114,6 +114,9 @@ TEST_F(PlayerTest, a_file_that_is_gone_or_read_only_at_the_end_stays_so)
     fs::remove(ConfigPath());
     EXPECT_FALSE(world.player->WriteConfigurations());
     EXPECT_FALSE(fs::exists(ConfigPath()));
+    fs::create_directories(ConfigPath() + "/inside");
+    Start().Unload();
+    EXPECT_TRUE(fs::is_directory(ConfigPath()));
 }
 
 TEST_F(PlayerTest, settings_that_cannot_be_read_at_first_are_kept_and_joined_by_what_is_chosen)
@@ -168,6 +171,11 @@ TEST_F(PlayerTest, continuous_play_goes_round_and_normal_play_stops)
     EXPECT_EQ(player.State().timeText, "00:00:00 / 00:00:00");
     player.Sequence().cmdNextClick();
     EXPECT_EQ(Starts(), 4u); // nothing is loaded
+    player.Sequence().SetRepeatMode(kRepeatSingle);
+    player.Sequence().CMDPlayClick();
+    player.Sequence().RemoveAll();
+    EndItem();
+    EXPECT_EQ(world.dialogs.asked, 1); // again, but of what
 }
 
 TEST_F(PlayerTest, a_new_play_mode_builds_a_new_order)
@@ -197,33 +205,19 @@ TEST_F(PlayerTest, an_order_that_names_a_removed_entry_plays_nothing)
     EXPECT_EQ(player.Window().Caption(), "Zentaro");
 }
 
-TEST_F(PlayerTest, repeat_one_asks_for_files_when_its_list_was_emptied)
-{
-    auto& player = StartWithEntries(1, kPlayContinuous, kRepeatSingle);
-    player.Sequence().RemoveAll();
-    EndItem();
-    EXPECT_EQ(world.dialogs.asked, 1);
-    EXPECT_FALSE(IsLoaded());
-}
-
 TEST_F(PlayerTest, what_cannot_be_played_is_named_and_passed_in_the_direction_of_travel)
 {
     auto& player = StartWithEntries(4, kPlayContinuous, kNoRepeat);
-    const auto fail = [&] {
-        trace.state = Engine::kFailed;
-        player.OnPositionTick();
-        trace.state = Engine::kPlaying;
-    };
     player.Sequence().cmdNextClick();
-    fail();
+    Fail();
     EXPECT_EQ(world.window.notes.back(), "b.avi cannot be played");
     EXPECT_EQ(LastPlayed(), "/c.avi");
     player.Sequence().cmdPreviousClick();
-    fail(); // and not to c again
+    Fail(); // and not to c again
     EXPECT_EQ(LastPlayed(), "/a.avi");
     player.Sequence().PBNormal();
     player.Sequence().cmdNextClick();
-    fail();
+    Fail();
     EXPECT_EQ(LastPlayed(), "/c.avi");
     EndItem(); // the journey is over: the modes count again
     EXPECT_FALSE(IsLoaded());
@@ -237,10 +231,7 @@ TEST_F(PlayerTest, a_round_of_failures_stops_with_a_note_and_runs_nothing)
             player.Sequence().DoAfter(1);
             world.window.notes.clear();
             trace.time = trace.length = 0;
-            trace.state = Engine::kFailed;
-            for (int tick = 0; tick < 10; ++tick)
-                player.OnPositionTick();
-            trace.state = Engine::kPlaying;
+            Fail(10);
             EXPECT_FALSE(IsLoaded());
             EXPECT_FALSE(world.window.notes.empty());
         }
@@ -252,21 +243,15 @@ TEST_F(PlayerTest, a_round_of_failures_stops_with_a_note_and_runs_nothing)
 TEST_F(PlayerTest, an_item_that_plays_and_a_choice_of_the_user_begin_the_count_of_failures_anew)
 {
     auto& player = StartWithEntries(3, kPlayContinuous, kRepeatAll);
-    const auto fail = [&](int ticks) {
-        trace.state = Engine::kFailed;
-        for (int tick = 0; tick < ticks; ++tick)
-            player.OnPositionTick();
-        trace.state = Engine::kPlaying;
-    };
-    fail(2);
+    Fail(2);
     EndItem();
     trace.time = trace.length = 0;
-    fail(2);
+    Fail(2);
     EXPECT_TRUE(IsLoaded());
     player.Sequence().PlayEntry(0);
-    fail(2);
+    Fail(2);
     EXPECT_TRUE(IsLoaded());
-    fail(1);
+    Fail();
     EXPECT_FALSE(IsLoaded());
 }
 
@@ -280,15 +265,26 @@ TEST_F(PlayerTest, chosen_files_are_added_and_only_the_first_plays)
     EXPECT_EQ(trace.played, std::vector<std::string>{ "/clips/c.avi" });
 }
 
-TEST_F(PlayerTest, the_after_play_action_runs_at_the_end_of_the_sequence_only)
+TEST_F(PlayerTest, the_after_play_action_runs_at_the_end_of_the_sequence_only_and_is_what_the_next_one_is_named_for)
 {
     auto& player = StartWithEntries(2, kPlayContinuous, kNoRepeat);
+    const auto done = [&] {
+        return std::to_string(world.power.powerOffs) + std::to_string(world.power.restarts)
+            + std::to_string(world.window.closes) + " " + Checked(kAfterPlayKeys);
+    };
+    EXPECT_EQ(done(), "000 Donothing ");
+    // A value that has no item is stored too, and leaves the marks.
+    for (const auto& [action, after] : { std::pair(2, "100 RestartTheComputer "), { 4, "100 RestartTheComputer " },
+             { 1, "110 ExitZentaro " }, { 3, "111 ShutdownTheComputer " }, { 0, "111 Donothing " } }) {
+        player.Sequence().DoAfter(static_cast<std::int16_t>(action));
+        player.Sequence().PlayEntry(0);
+        const auto before = done();
+        EndItem();
+        EXPECT_EQ(done(), before);
+        EndItem();
+        EXPECT_EQ(done(), after);
+    }
     player.Sequence().DoAfter(2);
-    EndItem();
-    EXPECT_EQ(world.power.powerOffs + world.power.restarts, 0);
-    EndItem();
-    EXPECT_EQ(world.power.powerOffs, 1);
-    EXPECT_EQ(Starts(), 2u);
     player.Sequence().SetRepeatMode(kRepeatAll);
     player.Sequence().CMDPlayClick();
     EndItem();
@@ -299,17 +295,14 @@ TEST_F(PlayerTest, the_after_play_action_runs_at_the_end_of_the_sequence_only)
 TEST_F(PlayerTest, sleep_is_held_off_while_a_video_plays_and_the_settings_want_it)
 {
     auto& player = StartWithEntries(1, kPlayNormal, kNoRepeat);
-    trace.state = 1; // opening
-    player.OnPositionTick();
-    EXPECT_FALSE(world.isSleepHeldOff);
-    trace.state = Engine::kPlaying;
-    player.OnPositionTick();
-    EXPECT_TRUE(world.isSleepHeldOff);
-    trace.hasVideo = false;
-    player.OnPositionTick();
-    EXPECT_FALSE(world.isSleepHeldOff);
-    trace.hasVideo = true;
-    player.OnPositionTick();
+    constexpr int kOpening = 1;
+    for (const auto& [state, hasVideo] : { std::pair(kOpening, true), { +Engine::kPlaying, true },
+             { +Engine::kPaused, true }, { +Engine::kPlaying, false }, { +Engine::kPlaying, true } }) {
+        trace.state = state;
+        trace.hasVideo = hasVideo;
+        player.OnPositionTick();
+        EXPECT_EQ(world.isSleepHeldOff, state == Engine::kPlaying && hasVideo);
+    }
     player.Transporting().cmdStopClick();
     EXPECT_FALSE(world.isSleepHeldOff);
     const auto shown = PagesOf(player.Settings());
@@ -393,24 +386,15 @@ TEST_F(PlayerTest, what_a_user_starts_comes_before_a_list_that_takes_the_whole_w
     EXPECT_EQ(window.Dock(), PlaylistDock::Right);
 }
 
-TEST_F(PlayerTest, options_write_what_was_changed_and_remember_the_size_that_the_window_has)
+TEST_F(PlayerTest, options_remember_the_size_that_the_window_has)
 {
-    Store([](PlayerSettings& settings) {
-        settings.SnapshotPath = "C:\\";
-        settings.TitleBarMode = 9;
-        settings.WindowWidth = 900;
-    });
+    Store([](PlayerSettings& settings) { settings.WindowWidth = 900; });
     auto& player = Start();
     const auto shown = PagesOf(player.Settings());
-    player.CommitOptions(shown, shown);
-    auto saved = *ParseConfigurations(*ConfigText());
-    EXPECT_EQ(saved.SnapshotPath, "C:\\");
-    EXPECT_EQ(saved.TitleBarMode, 9);
-    EXPECT_EQ(saved.WindowWidth, 900);
     auto chosen = shown;
-    chosen.rememberLastSize = true;
-    player.CommitOptions(shown, chosen);
-    saved = *ParseConfigurations(*ConfigText());
-    EXPECT_EQ(saved.WindowWidth, 400);
-    EXPECT_EQ(saved.WindowHeight, 500);
+    for (const int width : { 900, 400 }) {
+        player.CommitOptions(shown, chosen);
+        EXPECT_EQ(ParseConfigurations(*ConfigText())->WindowWidth, width);
+        chosen.rememberLastSize = true;
+    }
 }

@@ -1,7 +1,6 @@
 #include "tests/desktop/PlayerDesk.h"
 
 #include <filesystem>
-#include <sys/stat.h>
 
 namespace zentaro::trial {
 namespace {
@@ -14,9 +13,7 @@ TEST_F(BadInput, WhatIsNoMediaIsRefusedInABoxOrSilently)
     WriteWholeFile(InHome("text.avi"), "Only words, no picture.\n");
     WriteWholeFile(InHome("notes.txt"), "Only words.\n");
     std::filesystem::create_directory(InHome("folder.mkv"));
-    WriteWholeFile(InHome("closed.mp4"), "secret");
-    ASSERT_EQ(chmod(InHome("closed.mp4").c_str(), 0), 0);
-    for (const auto* const refused : { "empty.mp4", "text.avi", "closed.mp4", "folder.mkv" }) {
+    for (const auto* const refused : { "empty.mp4", "text.avi", "folder.mkv" }) {
         SCOPED_TRACE(refused);
         auto player = StartAndShow({ InHome(refused) });
         EXPECT_EQ(player.AnswerDialog(), "Zentaro");
@@ -24,8 +21,8 @@ TEST_F(BadInput, WhatIsNoMediaIsRefusedInABoxOrSilently)
         EXPECT_CLOSES_CLEANLY(player);
     }
     int names = 0;
-    for (const auto& ignored : { InHome("notes.txt"), InHome("missing.mp4"), Home(), std::string(4000, 'x') + ".mp4",
-             std::string("-platform"), std::string("\xFF\xFE*Add"), std::string() }) {
+    for (const auto& ignored : { InHome("notes.txt"), Home(), std::string(4000, 'x') + ".mp4", std::string("-platform"),
+             std::string("\xFF\xFE*Add") }) {
         SCOPED_TRACE(ignored);
         auto player = StartAndShow({ ignored });
         EXPECT_EQ(player.Title(), "Zentaro");

@@ -5,15 +5,7 @@
 namespace zentaro::trial {
 namespace {
 
-class Closing : public PlayerDesk {
-protected:
-    /// A blank folder in the file becomes a real one with the first write.
-    void StoreUnwrittenSettings() const
-    {
-        StoreSettings([](PlayerSettings& settings) { settings.DefaultFolder = " "; });
-    }
-    void ExpectWritten() const { EXPECT_EQ(StoredSettings().DefaultFolder, Home()); }
-};
+class Closing : public PlayerDesk { };
 
 TEST_F(Closing, LeavesNothingAtAnyMoment)
 {
@@ -25,7 +17,8 @@ TEST_F(Closing, LeavesNothingAtAnyMoment)
     for (const int signal : { 0, SIGTERM, SIGINT, SIGHUP }) {
         for (std::size_t moment = 0; moment < moments.size(); ++moment) {
             SCOPED_TRACE(std::to_string(signal) + " at " + std::to_string(moment));
-            StoreUnwrittenSettings();
+            // A blank folder in the file becomes a real one with the first write.
+            StoreSettings([](PlayerSettings& settings) { settings.DefaultFolder = " "; });
             auto player = StartAndShow({ moment < 2 ? Clips::Make("clip.mp4") : InHome("text.avi") });
             moments[moment](player);
             if (signal != 0)
@@ -35,7 +28,7 @@ TEST_F(Closing, LeavesNothingAtAnyMoment)
             else
                 continue;
             EXPECT_ENDED_CLEANLY(player);
-            ExpectWritten();
+            EXPECT_EQ(StoredSettings().DefaultFolder, Home());
         }
     }
 }

@@ -65,17 +65,5 @@ TEST_F(List, ClipsDroppedOnTheListStartNothingUntilOneIsChosen)
     EXPECT_CLOSES_CLEANLY(player);
 }
 
-TEST_F(List, ClosingInTheMiddleOfManyFilesLeavesNothing)
-{
-    auto player = StartAndShow();
-    std::vector<std::string> clips;
-    for (int i = 0; i < 40; ++i)
-        clips.push_back(ShortClip(std::to_string(i) + ".mp4"));
-    ASSERT_TRUE(DropOnVideo(player, clips));
-    // The first one plays while the others are still being added.
-    EXPECT_TRUE(player.WaitForTitle("0.mp4"));
-    EXPECT_CLOSES_CLEANLY(player);
-}
-
 } // namespace
 } // namespace zentaro::trial

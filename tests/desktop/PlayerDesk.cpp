@@ -1,7 +1,6 @@
 #include "tests/desktop/PlayerDesk.h"
 
 #include "app/ConfigFile.h"
-#include "platform/StringStore.h"
 
 #include <algorithm>
 #include <csignal>
@@ -188,8 +187,15 @@ PlayerDesk::PlayerDesk()
 
 void PlayerDesk::TearDown()
 {
-    for (const auto id : Started())
-        kill(id, SIGKILL);
+    for (const auto& id : Started())
+        kill(std::stoi(id), SIGKILL);
+}
+
+std::vector<std::string> PlayerDesk::Started() const
+{
+    Process search({ "bash", "-c", "grep -lzsx TMPDIR=" + InHome("tmp") + " /proc/[0-9]*/environ | tr -cd '0-9\n'" });
+    search.WaitForEnd();
+    return Words(search.Output());
 }
 
 Desktop& PlayerDesk::Screen()
@@ -257,13 +263,6 @@ ShownPlayer PlayerDesk::Show(Process process, Desktop& desktop)
     if (found == 0)
         throw std::runtime_error("no window came: " + process.Output());
     return { desktop, std::move(process), found };
-}
-
-std::string PlayerDesk::Published(const char* name)
-{
-    using platform::StringStore;
-    return StringStore::Open()->Read(
-        StringStore::Root::CurrentUser, platform::SettingsKey("Quorvane Zentaro", "Setting"), name, "-1");
 }
 
 } // namespace zentaro::trial

@@ -72,9 +72,7 @@ protected:
     static ShownPlayer Show(Process process, Desktop& desktop = Screen());
     ShownPlayer StartAndShow(const std::vector<std::string>& arguments = {}) const { return Show(Start(arguments)); }
     /// What runs of all that was started, and of what that has started itself.
-    std::vector<pid_t> Started() const { return ProcessesWith("TMPDIR=" + InHome("tmp")); }
-    /// What the running player tells later starts.
-    static std::string Published(const char* name);
+    std::vector<std::string> Started() const;
 
 private:
     platform::WorkingFolder m_home;

@@ -2,7 +2,6 @@
 
 #include <csignal>
 #include <fcntl.h>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -89,18 +88,6 @@ std::vector<std::string> Words(const std::string& text)
 {
     std::istringstream stream(text);
     return { std::istream_iterator<std::string>(stream), {} };
-}
-
-std::vector<pid_t> ProcessesWith(const std::string& variable)
-{
-    std::vector<pid_t> found;
-    for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
-        const auto id = std::atoi(entry.path().filename().c_str());
-        const auto variables = id > 0 ? '\0' + ReadWholeFile(entry.path() / "environ") : std::string();
-        if (variables.find('\0' + variable + '\0') != std::string::npos)
-            found.push_back(id);
-    }
-    return found;
 }
 
 std::string ReadWholeFile(const std::string& path)

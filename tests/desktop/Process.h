@@ -40,9 +40,6 @@ private:
 /// The words of a text, parted by blanks.
 std::vector<std::string> Words(const std::string& text);
 
-/// Every process that has this variable, as NAME=value, whoever its parent is by now.
-std::vector<pid_t> ProcessesWith(const std::string& variable);
-
 std::string ReadWholeFile(const std::string& path);
 void WriteWholeFile(const std::string& path, const std::string& bytes);
 

@@ -96,7 +96,6 @@ TEST_F(Session, MediaKeysAndScreenSaverGoWithThePlayer)
     Becomes("status", "Playing");
     EXPECT_GT(std::atof(Ctl("position").c_str()), 14) << "it went on, and did not begin again";
     EXPECT_TRUE(screenSaver->BecomesHeldBy(1));
-    EXPECT_EQ(screenSaver->TimesHeld(), 2) << "nobody beside the player holds it";
 
     EXPECT_EQ(Ctl("open " + second), "");
     Becomes("metadata title", "second.wav");
@@ -104,8 +103,6 @@ TEST_F(Session, MediaKeysAndScreenSaverGoWithThePlayer)
     EXPECT_EQ(Ctl("previous"), "");
     EXPECT_TRUE(player.WaitForTitle("first one.mp4"));
     EXPECT_TRUE(screenSaver->BecomesHeldBy(1));
-    Ctl("volume 0.3");
-    Becomes("volume", "0.300000");
 
     // The session's bus is started anew, and the player plays on.
     screenSaver.reset();

@@ -107,6 +107,34 @@ protected:
         });
     }
     static bool Stands(const ShownPlayer& player) { return TakesSpeed(player, 0); }
+    /// Every key that moves playback, and a look at the video each time.
+    static void UseKeys(const ShownPlayer& player)
+    {
+        Screen().Press("5");
+        EXPECT_TRUE(ReachesTime(player, kLength / 2, kLength / 2 + 5));
+        Screen().Press("ctrl+p");
+        EXPECT_TRUE(Stands(player));
+        const auto paused = Time(player);
+        for (const auto& [keys, from, to] : { std::tuple("space", 0.1, 3.0), std::tuple("Right Right", 9.5, 15.0),
+                 std::tuple("Left", 4.5, 9.0), std::tuple("shift+Left", -kLength, -15.0) }) {
+            Screen().Press(keys);
+            EXPECT_TRUE(ReachesTime(player, paused + from, paused + to)) << keys;
+        }
+        Screen().Press("bracketright ctrl+Up");
+        EXPECT_TRUE(TakesSpeed(player, 4));
+        Screen().Press("bracketleft ctrl+Down ctrl+Down ctrl+r");
+        EXPECT_TRUE(TakesSpeed(player, 1));
+        const auto title = player.Title();
+        Screen().Press("Next");
+        EXPECT_TRUE(WaitUntil([&] { return player.Title() != title; }));
+        Screen().Press("Prior");
+        EXPECT_TRUE(player.WaitForTitle(title));
+        EXPECT_TRUE(ReachesTime(player, 0.1, 15));
+    }
+    static bool FillsTheScreen(const ShownPlayer& player, bool fills = true)
+    {
+        return WaitUntil([&] { return (player.Video() == Screen().Area()) == fills && player.Video().width > 0; });
+    }
 };
 
 TEST_F(Transport, APressOnTheTrackLandsThere)
@@ -141,7 +169,7 @@ TEST_F(Transport, APressOnTheTrackLandsThere)
     EXPECT_CLOSES_CLEANLY(player);
 }
 
-TEST_F(Transport, HeldButtonsMoveTheirWayAndAPauseChangesNothing)
+TEST_F(Transport, HeldButtonsMoveTheirWay)
 {
     auto player = ShowPlaying({ "long.mp4" });
     const auto hold = [&](Button button) {
@@ -160,13 +188,6 @@ TEST_F(Transport, HeldButtonsMoveTheirWayAndAPauseChangesNothing)
     EXPECT_TRUE(ReachesTime(player, 0, last - 3));
     Screen().Release();
     EXPECT_TRUE(TakesSpeed(player, 1));
-
-    player.Click(Button::Pause);
-    EXPECT_TRUE(Stands(player));
-    const auto paused = Time(player);
-    player.Click(Button::Pause);
-    EXPECT_TRUE(ReachesTime(player, paused + 0.1, paused + 3));
-    EXPECT_TRUE(TakesSpeed(player, 1));
     EXPECT_CLOSES_CLEANLY(player);
 }
 
@@ -180,12 +201,9 @@ TEST_F(Transport, ButtonsAndSlidersShowWhatTheyDo)
         idle.push_back(Look(part));
     player.Click(Button::Play);
     EXPECT_TRUE(player.WaitForTitle("/a.mp4"));
-    for (const auto& [button, name] : { std::pair(Button::Previous, "/c.mp4"), std::pair(Button::Next, "/a.mp4"),
-             std::pair(Button::Next, "/b.mp4") }) {
-        const auto before = player.Title();
+    for (const auto& [button, name] : { std::pair(Button::Previous, "/c.mp4"), { Button::Next, "/a.mp4" } }) {
         player.Click(button);
-        EXPECT_TRUE(WaitUntil([&] { return player.Title() != before; }));
-        EXPECT_NE(player.Title().find(name), std::string::npos) << player.Title();
+        EXPECT_TRUE(player.WaitForTitle(name));
     }
     EXPECT_TRUE(ReachesTime(player, 0.1, 15));
     ClickTrack(player, 0.5);
@@ -214,39 +232,7 @@ TEST_F(Transport, ButtonsAndSlidersShowWhatTheyDo)
     EXPECT_CLOSES_CLEANLY(player);
 }
 
-/// Every key that moves playback, and a look at the video each time.
-class TransportKeys : public Transport {
-protected:
-    static void UseKeys(const ShownPlayer& player)
-    {
-        Screen().Press("5");
-        EXPECT_TRUE(ReachesTime(player, kLength / 2, kLength / 2 + 5));
-        Screen().Press("ctrl+p");
-        EXPECT_TRUE(Stands(player));
-        const auto paused = Time(player);
-        for (const auto& [keys, from, to] : { std::tuple("space", 0.1, 3.0), std::tuple("Right Right", 9.5, 15.0),
-                 std::tuple("Left", 4.5, 9.0), std::tuple("shift+Left", -kLength, -15.0) }) {
-            Screen().Press(keys);
-            EXPECT_TRUE(ReachesTime(player, paused + from, paused + to)) << keys;
-        }
-        Screen().Press("bracketright ctrl+Up");
-        EXPECT_TRUE(TakesSpeed(player, 4));
-        Screen().Press("bracketleft ctrl+Down ctrl+Down ctrl+r");
-        EXPECT_TRUE(TakesSpeed(player, 1));
-        const auto title = player.Title();
-        Screen().Press("Next");
-        EXPECT_TRUE(WaitUntil([&] { return player.Title() != title; }));
-        Screen().Press("Prior");
-        EXPECT_TRUE(player.WaitForTitle(title));
-        EXPECT_TRUE(ReachesTime(player, 0.1, 15));
-    }
-    static bool FillsTheScreen(const ShownPlayer& player, bool fills = true)
-    {
-        return WaitUntil([&] { return (player.Video() == Screen().Area()) == fills && player.Video().width > 0; });
-    }
-};
-
-TEST_F(TransportKeys, WorkInTheWindowAndInFullScreen)
+TEST_F(Transport, KeysWorkInTheWindowAndInFullScreen)
 {
     auto player = ShowWith({ "a.mp4", "b.mp4" });
     Screen().Press("Return"); // nothing is selected yet

@@ -22,14 +22,6 @@ TEST(EngineOptions, follow_the_settings_and_are_always_PNG)
     EXPECT_EQ(options[6], "no-disable-screensaver");
 }
 
-TEST(EngineOptions, each_file_has_a_snapshot_folder_of_its_own)
-{
-    EXPECT_EQ(WithSnapshotFolder({}, "D:\\Shots", "C:\\Music\\song one.mp3", '\\')[2],
-        "snapshot-path=D:\\Shots\\song one.mp3 Images");
-    EXPECT_EQ(SnapshotFolder("D:\\Shots", "C:\\Music\\song one.mp3", '\\'), "D:\\Shots\\song one.mp3 Images");
-    EXPECT_EQ(SnapshotFolder("/", "/a/b.avi", '/'), "/b.avi Images");
-}
-
 TEST(Snapshot, names_end_where_five_digits_do)
 {
     EXPECT_EQ(NextSnapshotName("x", '/', [](const std::string& name) { return name != "x99999.png"; }), "x99999.png");

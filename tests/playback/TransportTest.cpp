@@ -77,24 +77,19 @@ TEST_F(TransportTest, steps_stop_short_of_both_ends_and_need_an_item)
 
 TEST_F(TransportTest, the_wheel_adds_parts_of_a_notch_until_it_turns_back)
 {
-    transport.TurnVolume(120);
-    EXPECT_EQ(state.volume, 100);
-    transport.TurnVolume(-80);
-    EXPECT_EQ(state.volume, 100);
-    transport.TurnVolume(-80);
-    EXPECT_EQ(state.volume, 95);
-    transport.TurnVolume(100);
-    EXPECT_EQ(state.volume, 95);
-    transport.TurnVolume(20);
-    EXPECT_EQ(state.volume, 100);
-    transport.TurnVolume(-120 * 50);
-    EXPECT_EQ(state.volume, 0);
+    for (const auto& [turn, volume] :
+        { std::pair(120, 100), { -80, 100 }, { -80, 95 }, { 100, 95 }, { 20, 100 }, { -120 * 50, 0 } }) {
+        transport.TurnVolume(turn);
+        EXPECT_EQ(state.volume, volume);
+    }
     PlayItem();
     EXPECT_EQ(trace.volume, 0); // a fresh engine is told
 }
 
 TEST_F(TransportTest, the_chosen_rate_holds_for_an_item_and_what_is_held_ends_with_it)
 {
+    transport.RewindPressed(); // of nothing
+    EXPECT_FALSE(state.isRewinding);
     PlayItem();
     transport.IncreaseRate();
     EXPECT_EQ(trace.rateSet, 2);
@@ -104,18 +99,34 @@ TEST_F(TransportTest, the_chosen_rate_holds_for_an_item_and_what_is_held_ends_wi
     EXPECT_TRUE(state.isRewinding);
     trace.length = 10'000;
     trace.time = 5'000;
+    for (const double expected : { 4'990, 4'980 }) {
+        transport.OnRewindTick();
+        EXPECT_NEAR(trace.time, expected, 1e-6);
+    }
+    trace.time = 5;
     transport.OnRewindTick();
-    EXPECT_EQ(trace.time, 4'990);
+    EXPECT_EQ(trace.time, 0);
+    transport.RewindReleased();
+    trace.time = 5'000;
+    transport.OnRewindTick(); // which was on its way
+    EXPECT_EQ(trace.time, 5'000);
+    transport.RewindPressed();
     PlayItem();
     EXPECT_FALSE(state.isRewinding);
     EXPECT_EQ(state.chosenRate, 1);
+    EXPECT_EQ(trace.rateSet, 0);
+    transport.cmdffMouseUp(); // comes too late for anything
+    EXPECT_EQ(trace.rateSet, 0);
+    transport.cmdffMouseDown();
+    EXPECT_EQ(trace.rateSet, 10);
     transport.RewindPressed();
     trace.state = Engine::kEnded;
     transport.OnPositionTick();
     EXPECT_FALSE(state.isRewinding);
+    EXPECT_EQ(trace.rateSet, 1);
     transport.IncreaseRate(); // without an item it is only remembered
     EXPECT_EQ(state.chosenRate, 2);
-    EXPECT_EQ(trace.rateSet, 0);
+    EXPECT_EQ(trace.rateSet, 1);
 }
 
 TEST_F(TransportTest, a_pause_of_an_item_that_still_opens_is_kept_and_taken_back)
@@ -136,16 +147,4 @@ TEST_F(TransportTest, a_pause_of_an_item_that_still_opens_is_kept_and_taken_back
     transport.CMDPauseClick();
     transport.OnPositionTick();
     EXPECT_FALSE(state.isPaused);
-}
-
-TEST_F(TransportTest, openings_and_stops_put_what_was_begun_out_of_date)
-{
-    const auto before = transport.Generation();
-    PlayItem(TransportItem::Kind::DriveDisc);
-    EXPECT_TRUE(transport.Item().IsDisc());
-    const auto opened = transport.Generation();
-    transport.cmdStopClick();
-    EXPECT_TRUE(before != opened && opened != transport.Generation());
-    trace.takesItems = false;
-    EXPECT_FALSE(transport.Open({}, {}, {}));
 }

@@ -202,17 +202,6 @@ TEST_F(AddQueueTest, CancelKeepsWhatIsAddedEndsTheRestAndShowsTheGatheredBoxes)
     EXPECT_EQ(Titles(), "a.avi d.avi e.avi ");
 }
 
-TEST_F(AddQueueTest, CancelFromABoxLeavesOnlyTheBox)
-{
-    Add({ "bad.avi", "a.avi" });
-    Finish("bad.avi");
-    queue.Cancel();
-    EXPECT_EQ(queue.Progress(), AddProgress());
-    CloseBox();
-    EXPECT_EQ(playlist.Count(), 0);
-    EXPECT_TRUE(runner.atWork.empty());
-}
-
 TEST_F(AddQueueTest, ClosingUnwindsWithoutAnotherWord)
 {
     Add({ "odd.avi", "odd-bad.avi", "c.avi" }, AddTurn::AtOnce);

@@ -1,8 +1,8 @@
 #include "playlist/DroppedFiles.h"
+#include "tests/platform/WorkingFolder.h"
 
 #include <filesystem>
 #include <fstream>
-#include <random>
 
 #include <gtest/gtest.h>
 
@@ -27,12 +27,6 @@ TEST(NaturalLessTest, NumbersCountByValueAndLettersWithoutCase)
 
 class DroppedFilesTest : public testing::Test {
 protected:
-    DroppedFilesTest()
-        : root(fs::temp_directory_path() / ("zentaro-drop-" + std::to_string(std::random_device()())))
-    {
-        fs::create_directory(root);
-    }
-    ~DroppedFilesTest() override { fs::remove_all(root); }
     std::string Make(const std::string& name)
     {
         const auto path = (root / name).make_preferred();
@@ -45,7 +39,8 @@ protected:
     {
         return DroppedMediaFiles(paths, kSeparator, [] { return true; });
     }
-    fs::path root;
+    const platform::WorkingFolder folder;
+    const fs::path root{ folder.Path() };
 };
 
 TEST_F(DroppedFilesTest, FilesStayInTheirOrderAndFoldersUnfoldNaturally)
@@ -70,13 +65,6 @@ TEST_F(DroppedFilesTest, LinksThatLeadBackAndMissingNamesEndAndOddBytesSurvive)
     fs::create_directory_symlink(root / "folder", root / "folder" / "again", unsupported);
     fs::create_directory_symlink("self", root / "folder" / "self", unsupported);
     EXPECT_EQ(Drop({ Path("folder"), Path("missing") }), (std::vector{ a }));
-}
-
-TEST(DroppedRequestsTest, OnlyTheFirstOneCanPlay)
-{
-    const auto requests = AddRequests({ "/v/a.avi", "/v/b.avi" }, '/', true);
-    EXPECT_EQ(requests[1].title + "|" + requests[1].path, "b.avi|/v/b.avi");
-    EXPECT_TRUE(requests[0].playNow && !requests[1].playNow);
 }
 
 } // namespace

@@ -16,14 +16,10 @@ TEST(OpenFilesTest, TheFilterOffersAllFormatsAndThenEachAlone)
     EXPECT_TRUE(filter.ends_with("|ASF|*.asf"));
 }
 
-TEST(OpenFilesTest, OnePathIsOnePairWithTheTextBehindTheFirstSeparatorAsKey)
+TEST(OpenFilesTest, AnAnswerIsOnePathOrAFolderFollowedByItsNames)
 {
     EXPECT_EQ(*ParseOpenFileResult("C:\\Video\\a.avi", '\\'), (Files{ { "Video\\a.avi", "C:\\Video\\a.avi" } }));
     EXPECT_EQ(*ParseOpenFileResult("a.avi", '/'), (Files{ { "a.avi", "a.avi" } }));
-}
-
-TEST(OpenFilesTest, AFolderIsFollowedByItsNames)
-{
     const Files expected{ { "b.avi", "/v/b.avi" }, { "a\\.avi", "/v/a\\.avi" } };
     EXPECT_EQ(*ParseOpenFileResult("/v\0b.avi\0a\\.avi"sv, '/'), expected);
     EXPECT_EQ(*ParseOpenFileResult("/v/\0b.avi\0a\\.avi"sv, '/'), expected);
@@ -35,15 +31,6 @@ TEST(OpenFilesTest, PathsOfADialogBecomeOneAnswerForEachFolder)
 {
     EXPECT_EQ(OpenFileResults({ "/v/a.avi", "/w/a.avi", "/v/b.avi", "/v/c.avi", "/d.avi" }, '/'),
         (std::vector{ std::string("/v/\0a.avi\0b.avi\0c.avi"sv), std::string("/w/a.avi"), std::string("/d.avi") }));
-}
-
-TEST(OpenFilesTest, TheTitleIsTheNameAndOnlyTheFirstOneCanPlay)
-{
-    const Files files{ { "Video\\a.avi", "C:\\Video\\a.avi" }, { "b.avi", "C:\\Video\\b.avi" } };
-    const auto requests = AddRequests(files, '\\', true);
-    EXPECT_EQ(requests[0].title + "|" + requests[1].path, "a.avi|C:\\Video\\b.avi");
-    EXPECT_TRUE(requests[0].playNow && !requests[1].playNow);
-    EXPECT_FALSE(AddRequests(files, '\\', false)[0].playNow);
 }
 
 } // namespace

@@ -156,11 +156,8 @@ TEST_F(PlaylistTest, AShuffleIsAPermutationAndDrawsItsEndSlotsHalfAsOften)
     EXPECT_EQ(Order(), (std::vector{ 0, 1, 2, 3, 4 })) << "in place of a shuffle that nobody had read yet";
     playlist.BuildShuffleOrder();
     RemoveAt(2);
-    auto order = Order();
-    std::sort(order.begin(), order.end());
-    EXPECT_EQ(std::adjacent_find(order.begin(), order.end()), order.end());
-    EXPECT_EQ(order.size(), 4U) << "one position of it is gone";
-    playlist.Order().BuildSequential(2, 0);
+    const auto order = Order();
+    EXPECT_EQ(std::set(order.begin(), order.end()).size(), 4U) << "one position of it is gone";
     playlist.Order().BuildSequential(1, 0);
     EXPECT_EQ(Order(), (std::vector{ 0 }));
 }

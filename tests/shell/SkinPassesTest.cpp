@@ -3,100 +3,64 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <set>
+#include <sstream>
 
 namespace zentaro {
-
-void PrintTo(const SkinDraw& draw, std::ostream* out)
-{
-    const auto& rect = draw.rect;
-    *out << static_cast<int>(draw.image) << " at " << rect.left << ',' << rect.top << ' ' << rect.width << 'x'
-         << rect.height;
-}
-
 namespace {
 
-TEST(SkinPasses, draw_every_image_in_its_place_and_order_at_every_size)
+/// The files of all images.
+std::map<SkinImage, std::string> Names()
 {
-    struct Size {
-        int w, h, play; // the play button's left is rounded: halves to the even neighbour
+    std::map<SkinImage, std::string> names;
+    for (const auto& file : SkinLoadOrder())
+        names[file.image] = file.name;
+    EXPECT_EQ(SkinLoadOrder().size(), kSkinImageCount);
+    EXPECT_EQ(names.size(), kSkinImageCount);
+    return names;
+}
+
+TEST(SkinPasses, draw_every_image_in_its_place_and_order)
+{
+    const auto drawn = [names = Names()](const std::vector<SkinDraw>& pass) {
+        std::ostringstream text;
+        for (const auto& [image, rect] : pass)
+            text << names.at(image) << ' ' << rect.left << ',' << rect.top << ' ' << rect.width << 'x' << rect.height
+                 << '\n';
+        return text.str();
     };
+    const std::string ground = "BGCC.jpg 15,56 358x312\nBGCL.jpg 0,31 15x349\nBGCR.jpg 372,31 16x349\n"
+                               "BGDC.jpg 58,368 278x147\nBGDL.jpg 0,368 58x147\nBGDR.jpg 330,368 58x147\n";
+    EXPECT_EQ(drawn(BackgroundPass(388, 515)),
+        "menu.jpg 15,31 373x19\nMenubar.png 15,50 373x6\nMenuButton.png 18,28 43x23\nMenuButton.png 62,28 43x23\n"
+        "MenuButton.png 106,28 43x23\nTitleBar.jpg 0,0 388x31\n"
+            + ground);
     SkinButtons buttons;
     for (std::size_t i = 0; i < kButtonCount; ++i)
         buttons.states[i] = static_cast<ButtonState>(i % kButtonStateCount);
-    for (const auto& [w, h, play] : { Size{ 388, 515, 160 }, Size{ 362, 320, 146 }, Size{ 20, 20, -24 } }) {
-        const int p = h - 147;
-        const std::vector<SkinDraw> ground{
-            { SkinImage::BGCC, { 15, 56, w - 30, h - 203 } },
-            { SkinImage::BGCL, { 0, 31, 15, h - 166 } },
-            { SkinImage::BGCR, { w - 16, 31, 16, h - 166 } },
-            { SkinImage::BGDC, { 58, p, w - 110, 147 } },
-            { SkinImage::BGDL, { 0, p, 58, 147 } },
-            { SkinImage::BGDR, { w - 58, p, 58, 147 } },
-        };
-        std::vector<SkinDraw> background{
-            { SkinImage::Menu, { 15, 31, w - 15, 19 } },
-            { SkinImage::MenuBar, { 15, 50, w - 15, 6 } },
-            { SkinImage::MenuButton, { 18, 28, 43, 23 } },
-            { SkinImage::MenuButton, { 62, 28, 43, 23 } },
-            { SkinImage::MenuButton, { 106, 28, 43, 23 } },
-            { SkinImage::TitleBar, { 0, 0, w, 31 } },
-        };
-        background.insert(background.end(), ground.begin(), ground.end());
-        EXPECT_EQ(BackgroundPass(w, h), background);
-
-        std::vector<SkinDraw> window{
-            { SkinImage::Menu, { 15, 31, w - 15, 26 } },
-            { SkinImage::TitleBar, { 0, 0, w, 31 } },
-            { SkinImage::About, { 3, 3, 24, 24 } },
-        };
-        window.insert(window.end(), ground.begin(), ground.end());
-        const std::pair<Button, Rect> places[] = {
-            { Button::Close, { w - 30, 1, 23, 24 } },
-            { Button::Maximize, { w - 53, 1, 23, 24 } },
-            { Button::Minimize, { w - 76, 1, 22, 24 } },
-            { Button::Play, { play, p + 60, 69, 83 } },
-            { Button::Pause, { play + 69, p + 90, 35, 44 } },
-            { Button::Stop, { play - 36, p + 90, 36, 47 } },
-            { Button::Previous, { 42, p + 63, 29, 37 } },
-            { Button::Rewind, { 71, p + 65, 30, 37 } },
-            { Button::Next, { w - 66, p + 63, 28, 34 } },
-            { Button::FastForward, { w - 95, p + 64, 29, 37 } },
-            { Button::Snapshot, { 6, p + 32, 29, 39 } },
-            { Button::FullScreen, { w - 38, p + 32, 30, 39 } },
-            { Button::PlayList, { 8, h - 33, 25, 31 } },
-            { Button::Dvd, { 45, h - 34, 25, 32 } },
-            { Button::Open, { 85, h - 33, 26, 30 } },
-            { Button::SoundOn, { w - 104, h - 32, 23, 31 } },
-        };
-        for (const auto& [button, rect] : places)
-            window.push_back({ ButtonImage(button, buttons.StateOf(button)), rect });
-        buttons.isMuted = false;
-        EXPECT_EQ(PaintPass(w, h, buttons), window);
-        buttons.isMuted = true;
-        window.back().image = ButtonImage(Button::SoundOff, buttons.StateOf(Button::SoundOff));
-        EXPECT_EQ(PaintPass(w, h, buttons), window);
-    }
+    const std::string window = "menu.jpg 15,31 373x26\nTitleBar.jpg 0,0 388x31\nAbout.png 3,3 24x24\n" + ground
+        + "Normal/Close.png 358,1 23x24\nDisabel/Maxmize.png 335,1 23x24\nPress/Minimize.png 312,1 22x24\n"
+          "Normal/Play.png 160,428 69x83\nOver/Pause.png 229,458 35x44\nPress/Stop.png 124,458 36x47\n"
+          "Press/Previous.png 42,431 29x37\nNormal/Rewind.png 71,433 30x37\nOver/Next.png 322,431 28x34\n"
+          "Disabel/ff.png 293,432 29x37\nNormal/SnapShoot.png 6,400 29x39\nDisabel/FullScreen.png 350,400 30x39\n"
+          "Over/PlayList.png 8,482 25x31\nPress/dvd.png 45,481 25x32\nDisabel/Open.png 85,482 26x30\n";
+    buttons.isMuted = false;
+    EXPECT_EQ(drawn(PaintPass(388, 515, buttons)), window + "Normal/SoundOn.png 284,483 23x31\n");
+    buttons.isMuted = true;
+    EXPECT_EQ(drawn(PaintPass(388, 515, buttons)), window + "Over/SoundOFF.png 284,483 23x31\n");
+    // Halves go to the even neighbour.
+    EXPECT_EQ(WindowLayout(20, 20).ButtonRect(Button::Play).left, -24);
+    EXPECT_EQ(WindowLayout(362, 320).ButtonRect(Button::Play).left, 146);
 }
 
-TEST(SkinLoadOrder, holds_every_image_once_in_the_right_order)
+TEST(SkinPasses, of_a_buttons_four_pictures_none_is_anothers)
 {
-    const auto files = SkinLoadOrder();
-    ASSERT_EQ(files.size(), kSkinImageCount);
-    std::set<SkinImage> images;
-    for (const auto& file : files)
-        images.insert(file.image);
-    EXPECT_EQ(images.size(), kSkinImageCount);
-
-    const std::map<std::size_t, const char*> places{ { 0, "TLCorner.png" }, { 3, "BRCorner.png" }, { 4, "HLine.png" },
-        { 7, "playlist.png" }, { 8, "BGDC.jpg" }, { 11, "BGBLCorner.jpg" }, { 13, "BGBCorner.jpg" }, { 14, "BGCL.jpg" },
-        { 17, "BGCd.jpg" }, { 18, "TitleBar.jpg" }, { 19, "Normal/Minimize.png" }, { 22, "Disabel/Minimize.png" },
-        { 24, "Over/Maxmize.png" }, { 30, "Disabel/Close.png" }, { 31, "About.png" }, { 34, "MenuButton.png" },
-        { 35, "Normal/Play.png" }, { 38, "Normal/ff.png" }, { 49, "Over/Play.png" }, { 90, "Disabel/SoundOFF.png" },
-        { 91, "Normal/Button.png" }, { 94, "Disabel/Button.png" }, { 95, "About.png" } };
-    for (const auto& [place, name] : places)
-        EXPECT_EQ(files[place].name, name);
-    EXPECT_EQ(files[38].image, ButtonImage(Button::FastForward, ButtonState::Normal));
+    auto names = Names();
+    for (std::size_t button = 0; button < kButtonCount; ++button) {
+        const auto nameIn = [&](ButtonState state) { return names[ButtonImage(static_cast<Button>(button), state)]; };
+        const auto name = nameIn(ButtonState::Normal).substr(7);
+        EXPECT_EQ(nameIn(ButtonState::Over) + nameIn(ButtonState::Press) + nameIn(ButtonState::Disabled),
+            "Over/" + name + "Press/" + name + "Disabel/" + name);
+    }
 }
 
 } // namespace

@@ -228,7 +228,6 @@ public:
     RandomSource random = [draws = std::mt19937(1)]() mutable { return std::uniform_real_distribution()(draws); };
     bool isSleepHeldOff = false;
     std::function<void()> askForDrives = [] {};
-    bool isToldOfDiscs = false;
     int driveQuestions = 0;
     bool ended = false;
     std::unique_ptr<Player> player;
@@ -259,7 +258,7 @@ private:
         };
         return { m_engines, inspections, store, store, power, HandOver(), [this] { return random(); },
             [](const std::string& path) { return path != "/clips/missing.avi"; }, [this] { ended = true; }, folder, '/',
-            { [this] { ++driveQuestions, askForDrives(); }, [] { return Picture(); }, isToldOfDiscs, after },
+            { [this] { ++driveQuestions, askForDrives(); }, [] { return Picture(); }, false, after },
             { &associations, "zentaro", "/program/", {} }, after,
             [this](auto work) { background.push_back(std::move(work)); }, [](auto work) { work()(); },
             [this](bool held) { isSleepHeldOff = held; } };
