@@ -174,6 +174,7 @@ public:
     Player& Make()
     {
         player.reset();
+        timers.clear();
         return *(player = std::make_unique<Player>(Needs()));
     }
     bool Load(const std::string& commandLine = {}) { return Make().Load(commandLine, { &window, &dialogs }); }
