@@ -270,7 +270,8 @@ public:
             return true;
         std::array<pollfd, 2> events{ { { m_endSignal.Number(), POLLIN, 0 }, { output, POLLIN, 0 } } };
         const bool blind = m_endSignal.Number() < 0; // an old kernel, or a sandbox
-        const auto slice = blind ? std::min(wait, milliseconds(5)) : wait;
+        // A time that has passed must not become the negative number for which poll() waits for ever.
+        const auto slice = std::max(blind ? std::min(wait, milliseconds(5)) : wait, milliseconds(0));
         ::poll(events.data(), events.size(), static_cast<int>(slice.count()));
         if (blind || events[0].revents != 0)
             m_ended = IsGone();
