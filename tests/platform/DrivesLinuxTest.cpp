@@ -43,7 +43,7 @@ protected:
     }
 
     WorkingFolder files;
-    DiskService service{ bus.Address() };
+    DiskService service{ bus };
     DiskServiceDrives drives{ bus.Address(), 10s };
 };
 
@@ -55,11 +55,11 @@ TEST_F(DrivesLinuxTest, OpticalDrivesComeAndGoWithTheirDiscs)
     service.AddDrive("/dev/sda", {});
     service.AddDrive("/dev/sdb", { "flash_sd" });
     EXPECT_THAT(Found(), ElementsAre("/dev/sr9=-", "/dev/sr10=-"));
-    service.InsertDisc("/dev/sr10", "A (B");
-    service.InsertDisc("/dev/sr9", "");
+    service.SetDisc("/dev/sr10", "A (B");
+    service.SetDisc("/dev/sr9", "");
     EXPECT_THAT(Found(), ElementsAre("/dev/sr9=", "/dev/sr10=A (B"));
     const std::string longest(255, 'x');
-    service.InsertDisc("/dev/sr10", longest);
+    service.SetDisc("/dev/sr10", longest);
     service.RemoveDrive("/dev/sr9");
     EXPECT_THAT(Found(), ElementsAre("/dev/sr10=" + longest));
     for (const auto& question : service.asked)
@@ -74,11 +74,11 @@ TEST_F(DrivesLinuxTest, TheVideoFolderIsFoundOnTheDeviceOrWhereItIsMounted)
     std::filesystem::create_directories(mounted + "/video_ts");
     for (const auto& device : { movie, data, files / "missing.iso" }) {
         service.AddDrive(device);
-        service.InsertDisc(device, "X");
+        service.SetDisc(device, "X");
     }
     EXPECT_THAT(Found(), ElementsAre(data + "=X", movie + "=X video", (files / "missing.iso") + "=X"));
-    service.InsertDisc(data, "X", { FileName(mounted) });
-    service.InsertDisc(movie, "X", { FileName(files / "gone") });
+    service.SetDisc(data, "X", { FileName(mounted) });
+    service.SetDisc(movie, "X", { FileName(files / "gone") });
     EXPECT_THAT(Found(), ElementsAre(data + "=X video", movie + "=X", (files / "missing.iso") + "=X"));
 }
 
@@ -86,14 +86,14 @@ TEST_F(DrivesLinuxTest, ADiscIsReadOnceAndTheNextOneIsAnother)
 {
     const auto movie = Image("movie", "VIDEO_TS");
     service.AddDrive(movie);
-    service.InsertDisc(movie, "X");
+    service.SetDisc(movie, "X");
     const auto first = Find();
     std::filesystem::remove(movie); // whoever reads it again finds nothing
     const auto again = Find();
     ASSERT_EQ(again.size(), 1U);
     EXPECT_TRUE(again[0].hasVideoFolder);
     EXPECT_EQ(again[0].disc, first[0].disc);
-    service.InsertDisc(movie, "X");
+    service.SetDisc(movie, "X");
     EXPECT_NE(Find()[0].disc, first[0].disc);
     EXPECT_FALSE(Find()[0].hasVideoFolder);
 }

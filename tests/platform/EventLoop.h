@@ -12,12 +12,9 @@ public:
     EventLoop();
     ~EventLoop();
 
-    /// Called every 10 ms by whichever loop handles this thread's events, also by one within the code under test.
-    std::function<void()> meanwhile;
-
 private:
-    struct Timer;
-    std::unique_ptr<Timer> m_timer;
+    struct Parts;
+    std::unique_ptr<Parts> m_parts;
 };
 
 /// Runs the loop until the condition holds; false when that takes too long.

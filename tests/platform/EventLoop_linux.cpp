@@ -1,7 +1,6 @@
 #include "tests/platform/EventLoop.h"
 
 #include <QCoreApplication>
-#include <QTimer>
 
 #include <chrono>
 #include <cstdlib>
@@ -10,20 +9,14 @@ namespace zentaro::platform {
 
 using namespace std::chrono_literals;
 
-struct EventLoop::Timer {
+struct EventLoop::Parts {
     int count = 0;
     QCoreApplication application{ count, nullptr };
-    QTimer timer;
 };
 
 EventLoop::EventLoop()
-    : m_timer(std::make_unique<Timer>())
+    : m_parts(std::make_unique<Parts>())
 {
-    QObject::connect(&m_timer->timer, &QTimer::timeout, [this] {
-        if (const auto call = meanwhile)
-            call();
-    });
-    m_timer->timer.start(10ms);
 }
 
 EventLoop::~EventLoop() = default;

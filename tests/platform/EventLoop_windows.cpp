@@ -4,32 +4,11 @@
 #include <windows.h>
 
 namespace zentaro::platform {
-namespace {
 
-EventLoop* g_loop = nullptr;
-
-void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD)
-{
-    if (const auto call = g_loop->meanwhile)
-        call();
-}
-
-} // namespace
-
-struct EventLoop::Timer {
-    UINT_PTR number = SetTimer(nullptr, 0, 10, &OnTimer);
-};
-
-EventLoop::EventLoop()
-    : m_timer(std::make_unique<Timer>())
-{
-    g_loop = this;
-}
-
-EventLoop::~EventLoop()
-{
-    KillTimer(nullptr, m_timer->number);
-}
+// A thread has its queue of messages from the first look into it.
+struct EventLoop::Parts { };
+EventLoop::EventLoop() = default;
+EventLoop::~EventLoop() = default;
 
 bool RunUntil(const std::function<bool()>& condition)
 {

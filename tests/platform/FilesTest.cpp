@@ -1,5 +1,6 @@
 #include "platform/Files.h"
-#include "tests/platform/WorkingFolder.h"
+#include "platform/Leftovers.h"
+#include "tests/platform/HandOverFixture.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
@@ -39,6 +40,24 @@ TEST(Files, what_cannot_be_read_or_replaced_is_told_from_what_is_missing_and_sta
     for (const auto& path : { folder / "Config.cfg", folder / "missing/Config.cfg", std::string(), withNul })
         EXPECT_FALSE(ReplaceTextFile(path, "text")) << path;
     EXPECT_EQ(CountOfFiles(folder), 1);
+}
+
+TEST(Files, what_killed_runs_left_is_removed_and_what_living_ones_have_stays)
+{
+    const EventLoop loop;
+    const WorkingFolder folder;
+    const auto run = StartPeer({ "folder", folder / "name" });
+    ASSERT_TRUE(RunUntil([&] { return PathExists(folder / "name"); }));
+    const auto left = ReadTextFile(folder / "name", 1000).value();
+    RemoveLeftovers(folder.Path());
+    EXPECT_TRUE(PathExists(left));
+    run->Terminate();
+    ASSERT_TRUE(run->HasEnded(std::chrono::seconds(10)));
+    ASSERT_TRUE(ReplaceTextFile(folder / ".zentaro-12", ""));
+    ASSERT_TRUE(ReplaceTextFile(folder / "zentaro-12.tmp", ""));
+    RemoveLeftovers(folder.Path());
+    EXPECT_FALSE(PathExists(left));
+    EXPECT_EQ(CountOfFiles(folder), 2); // the name, and the file that is none of ours on this system
 }
 
 } // namespace

@@ -27,7 +27,7 @@ class HandOverTest : public testing::Test {
 protected:
     HandOverTest() { UseAsRuntimeFolder(folder.Path()); }
 
-    /// Texts come to `received`, their tokens to `tokens`.
+    /// Texts come to `received`; they are opened at once, or their tokens come to `tokens`.
     void Listen(HandOverLimits limits = kNever)
     {
         ends = std::move(*HandOverEnds::ListenWithin(limits));
@@ -37,8 +37,15 @@ protected:
     {
         return [this](std::string text, HandOverDone done) {
             received.push_back(std::move(text));
-            tokens.push_back(std::move(done));
+            if (opensAtOnce)
+                done();
+            else
+                tokens.push_back(std::move(done));
         };
+    }
+    bool RunUntilReceived(std::size_t count)
+    {
+        return RunUntil([&] { return received.size() == count; });
     }
     static Sending Send(const std::string& handle, const std::string& text, HandOverLimits limits = kNever)
     {
@@ -65,6 +72,7 @@ protected:
     EventLoop loop;
     WorkingFolder folder;
     std::unique_ptr<HandOverEnds> ends;
+    bool opensAtOnce = false;
     std::vector<std::string> received;
     std::vector<HandOverDone> tokens;
 };

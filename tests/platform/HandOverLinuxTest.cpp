@@ -48,23 +48,21 @@ TEST_F(HandOverOnLinux, a_full_queue_is_given_up_too_and_what_a_killed_player_le
     } while (senders.back());
     EXPECT_EQ(Send(ends->CommandHandle(), "no-room.avi", { 200ms, 2min }).get(), Silent);
     EXPECT_TRUE(IsHandOverAlive(ends->CommandHandle()));
-    const auto own = AddressOf(ends->CommandHandle());
+    const std::string handles[] = { ends->CommandHandle(), ends->ProbeHandle(), ends->AddHandle() };
     ends.reset();
-    EXPECT_NE(stat(own.sun_path, &facts), 0);
+    for (const auto& handle : handles)
+        EXPECT_NE(stat(AddressOf(handle).sun_path, &facts), 0) << handle;
 }
 
 TEST_F(HandOverOnLinux, paths_to_be_added_have_an_end_of_their_own)
 {
     Listen();
-    std::vector<std::string> added;
-    ends->DeliverAdded([&](const std::string& path, const HandOverDone& done) {
-        added.push_back(path);
-        done();
-    });
+    opensAtOnce = true;
+    ends->Deliver([](const std::string&, const HandOverDone&) { ADD_FAILURE() << "the wrong end"; });
+    ends->DeliverAdded(Keep());
     auto sending = Send(ends->AddHandle(), "/a *Add.avi");
     EXPECT_EQ(OutcomeOf(sending), Opened);
-    EXPECT_EQ(added, std::vector<std::string>{ "/a *Add.avi" });
-    EXPECT_TRUE(received.empty());
+    EXPECT_EQ(received, std::vector<std::string>{ "/a *Add.avi" });
     const auto forStarts = HandOverLock::Take(0ms);
     const auto forAdding = HandOverLock::Take(0ms, "add");
     EXPECT_TRUE(forStarts && forAdding);
@@ -84,7 +82,7 @@ TEST_F(HandOverOnLinux, silent_senders_are_let_go_and_waiting_ones_make_room)
     std::vector<Sending> sendings;
     for (std::size_t i = 0; i < 3; ++i) {
         sendings.push_back(Send("77", std::to_string(i)));
-        ASSERT_TRUE(RunUntil([&] { return received.size() == i + 1; }));
+        ASSERT_TRUE(RunUntilReceived(i + 1));
     }
     char bytes[2];
     EXPECT_EQ(recv(silent.Number(), bytes, sizeof bytes, 0), 1);

@@ -14,12 +14,17 @@ std::string g_program;
 /// send HANDLE TEXT FILE: writes the outcome's number
 /// listen FILE:           writes both handles, then takes texts over and opens none
 /// lock FILE:             takes the lock, then as above
+/// folder FILE:           writes the name of its working folder, and goes on
 int Peer(const std::vector<std::string>& arguments)
 {
     const EventLoop loop;
     if (arguments[0] == "send") {
         const auto outcome = SendHandOverText(arguments[1], arguments[2]);
         return ReplaceTextFile(arguments[3], std::to_string(static_cast<int>(outcome))) ? 0 : 1;
+    }
+    if (arguments[0] == "folder") {
+        IgnoreFailure(ReplaceTextFile(arguments[1], MakeWorkingFolder()));
+        return RunUntil([] { return false; }) ? 0 : 1;
     }
     const auto lock = arguments[0] == "lock" ? HandOverLock::Take(5s) : nullptr;
     const auto ends = HandOverEnds::Listen();
@@ -47,13 +52,9 @@ TEST_F(HandOverTest, a_process_that_sends_ends_when_its_text_is_opened)
     const std::string text = "/My Clips/Ä 日本.avi *Add";
     for (std::size_t i = 0; i < 2; ++i) { // the same text twice is two texts
         const auto sender = StartPeer({ "send", ends->CommandHandle(), text, folder / "outcome" });
-        loop.meanwhile = [&] {
-            if (received.size() == i + 1) {
-                EXPECT_FALSE(PathExists(folder / "outcome") && i == 0);
-                tokens[i]();
-                loop.meanwhile = nullptr;
-            }
-        };
+        ASSERT_TRUE(RunUntilReceived(i + 1));
+        EXPECT_FALSE(PathExists(folder / "outcome") && i == 0);
+        tokens[i]();
         ASSERT_TRUE(RunUntil([&] { return sender->HasEnded(0ms); }));
         EXPECT_EQ(ReadTextFile(folder / "outcome", 10), "0");
     }
@@ -63,29 +64,18 @@ TEST_F(HandOverTest, a_process_that_sends_ends_when_its_text_is_opened)
 TEST_F(HandOverTest, a_later_text_is_opened_while_an_earlier_one_waits)
 {
     Listen();
-    Sending second;
     auto first = Send(ends->CommandHandle(), "1");
-    loop.meanwhile = [&] {
-        if (received.size() == 1 && !second.valid()) {
-            EXPECT_FALSE(IsDone(first));
-            second = Send(ends->CommandHandle(), "2");
-        }
-        if (received.size() == 2 && !IsDone(second)) {
-            tokens[1]();
-            tokens[1]();
-        } else if (received.size() == 2) {
-            EXPECT_FALSE(IsDone(first));
-            tokens[0]();
-            loop.meanwhile = nullptr;
-        }
-    };
+    ASSERT_TRUE(RunUntilReceived(1));
+    auto second = Send(ends->CommandHandle(), "2");
+    ASSERT_TRUE(RunUntilReceived(2));
+    tokens[1]();
+    tokens[1]();
+    EXPECT_EQ(OutcomeOf(second), Opened);
+    EXPECT_FALSE(IsDone(first));
+    tokens[0]();
     EXPECT_EQ(OutcomeOf(first), Opened);
-    EXPECT_EQ(second.get(), Opened);
+    opensAtOnce = true;
     auto third = Send(ends->CommandHandle(), "3");
-    loop.meanwhile = [&] {
-        if (tokens.size() == 3)
-            tokens[2]();
-    };
     EXPECT_EQ(OutcomeOf(third), Opened);
     EXPECT_EQ(received, (std::vector<std::string>{ "1", "2", "3" }));
 }
@@ -107,10 +97,7 @@ TEST_F(HandOverTest, a_text_that_is_not_opened_in_time_counts_as_taken_over)
 TEST_F(HandOverTest, long_texts_arrive_the_probe_has_no_handler_and_what_is_too_long_is_not_sent)
 {
     Listen();
-    loop.meanwhile = [this] {
-        for (const auto& token : tokens)
-            token();
-    };
+    opensAtOnce = true;
     const std::string text = "/\xFF\n\"" + std::string(1'000'000, 'x') + ".avi";
     auto probe = Send(ends->ProbeHandle(), "Hello");
     EXPECT_EQ(OutcomeOf(probe), Opened);
@@ -132,10 +119,7 @@ TEST_F(HandOverTest, a_player_that_does_not_run_is_given_up_and_opens_nothing_la
     EXPECT_LT(std::chrono::steady_clock::now() - start, 20s);
     EXPECT_TRUE(IsHandOverAlive(ends->CommandHandle()) && IsHandOverAlive(ends->ProbeHandle()));
     auto next = Send(ends->CommandHandle(), "next.avi");
-    loop.meanwhile = [this] {
-        if (!tokens.empty())
-            tokens.back()();
-    };
+    opensAtOnce = true;
     EXPECT_EQ(OutcomeOf(next), Opened);
     EXPECT_EQ(received, std::vector<std::string>{ "next.avi" });
 }
@@ -144,17 +128,15 @@ TEST_F(HandOverTest, the_handler_may_end_the_player_and_drops_all_who_wait)
 {
     Listen();
     const auto handle = ends->CommandHandle();
-    Sending last;
     ends->Deliver([&](const std::string& text, HandOverDone done) {
+        received.push_back(text);
         tokens.push_back(std::move(done));
         if (text == "last.avi")
             ends.reset();
     });
     auto waiting = Send(handle, "waiting.avi");
-    loop.meanwhile = [&] {
-        if (tokens.size() == 1 && !last.valid())
-            last = Send(handle, "last.avi");
-    };
+    ASSERT_TRUE(RunUntilReceived(1));
+    auto last = Send(handle, "last.avi");
     EXPECT_EQ(OutcomeOf(waiting), Silent);
     EXPECT_EQ(OutcomeOf(last), Silent);
     for (const auto& token : tokens)

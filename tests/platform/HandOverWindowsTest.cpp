@@ -35,14 +35,10 @@ TEST_F(HandOverTest, windows_of_others_are_no_players_and_keep_their_titles)
 TEST_F(HandOverTest, a_text_that_comes_before_there_is_a_handler_waits_for_it)
 {
     ends = std::move(*HandOverEnds::Listen());
+    opensAtOnce = true;
     auto sending = Send(ends->CommandHandle(), "early.avi");
-    loop.meanwhile = [this] {
-        ends->Deliver([this](std::string text, const HandOverDone& done) {
-            received.push_back(std::move(text));
-            done();
-        });
-        loop.meanwhile = nullptr;
-    };
+    RunUntil([start = std::chrono::steady_clock::now()] { return std::chrono::steady_clock::now() > start + 100ms; });
+    ends->Deliver(Keep());
     EXPECT_EQ(OutcomeOf(sending), Opened);
     EXPECT_EQ(received, std::vector<std::string>{ "early.avi" });
     EXPECT_EQ(SendHandOverText(ends->CommandHandle(), ""), Opened);

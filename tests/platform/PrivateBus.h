@@ -1,20 +1,27 @@
 #pragma once
 
-#include "tests/platform/WorkingFolder.h"
+#include "platform/ChildProcess.h"
+#include "tests/platform/PrivateUser.h"
 
-#include <array>
 #include <csignal>
-#include <cstdio>
-#include <fcntl.h>
-#include <fstream>
-#include <gtest/gtest.h>
-#include <sys/prctl.h>
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace zentaro::platform {
+
+/// What a program prints next, up to and with the text; less when that takes too long or the program ends.
+inline std::string PrintedUpTo(ChildProcess& program, const std::string& text)
+{
+    std::string printed;
+    char character = 0;
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+    for (std::optional<std::size_t> count = 0; count && !printed.ends_with(text);) {
+        if (std::chrono::steady_clock::now() > end)
+            break;
+        program.HasEnded(std::chrono::milliseconds(100));
+        count = program.Read({ &character, 1 });
+        printed.append(count.value_or(0), character);
+    }
+    return printed;
+}
 
 /// A message bus of one test: its own daemon, configuration and address, on which nothing is started by itself.
 class PrivateBus {
@@ -24,22 +31,21 @@ public:
         // Whoever asks for a bus without saying which, as libraries do, must find this one and start no other.
         setenv("DBUS_SESSION_BUS_ADDRESS", Address().c_str(), 1);
         setenv("DBUS_SYSTEM_BUS_ADDRESS", ("unix:path=" + Folder() + "/no-bus").c_str(), 1);
-        const auto configuration = m_folder / "bus.conf";
-        std::ofstream(configuration)
+        std::ofstream(m_folder / "bus.conf")
             << "<busconfig><listen>" << Address() << "</listen><auth>EXTERNAL</auth>"
             << "<policy context='default'><allow send_destination='*'/><allow receive_sender='*'/><allow own='*'/>"
             << "</policy></busconfig>";
         Start();
     }
-    PrivateBus(const PrivateBus&) = delete;
-    ~PrivateBus() { Stop(); }
 
     /// Ends the daemon and everybody's connection, and starts one at the same address.
     void Restart()
     {
-        Stop();
+        kill(m_id, SIGKILL);
         Start();
     }
+    /// From now on whoever connects never hears a word.
+    void FallSilent() const { kill(m_id, SIGSTOP); }
 
     const std::string& Folder() const { return m_folder.Path(); }
     std::string Address() const { return "unix:path=" + (m_folder / "bus"); }
@@ -47,66 +53,23 @@ public:
     /// What a program of this session prints, and "failed" when it fails.
     std::string OutputOf(const std::string& command) const
     {
-        const auto line = "DBUS_SESSION_BUS_ADDRESS='" + Address() + "' timeout 20 " + command + " 2>&1 || echo failed";
-        std::string text;
-        auto* const output = popen(line.c_str(), "re");
-        for (int character = std::fgetc(output); character != EOF; character = std::fgetc(output))
-            text += static_cast<char>(character);
-        pclose(output);
-        return text.substr(0, text.find_last_not_of('\n') + 1);
+        return OutputOfShell("DBUS_SESSION_BUS_ADDRESS='" + Address() + "' timeout 20 " + command + " || echo failed");
     }
 
 private:
     void Start()
     {
-        std::array<int, 2> ready{};
-        EXPECT_EQ(pipe2(ready.data(), O_CLOEXEC), 0);
-        const auto argument = "--config-file=" + (m_folder / "bus.conf");
-        m_daemon = fork();
-        if (m_daemon == 0) {
-            prctl(PR_SET_PDEATHSIG, SIGKILL);
-            dup2(ready[1], STDOUT_FILENO);
-            // It complains that an ordinary user cannot raise its limits.
-            dup2(open("/dev/null", O_WRONLY | O_CLOEXEC), STDERR_FILENO);
-            execlp("dbus-daemon", "dbus-daemon", argument.c_str(), "--nofork", "--print-address", nullptr);
-            _exit(127);
-        }
-        close(ready[1]);
-        char first = 0;
-        EXPECT_EQ(read(ready[0], &first, 1), 1) << "dbus-daemon did not start";
-        close(ready[0]);
-    }
-    void Stop()
-    {
-        kill(m_daemon, SIGKILL);
-        waitpid(m_daemon, nullptr, 0);
+        // It complains that an ordinary user cannot raise its limits.
+        const auto daemon = "exec dbus-daemon --nofork --print-pid --config-file=" + Folder() + "/bus.conf 2>/dev/null";
+        m_daemon = std::move(*ChildProcess::Start({ "/bin/sh", { "-c", daemon }, "" }));
+        const auto printed = PrintedUpTo(*m_daemon, "\n");
+        ASSERT_TRUE(printed.ends_with('\n')) << "dbus-daemon did not start";
+        m_id = std::stoi(printed);
     }
 
     WorkingFolder m_folder;
-    pid_t m_daemon = -1;
-};
-
-/// Where a bus should be, somebody listens who never says a word.
-class DeafBus {
-public:
-    /// `path`: a short one, of a file that is not there.
-    explicit DeafBus(std::string path)
-        : m_path(std::move(path))
-    {
-        sockaddr_un place{};
-        place.sun_family = AF_UNIX;
-        m_path.copy(place.sun_path, sizeof place.sun_path - 1);
-        EXPECT_EQ(bind(m_socket, reinterpret_cast<const sockaddr*>(&place), sizeof place), 0);
-        EXPECT_EQ(listen(m_socket, 1), 0);
-    }
-    DeafBus(const DeafBus&) = delete;
-    ~DeafBus() { close(m_socket); }
-
-    std::string Address() const { return "unix:path=" + m_path; }
-
-private:
-    std::string m_path;
-    int m_socket = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    std::unique_ptr<ChildProcess> m_daemon;
+    pid_t m_id = 0;
 };
 
 } // namespace zentaro::platform

@@ -2,8 +2,10 @@
 
 #include "tests/platform/WorkingFolder.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -30,6 +32,17 @@ protected:
 
     WorkingFolder folder;
 };
+
+/// What shell text prints on both streams, without the last line's end.
+inline std::string OutputOfShell(const std::string& text)
+{
+    std::string output;
+    auto* const pipe = popen(("{ " + text + "; } 2>&1").c_str(), "re");
+    for (int character = std::fgetc(pipe); character != EOF; character = std::fgetc(pipe))
+        output += static_cast<char>(character);
+    pclose(pipe);
+    return output.substr(0, output.find_last_not_of('\n') + 1);
+}
 
 /// Runs the function in a process of its own.
 template <class Function> pid_t StartProcess(Function function)

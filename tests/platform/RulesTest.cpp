@@ -1,6 +1,5 @@
 #include "desktop/CommandLine.h"
 #include "desktop/DesktopDefaults.h"
-#include "desktop/DesktopEntry.h"
 #include "desktop/HandOverRules.h"
 #include "desktop/MprisRules.h"
 #include "desktop/StoreNames.h"
@@ -72,14 +71,6 @@ TEST(StoreNames, are_readable_and_differ_for_different_values)
         EXPECT_TRUE(names.insert(StoreFileName(key, name)).second) << key << " | " << name;
 }
 
-MediaTracks Tracks(const std::vector<std::uint64_t>& ids)
-{
-    std::vector<MediaTrack> tracks;
-    for (const auto id : ids)
-        tracks.push_back({ id, {}, {} });
-    return std::make_shared<const std::vector<MediaTrack>>(std::move(tracks));
-}
-
 TEST(MprisRules, a_path_of_any_bytes_survives_its_uri)
 {
     const std::string path = "/a b/100%/#?\"\xFF\xC3\xA4.mp4";
@@ -93,45 +84,42 @@ TEST(MprisRules, a_path_of_any_bytes_survives_its_uri)
 
 TEST(MprisRules, the_position_runs_on_between_two_readings_and_a_jump_is_what_playing_cannot_explain)
 {
-    MediaStatus before;
-    before.playback = MediaPlayback::Playing;
-    before.track = { 7, "One", "/one.mp4" };
-    before.length = 60'000;
-    before.position = 10'000;
-    before.readAt = std::chrono::steady_clock::time_point(1h);
-    EXPECT_EQ(MprisPosition(before, before.readAt + 500ms), 10'500'000);
-    EXPECT_EQ(MprisPosition(before, before.readAt + 10min), 60'000'000);
-    auto now = before;
-    now.readAt += 500ms;
-    now.position = 10'300; // the engine's clock moves in steps
-    EXPECT_FALSE(HasJumped(before, now));
-    now.position = 30'000;
-    EXPECT_TRUE(HasJumped(before, now));
-    before.rate = now.rate = 8;
-    now.position = 12'000;
-    EXPECT_FALSE(HasJumped(before, now));
-    before.playback = now.playback = MediaPlayback::Paused;
-    EXPECT_EQ(MprisPosition(before, before.readAt + 500ms), 10'000'000);
-    now.track.id = 8;
-    now.position = 0;
-    EXPECT_FALSE(HasJumped(before, now));
+    using enum MediaPlayback;
+    const std::chrono::steady_clock::time_point start(1h);
+    const auto reading = [&](double position, MediaPlayback playback = Playing, double rate = 1, std::uint64_t id = 7) {
+        MediaStatus status;
+        status.playback = playback;
+        status.track.id = id;
+        status.length = 60'000;
+        status.position = position;
+        status.rate = rate;
+        status.readAt = start + (position == 10'000 ? 0ms : 500ms);
+        return status;
+    };
+    const auto before = reading(10'000);
+    EXPECT_EQ(MprisPosition(before, start + 500ms), 10'500'000);
+    EXPECT_EQ(MprisPosition(before, start + 10min), 60'000'000);
+    EXPECT_EQ(MprisPosition(reading(10'000, Paused), start + 500ms), 10'000'000);
+    EXPECT_FALSE(HasJumped(before, reading(10'300))); // the engine's clock moves in steps
+    EXPECT_TRUE(HasJumped(before, reading(30'000)));
+    EXPECT_FALSE(HasJumped(reading(10'000, Playing, 8), reading(12'000, Playing, 8)));
+    EXPECT_FALSE(HasJumped(before, reading(0, Paused, 1, 8)));
 }
 
 TEST(MprisRules, a_few_tracks_come_and_go_one_by_one_and_many_as_a_new_list)
 {
-    const auto change = ChangeOfTracks(Tracks({ 1, 2, 3 }), Tracks({ 1, 3, 4 }));
+    const auto tracks = [](const std::vector<std::uint64_t>& ids) {
+        auto all = std::make_shared<std::vector<MediaTrack>>();
+        for (const auto id : ids)
+            all->push_back({ id, {}, {} });
+        return all;
+    };
+    const auto change = ChangeOfTracks(tracks({ 1, 2, 3 }), tracks({ 1, 3, 4 }));
     EXPECT_FALSE(change.replaced);
     EXPECT_THAT(change.removed, ElementsAre(2));
     EXPECT_EQ(change.addedFrom, 2U);
-    EXPECT_TRUE(ChangeOfTracks(nullptr, Tracks({ 1, 2, 3, 4, 5, 6, 7, 8, 9 })).replaced);
-    EXPECT_THAT(ChangeOfTracks(Tracks({ 1 }), nullptr).removed, ElementsAre(1));
-}
-
-TEST(DesktopEntries, a_path_comes_out_of_its_quotes_as_it_went_in)
-{
-    for (const std::string path :
-        { "/usr/bin/zentaro", "/My $Player`s 100% \\ \"Folder\"/zentaro", "/%%", "/\xC3\xA4" })
-        EXPECT_EQ(PathInExec(ExecQuoted(path)), path);
+    EXPECT_TRUE(ChangeOfTracks(nullptr, tracks({ 1, 2, 3, 4, 5, 6, 7, 8, 9 })).replaced);
+    EXPECT_THAT(ChangeOfTracks(tracks({ 1 }), nullptr).removed, ElementsAre(1));
 }
 
 TEST(Defaults, a_program_opens_by_preference_then_by_what_it_is_made_for_unless_it_was_removed)
@@ -147,26 +135,6 @@ TEST(Defaults, a_program_opens_by_preference_then_by_what_it_is_made_for_unless_
     defaults.others.emplace_back("[Default Applications]\nx/a=zentaro.desktop;chosen.desktop\n");
     EXPECT_EQ(defaults.ProgramOf("x/a", true), "zentaro.desktop");
     EXPECT_EQ(defaults.ProgramOf("x/a", false), "chosen.desktop");
-}
-
-TEST(Defaults, of_a_type_that_is_named_twice_every_line_is_taken_and_given_back)
-{
-    for (const std::string text : { "[Default Applications]\nx/a=zentaro.desktop\nx/a=a.desktop;\n",
-             "[Default Applications]\nx/a=\nx/a=a.desktop;\n[Default Applications]\nx/a=b.desktop;" }) {
-        DesktopDefaults defaults;
-        defaults.isInstalled = [](const std::string&) { return true; };
-        defaults.own.emplace_back(text);
-        const auto before = defaults.ProgramOf("x/a", false);
-        EXPECT_EQ(before, "a.desktop");
-        defaults.Take("x/a");
-        // Whether the first line counts for a reader, or the last one.
-        const auto taken = defaults.own[0].Text();
-        EXPECT_EQ(taken.find("x/a=a"), std::string::npos) << taken;
-        EXPECT_EQ(taken.find("x/a=b"), std::string::npos) << taken;
-        defaults.Release("x/a");
-        EXPECT_EQ(defaults.ProgramOf("x/a", true), before);
-        EXPECT_EQ(defaults.own[0].Text().find("zentaro"), std::string::npos);
-    }
 }
 
 } // namespace
