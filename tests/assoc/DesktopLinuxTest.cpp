@@ -13,6 +13,7 @@ namespace zentaro {
 namespace {
 
 namespace fs = std::filesystem;
+using platform::OutputOfShell;
 using platform::ReadTextFile;
 
 /// A desktop of the test's own, with two other players, as the common tools see it.
@@ -20,20 +21,21 @@ class DesktopOfUser : public platform::PrivateUser {
 protected:
     DesktopOfUser()
     {
-        for (const auto& [name, value] :
-            std::map<std::string, std::string>{ { "XDG_CONFIG_HOME", config }, { "XDG_CONFIG_DIRS", folder / "etc" },
-                { "XDG_DATA_DIRS", folder / "system" }, { "XDG_CURRENT_DESKTOP", "X-Generic" } })
-            setenv(name.c_str(), value.c_str(), 1);
+        const std::pair<const char*, std::string> variables[] = { { "XDG_CONFIG_HOME", config },
+            { "XDG_CONFIG_DIRS", folder / "etc" }, { "XDG_DATA_DIRS", folder / "system" },
+            { "XDG_CURRENT_DESKTOP", "X-Generic" } };
+        for (const auto& [name, value] : variables)
+            setenv(name, value.c_str(), 1);
         fs::create_directories(folder / "system/applications");
         fs::create_directory(config);
         fs::create_symlink("/usr/share/mime", folder / "system/mime");
         // "other" opens everything by what it is made for, "second" only what it is told to.
         std::string all;
-        for (const auto& name : TypeNames())
-            all += name + ";";
+        for (const auto extension : kMediaExtensions)
+            all += TypeOf(extension) + ";";
         Save(folder / "system/applications/other.desktop", PlayerEntry("Other") + "MimeType=" + all + "\n");
         Save(folder / "system/applications/second.desktop", PlayerEntry("Second"));
-        Run("update-desktop-database " + folder / "system/applications");
+        OutputOfShell("update-desktop-database " + folder / "system/applications");
         // Its folder holds everything that a command line could stumble over.
         fs::create_directory(programFolder);
         for (const auto& path : { program, program + "-add" }) {
@@ -46,13 +48,6 @@ protected:
     {
         return "[Desktop Entry]\nType=Application\nName=" + name + "\nExec=true %f\nIcon=" + name + "\n";
     }
-    static std::set<std::string> TypeNames()
-    {
-        std::set<std::string> names;
-        for (const auto extension : kMediaExtensions)
-            names.insert(TypeOf(extension));
-        return names;
-    }
     static std::string TypeOf(std::string_view extension)
     {
         return desktop::MimeTypesOf("." + std::string(extension)).front();
@@ -60,24 +55,15 @@ protected:
     static void Save(const std::string& path, const std::string& text) { std::ofstream(path) << text; }
     static std::string Load(const std::string& path) { return ReadTextFile(path, 1'000'000).value_or("missing"); }
 
-    static std::string Run(const std::string& command)
-    {
-        std::string output;
-        auto* const pipe = popen((command + " 2>&1").c_str(), "r");
-        for (int c = 0; (c = fgetc(pipe)) != EOF;)
-            output += static_cast<char>(c);
-        pclose(pipe);
-        return output.substr(0, output.find_last_not_of('\n') + 1);
-    }
     static std::string Default(std::string_view extension)
     {
-        return Run("xdg-mime query default " + TypeOf(extension));
+        return OutputOfShell("xdg-mime query default " + TypeOf(extension));
     }
 
     /// As the common library sees it, which looks whether a program is there.
     static std::string DefaultByGio(std::string_view extension)
     {
-        const auto line = Run("gio mime " + TypeOf(extension) + " | head -n 1");
+        const auto line = OutputOfShell("gio mime " + TypeOf(extension) + " | head -n 1");
         return line.find(": ") == std::string::npos ? "" : line.substr(line.rfind(' ') + 1);
     }
 
@@ -135,18 +121,19 @@ TEST_F(DesktopOfUser, all_types_are_taken_kept_and_given_back)
     Start(All());
     for (const auto extension : kMediaExtensions)
         EXPECT_EQ(Default(extension), "zentaro.desktop") << extension;
-    EXPECT_NE(Run("gio mime video/mpeg").find("zentaro.desktop\n"), std::string::npos);
-    EXPECT_NE(Run("gio mime video/mpeg").find("zentaro-add.desktop"), std::string::npos);
-    EXPECT_EQ(
-        Run("desktop-file-validate " + applications + "zentaro.desktop " + applications + "zentaro-add.desktop"), "");
-    EXPECT_TRUE(Eventually([&] { return Run("xdg-mime query filetype " + folder / "x.hdmov") != ""; }));
+    EXPECT_NE(OutputOfShell("gio mime video/mpeg").find("zentaro.desktop\n"), std::string::npos);
+    EXPECT_NE(OutputOfShell("gio mime video/mpeg").find("zentaro-add.desktop"), std::string::npos);
+    EXPECT_EQ(OutputOfShell(
+                  "desktop-file-validate " + applications + "zentaro.desktop " + applications + "zentaro-add.desktop"),
+        "");
+    EXPECT_TRUE(Eventually([&] { return OutputOfShell("xdg-mime query filetype " + folder / "x.hdmov") != ""; }));
 
     const auto files = Files();
     Start(All());
     EXPECT_EQ(Files(), files);
 
     // Somebody else takes a type; the next start takes it again, and in the end that one has it.
-    Run("xdg-mime default second.desktop video/mp4");
+    OutputOfShell("xdg-mime default second.desktop video/mp4");
     Start(All());
     EXPECT_EQ(Default("mp4"), "zentaro.desktop");
     Start({});
@@ -172,8 +159,8 @@ TEST_F(DesktopOfUser, extensions_of_one_type_count_together)
     EXPECT_EQ(Default("mpg"), "zentaro.desktop");
     EXPECT_EQ(Default("mp4"), "other.desktop");
     // A choice made while it is released, or that was never ours to give back, stays.
-    Run("xdg-mime default second.desktop video/mpeg");
-    Run("xdg-mime default zentaro.desktop audio/mpeg");
+    OutputOfShell("xdg-mime default second.desktop video/mpeg");
+    OutputOfShell("xdg-mime default zentaro.desktop audio/mpeg");
     Start({});
     EXPECT_EQ(Default("mpg"), "second.desktop");
     EXPECT_NE(Load(defaults).find("audio/mpeg=zentaro.desktop"), std::string::npos);
@@ -183,12 +170,12 @@ TEST_F(DesktopOfUser, an_installed_package_keeps_its_entry_and_nothing_outlives_
 {
     const auto common = folder / "system/applications/zentaro.desktop";
     Save(common, PlayerEntry("Zentaro") + "MimeType=" + TypeOf("mp4") + ";" + TypeOf("mp3") + ";\n");
-    Run("update-desktop-database " + folder / "system/applications");
+    OutputOfShell("update-desktop-database " + folder / "system/applications");
     Start(Flags({ "mp4", "mkv" }));
     EXPECT_EQ(Default("mp4") + Default("mkv"), "zentaro.desktopzentaro.desktop");
     EXPECT_EQ(Default("mp3"), "other.desktop");
     EXPECT_FALSE(fs::exists(applications + "zentaro.desktop"));
-    EXPECT_NE(Run("gio mime audio/mpeg").find("zentaro.desktop"), std::string::npos);
+    EXPECT_NE(OutputOfShell("gio mime audio/mpeg").find("zentaro.desktop"), std::string::npos);
     // The package goes. Another copy makes an entry of its own, and goes in turn.
     fs::remove(common);
     fs::rename(program, program + "-away");
@@ -197,10 +184,10 @@ TEST_F(DesktopOfUser, an_installed_package_keeps_its_entry_and_nothing_outlives_
     Start(Flags({ "mkv" }));
     EXPECT_EQ(DefaultByGio("mkv"), "zentaro.desktop");
     EXPECT_EQ(Default("mp4"), "other.desktop");
-    EXPECT_NE(Run("gio mime video/x-matroska").find("zentaro-add.desktop"), std::string::npos);
+    EXPECT_NE(OutputOfShell("gio mime video/x-matroska").find("zentaro-add.desktop"), std::string::npos);
     fs::remove(program);
     EXPECT_EQ(DefaultByGio("mkv"), "other.desktop");
-    EXPECT_EQ(Run("gio mime video/x-matroska").find("\tzentaro"), std::string::npos);
+    EXPECT_EQ(OutputOfShell("gio mime video/x-matroska").find("\tzentaro"), std::string::npos);
 }
 
 TEST_F(DesktopOfUser, what_a_user_has_removed_is_no_owner)
@@ -230,7 +217,7 @@ TEST_F(DesktopOfUser, files_to_be_added_come_to_one_program_in_their_order)
         names += " '" + (folder / name) + "'";
         wanted += (folder / name) + "\n";
     }
-    Run("gio launch " + applications + "zentaro-add.desktop" + names);
+    OutputOfShell("gio launch " + applications + "zentaro-add.desktop" + names);
     EXPECT_TRUE(Eventually([&] { return Load(folder / "started").size() >= wanted.size(); }));
     EXPECT_EQ(Load(folder / "started"), wanted);
 }
@@ -328,14 +315,14 @@ TEST_F(DesktopOfUser, a_desktops_own_file_missing_tools_and_a_settings_page_are_
     Start(Flags({ "flv", "wmv" }));
     setenv("PATH", path.c_str(), 1);
     EXPECT_EQ(Default("flv"), "zentaro.desktop");
-    EXPECT_NE(Run("gio mime video/x-flv").find("zentaro-add.desktop"), std::string::npos);
+    EXPECT_NE(OutputOfShell("gio mime video/x-flv").find("zentaro-add.desktop"), std::string::npos);
     Start({});
     EXPECT_EQ(Default("flv"), "second.desktop");
     EXPECT_EQ(Load(config + "/gnome-mimeapps.list"), "[Default Applications]\nvideo/x-flv=second.desktop;\n");
     // A page that knows only one program per type writes over the owner that is to come back.
     Start(Flags({ "flv" }));
     Save(config + "/gnome-mimeapps.list", "");
-    Run("xdg-mime default zentaro.desktop video/x-flv");
+    OutputOfShell("xdg-mime default zentaro.desktop video/x-flv");
     Start({});
     EXPECT_EQ(Default("flv"), "second.desktop");
 }

@@ -72,7 +72,7 @@ protected:
     }
     std::string WriteScript(const std::string& name, const std::string& text, bool executable = true) const
     {
-        std::ofstream(Path(name)) << text;
+        IgnoreFailure(platform::ReplaceTextFile(Path(name), text));
         fs::permissions(Path(name), executable ? fs::perms::owner_all : fs::perms::owner_read);
         return Path(name);
     }

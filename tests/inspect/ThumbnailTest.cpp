@@ -19,18 +19,17 @@ TEST(Thumbnail, a_picture_is_fitted_into_the_box_with_even_sides_a_tenth_into_th
 
 TEST(Thumbnail, each_tool_gets_its_own_order_of_arguments)
 {
-    const auto classic = ThumbnailCommand("/p/ffmpeg", true, { "/a b.avi", { 90, 72 }, 0.2F, {} }, "/t/img.jpg");
-    EXPECT_EQ(classic.text,
+    const auto text = [](bool isClassic, const ThumbnailRequest& request) {
+        return ThumbnailCommand("p", isClassic, request, "/t/100%d.jpg").text;
+    };
+    EXPECT_EQ(text(true, { "/a b.avi", { 90, 72 }, 0.2F, {} }),
         "-vframes 1 -ss 0.2 -i \"/a b.avi\" -sws_flags fast_bilinear -an -analyzeduration 5M -s 90x72 -f image2 "
-        "\"/t/img.jpg\"");
-    EXPECT_EQ(classic.arguments[5], "/a b.avi");
-    EXPECT_EQ(ThumbnailCommand("p", true, { "/a.avi", { 90, 72 }, {}, {} }, "/o").text,
-        "-y -i \"/a.avi\" -an -vframes 1 -s 90x72 -f image2 \"/o\"");
-    const auto current = ThumbnailCommand("p", false, { "/c:d\".mkv", { 90, 52 }, 12.5F, 3 }, "/t/100%d.jpg");
-    EXPECT_EQ(current.text,
+        "\"/t/100%d.jpg\"");
+    EXPECT_EQ(text(true, { "/a.avi", { 90, 72 }, {}, {} }),
+        "-y -i \"/a.avi\" -an -vframes 1 -s 90x72 -f image2 \"/t/100%d.jpg\"");
+    EXPECT_EQ(text(false, { "/c:d\".mkv", { 90, 52 }, 12.5F, 3 }),
         "-y -nostdin -skip_frame noref -skip_loop_filter all -ss 12.5 -i \"file:/c:d\".mkv\" -map 0:3 -an -sn -dn "
         "-frames:v 1 -s 90x52 -f image2 -update 1 \"/t/100%d.jpg\"");
-    EXPECT_EQ(current.arguments[9], "file:/c:d\".mkv");
-    EXPECT_EQ(ThumbnailCommand("p", false, { "/a", { 2, 2 }, {}, {} }, "/o").text,
-        "-y -nostdin -i \"file:/a\" -an -sn -dn -frames:v 1 -s 2x2 -f image2 -update 1 \"/o\"");
+    EXPECT_EQ(text(false, { "/a", { 2, 2 }, {}, {} }),
+        "-y -nostdin -i \"file:/a\" -an -sn -dn -frames:v 1 -s 2x2 -f image2 -update 1 \"/t/100%d.jpg\"");
 }

@@ -2,13 +2,12 @@
 #include "inspect/ReportParser.h"
 #include "inspect/TextValues.h"
 #include "inspect/ToolDialect.h"
+#include "platform/Files.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <sstream>
 
@@ -23,10 +22,9 @@ using Row = std::map<std::string, std::string>;
 // Beside the test program, wherever that is run from.
 std::filesystem::path g_logs;
 
-std::string ReadWhole(const std::filesystem::path& path)
+std::string ReadWhole(const std::string& name)
 {
-    std::ifstream file(path, std::ios::binary);
-    return { std::istreambuf_iterator<char>(file), {} };
+    return platform::ReadTextFile((g_logs / name).string(), 10'000'000).value_or("");
 }
 
 std::vector<std::string> SplitAtTabs(const std::string& line)
@@ -40,7 +38,7 @@ std::vector<std::string> SplitAtTabs(const std::string& line)
 
 std::vector<Row> ReadTable(const std::string& name)
 {
-    std::ifstream file(g_logs / name);
+    std::istringstream file(ReadWhole(name));
     std::string line;
     std::getline(file, line);
     const auto header = SplitAtTabs(line);
@@ -94,7 +92,7 @@ void CompareStream(Comparison& comparison, const StreamInfo& info, const StreamH
 std::string Differences(const std::string& log, const std::vector<Row>& rows)
 {
     const CodecNames plain;
-    const auto classic = ToClassicReport(ReadWhole(g_logs / log), "", "");
+    const auto classic = ToClassicReport(ReadWhole(log), "", "");
     auto report = ParseReport(classic.text, "file", plain, plain);
     Comparison comparison;
     std::vector<Row> kept;
@@ -126,8 +124,7 @@ float ShapeOf(const std::string& size)
 std::string MpegDifferences(const std::string& log, Row row)
 {
     const bool film = row["fps"] != "-";
-    const auto facts =
-        ParseMpegReport(ToClassicMpegReport(ReadWhole(g_logs / log), "", "/media/clips/" + row["media"]));
+    const auto facts = ParseMpegReport(ToClassicMpegReport(ReadWhole(log), "", "/media/clips/" + row["media"]));
     Comparison comparison;
     comparison.Number("rate", static_cast<double>(facts.frameRate), row["fps"], 0.0051);
     if (row["kbps"] != "vbr")

@@ -24,7 +24,7 @@ protected:
     {
         m_rate = rate;
         m_rated = 0;
-        watch.played.clear();
+        played.clear();
         player.Sequence().CMDPlayClick();
     }
     bool RunUntilIdle()
@@ -34,10 +34,10 @@ protected:
     /// Nothing more is played and no after-play action is run.
     void ExpectIdleStays()
     {
-        const auto played = watch.played.size();
+        const auto before = played.size();
         const int restarts = world.power.restarts;
         RunFor(1100ms);
-        EXPECT_EQ(watch.played.size(), played);
+        EXPECT_EQ(played.size(), before);
         EXPECT_EQ(world.power.restarts, restarts);
         EXPECT_FALSE(player.State().mediaControlsEnabled);
     }
@@ -47,8 +47,8 @@ private:
     {
         return RunUntil(
             [&] {
-                if (watch.played.size() != m_rated && !done()) {
-                    m_rated = watch.played.size();
+                if (played.size() != m_rated && !done()) {
+                    m_rated = played.size();
                     while (player.State().chosenRate < m_rate)
                         player.Transporting().IncreaseRate();
                 }
@@ -84,7 +84,7 @@ TEST_F(Ends, ClipsOfAllLengthsEndOnceEachAtEveryRate)
         PlayAt(rate);
         EXPECT_TRUE(RunUntilIdle());
         ExpectIdleStays();
-        EXPECT_EQ(watch.played, clips);
+        EXPECT_EQ(played, clips);
         EXPECT_EQ(world.power.restarts, ++ends);
     }
 }
@@ -104,7 +104,7 @@ TEST_F(Ends, EveryKindOfFileEndsOnceAndIsFollowedByTheNext)
         PlayAt(rate);
         EXPECT_TRUE(RunUntilIdle());
         ExpectIdleStays();
-        EXPECT_EQ(watch.played, clips);
+        EXPECT_EQ(played, clips);
     }
     EXPECT_TRUE(world.window.notes.empty());
 }

@@ -5,7 +5,6 @@
 #include <QApplication>
 
 #include <cstdlib>
-#include <filesystem>
 
 namespace zentaro::live {
 
@@ -13,62 +12,6 @@ namespace {
 
 constexpr auto kTick = 500ms;
 constexpr auto kStep = 10ms;
-
-class WatchedEngine : public Engine {
-public:
-    WatchedEngine(std::unique_ptr<Engine> engine, Watch& watch)
-        : m_engine(std::move(engine))
-        , m_watch(watch)
-    {
-        m_watch.rate = 1;
-        m_watch.mostAlive = std::max(m_watch.mostAlive, ++m_watch.alive);
-    }
-    ~WatchedEngine() override { --m_watch.alive; }
-
-    void SetVolume(int percent) override { m_engine->SetVolume(m_watch.volume = percent); }
-    void SetMute(bool muted) override { m_engine->SetMute(m_watch.muted = muted); }
-    double Length() override { return m_watch.length = m_engine->Length(); }
-    double Time() override { return m_watch.time = m_engine->Time(); }
-    double Position() override { return m_watch.position = m_engine->Position(); }
-    void SetPosition(double position) override { m_engine->SetPosition(position); }
-    int State() override { return m_watch.state = m_engine->State(); }
-    double Rate() override { return m_engine->Rate(); }
-    void SetRate(double rate) override { m_engine->SetRate(m_watch.rate = rate); }
-    bool HasVideoOutput() override { return m_engine->HasVideoOutput(); }
-    void Navigate(DiscKey key) override { m_engine->Navigate(key); }
-    std::vector<DiscPart> Titles() override { return m_engine->Titles(); }
-    int Title() override { return m_engine->Title(); }
-    void SetTitle(int index) override { m_engine->SetTitle(index); }
-    std::vector<DiscPart> Chapters() override { return m_engine->Chapters(); }
-    int Chapter() override { return m_engine->Chapter(); }
-    void SetChapter(int index) override { m_engine->SetChapter(index); }
-    bool TakeSnapshot(const std::string& file) override { return m_engine->TakeSnapshot(file); }
-    std::vector<EngineTrack> AudioTracks() override { return m_engine->AudioTracks(); }
-    int AudioTrack() override { return m_engine->AudioTrack(); }
-    void SetAudioTrack(int id) override { m_engine->SetAudioTrack(id); }
-    std::vector<EngineTrack> SubtitleTracks() override { return m_engine->SubtitleTracks(); }
-    int SubtitleTrack() override { return m_engine->SubtitleTrack(); }
-    void SetSubtitleTrack(int id) override { m_engine->SetSubtitleTrack(id); }
-    bool AddSubtitleFile(const std::string& path) override { return m_engine->AddSubtitleFile(path); }
-    std::string AspectRatio() override { return m_engine->AspectRatio(); }
-    void SetAspectRatio(const std::string& ratio) override { m_engine->SetAspectRatio(ratio); }
-    std::string Deinterlacing() override { return m_engine->Deinterlacing(); }
-    void SetDeinterlacing(const std::string& filter) override { m_engine->SetDeinterlacing(filter); }
-    void Add(const MediaLocation& location, const EngineOptions& options) override
-    {
-        m_watch.played.push_back(location.text);
-        m_engine->Add(location, options);
-    }
-    void Play() override { m_engine->Play(); }
-    void TogglePause() override { m_engine->TogglePause(); }
-    void SetPause(bool paused) override { m_engine->SetPause(paused); }
-    void Stop() override { m_engine->Stop(); }
-    int ItemCount() override { return m_engine->ItemCount(); }
-
-private:
-    std::unique_ptr<Engine> m_engine;
-    Watch& m_watch;
-};
 
 /// Before anything of Qt or the engine is made.
 void EnterSilentDesktop()
@@ -91,38 +34,26 @@ void EnterSilentDesktop()
     static_cast<void>(entered);
 }
 
-std::string MakeFolder()
-{
-    EnterSilentDesktop();
-    auto path = (std::filesystem::temp_directory_path() / "zentaro-live-XXXXXX").string();
-    return std::string(mkdtemp(path.data())) + "/";
-}
-
 } // namespace
 
-std::unique_ptr<Engine> WatchedEngines::Create()
-{
-    auto engine = m_engines.Create();
-    return engine ? std::make_unique<WatchedEngine>(std::move(engine), watch) : nullptr;
-}
-
 LivePlayer::LivePlayer()
-    : folder(MakeFolder())
-    , frame("", nullptr)
-    , engines(frame)
-    , world(folder, &engines)
-    , player(world.Make())
-    , watch(engines.watch)
+    : frame((EnterSilentDesktop(), ""), nullptr)
 {
     frame.resize(320, 240);
     frame.show();
     player.Load("", { &world.window, &world.dialogs });
 }
 
-LivePlayer::~LivePlayer()
+int LivePlayer::EngineState()
 {
-    player.Unload();
-    std::filesystem::remove_all(folder);
+    auto* const engine = player.Transporting().LoadedEngine();
+    return engine != nullptr ? engine->State() : 0;
+}
+
+double LivePlayer::Time()
+{
+    auto* const engine = player.Transporting().LoadedEngine();
+    return engine != nullptr ? engine->Time() : 0;
 }
 
 void LivePlayer::Pump(std::chrono::milliseconds time)
@@ -139,6 +70,9 @@ bool LivePlayer::RunUntil(const std::function<bool()>& done, std::chrono::millis
     const auto end = std::chrono::steady_clock::now() + limit;
     auto tick = std::chrono::steady_clock::now() + kTick;
     while (!done()) {
+        if (std::exchange(m_generation, player.Transporting().Generation()) != player.Transporting().Generation()
+            && player.State().mediaControlsEnabled)
+            played.push_back(player.Transporting().Item().path);
         if (std::chrono::steady_clock::now() >= end)
             return false;
         Pump(kStep);

@@ -3,6 +3,7 @@
 #include "playback/VideoFrame.h"
 #include "playback/VlcEngine.h"
 #include "tests/desktop/Wait.h"
+#include "tests/platform/WorkingFolder.h"
 #include "tests/world/World.h"
 
 #include <gtest/gtest.h>
@@ -11,41 +12,12 @@ namespace zentaro::live {
 
 using namespace std::chrono_literals;
 
-/// What went to the engines, and what they answered last.
-struct Watch {
-    std::vector<std::string> played; ///< paths, in order
-    int alive = 0;
-    int mostAlive = 0;
-    int volume = -1; ///< of the present engine, as below
-    bool muted = false;
-    double rate = 1;
-    int state = 0;
-    double position = 0;
-    double time = 0;
-    double length = 0;
-};
-
-/// The real engine, looked over the shoulder.
-class WatchedEngines : public EngineFactory {
-public:
-    explicit WatchedEngines(VideoFrame& frame)
-        : m_engines(frame, "")
-    {
-    }
-    std::unique_ptr<Engine> Create() override;
-
-    Watch watch;
-
-private:
-    VlcEngines m_engines;
-};
-
 /// A player with the real engine on a virtual display without a sound device. The test drives its operations and lets
 /// time pass.
 class LivePlayer : public testing::Test {
 protected:
     LivePlayer();
-    ~LivePlayer() override;
+    ~LivePlayer() override { player.Unload(); }
 
     /// A tick every 500 ms, and the world goes on every 10 ms, until `done`; false when it never came true.
     bool RunUntil(const std::function<bool()>& done, std::chrono::milliseconds limit = trial::kPatience);
@@ -57,12 +29,20 @@ protected:
     static void Pump(std::chrono::milliseconds time);
     void AddEntries(const std::vector<std::string>& paths);
 
-    std::string folder;
+    /// Of the item that is loaded; 0 while there is none.
+    int EngineState();
+    double Time();
+
+    const platform::WorkingFolder files;
+    const std::string folder = files / "";
     VideoFrame frame;
-    WatchedEngines engines;
-    World world;
-    Player& player;
-    Watch& watch;
+    VlcEngines engines{ frame, "" };
+    World world{ folder, &engines };
+    Player& player = world.Make();
+    std::vector<std::string> played; ///< paths, in order
+
+private:
+    std::uint64_t m_generation = 0;
 };
 
 } // namespace zentaro::live

@@ -30,7 +30,7 @@ protected:
     }
     bool RunUntilVideo()
     {
-        return RunUntil([&] { return ReadVideoChoices(player).hasVideo && watch.time > 0; });
+        return RunUntil([&] { return ReadVideoChoices(player).hasVideo && Time() > 0; });
     }
     bool BecomesPresent(std::vector<VideoChoice> VideoChoices::*choices, int index)
     {

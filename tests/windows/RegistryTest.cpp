@@ -12,16 +12,19 @@ using Root = StringStore::Root;
 
 class Registry : public testing::Test {
 protected:
-    ~Registry() override { RegDeleteTreeA(HKEY_CURRENT_USER, top.c_str()); }
+    ~Registry() override
+    {
+        RegDeleteTreeA(HKEY_CURRENT_USER, top.c_str());
+        RegDeleteTreeA(HKEY_CLASSES_ROOT, ".zentarotest");
+    }
 
     /// What another program would find.
-    std::string Raw(const char* name, DWORD wantedType = REG_SZ) const
+    static std::string Raw(HKEY root, const std::string& key, const char* name)
     {
         char text[100] = {};
         DWORD size = sizeof text;
-        DWORD type = 0;
-        const auto status = RegGetValueA(HKEY_CURRENT_USER, key.c_str(), name, RRF_RT_ANY, &type, text, &size);
-        return status == ERROR_SUCCESS && type == wantedType ? std::string(text, size) : "missing";
+        const auto status = RegGetValueA(root, key.c_str(), name, RRF_RT_REG_SZ, nullptr, text, &size);
+        return status == ERROR_SUCCESS ? std::string(text, size) : "missing";
     }
 
     std::string title = "Zentaro Test " + std::to_string(GetCurrentProcessId());
@@ -35,8 +38,10 @@ TEST_F(Registry, texts_of_any_language_and_length_lie_under_their_names_as_plain
     ASSERT_TRUE(store->Write(Root::CurrentUser, key, "txtHwnd", "65566"));
     ASSERT_TRUE(store->Write(Root::CurrentUser, key, "", "own value"));
     EXPECT_EQ(key, "Software\\" + title + "\\Setting");
-    EXPECT_EQ(Raw("txtHwnd"), std::string("65566\0", 6));
-    EXPECT_EQ(Raw(nullptr), std::string("own value\0", 10));
+    ASSERT_TRUE(store->Write(Root::ClassesRoot, ".zentarotest", "OldAss", "Other.x"));
+    EXPECT_EQ(Raw(HKEY_CURRENT_USER, key, "txtHwnd"), std::string("65566\0", 6));
+    EXPECT_EQ(Raw(HKEY_CURRENT_USER, key, nullptr), std::string("own value\0", 10));
+    EXPECT_EQ(Raw(HKEY_CLASSES_ROOT, ".zentarotest", "OldAss"), std::string("Other.x\0", 8));
     for (const auto& text : { std::string(), std::string("C:\\Clips\\Ä 日本 😀.avi"), std::string(255, 'x'),
              std::string(256, 'y'), std::string(20'000, 'z') }) {
         ASSERT_TRUE(store->Write(Root::CurrentUser, key, "Ä", text));

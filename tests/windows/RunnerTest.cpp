@@ -1,5 +1,6 @@
 #include "inspect/ModPipes.h"
 #include "platform/System_windows.h"
+#include "tests/platform/WorkingFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +9,6 @@
 #include <fcntl.h>
 #include <fstream>
 #include <io.h>
-#include <iterator>
 #include <thread>
 
 using namespace zentaro;
@@ -19,7 +19,7 @@ namespace {
 std::string g_self; // this program, which is its own tool
 
 /// What this program does as a tool.
-int Child(const std::string& role, const std::vector<std::string>& arguments)
+int Act(const std::string& role, const std::vector<std::string>& arguments)
 {
     ::_setmode(::_fileno(stdout), _O_BINARY);
     if (role == "print") {
@@ -58,37 +58,32 @@ BOOL WINAPI Accept(HANDLE, LPDWORD, LPDWORD, LPDWORD)
 
 class WindowsRunner : public testing::Test {
 protected:
-    WindowsRunner()
-    {
-        fs::create_directories(m_folder);
-        platform::SetPipeState = &Refuse;
-    }
-    ~WindowsRunner() override { fs::remove_all(m_folder); }
+    WindowsRunner() { platform::SetPipeState = &Refuse; }
 
-    Result<void> Run(
-        const std::vector<std::string>& arguments, std::int32_t priority = 2, const std::string& workDir = "")
+    Result<void> Run(const ToolCommand& command, std::int32_t priority = 2, const std::string& workDir = "")
     {
-        ToolCommand command{ g_self, { "--child" }, "text" };
-        command.arguments.insert(command.arguments.end(), arguments.begin(), arguments.end());
-        return ExecuteAndCapture(command, Log(), 0, false, priority, workDir, context);
+        return ExecuteAndCapture(command, folder / "log", 0, false, priority, workDir, context);
     }
-    std::string Printed(
-        const std::vector<std::string>& arguments, std::int32_t priority = 2, const std::string& workDir = "")
+    static ToolCommand Child(std::vector<std::string> words)
     {
-        const auto result = Run(arguments, priority, workDir);
+        words.insert(words.begin(), "--child");
+        return { g_self, std::move(words), "text" };
+    }
+    /// Behind the first line.
+    std::string Printed(const std::vector<std::string>& words, const std::string& workDir = "")
+    {
+        const auto result = Run(Child(words), 2, workDir);
         EXPECT_TRUE(result) << result.error().text;
         const auto log = Content("log");
         EXPECT_EQ(log.substr(0, 6), "text\r\n");
         return log.substr(std::min<std::size_t>(6, log.size()));
     }
-    std::string Log() const { return (m_folder / "log").string(); }
     std::string Content(const std::string& name) const
     {
-        std::ifstream file(m_folder / name, std::ios::binary);
-        return { std::istreambuf_iterator<char>(file), {} };
+        return platform::ReadTextFile(folder / name, 100'000).value_or("missing");
     }
 
-    fs::path m_folder = fs::temp_directory_path() / ("zentaro runner " + std::to_string(::GetCurrentProcessId()));
+    const platform::WorkingFolder folder;
     ToolContext context;
 };
 
@@ -97,13 +92,13 @@ protected:
 TEST_F(WindowsRunner, a_step_that_fails_has_its_number_and_leaves_no_log)
 {
     platform::SetPipeState = &Accept;
-    EXPECT_EQ(Run({ "print" }).error(), (Error{ 2002, "Could not set pipe state LastError 7" }));
+    EXPECT_EQ(Run(Child({ "print" })).error(), (Error{ 2002, "Could not set pipe state LastError 7" }));
     platform::SetPipeState = &Refuse;
-    const auto result = ExecuteAndCapture({ "C:\\no\\such.exe", {}, "t" }, Log(), 0, false, 2, "", context);
+    const auto result = Run({ "C:\\no\\such.exe", {}, "t" });
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().number, 2003);
     EXPECT_TRUE(result.error().text.starts_with("Could not create piped process. LastError ")) << result.error().text;
-    EXPECT_FALSE(fs::exists(Log()));
+    EXPECT_EQ(Content("log"), "missing");
 }
 
 TEST_F(WindowsRunner, arguments_arrive_unchanged_and_both_streams_are_captured)
@@ -122,7 +117,7 @@ TEST_F(WindowsRunner, arguments_arrive_unchanged_and_both_streams_are_captured)
 
 TEST_F(WindowsRunner, a_running_tool_works_in_its_folder_takes_another_priority_and_can_be_cancelled)
 {
-    EXPECT_EQ(Printed({ "folder" }, 2, m_folder.string()), m_folder.string());
+    EXPECT_EQ(Printed({ "folder" }, folder.Path()), folder.Path());
     EXPECT_EQ(Printed({ "folder" }), fs::current_path().string());
     EXPECT_EQ(Printed({ "priority", "0" }), std::to_string(NORMAL_PRIORITY_CLASS));
     context.pumpMessages = [&] { context.PendingPriorityClass = platform::kBelowNormalPriority; };
@@ -135,7 +130,7 @@ TEST_F(WindowsRunner, a_running_tool_works_in_its_folder_takes_another_priority_
 TEST_F(WindowsRunner, a_shell_run_completes_a_bare_name_waits_and_can_be_cancelled)
 {
     context.programFolder = fs::path(g_self).parent_path().string();
-    const auto seen = (m_folder / "seen").string();
+    const auto seen = folder / "seen";
     ToolCommand command{ fs::path(g_self).filename().string(), { "--child", "write", seen, "a \"b\"\\" }, "" };
     EXPECT_TRUE(ShellExecuteAndWait(command, 0, true, true, context));
     EXPECT_EQ(fs::path(command.program), fs::path(g_self));
@@ -143,7 +138,7 @@ TEST_F(WindowsRunner, a_shell_run_completes_a_bare_name_waits_and_can_be_cancell
 
     int pumps = 0;
     context.pumpMessages = [&] { context.CancelShellWait = ++pumps == 5; };
-    ToolCommand forever{ g_self, { "--child", "forever" }, "" };
+    auto forever = Child({ "forever" });
     EXPECT_TRUE(ShellExecuteAndWait(forever, 0, true, true, context));
     EXPECT_EQ(pumps, 5);
 
@@ -157,16 +152,16 @@ TEST_F(WindowsRunner, a_shell_run_completes_a_bare_name_waits_and_can_be_cancell
     EXPECT_FALSE(ShellExecuteAndWait(missing, 0, true, true, context));
     EXPECT_EQ(missing.program, context.programFolder + "\\zentaro-no-such-tool");
 
-    EXPECT_TRUE(fs::path(FindTool("cmd", m_folder.string())).is_absolute());
-    std::ofstream(m_folder / "cmd.exe") << "x";
-    EXPECT_EQ(FindTool("cmd", m_folder.string()), (m_folder / "cmd.exe").string());
-    EXPECT_EQ(FindTool("c:cmd.exe", m_folder.string()), "c:cmd.exe");
+    EXPECT_TRUE(fs::path(FindTool("cmd", folder.Path())).is_absolute());
+    std::ofstream(folder / "cmd.exe") << "x";
+    EXPECT_EQ(FindTool("cmd", folder.Path()), folder / "cmd.exe");
+    EXPECT_EQ(FindTool("c:cmd.exe", folder.Path()), "c:cmd.exe");
 }
 
 int main(int argc, char** argv)
 {
     if (argc > 2 && std::string(argv[1]) == "--child")
-        return Child(argv[2], { argv + 3, argv + argc });
+        return Act(argv[2], { argv + 3, argv + argc });
     char self[MAX_PATH];
     ::GetModuleFileNameA(nullptr, self, MAX_PATH);
     g_self = self;
