@@ -176,31 +176,25 @@ TEST(ListIcons, come_from_the_owner_or_else_from_the_program_folder)
 {
     MemoryStore store;
     std::string asked;
-    const auto found = Picture(1, 1, { 0 });
-    const ModIcons icons(store,
-        { [&](const std::string& file, std::int32_t index) {
-             asked += file + "#" + std::to_string(index) + " ";
-             return found;
-         },
-            [&](const std::string& file) {
-                asked += file + " ";
-                return file == "gone.ico" ? Picture() : found;
-            } },
-        "C:\\", '\\');
-    const auto ask = [&](const std::string& iconText) {
+    const auto extract = [&](const std::string& file, std::int32_t index) {
+        asked += file + "#" + std::to_string(index);
+        return Picture(1, 1, { 0 });
+    };
+    const auto load = [&](const std::string& file) {
+        asked += file;
+        return file == "gone.ico" ? Picture() : Picture(1, 1, { 0 });
+    };
+    const ModIcons icons(store, { extract, load }, "C:\\", '\\');
+    const std::pair<const char*, const char*> rows[] = { { "C:\\a,b\\x.DLL,-12", "C:\\a,b\\x.DLL#-12" },
+        { "\"C:\\x.exe\", 2", "C:\\x.exe#2" }, { "C:\\x.exe", "C:\\x.exe#0" }, { "C:\\a,b.ico", "C:\\a,b.ico" },
+        { "C:\\a.ico,0", "C:\\a.ico" }, { "gone.ico", "gone.icoC:\\icons\\Unkowen.bmp" },
+        { "", "C:\\icons\\Unkowen.bmp" }, { "x.exe,99999999999", "x.exe,99999999999" } };
+    for (const auto& [iconText, expected] : rows) {
         store.values = { { ".avi:", "Owner" }, { "Owner\\DefaultIcon:", iconText } };
         asked.clear();
         EXPECT_TRUE(icons.OwnerIcon(".avi"));
-        return asked;
-    };
-    EXPECT_EQ(ask("C:\\a,b\\x.DLL,-12"), "C:\\a,b\\x.DLL#-12 ");
-    EXPECT_EQ(ask("\"C:\\x.exe\", 2"), "C:\\x.exe#2 ");
-    EXPECT_EQ(ask("C:\\x.exe"), "C:\\x.exe#0 ");
-    EXPECT_EQ(ask("C:\\a,b.ico"), "C:\\a,b.ico ");
-    EXPECT_EQ(ask("C:\\a.ico,0"), "C:\\a.ico ");
-    EXPECT_EQ(ask("gone.ico"), "gone.ico C:\\icons\\Unkowen.bmp ");
-    EXPECT_EQ(ask(""), "C:\\icons\\Unkowen.bmp ");
-    EXPECT_EQ(ask("x.exe,99999999999"), "x.exe,99999999999 ");
+        EXPECT_EQ(asked, expected);
+    }
 }
 
 } // namespace

@@ -150,27 +150,5 @@ TEST_F(Discs, WhatIsNoVideoDiscIsSaidOnceAndLeavesTheIdlePicture)
     EXPECT_EQ(frame.findChild<QWidget*>("VLCPlayer"), nullptr);
 }
 
-TEST_F(Discs, AnAnswerThatNeverComesHoldsUpNothing)
-{
-    const platform::PrivateBus bus;
-    platform::DiskService service(bus);
-    service.answersAtOnce = false;
-    int answers = 0;
-    {
-        DriveQueries drives(std::make_shared<platform::DiskServiceDrives>(bus.Address(), 30s),
-            [](auto work) { QMetaObject::invokeMethod(qApp, std::move(work), Qt::QueuedConnection); });
-        drives.onFound = [&](const auto&) { ++answers; };
-        const auto start = std::chrono::steady_clock::now();
-        drives.Ask();
-        drives.Ask();
-        EXPECT_LT(std::chrono::steady_clock::now() - start, 5s);
-        EXPECT_TRUE(RunUntil([&] { return !service.asked.empty(); }));
-    }
-    service.Answer();
-    RunFor(100ms);
-    EXPECT_EQ(answers, 0);
-    EXPECT_EQ(service.asked.size(), 1U);
-}
-
 } // namespace
 } // namespace zentaro::live

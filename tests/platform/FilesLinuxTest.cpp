@@ -30,6 +30,7 @@ TEST_F(FilesOnLinux, a_file_without_the_right_or_with_a_failing_disk_is_not_miss
     // The kernel refuses to read at address 0 of a process, as a broken disk refuses its blocks.
     EXPECT_EQ(ReadFileText("/proc/self/mem", 10).state, FileState::Unreadable);
     ASSERT_TRUE(ReplaceTextFile(folder / "a.cfg", "text"));
+    EXPECT_EQ(ReadFileText(folder / "a.cfg/below", 10).state, FileState::Missing);
     if (geteuid() == 0)
         GTEST_SKIP() << "the administrator may read everything";
     fs::permissions(folder / "a.cfg", fs::perms::none);

@@ -35,6 +35,7 @@ TEST_F(HandOverOnLinux, a_full_queue_is_given_up_too_and_what_a_killed_player_le
     const auto killed = StartPeer({ "listen", folder / "handles" });
     const auto [command, probe] = HandlesIn(folder / "handles");
     killed->Terminate();
+    ASSERT_TRUE(killed->HasEnded(10s));
     struct stat facts { };
     ASSERT_EQ(stat(AddressOf(command).sun_path, &facts), 0);
     EXPECT_EQ(facts.st_mode & 0777, 0600U);

@@ -11,17 +11,12 @@ using enum HandOverOutcome;
 std::string g_program;
 
 /// What this program does as another process:
-/// send HANDLE TEXT FILE: writes the outcome's number
-/// listen FILE:           writes both handles, then takes texts over and opens none
-/// lock FILE:             takes the lock, then as above
-/// folder FILE:           writes the name of its working folder, and goes on
+/// listen FILE: writes both handles, then takes texts over and opens none
+/// lock FILE:   takes the lock, then as above
+/// folder FILE: writes the name of its working folder, and goes on
 int Peer(const std::vector<std::string>& arguments)
 {
     const EventLoop loop;
-    if (arguments[0] == "send") {
-        const auto outcome = SendHandOverText(arguments[1], arguments[2]);
-        return ReplaceTextFile(arguments[3], std::to_string(static_cast<int>(outcome))) ? 0 : 1;
-    }
     if (arguments[0] == "folder") {
         IgnoreFailure(ReplaceTextFile(arguments[1], MakeWorkingFolder()));
         return RunUntil([] { return false; }) ? 0 : 1;
@@ -44,21 +39,6 @@ std::unique_ptr<StartedProcess> StartPeer(std::vector<std::string> arguments, co
 {
     arguments.insert(arguments.begin(), "peer");
     return ShellStart({ program.empty() ? OwnProgram() : program, std::move(arguments), "", 0, false });
-}
-
-TEST_F(HandOverTest, a_process_that_sends_ends_when_its_text_is_opened)
-{
-    Listen();
-    const std::string text = "/My Clips/Ä 日本.avi *Add";
-    for (std::size_t i = 0; i < 2; ++i) { // the same text twice is two texts
-        const auto sender = StartPeer({ "send", ends->CommandHandle(), text, folder / "outcome" });
-        ASSERT_TRUE(RunUntilReceived(i + 1));
-        EXPECT_FALSE(PathExists(folder / "outcome") && i == 0);
-        tokens[i]();
-        ASSERT_TRUE(RunUntil([&] { return sender->HasEnded(0ms); }));
-        EXPECT_EQ(ReadTextFile(folder / "outcome", 10), "0");
-    }
-    EXPECT_EQ(received, (std::vector{ text, text }));
 }
 
 TEST_F(HandOverTest, a_later_text_is_opened_while_an_earlier_one_waits)

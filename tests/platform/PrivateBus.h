@@ -4,6 +4,7 @@
 #include "tests/platform/PrivateUser.h"
 
 #include <csignal>
+#include <fstream>
 
 namespace zentaro::platform {
 

@@ -1,11 +1,8 @@
 #include "desktop/CommandLine.h"
-#include "desktop/DesktopDefaults.h"
 #include "desktop/HandOverRules.h"
 #include "desktop/MprisRules.h"
-#include "desktop/StoreNames.h"
 
 #include <gmock/gmock.h>
-#include <set>
 
 namespace zentaro::desktop {
 namespace {
@@ -59,18 +56,6 @@ TEST(HandOverRules, a_handle_is_a_plain_number_that_is_not_zero)
         EXPECT_EQ(ParseHandOverHandle(text), std::nullopt) << text;
 }
 
-TEST(StoreNames, are_readable_and_differ_for_different_values)
-{
-    EXPECT_EQ(StoreFileName("Software\\Some Maker\\Zentaro", "txtHwnd"), "Software/Some Maker/Zentaro/txtHwnd");
-    const std::pair<std::string, std::string> values[] = { { "", "" }, { "", "A" }, { "A", "" }, { "A", "_" },
-        { "A", "_default" }, { "A", "default" }, { "A\\B", "" }, { "A", "B" }, { "A", "B\\" }, { "A\\", "B" },
-        { "\\A", "B" }, { "A\\\\B", "C" }, { "A\\B", "C" }, { "A", "B\\C" }, { "A/B", "C" }, { "A_2FB", "C" },
-        { "A", "B/C" }, { "A", "\xC3\xA4" }, { "A", "\xE4" }, { "A", std::string("\0", 1) }, { "a", "b" } };
-    std::set<std::string> names;
-    for (const auto& [key, name] : values)
-        EXPECT_TRUE(names.insert(StoreFileName(key, name)).second) << key << " | " << name;
-}
-
 TEST(MprisRules, a_path_of_any_bytes_survives_its_uri)
 {
     const std::string path = "/a b/100%/#?\"\xFF\xC3\xA4.mp4";
@@ -120,21 +105,6 @@ TEST(MprisRules, a_few_tracks_come_and_go_one_by_one_and_many_as_a_new_list)
     EXPECT_EQ(change.addedFrom, 2U);
     EXPECT_TRUE(ChangeOfTracks(nullptr, tracks({ 1, 2, 3, 4, 5, 6, 7, 8, 9 })).replaced);
     EXPECT_THAT(ChangeOfTracks(tracks({ 1 }), nullptr).removed, ElementsAre(1));
-}
-
-TEST(Defaults, a_program_opens_by_preference_then_by_what_it_is_made_for_unless_it_was_removed)
-{
-    DesktopDefaults defaults;
-    defaults.isInstalled = [](const std::string& entry) { return entry != "gone.desktop"; };
-    defaults.own.emplace_back("[Removed Associations]\nx/a=first.desktop;\nx/a=gone.desktop;second.desktop;\n");
-    defaults.caches.emplace_back("[MIME Cache]\nx/a=first.desktop;second.desktop;third.desktop;\nx/b=first.desktop\n");
-    EXPECT_EQ(defaults.ProgramOf("x/a", true), "third.desktop");
-    EXPECT_EQ(defaults.ProgramOf("x/b", true), "first.desktop");
-    defaults.others.emplace_back("[Added Associations]\nx/a=gone.desktop;added.desktop\n");
-    EXPECT_EQ(defaults.ProgramOf("x/a", true), "added.desktop");
-    defaults.others.emplace_back("[Default Applications]\nx/a=zentaro.desktop;chosen.desktop\n");
-    EXPECT_EQ(defaults.ProgramOf("x/a", true), "zentaro.desktop");
-    EXPECT_EQ(defaults.ProgramOf("x/a", false), "chosen.desktop");
 }
 
 } // namespace

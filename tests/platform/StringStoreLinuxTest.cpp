@@ -43,13 +43,17 @@ TEST_F(StoreOfFiles, gives_back_every_text_byte_by_byte)
 
 TEST_F(StoreOfFiles, keeps_keys_names_and_roots_apart)
 {
-    const std::pair<const char*, const char*> places[] = { { "A", "" }, { "A", "B" }, { "A\\B", "" },
+    const std::pair<std::string, std::string> places[] = { { "", "" }, { "", "A" }, { "A", "" }, { "A", "_" },
+        { "A", "_default" }, { "A", "default" }, { "A\\B", "" }, { "A", "B" }, { "A", "B\\" }, { "A\\", "B" },
+        { "\\A", "B" }, { "A\\\\B", "C" }, { "A\\B", "C" }, { "A", "B\\C" }, { "A/B", "C" }, { "A_2FB", "C" },
+        { "A", "B/C" }, { "A", "\xC3\xA4" }, { "A", "\xE4" }, { "A", std::string("\0", 1) }, { "a", "b" },
         { "General", "x" }, { "", "x" } };
     for (const auto& [key, name] : places)
-        ASSERT_TRUE(Write(name, std::string(key) + "+" + name, key));
+        ASSERT_TRUE(Write(name, key + "+" + name, key));
     ASSERT_TRUE(store->Write(Root::ClassesRoot, "A", "B", "other root"));
     for (const auto& [key, name] : places)
-        EXPECT_EQ(Read(name, key), std::string(key) + "+" + name);
+        EXPECT_EQ(Read(name, key), key + "+" + name);
+    EXPECT_NE(ReadTextFile(path, 10'000)->find("\nB\\C="), std::string::npos) << "a person can read it";
     for (const auto* key : { "A", "A", "missing" })
         EXPECT_TRUE(store->Delete(Root::CurrentUser, key, "B"));
     EXPECT_EQ(Read("B", "A") + Read("", "A\\B"), "-1A\\B+");
