@@ -206,8 +206,8 @@ TEST_F(Runner, a_limit_ends_who_is_silent_or_goes_on_for_too_long_with_all_child
 {
     const std::string stubborn = "trap '' TERM; echo $$; sh -c 'echo $$; sleep 100'; sleep 100";
     const std::tuple<std::string, RunLimit, int> rows[] = {
-        { stubborn, { .silence = 500ms }, 2 }, { "echo $$; while sleep 0.05; do echo; done", { .total = 500ms }, 1 },
-        { "exec sh -c 'echo $$; exec sleep 100' &", { .silence = 500ms }, 1 }, // it still holds the stream
+        { stubborn, { .silence = 1s }, 2 }, { "echo $$; while sleep 0.05; do echo; done", { .total = 500ms }, 1 },
+        { "exec sh -c 'echo $$; exec sleep 100' &", { .silence = 1s }, 1 }, // it still holds the stream
     };
     for (const auto& [text, limit, count] : rows) {
         auto command = Shell(text);
@@ -216,8 +216,8 @@ TEST_F(Runner, a_limit_ends_who_is_silent_or_goes_on_for_too_long_with_all_child
         EXPECT_EQ(result ? 0 : result.error().number, kToolHangs) << text;
         EXPECT_TRUE(AreGone(Content("log").substr(3), count)) << text;
     }
-    auto slow = Shell("for i in 1 2 3 4 5; do echo; sleep 0.3; done");
-    slow.limit.silence = 1s;
+    auto slow = Shell("for i in 1 2 3 4; do echo; sleep 0.6; done");
+    slow.limit.silence = 2s;
     EXPECT_TRUE(Run(slow));
     auto shown = Shell(stubborn);
     shown.limit.total = 500ms;
@@ -252,8 +252,14 @@ public:
     bool HasEnded(std::chrono::milliseconds) override { return false; }
     void Terminate() override { }
     void Pause() override { }
-    std::optional<std::size_t> Read(std::span<char>) override { return 1; }
+    std::optional<std::size_t> Read(std::span<char>) override
+    {
+        return ++m_reads < 10'000'000 ? std::optional<std::size_t>(1) : std::nullopt; // a test that fails has an end
+    }
     void ApplyPriorityClass(std::uint32_t) override { }
+
+private:
+    int m_reads = 0;
 };
 
 TEST_F(Runner, who_does_not_end_is_left_alone_and_what_it_prints_has_an_end)

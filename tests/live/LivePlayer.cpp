@@ -70,9 +70,11 @@ bool LivePlayer::RunUntil(const std::function<bool()>& done, std::chrono::millis
     const auto end = std::chrono::steady_clock::now() + limit;
     auto tick = std::chrono::steady_clock::now() + kTick;
     while (!done()) {
-        if (std::exchange(m_generation, player.Transporting().Generation()) != player.Transporting().Generation()
-            && player.State().mediaControlsEnabled)
+        if (const auto present = player.Transporting().Generation();
+            present != m_generation && player.State().mediaControlsEnabled) {
+            m_generation = present;
             played.push_back(player.Transporting().Item().path);
+        }
         if (std::chrono::steady_clock::now() >= end)
             return false;
         Pump(kStep);

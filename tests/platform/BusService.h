@@ -48,10 +48,8 @@ private:
     Answer m_answer;
 };
 
-/// A bus of the test's own, and an event loop in which services on it answer.
 class OnPrivateBus : public testing::Test {
 protected:
-    EventLoop loop;
     PrivateBus bus;
 };
 

@@ -1,21 +1,12 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <string>
 
 namespace zentaro::platform {
 
-/// The event loop of a test's thread: Qt's on Linux, the message loop on Windows.
-class EventLoop {
-public:
-    EventLoop();
-    ~EventLoop();
-
-private:
-    struct Parts;
-    std::unique_ptr<Parts> m_parts;
-};
+/// Once, before anything else: this thread gets an event loop, Qt's on Linux, the message loop on Windows.
+void PrepareEventLoop();
 
 /// Runs the loop until the condition holds; false when that takes too long.
 bool RunUntil(const std::function<bool()>& condition);

@@ -7,23 +7,15 @@
 
 namespace zentaro::platform {
 
-using namespace std::chrono_literals;
-
-struct EventLoop::Parts {
-    int count = 0;
-    QCoreApplication application{ count, nullptr };
-};
-
-EventLoop::EventLoop()
-    : m_parts(std::make_unique<Parts>())
+void PrepareEventLoop()
 {
+    static int count = 0;
+    static QCoreApplication application(count, nullptr);
 }
-
-EventLoop::~EventLoop() = default;
 
 bool RunUntil(const std::function<bool()>& condition)
 {
-    const auto end = std::chrono::steady_clock::now() + 30s;
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
     bool holds = condition();
     while (!holds && std::chrono::steady_clock::now() < end) {
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);

@@ -5,10 +5,7 @@
 
 namespace zentaro::platform {
 
-// A thread has its queue of messages from the first look into it.
-struct EventLoop::Parts { };
-EventLoop::EventLoop() = default;
-EventLoop::~EventLoop() = default;
+void PrepareEventLoop() { } // a thread has its queue of messages from the first look into it
 
 bool RunUntil(const std::function<bool()>& condition)
 {

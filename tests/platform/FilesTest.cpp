@@ -44,7 +44,6 @@ TEST(Files, what_cannot_be_read_or_replaced_is_told_from_what_is_missing_and_sta
 
 TEST(Files, what_killed_runs_left_is_removed_and_what_living_ones_have_stays)
 {
-    const EventLoop loop;
     const WorkingFolder folder;
     const auto run = StartPeer({ "folder", folder / "name" });
     ASSERT_TRUE(RunUntil([&] { return PathExists(folder / "name"); }));

@@ -69,7 +69,6 @@ protected:
         return { handles.substr(0, handles.find(' ')), handles.substr(handles.find(' ') + 1) };
     }
 
-    EventLoop loop;
     WorkingFolder folder;
     std::unique_ptr<HandOverEnds> ends;
     bool opensAtOnce = false;

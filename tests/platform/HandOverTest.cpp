@@ -16,7 +16,6 @@ std::string g_program;
 /// folder FILE: writes the name of its working folder, and goes on
 int Peer(const std::vector<std::string>& arguments)
 {
-    const EventLoop loop;
     if (arguments[0] == "folder") {
         IgnoreFailure(ReplaceTextFile(arguments[1], MakeWorkingFolder()));
         return RunUntil([] { return false; }) ? 0 : 1;
@@ -151,6 +150,7 @@ TEST_F(HandOverTest, a_killed_player_is_given_up_at_once_and_its_lock_falls)
 int main(int count, char** arguments)
 {
     zentaro::platform::g_program = std::filesystem::absolute(arguments[0]).string();
+    zentaro::platform::PrepareEventLoop();
     if (count > 3 && std::string(arguments[1]) == "peer")
         return zentaro::platform::Peer({ arguments + 2, arguments + count });
     testing::InitGoogleTest(&count, arguments);
