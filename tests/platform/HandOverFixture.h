@@ -27,7 +27,7 @@ class HandOverTest : public testing::Test {
 protected:
     HandOverTest() { UseAsRuntimeFolder(folder.Path()); }
 
-    /// Texts come to `received`; they are opened at once, or their tokens come to `tokens`.
+    /// Texts come to `received`, their tokens to `tokens`, unless they are opened at once.
     void Listen(HandOverLimits limits = kNever)
     {
         ends = std::move(*HandOverEnds::ListenWithin(limits));
@@ -35,17 +35,13 @@ protected:
     }
     std::function<void(std::string, HandOverDone)> Keep()
     {
-        return [this](std::string text, HandOverDone done) {
+        return [this](std::string text, const HandOverDone& done) {
             received.push_back(std::move(text));
+            tokens.push_back(done);
             if (opensAtOnce)
                 done();
-            else
-                tokens.push_back(std::move(done));
+            onReceived();
         };
-    }
-    bool RunUntilReceived(std::size_t count)
-    {
-        return RunUntil([&] { return received.size() == count; });
     }
     static Sending Send(const std::string& handle, const std::string& text, HandOverLimits limits = kNever)
     {
@@ -72,6 +68,9 @@ protected:
     WorkingFolder folder;
     std::unique_ptr<HandOverEnds> ends;
     bool opensAtOnce = false;
+    /// Whoever is to act while a text waits does it from here: where its sender waits in the window's procedure, the
+    /// test goes on only after that.
+    std::function<void()> onReceived = [] {};
     std::vector<std::string> received;
     std::vector<HandOverDone> tokens;
 };

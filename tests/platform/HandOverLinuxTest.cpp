@@ -83,7 +83,7 @@ TEST_F(HandOverOnLinux, silent_senders_are_let_go_and_waiting_ones_make_room)
     std::vector<Sending> sendings;
     for (std::size_t i = 0; i < 3; ++i) {
         sendings.push_back(Send("77", std::to_string(i)));
-        ASSERT_TRUE(RunUntilReceived(i + 1));
+        ASSERT_TRUE(RunUntil([&] { return received.size() == i + 1; }));
     }
     char bytes[2];
     EXPECT_EQ(recv(silent.Number(), bytes, sizeof bytes, 0), 1);

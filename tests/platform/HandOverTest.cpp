@@ -43,19 +43,25 @@ std::unique_ptr<StartedProcess> StartPeer(std::vector<std::string> arguments, co
 TEST_F(HandOverTest, a_later_text_is_opened_while_an_earlier_one_waits)
 {
     Listen();
-    auto first = Send(ends->CommandHandle(), "1");
-    ASSERT_TRUE(RunUntilReceived(1));
-    auto second = Send(ends->CommandHandle(), "2");
-    ASSERT_TRUE(RunUntilReceived(2));
-    tokens[1]();
-    tokens[1]();
-    EXPECT_EQ(OutcomeOf(second), Opened);
-    EXPECT_FALSE(IsDone(first));
-    tokens[0]();
+    const auto handle = ends->CommandHandle();
+    Sending first;
+    std::future<bool> later;
+    onReceived = [&] {
+        if (received.size() == 1)
+            later = std::async(std::launch::async, [&] {
+                const bool isOpened = SendHandOverText(handle, "2") == Opened && !IsDone(first);
+                return isOpened && SendHandOverText(handle, "3") == Opened;
+            });
+        if (received.size() > 1)
+            tokens.back()();
+        if (received.size() == 2)
+            tokens.back()(); // which changes nothing more
+        if (received.size() == 3)
+            tokens.front()();
+    };
+    first = Send(handle, "1");
     EXPECT_EQ(OutcomeOf(first), Opened);
-    opensAtOnce = true;
-    auto third = Send(ends->CommandHandle(), "3");
-    EXPECT_EQ(OutcomeOf(third), Opened);
+    EXPECT_TRUE(later.get());
     EXPECT_EQ(received, (std::vector<std::string>{ "1", "2", "3" }));
 }
 
@@ -107,15 +113,15 @@ TEST_F(HandOverTest, the_handler_may_end_the_player_and_drops_all_who_wait)
 {
     Listen();
     const auto handle = ends->CommandHandle();
+    Sending last;
     ends->Deliver([&](const std::string& text, HandOverDone done) {
-        received.push_back(text);
         tokens.push_back(std::move(done));
         if (text == "last.avi")
             ends.reset();
+        else
+            last = Send(handle, "last.avi");
     });
     auto waiting = Send(handle, "waiting.avi");
-    ASSERT_TRUE(RunUntilReceived(1));
-    auto last = Send(handle, "last.avi");
     EXPECT_EQ(OutcomeOf(waiting), Silent);
     EXPECT_EQ(OutcomeOf(last), Silent);
     for (const auto& token : tokens)
