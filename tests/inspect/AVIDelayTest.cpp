@@ -1,9 +1,7 @@
 #include "inspect/clsAVIDelay.h"
-#include "tests/platform/WorkingFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <optional>
 #include <sstream>
 
@@ -188,22 +186,4 @@ TEST(AVIDelay, sizes_that_lead_nowhere_new_end_the_walk)
         nested += "LIST" + Bytes(-1, 4) + "LIST";
     EXPECT_EQ(DelayOf({}, nested), -1);
     EXPECT_EQ(Delays(File(std::string(600'000, '\xFF'))), "");
-}
-
-TEST(AVIDelay, a_file_of_more_than_4_GB_is_read_at_its_beginning)
-{
-    const platform::WorkingFolder folder;
-    const auto path = folder / "large.avi";
-    // A frame and a chunk of another kind; a chunk of sound that is too long to be searched.
-    const std::pair<std::string, int> rows[] = {
-        { Chunk("00wb", Zeros(32) + kMp3Frame) + "00dc" + Bytes(0x7FFFFFF0, 4), 2 },
-        { "00wb" + Bytes(0x7F000000, 4), -2 },
-    };
-    for (const auto& [movie, delay] : rows) {
-        ASSERT_TRUE(platform::ReplaceTextFile(path, File(Sound()) + movie));
-        std::error_code tooLarge;
-        std::filesystem::resize_file(path, 5'000'000'000, tooLarge);
-        clsAVIDelay avi;
-        EXPECT_TRUE(tooLarge || (avi.OpenFile(path) && avi.StreamDelay(0) == delay)) << delay;
-    }
 }

@@ -92,7 +92,6 @@ protected:
 const std::string kTenSeconds = "  Duration: 00:00:10.00, start: 1.500000, bitrate: 1 kb/s\n";
 const std::string kFilm = "  Stream #0:0: Video: h264, yuv420p, 1280x720, 500 kb/s, 25 fps\n";
 const std::string kSound = "  Stream #0:1: Audio: mp3, 44100 Hz, stereo, fltp, 128 kb/s\n";
-const std::string kCover = "  Stream #0:2: Video: png, rgb24, 600x600, 90k tbr, 90k tbn (attached pic)\n";
 
 } // namespace
 
@@ -173,19 +172,6 @@ TEST_F(SourceTest, a_picture_that_cannot_be_made_is_tried_again_without_seeking)
     version = "FFmpeg version 0.6.6";
     Inspected("/b.mkv", kTenSeconds + "    Stream #0.0: Video: h264, yuv420p, 720x576, 25 fps\n");
     EXPECT_TRUE(thumbnailRuns.back().starts_with("-vframes 1 -ss 1 -i \"/b.mkv\""));
-}
-
-TEST_F(SourceTest, sound_alone_shows_its_cover_or_the_default_picture)
-{
-    auto source = Inspected("/a.mp3", kTenSeconds + kSound + kCover);
-    EXPECT_EQ(source.StreamCount(), 1);
-    EXPECT_EQ(source.StreamImage(0), defaultAudio);
-    EXPECT_EQ(source.Outcome().lastPicture, thumbnail);
-    EXPECT_NE(thumbnailRuns[0].find("-s 72x72 "), std::string::npos);
-    EXPECT_EQ(thumbnailRuns[0].find("-ss"), std::string::npos);
-    source = Inspected("/a.mp3", kTenSeconds + kSound + kSound);
-    EXPECT_TRUE(source.StreamImage(0).IsEmpty());
-    EXPECT_EQ(source.Outcome().lastPicture, defaultAudio);
 }
 
 TEST_F(SourceTest, an_avi_files_delays_and_an_mpeg_films_facts_refine_the_records)

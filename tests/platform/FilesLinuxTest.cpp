@@ -98,19 +98,6 @@ TEST_F(FilesOnLinux, only_what_is_ours_by_name_and_kind_counts_as_left_over)
     unsetenv("TMPDIR");
 }
 
-TEST_F(FilesOnLinux, a_relative_argument_that_exists_becomes_absolute_with_its_bytes_and_links)
-{
-    const auto before = fs::current_path();
-    fs::create_directory(folder / "real");
-    fs::create_directory_symlink("real", folder / "link");
-    ASSERT_TRUE(ReplaceTextFile(folder / "real/a \xFF.avi", ""));
-    fs::current_path(folder.Path());
-    EXPECT_EQ(CommandLineText({ "link/a \xFF.avi", "*Add" }), folder / "link/a \xFF.avi *Add");
-    for (const auto* same : { "missing.avi", "/tmp", "" })
-        EXPECT_EQ(CommandLineText({ same }), same);
-    fs::current_path(before);
-}
-
 TEST_F(FilesOnLinux, the_runtime_folder_must_be_ours_alone)
 {
     EXPECT_TRUE(IsPrivateFolder(1000, 040700, 1000));

