@@ -94,6 +94,7 @@ TEST(ReportParser, unsupported_sound_is_dropped_with_a_message_and_odd_films_are
     EXPECT_EQ(KeptAfterPruning("Video: v, 0x2, 25.00 fps\nVideo: v, 2x0, 25.00 fps"), 1U);
     EXPECT_EQ(KeptAfterPruning("Video: v\nVideo: v\nVideo: v"), 1U);
     EXPECT_EQ(KeptAfterPruning("Video: v"), 0U);
+    EXPECT_EQ(KeptAfterPruning("Video: v, 2x2, 250.00 fps"), 1U);
 }
 
 TEST(ReportParser, names_and_numbers_are_texts_in_exact_letters)

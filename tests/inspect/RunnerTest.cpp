@@ -126,6 +126,14 @@ TEST_F(Runner, the_log_holds_the_text_and_then_the_bytes_of_both_streams)
     EXPECT_EQ(Content("log"), "t\na b\n");
     EXPECT_TRUE(Run({ "head", { "-c", "100000000", "/dev/zero" }, "" }));
     EXPECT_EQ(fs::file_size(Path("log")), 100'000'001u);
+
+    std::string converted;
+    context.convertOutput = [&](std::int32_t mode, std::string_view text) {
+        converted += std::to_string(mode).append(text);
+    };
+    for (const std::int32_t mode : { 0, 1, 3, 4 })
+        EXPECT_TRUE(ExecuteAndCapture({ "echo", { "x" }, "" }, Path("log"), mode, false, 2, "", context));
+    EXPECT_EQ(converted, "1x\n3x\n"); // those between 1 and 3 alone
 }
 
 TEST_F(Runner, a_child_sees_its_arguments_unchanged_and_nothing_else_of_this_process)
@@ -271,15 +279,6 @@ TEST_F(Runner, who_does_not_end_is_left_alone_and_what_it_prints_has_an_end)
     EXPECT_LT(log.str().size(), 2u << 20);
     context.CancelExecute = 0;
     EXPECT_FALSE(Capture(process, log, 0, context, { .total = 10ms }));
-}
-
-TEST_F(Runner, the_conversion_sees_all_output_in_modes_1_to_3)
-{
-    std::string seen;
-    context.convertOutput = [&](std::int32_t mode, std::string_view chunk) { (seen += std::to_string(mode)) += chunk; };
-    for (const std::int32_t mode : { 0, 1, 3, 4 })
-        EXPECT_TRUE(ExecuteAndCapture({ "echo", { "x" }, "" }, Path("log"), mode, false, 2, "", context));
-    EXPECT_EQ(seen, "1x\n3x\n");
 }
 
 TEST_F(Runner, priorities_are_nice_values_at_the_start_and_later)

@@ -24,7 +24,7 @@ TEST(ToolDialect, what_a_files_maker_wrote_cannot_imitate_the_tool)
     const auto report = ToClassicReport(
         command + "\nffmpeg version 5\nInput #0, mp3, from '" + name + "':\n" + kDuration, command, name);
     EXPECT_EQ(report.text, "Input #0, mp3:\n" + kDuration);
-    EXPECT_EQ(Report("  Stream #0:0: Video: h264, 8x8\n    Metadata:\n      handler_name : Stream #0:7: Audio: mp3\n"
+    EXPECT_EQ(Report("  Stream #0:0: Video: h264, 8x8\n    Metadata:\n      Stream #0:7: Audio: mp3, 8 Hz, mono\n"
                      "  Stream #0:1: Subtitle: mov_text\nAt least one output file must be specified\n")
                   .text,
         "Input #0, mov,mp4:\n" + kDuration + "  Stream #0.0: Video: h264, 8x8\n");

@@ -56,15 +56,6 @@ double LivePlayer::Time()
     return engine != nullptr ? engine->Time() : 0;
 }
 
-void LivePlayer::Pump(std::chrono::milliseconds time)
-{
-    const auto end = std::chrono::steady_clock::now() + time;
-    do {
-        QCoreApplication::processEvents();
-        std::this_thread::sleep_for(2ms);
-    } while (std::chrono::steady_clock::now() < end);
-}
-
 bool LivePlayer::RunUntil(const std::function<bool()>& done, std::chrono::milliseconds limit)
 {
     const auto end = std::chrono::steady_clock::now() + limit;
@@ -77,7 +68,8 @@ bool LivePlayer::RunUntil(const std::function<bool()>& done, std::chrono::millis
         }
         if (std::chrono::steady_clock::now() >= end)
             return false;
-        Pump(kStep);
+        QCoreApplication::processEvents();
+        std::this_thread::sleep_for(kStep);
         world.Elapse(kStep);
         player.Transporting().OnRewindTick();
         if (std::chrono::steady_clock::now() < tick)

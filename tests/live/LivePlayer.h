@@ -25,8 +25,6 @@ protected:
     {
         RunUntil([] { return false; }, time);
     }
-    /// Lets messages be handled for a while; no tick comes.
-    static void Pump(std::chrono::milliseconds time);
     void AddEntries(const std::vector<std::string>& paths);
 
     /// Of the item that is loaded; 0 while there is none.

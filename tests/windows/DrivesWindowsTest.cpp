@@ -1,10 +1,10 @@
 #include "platform/Drives.h"
-#include "platform/Files.h"
-#include "platform/Leftovers.h"
+#include "tests/platform/WorkingFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <filesystem>
 #include <vector>
 #include <windows.h>
 #include <winioctl.h>
@@ -72,33 +72,25 @@ private:
 
 TEST(DrivesWindows, OpticalDrivesAreListedWithTheirDiscs)
 {
-    const auto folder = MakeWorkingFolder();
-    const auto root = UnixPath(folder);
+    const WorkingFolder folder;
+    const auto root = UnixPath(folder.Path());
     if (root.empty())
         GTEST_SKIP() << "drives can be made under Wine only";
-    for (const auto* const disc : { "movie", "data", "fixed" })
-        CreateDirectoryA((folder + "\\" + disc).c_str(), nullptr);
-    for (const auto* const disc : { "movie", "fixed" })
-        CreateDirectoryA((folder + "\\" + disc + "\\VIDEO_TS").c_str(), nullptr);
-    EXPECT_TRUE(ReplaceTextFile(folder + "\\movie\\.windows-label", "MOVIE (1)\n"));
-    EXPECT_TRUE(ReplaceTextFile(folder + "\\movie\\.windows-serial", "1234ABCD\n"));
+    for (const auto* const disc : { "movie\\VIDEO_TS", "data", "fixed\\VIDEO_TS" })
+        std::filesystem::create_directories(folder / disc);
+    EXPECT_TRUE(ReplaceTextFile(folder / "movie\\.windows-label", "MOVIE (1)\n"));
+    EXPECT_TRUE(ReplaceTextFile(folder / "movie\\.windows-serial", "1234ABCD\n"));
     const auto drives = Drives::Open();
     {
         const TestDrive movie('l', DRIVE_CDROM, root + "/movie");
         const TestDrive data('k', DRIVE_CDROM, root + "/data");
         const TestDrive fixed('n', DRIVE_FIXED, root + "/fixed");
-        const auto found = drives->Find();
-        ASSERT_EQ(found.size(), 2U);
-        EXPECT_EQ(found[0].name, "K:");
-        EXPECT_TRUE(found[0].label);
-        EXPECT_FALSE(found[0].hasVideoFolder);
-        EXPECT_EQ(found[1].name, "L:");
-        EXPECT_EQ(found[1].label, "MOVIE (1)");
-        EXPECT_TRUE(found[1].hasVideoFolder);
-        EXPECT_EQ(found[1].disc, std::to_string(0x1234ABCD));
+        std::string found;
+        for (const auto& drive : drives->Find())
+            found += drive.name + (drive.hasVideoFolder ? " " + *drive.label + " " + drive.disc : " data") + "\n";
+        EXPECT_EQ(found, "K: data\nL: MOVIE (1) " + std::to_string(0x1234ABCD) + "\n");
     }
     EXPECT_TRUE(drives->Find().empty());
-    RemoveFolder(folder);
 }
 
 } // namespace
