@@ -119,6 +119,7 @@ TEST_F(SourceTest, failures_leave_their_reason_and_keep_the_report_of_the_last_s
     const auto errorWith = [&](const std::optional<Error>& toolsFailure) {
         failure = toolsFailure;
         EXPECT_FALSE(source.GetVideoInformation("/a.mkv"));
+        EXPECT_TRUE(files.empty());
         return source.Outcome().error;
     };
     EXPECT_EQ(errorWith(Error{ 2003, "No process" }),
@@ -130,7 +131,6 @@ TEST_F(SourceTest, failures_leave_their_reason_and_keep_the_report_of_the_last_s
     EXPECT_EQ(errorWith({}), "File may be incomplete or corrupted.");
     troubles["/a.mkv"] = FileTrouble::Empty;
     EXPECT_EQ(errorWith({}), "File may be incomplete or corrupted.\r\nThe file is empty.");
-    EXPECT_TRUE(files.empty());
     report = "";
     EXPECT_TRUE(source.GetVideoInformation("/a.mkv"));
     EXPECT_EQ(source.Outcome().error, "");
