@@ -18,8 +18,14 @@ Associations::Associations(AssociationService service, platform::StringStore& st
 void Associations::Apply(const AssociationFlags& flags)
 {
     m_isPending = false;
-    if (m_modAssoc)
-        m_modAssoc->ApplyAssociations(flags);
+    {
+        const std::lock_guard lock(m_mutex);
+        m_due = flags;
+    }
+    m_service.background([this] {
+        ApplyDue();
+        return [] {};
+    });
 }
 
 void Associations::ApplyPostponed(const AssociationFlags& flags)
@@ -28,8 +34,35 @@ void Associations::ApplyPostponed(const AssociationFlags& flags)
         Apply(flags);
 }
 
-std::vector<AssociationChoice> Associations::Choices()
+void Associations::Close(const AssociationFlags& flags)
 {
+    if (std::exchange(m_isPending, false)) {
+        const std::lock_guard lock(m_mutex);
+        m_due = flags;
+    }
+    ApplyDue();
+}
+
+void Associations::ApplyDue()
+{
+    const std::lock_guard working(m_working);
+    std::optional<AssociationFlags> flags;
+    {
+        const std::lock_guard lock(m_mutex);
+        flags = std::exchange(m_due, std::nullopt);
+    }
+    if (flags && m_modAssoc)
+        m_modAssoc->ApplyAssociations(*flags);
+}
+
+void Associations::Choices(std::function<void(std::vector<AssociationChoice>)> done)
+{
+    m_service.background([this, done = std::move(done)] { return [done, choices = ReadChoices()] { done(choices); }; });
+}
+
+std::vector<AssociationChoice> Associations::ReadChoices()
+{
+    const std::lock_guard working(m_working);
     if (m_modAssoc)
         m_modAssoc->AdoptLiveOwners();
     const ModIcons icons(m_store, m_service.icons, m_service.programFolder, m_separator);

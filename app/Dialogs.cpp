@@ -124,10 +124,18 @@ void Dialogs::Open(QDialog* dialog)
 
 void Dialogs::ShowOptions()
 {
-    if (IsOneOpen())
+    if (IsOneOpen() || std::exchange(m_isAwaited, true))
         return;
-    auto* const options =
-        new frmSettings(PagesOf(m_player.Settings()), Rows(m_player.Types().Choices()), m_window.Pictures(), &m_window);
+    m_player.Types().Choices([this](const auto& choices) {
+        m_isAwaited = false;
+        if (!IsOneOpen())
+            OpenOptions(choices);
+    });
+}
+
+void Dialogs::OpenOptions(const std::vector<AssociationChoice>& choices)
+{
+    auto* const options = new frmSettings(PagesOf(m_player.Settings()), Rows(choices), m_window.Pictures(), &m_window);
     QObject::connect(options, &frmSettings::Commit, &m_window,
         [this](const SettingsPages& shown, const SettingsPages& chosen) { m_player.CommitOptions(shown, chosen); });
     Open(options);

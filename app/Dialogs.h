@@ -6,12 +6,14 @@
 #include <QString>
 
 #include <string>
+#include <vector>
 
 class QDialog;
 class QFileDialog;
 
 namespace zentaro {
 
+struct AssociationChoice;
 class Player;
 class frmMain;
 
@@ -34,6 +36,7 @@ private:
     /// A file or a web address; shows `complaint` with it in a box where nothing opens it.
     void OpenPage(const std::string& page, const std::string& complaint);
     void Say(const std::string& text);
+    void OpenOptions(const std::vector<AssociationChoice>& choices);
     /// True when there is a dialog already: it comes forward.
     bool IsOneOpen();
     void Open(QDialog* dialog);
@@ -44,6 +47,7 @@ private:
     Player& m_player;
     std::string m_programFolder;
     QPointer<QDialog> m_dialog;
+    bool m_isAwaited = false; // the options come when the types of files are read
     QString m_lastFolder;
 };
 

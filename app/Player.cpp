@@ -29,7 +29,7 @@ Player::Player(PlayerWorld world)
     , m_discs(m_world.discs, m_settings, m_transport, m_library, m_menus, m_window, m_face)
     , m_sequencer({ m_settings, m_transport, m_library, m_discs, m_menus, m_history, m_window, m_world.power, m_face })
     , m_instance(m_world.handOver, m_world.store, m_world.separator)
-    , m_associations(m_world.associations, m_world.store, m_world.separator)
+    , m_associations(m_world.associations, m_world.associationStore, m_world.separator)
 {
 }
 
@@ -103,7 +103,7 @@ void Player::Unload()
     m_library.Close();
     m_history.Close();
     IgnoreFailure(WriteConfigurations());
-    m_associations.ApplyPostponed(Settings().Associations);
+    m_associations.Close(Settings().Associations);
     m_world.holdOffSleep(false);
     // The engine goes with the process: stopping it first would make the end wait for its threads.
     m_window.RemoveTrayIcon();
@@ -171,8 +171,12 @@ void Player::OnPositionTick()
         return;
     if (const auto end = m_transport.OnPositionTick())
         end->isDisc ? m_discs.Ended(end->hasFailed) : m_sequencer.ItemEnded(end->hasFailed);
-    if (!State().mediaControlsEnabled && !m_starting && m_library.Adding().total == 0)
+    const bool isAdding = m_library.Adding().total > 0;
+    if (!State().mediaControlsEnabled && !m_starting && !isAdding)
         m_discs.Watch();
+    // How far the adding is shows in the window, and that it is over.
+    if (std::exchange(m_wasAdding, isAdding) || isAdding)
+        m_face.window->StateChanged();
 }
 
 bool Player::NeedsTicks() const

@@ -15,7 +15,8 @@ struct PlayerWorld {
     EngineFactory& engines;
     InspectionRunner& inspections; ///< results come back through Library::InspectionCompleted
     platform::StringStore& store;
-    platform::StringStore& historyStore; ///< used beside the other, from another thread
+    platform::StringStore& historyStore;     ///< as the other, but used from another thread
+    platform::StringStore& associationStore; ///< the same
     platform::Power& power;
     HandOverService handOver;
     RandomSource random; ///< uniform in [0, 1)
@@ -112,7 +113,8 @@ private:
     Sequencer m_sequencer;
     SingleInstance m_instance;
     Associations m_associations;
-    bool m_starting = true; // the window's geometry is not recorded until the start is over
+    bool m_starting = true;
+    bool m_wasAdding = false; // the window's geometry is not recorded until the start is over
 };
 
 } // namespace zentaro

@@ -177,6 +177,7 @@ int main(int argc, char** argv)
     const auto workingFolder = MakeFolderOfThisRun();
     const auto store = platform::StringStore::Open();
     const auto historyStore = platform::StringStore::Open();
+    const auto associationStore = platform::StringStore::Open();
     const auto power = platform::Power::Open();
     auto sleepInhibitor = platform::SleepInhibitor::Open();
     const auto onWindowThread = [&](std::function<void()> work) {
@@ -209,6 +210,7 @@ int main(int argc, char** argv)
         .inspections = inspections,
         .store = *store,
         .historyStore = *historyStore,
+        .associationStore = *associationStore,
         .power = *power,
         .handOver = RealHandOver(),
         .random = RealRandom(),
@@ -219,7 +221,8 @@ int main(int argc, char** argv)
         .discs = {
             [&] { drives.Ask(); }, [&] { return DecodePictureFile(programFolder + "DVD.jpg"); }, isToldOfDiscs, after },
         .associations = { shell.get(), programPath, programFolder,
-            { &platform::IconInFile, [](const std::string& file) { return LoadIconPicture(file, iconSide); } } },
+            { &platform::IconInFile, [](const std::string& file) { return LoadIconPicture(file, iconSide); } },
+            runInBackground },
         .after = after,
         .runInBackground = runInBackground,
         .runForHistory = runInBackground,

@@ -271,6 +271,7 @@ std::optional<ItemEnd> Transport::OnPositionTick()
 {
     const auto reading = Read();
     const auto tick = ReadPosition(reading, m_state.mediaControlsEnabled);
+    const auto before = m_state;
     m_state.hasVideoOutput = reading.hasVideoOutput;
     m_state.isWatched = HoldsOffSleep(reading);
     if (reading.state >= Engine::kPlaying)
@@ -289,7 +290,9 @@ std::optional<ItemEnd> Transport::OnPositionTick()
         EnableMediaControls(false);
         end = ItemEnd{ m_item.IsDisc(), tick.hasFailed };
     }
-    m_observer.TransportChanged();
+    // A paused item stays as it is, and nothing has to be painted for it.
+    if (end || m_state != before)
+        m_observer.TransportChanged();
     return end;
 }
 

@@ -44,6 +44,8 @@ struct TransportState {
     double chosenRate = 1; ///< as PlaybackRate::Value
     int seeks = 0;         ///< how often a place was chosen in this item
     std::vector<DiscPart> chapters;
+
+    bool operator==(const TransportState&) const = default;
 };
 
 /// Hears what a transport does.

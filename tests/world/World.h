@@ -257,7 +257,7 @@ private:
         const auto after = [this](std::chrono::milliseconds time, std::function<void()> work) {
             timers.push_back({ time, std::move(work) });
         };
-        return { m_engines, inspections, store, store, power, HandOver(), [this] { return random(); },
+        return { m_engines, inspections, store, store, store, power, HandOver(), [this] { return random(); },
             [](const std::string& path) { return path != "/clips/missing.avi"; }, [this] { ended = true; }, folder, '/',
             { [this] { ++driveQuestions, askForDrives(); }, [] { return Picture(); }, false, after },
             { &associations, "zentaro", "/program/", {} }, after,
