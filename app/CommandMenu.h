@@ -27,6 +27,8 @@ public:
 
     /// One for each item at the top, in order.
     const std::vector<QMenu*>& TopMenus() const { return m_top; }
+    /// The menu of an item that has one below it.
+    QMenu* Menu(const std::string& key) const { return m_menus.at(key); }
 
 private:
     void Make(const CommandItem& item);

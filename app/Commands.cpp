@@ -1,11 +1,13 @@
 #include "app/Commands.h"
 
+#include "app/ListCommands.h"
 #include "app/Player.h"
 #include "app/Snapshots.h"
 #include "app/VideoChoices.h"
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 namespace zentaro {
 
@@ -117,13 +119,13 @@ constexpr std::array kCommands{
     Command{ "AddVideoFile", "Add Media File(s)...", {}, [](Player& player, int) { player.Files().AddVideoFile(); } },
     Command{ "Remove", "Remove", kDelete,
         [](Player& player, int) {
-            player.Sequence().RemoveSelected();
+            player.Editing().Remove();
             if (player.Entries().Count() == 0)
                 DisableListCommands(player);
         } },
     Command{ "RemoveAll", "Remove All", {},
         [](Player& player, int) {
-            player.Sequence().RemoveAll();
+            player.Editing().RemoveAll();
             DisableListCommands(player);
         } },
     Command{ "Next", "Next", kPageDown, [](Player& player, int) { player.Sequence().cmdNextClick(); }, IsLoaded },
@@ -175,8 +177,8 @@ constexpr std::array kCommands{
 
     // The classic tree's, which leave the command tree's items as they are.
     Command{ "AddFiles", "Add Media File(s)...", {}, [](Player& player, int) { player.Files().OpenFiles(true); } },
-    Command{ "RemoveEntry", "Remove", {}, [](Player& player, int) { player.Sequence().RemoveSelected(); } },
-    Command{ "RemoveEntries", "Remove All", {}, [](Player& player, int) { player.Sequence().RemoveAll(); } },
+    Command{ "RemoveEntry", "Remove", {}, [](Player& player, int) { player.Editing().Remove(); } },
+    Command{ "RemoveEntries", "Remove All", {}, [](Player& player, int) { player.Editing().RemoveAll(); } },
     Command{ "PlayDisc", "", {}, [](Player& player, int which) { player.Discs().dvdsList_Click(which); } },
 };
 
@@ -184,13 +186,19 @@ constexpr std::array kCommands{
 
 std::span<const Command> AllCommands()
 {
-    return kCommands;
+    static const auto all = [] {
+        std::vector<Command> commands(kCommands.begin(), kCommands.end());
+        commands.insert(commands.end(), ListCommands().begin(), ListCommands().end());
+        return commands;
+    }();
+    return all;
 }
 
 const Command* FindCommand(std::string_view id)
 {
-    const auto at = std::ranges::find(kCommands, id, &Command::id);
-    return at == kCommands.end() ? nullptr : &*at;
+    const auto all = AllCommands();
+    const auto at = std::ranges::find(all, id, &Command::id);
+    return at == all.end() ? nullptr : &*at;
 }
 
 void RunCommand(Player& player, std::string_view id, int which)

@@ -3,6 +3,7 @@
 #include "app/Background.h"
 #include "app/Player.h"
 #include "app/frmMain.h"
+#include "base/Paths.h"
 #include "platform/AssociationShell.h"
 #include "platform/Files.h"
 #include "playlist/OpenFiles.h"
@@ -36,6 +37,8 @@ std::vector<FileTypeRow> Rows(const std::vector<AssociationChoice>& choices)
         rows.push_back({ ToQString(choice.listText), ToIcon(choice.icon) });
     return rows;
 }
+
+constexpr const char* kLists = "Lists (*.m3u *.m3u8 *.pls *.xspf)";
 
 /// From "name|patterns" pairs to what Qt wants: "name (patterns)", with blanks between the patterns.
 QStringList QtFilters(const std::string& filter)
@@ -73,9 +76,24 @@ void Dialogs::AskForFiles(
 {
     auto* const dialog = new QFileDialog(&m_window, ToQString(title));
     dialog->setFileMode(QFileDialog::ExistingFiles);
-    dialog->setNameFilters(QtFilters(filter));
+    dialog->setNameFilters(QtFilters(filter) << kLists);
     AskForPaths(dialog, [chosen = std::move(chosen)](const std::vector<std::string>& paths) {
         chosen(OpenFileResults(paths, platform::PathSeparator()));
+    });
+}
+
+void Dialogs::AskForListName(std::function<void(std::string)> chosen)
+{
+    auto* const dialog = new QFileDialog(&m_window, "Save List As");
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilters({ "M3U list (*.m3u8 *.m3u)", "PLS list (*.pls)", "XSPF list (*.xspf)" });
+    const auto suffix = [dialog](const QString& filter) {
+        dialog->setDefaultSuffix(filter.startsWith("PLS") ? "pls" : filter.startsWith("XSPF") ? "xspf" : "m3u8");
+    };
+    QObject::connect(dialog, &QFileDialog::filterSelected, dialog, suffix);
+    suffix({});
+    AskForPaths(dialog, [chosen = std::move(chosen)](const std::vector<std::string>& paths) {
+        chosen(paths.empty() ? std::string() : paths.front());
     });
 }
 
@@ -120,6 +138,14 @@ void Dialogs::Open(QDialog* dialog)
     QObject::connect(dialog, &QDialog::finished, &m_window, [this] { m_player.Window().DialogClosed(); });
     dialog->setModal(true);
     dialog->show();
+}
+
+void Dialogs::ShowFolderOf(const std::string& path)
+{
+    const auto name = FileNamePart(path, platform::PathSeparator());
+    const auto folder = path.substr(0, path.size() - name.size());
+    if (!platform::OpenDocument(folder))
+        Say("There is no program that shows the folder:\r\n" + folder);
 }
 
 void Dialogs::ShowOptions()

@@ -27,7 +27,9 @@ public:
     void ShowNotice(const Notice& notice, std::function<void()> closed) override;
     void AskForFiles(const std::string& title, const std::string& filter,
         std::function<void(std::vector<std::string>)> chosen) override;
+    void AskForListName(std::function<void(std::string)> chosen) override;
     void AskForSubtitles(std::function<void(std::string)> chosen) override;
+    void ShowFolderOf(const std::string& path) override;
     void ShowOptions() override;
     void ShowAbout() override;
     void ShowHelp() override;

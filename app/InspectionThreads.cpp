@@ -68,8 +68,10 @@ MediaFacts FactsOf(const clsSource& source, InspectionFiles& files)
             break;
         }
     }
-    if (const auto file = files.Facts(source.fileName()))
+    if (const auto file = files.Facts(source.fileName())) {
         facts.fileSize = file->size;
+        facts.modified = file->modified;
+    }
     return facts;
 }
 

@@ -1,8 +1,10 @@
 #include "app/Player.h"
 
 #include "app/Commands.h"
+#include "app/ListFiles.h"
 #include "app/Snapshots.h"
 #include "base/Paths.h"
+#include "playlist/ListFile.h"
 
 #include <utility>
 
@@ -28,6 +30,7 @@ Player::Player(PlayerWorld world)
     , m_history(m_world.historyStore, m_menus, m_world.runForHistory)
     , m_discs(m_world.discs, m_settings, m_transport, m_library, m_menus, m_window, m_face)
     , m_sequencer({ m_settings, m_transport, m_library, m_discs, m_menus, m_history, m_window, m_world.power, m_face })
+    , m_editor({ m_settings, m_transport, m_library, m_menus, m_face })
     , m_instance(m_world.handOver, m_world.store, m_world.separator)
     , m_associations(m_world.associations, m_world.associationStore, m_world.separator)
 {
@@ -72,7 +75,8 @@ void Player::LoadConfigurations()
 void Player::OpenStartupFile()
 {
     const auto& path = m_instance.Request().StartupArgument;
-    if (!m_world.fileExists(path) || !IsSupportedFile(path, m_world.separator))
+    const bool isOurs = IsSupportedFile(path, m_world.separator) || ListFormatOf(path, m_world.separator);
+    if (!m_world.fileExists(path) || !isOurs)
         return StartIsOver();
     m_library.LoadThumb(FileNamePart(path, m_world.separator), path, Settings().LaunchFullScreen != 0,
         m_instance.Request().ReplaceOnOpen, [this](AddOutcome) { StartIsOver(); });
@@ -215,6 +219,18 @@ void Player::EntryAdded()
 {
     if (Entries().Count() > 0)
         m_menus.SmartMenuXP1.SetEnabled({ "Remove", "RemoveAll", "Next", "Previous" }, true);
+    m_face.window->StateChanged();
+}
+
+void Player::FilesFound(const FoundFiles& found)
+{
+    TakeFound(*this, found);
+}
+
+void Player::AddProgressChanged()
+{
+    if (m_library.Adding().total == 0)
+        Entries().Edits().EndAdding();
     m_face.window->StateChanged();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Associations.h"
+#include "app/ListEditor.h"
 #include "app/Sequencer.h"
 #include "app/SingleInstance.h"
 
@@ -77,6 +78,7 @@ public:
     const Playlist& Entries() const { return m_library.Entries(); }
     Sequencer& Sequence() { return m_sequencer; }
     const Sequencer& Sequence() const { return m_sequencer; }
+    ListEditor& Editing() { return m_editor; }
     DiscSession& Discs() { return m_discs; }
     WindowControl& Window() { return m_window; }
     Menus& BothMenus() { return m_menus; }
@@ -96,9 +98,10 @@ private:
     void PlayItem(int index, bool playFlag) override { m_sequencer.PlayChosen(index, playFlag); }
     std::int32_t PlayMode() const override { return Settings().PlayMode; }
     void EntryAdded() override;
-    void AddProgressChanged() override { m_face.window->StateChanged(); }
+    void AddProgressChanged() override;
     void AskForFiles(const std::string& title, const std::string& filter,
         std::function<void(std::vector<std::string>)> chosen) override;
+    void FilesFound(const FoundFiles& found) override;
     void RunInBackground(std::function<std::function<void()>()> work) override { m_world.runInBackground(work); }
 
     PlayerWorld m_world;
@@ -111,6 +114,7 @@ private:
     History m_history;
     DiscSession m_discs;
     Sequencer m_sequencer;
+    ListEditor m_editor;
     SingleInstance m_instance;
     Associations m_associations;
     bool m_starting = true;

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace zentaro {
@@ -36,6 +37,10 @@ public:
     /// Shows a short line in the window that goes by itself, with a small copy of the picture in `file` unless that is
     /// empty.
     virtual void ShowNote(const std::string& text, const std::string& file = {}) = 0;
+    /// Brings the list and its finding forward.
+    virtual void FindInList() = 0;
+    /// The same as ShowNote with a button that runs the command of this id.
+    virtual void ShowOffer(const std::string& text, std::string_view command) = 0;
     /// What is shown follows from the player's state, which has changed.
     virtual void StateChanged() = 0;
 };
@@ -51,8 +56,12 @@ public:
     /// Asks for files, more than one at will: one text per folder, as ParseOpenFileResult reads it; none on cancel.
     virtual void AskForFiles(
         const std::string& title, const std::string& filter, std::function<void(std::vector<std::string>)> chosen) = 0;
+    /// Asks under which name a list is to be saved; empty on cancel.
+    virtual void AskForListName(std::function<void(std::string)> chosen) = 0;
     /// Asks for one file of subtitles; empty on cancel.
     virtual void AskForSubtitles(std::function<void(std::string)> chosen) = 0;
+    /// Opens the file manager where that file lies.
+    virtual void ShowFolderOf(const std::string& path) = 0;
     /// WindowControl::DialogClosed() follows.
     virtual void ShowOptions() = 0;
     virtual void ShowAbout() = 0;

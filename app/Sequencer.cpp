@@ -130,18 +130,6 @@ void Sequencer::ListDoubleClicked()
     Entries().MovePositionToSelected();
 }
 
-void Sequencer::RemoveSelected()
-{
-    Entries().RemoveSelected();
-    m_rooms.face.window->StateChanged();
-}
-
-void Sequencer::RemoveAll()
-{
-    Entries().RemoveAll();
-    m_rooms.face.window->StateChanged();
-}
-
 void Sequencer::SetPlayMode(std::int32_t mode)
 {
     m_rooms.settings.SetPlayMode(mode);

@@ -47,8 +47,6 @@ public:
     void cmdPreviousClick();
     void ListClicked();
     void ListDoubleClicked();
-    void RemoveSelected();
-    void RemoveAll();
 
     void PBNormal() { SetPlayMode(kPlayNormal); }
     void PBCont() { SetPlayMode(kPlayContinuous); }

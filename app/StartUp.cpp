@@ -1,6 +1,7 @@
 #include "app/StartUp.h"
 
 #include "base/Paths.h"
+#include "playlist/ListFile.h"
 
 #include <algorithm>
 
@@ -39,7 +40,8 @@ StartRole DecideRole(const StartupRequest& request, const PublishedHandles& hand
         return {};
     if (request.handOverText.empty())
         return { Kind::Messenger, handles.probe, "Hello" };
-    if (IsSupportedFile(request.StartupArgument, separator))
+    const auto& file = request.StartupArgument;
+    if (IsSupportedFile(file, separator) || ListFormatOf(file, separator))
         return { Kind::Messenger, handles.command, request.handOverText };
     return { Kind::Messenger, {}, {} };
 }

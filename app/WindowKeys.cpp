@@ -2,6 +2,7 @@
 
 #include "app/Commands.h"
 #include "app/ControlPanel.h"
+#include "app/ListSearch.h"
 #include "app/Player.h"
 #include "playlist/FancyList.h"
 #include "shell/MenuStrip.h"
@@ -18,6 +19,7 @@ WindowKeys::WindowKeys(Player& player, QWidget& window, Parts parts)
     , m_player(player)
     , m_window(window)
     , m_parts(parts)
+    , m_search(new ListSearch(player, parts.list))
 {
     MakeShortcuts();
     window.installEventFilter(this);
@@ -45,6 +47,8 @@ bool WindowKeys::FocusUsesKey(const QKeyEvent& event) const
     const auto* const focus = QApplication::focusWidget();
     if (focus == &m_parts.strip)
         return true;
+    if (focus == &m_parts.list && m_search->UsesKey(event))
+        return true;
     const bool isPlain = event.modifiers() == Qt::NoModifier || event.modifiers() == Qt::KeypadModifier;
     if (focus == nullptr || focus == &m_window || !isPlain)
         return false;
@@ -54,13 +58,14 @@ bool WindowKeys::FocusUsesKey(const QKeyEvent& event) const
     return m_parts.controls.UsesKey(focus, key);
 }
 
-bool WindowKeys::MoveSelection(int key)
+bool WindowKeys::MoveSelection(const QKeyEvent& event)
 {
-    const auto move = [this](SelectionMove where) {
+    const auto move = [&](SelectionMove where) {
         m_player.Entries().MoveSelection(where, m_player.Settings().PlayMode);
+        m_parts.list.SelectionMovedByKey(event.modifiers() & Qt::ShiftModifier);
         return true;
     };
-    switch (key) {
+    switch (event.key()) {
     case Qt::Key_Up:
         return move(SelectionMove::Up);
     case Qt::Key_Down:
@@ -74,10 +79,15 @@ bool WindowKeys::MoveSelection(int key)
     }
 }
 
+bool WindowKeys::ListKeyPressed(const QKeyEvent& event)
+{
+    return m_search->Press(event) || MoveSelection(event);
+}
+
 bool WindowKeys::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == &m_parts.list && event->type() == QEvent::KeyPress)
-        return MoveSelection(static_cast<QKeyEvent*>(event)->key());
+        return ListKeyPressed(*static_cast<QKeyEvent*>(event));
     // Asked of the part that has the focus, and then of the window around it, before a shortcut is looked for.
     if (watched == &m_window && event->type() == QEvent::ShortcutOverride
         && FocusUsesKey(*static_cast<QKeyEvent*>(event))) {

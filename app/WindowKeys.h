@@ -9,6 +9,7 @@ namespace zentaro {
 
 class ControlPanel;
 class FancyList;
+class ListSearch;
 class MenuStrip;
 class Player;
 
@@ -31,13 +32,15 @@ protected:
 
 private:
     void MakeShortcuts();
+    bool ListKeyPressed(const QKeyEvent& event);
     bool FocusUsesKey(const QKeyEvent& event) const;
     /// The list has no keys of its own. False for keys that do not move its selection.
-    bool MoveSelection(int key);
+    bool MoveSelection(const QKeyEvent& event);
 
     Player& m_player;
     QWidget& m_window;
     Parts m_parts;
+    ListSearch* m_search;
 };
 
 } // namespace zentaro

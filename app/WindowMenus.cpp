@@ -1,5 +1,6 @@
 #include "app/WindowMenus.h"
 
+#include "app/ListMenu.h"
 #include "app/frmMenu.h"
 #include "shell/Caption.h"
 
@@ -16,8 +17,12 @@ WindowMenus::WindowMenus(Player& player, QWidget& window)
 
 frmMenu& WindowMenus::Menus()
 {
-    if (m_menus == nullptr)
+    if (m_menus == nullptr) {
         m_menus = new frmMenu(m_player, &m_window);
+        m_menus->Menu("mnuPlayListmenu")->addSeparator();
+        m_listMenu = new ListMenu(m_player, &m_window);
+        m_menus->Menu("mnuPlayListmenu")->addMenu(m_listMenu);
+    }
     return *m_menus;
 }
 
@@ -29,6 +34,12 @@ void WindowMenus::Popup(const std::string& menu, const QPoint& at)
 void WindowMenus::PopupAbove(const std::string& menu, const QPoint& at)
 {
     Menus().PopupAbove(menu, at);
+}
+
+void WindowMenus::PopupListMenu(const QPoint& at)
+{
+    Menus();
+    m_listMenu->popup(at);
 }
 
 void WindowMenus::ShowTray(bool isWanted)

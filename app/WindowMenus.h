@@ -10,6 +10,7 @@ class QWidget;
 
 namespace zentaro {
 
+class ListMenu;
 class Player;
 class frmMenu;
 
@@ -22,6 +23,8 @@ public:
     void Popup(const std::string& menu, const QPoint& at);
     /// It stands on that place.
     void PopupAbove(const std::string& menu, const QPoint& at);
+    /// The menu of the list's rows.
+    void PopupListMenu(const QPoint& at);
     void ShowTray(bool isWanted);
 
 private:
@@ -30,6 +33,7 @@ private:
     Player& m_player;
     QWidget& m_window;
     frmMenu* m_menus = nullptr;
+    ListMenu* m_listMenu = nullptr;
     QPointer<QSystemTrayIcon> m_tray;
 };
 

@@ -1,6 +1,7 @@
 #include "app/WindowNotes.h"
 
 #include "app/Background.h"
+#include "app/Commands.h"
 #include "app/Player.h"
 #include "playback/TimeText.h"
 #include "playback/VideoFrame.h"
@@ -19,6 +20,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kNoteTime = 5s;
+constexpr auto kOfferTime = 8s;
 constexpr auto kChangeTime = 1500ms;
 
 } // namespace
@@ -31,6 +33,7 @@ WindowNotes::WindowNotes(Player& player, QWidget& video, QWidget& content)
     , m_shownVolume(VolumeText())
 {
     LetCoverVideo(*m_box);
+    QObject::connect(m_box, &NoteBox::OfferTaken, m_box, [this] { m_offered->run(m_player, 0); });
 }
 
 QRect WindowNotes::Area() const
@@ -53,6 +56,18 @@ void WindowNotes::Show(const std::string& text, const std::string& file)
         reader.setScaledSize(reader.size().scaled(room, Qt::KeepAspectRatio));
         return [show, picture = reader.read()] { show(picture); };
     });
+}
+
+void WindowNotes::Offer(const std::string& text, std::string_view command)
+{
+    const auto* const offered = FindCommand(command);
+    if (offered == nullptr)
+        return;
+    auto caption = ToQString(std::string(offered->caption)).remove('&');
+    if (const auto key = ShownKey(*offered); !key.empty())
+        caption += " (" + ToQString(std::string(key)) + ")";
+    m_box->Show(Area(), ToQString(text), {}, kOfferTime, caption);
+    m_offered = offered;
 }
 
 void WindowNotes::Place()

@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <string>
+#include <string_view>
 
 class QImage;
 class QRect;
@@ -13,6 +14,7 @@ namespace zentaro {
 
 class NoteBox;
 class Player;
+struct Command;
 
 /// The short lines over the video: what has happened, and the volume and speed where nothing else shows them.
 class WindowNotes {
@@ -23,6 +25,8 @@ public:
     NoteBox& Box() { return *m_box; }
     /// With a small copy of the picture in `file`, unless that is empty.
     void Show(const std::string& text, const std::string& file);
+    /// With a button that runs the command of this id.
+    void Offer(const std::string& text, std::string_view command);
     /// The wheel over the video, in eighths of a degree.
     void TurnVolume(int eighths);
     /// Volume, speed, pause or place may be new; `isAlone` where no control shows them.
@@ -46,6 +50,7 @@ private:
     double m_shownRate = 1;
     bool m_shownPause = false;
     int m_shownSeeks = 0;
+    const Command* m_offered = nullptr;
 };
 
 } // namespace zentaro

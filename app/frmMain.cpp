@@ -3,6 +3,7 @@
 #include "app/CommandMenu.h"
 #include "app/ContentPane.h"
 #include "app/ControlPanel.h"
+#include "app/ListMenu.h"
 #include "app/Player.h"
 #include "app/VideoHand.h"
 #include "app/VideoMenu.h"
@@ -94,6 +95,8 @@ void frmMain::MakeList()
             m_menus->Popup("mnuPlayListmenu", m_list->mapToGlobal(QPoint(x, y)));
     });
     connect(m_list, &FancyList::CancelAdding, this, [this] { m_player.Files().CancelAdding(); });
+    connect(m_list, &FancyList::RowsDragged, this, [this](int to) { m_player.Editing().MoveTo(to); });
+    connect(m_list, &FancyList::MenuAsked, this, [this](const QPoint& at) { m_menus->PopupListMenu(at); });
     connect(m_list, &FancyList::OLEDragDrop, this,
         [this](const QMimeData* dropped) { m_player.Files().DropOnList(DroppedPaths(*dropped)); });
 }
@@ -105,6 +108,9 @@ void frmMain::MakeMenus()
     for (auto* const menu : commands->TopMenus())
         m_strip->addMenu(menu);
     m_strip->insertMenu(m_strip->actions().last(), MakeVideoMenu(*this, m_player));
+    auto* const listMenu = commands->Menu("PlayList");
+    listMenu->addSeparator();
+    listMenu->addMenu(new ListMenu(m_player, this));
     new WindowKeys(m_player, *this, { *m_list, *m_strip, *m_controls });
 }
 
@@ -168,6 +174,19 @@ void frmMain::ShowNote(const std::string& text, const std::string& file)
     m_notes->Show(text, file);
 }
 
+void frmMain::FindInList()
+{
+    if (!m_list->isVisible())
+        m_player.Window().cmdPlayListClick();
+    m_list->setFocus(Qt::ShortcutFocusReason);
+    m_list->InviteFind();
+}
+
+void frmMain::ShowOffer(const std::string& text, std::string_view command)
+{
+    m_notes->Offer(text, command);
+}
+
 void frmMain::StateChanged()
 {
     m_controls->Show();
@@ -182,6 +201,8 @@ void frmMain::StateChanged()
     if (isVisible())
         m_menus->ShowTray(m_player.Window().HasTrayIcon());
     ShowAddProgress();
+    if (const auto revision = m_player.Entries().Revision(); std::exchange(m_toldRevision, revision) != revision)
+        m_list->SetFoot(ToQString(SummaryText(m_player.Entries())));
     m_notes->ShowState(FillsScreen() && !m_bar->isVisible());
     m_timers.Follow();
     m_bar->update();

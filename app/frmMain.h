@@ -47,6 +47,8 @@ public:
     void FocusVideo() override;
     void PopupMenu(const std::string& menu) override;
     void ShowNote(const std::string& text, const std::string& file) override;
+    void FindInList() override;
+    void ShowOffer(const std::string& text, std::string_view command) override;
     void StateChanged() override;
 
 protected:
@@ -78,6 +80,7 @@ private:
     MenuStrip* m_strip = nullptr;
     QTimer m_progressDelay;
     AddProgress m_progress;
+    std::uint64_t m_toldRevision = 0;
     QString m_caption;
     PlaylistDock m_dock = PlaylistDock::Hidden;
     bool m_isTopmost = false;

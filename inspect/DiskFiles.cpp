@@ -43,11 +43,12 @@ std::optional<FileFacts> DiskFiles::Facts(const std::string& path)
     const auto size = std::filesystem::file_size(name, problem);
     if (problem)
         return std::nullopt;
-    FileFacts facts{ static_cast<std::int64_t>(size), "" };
+    FileFacts facts{ static_cast<std::int64_t>(size), "", 0 };
     const auto changed = std::filesystem::last_write_time(name, problem);
     if (!problem) {
         const auto time = std::chrono::file_clock::to_sys(changed).time_since_epoch();
-        facts.lastModified = m_dateText(std::chrono::duration_cast<std::chrono::seconds>(time).count());
+        facts.modified = std::chrono::duration_cast<std::chrono::seconds>(time).count();
+        facts.lastModified = m_dateText(facts.modified);
     }
     return facts;
 }

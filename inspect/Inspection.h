@@ -16,8 +16,9 @@ namespace zentaro {
 
 /// What a directory entry tells about a file.
 struct FileFacts {
-    std::int64_t size = 0;    // bytes
-    std::string lastModified; // date and time as a text of the user's locale
+    std::int64_t size = 0;     // bytes
+    std::string lastModified;  // date and time as a text of the user's locale
+    std::int64_t modified = 0; // the same in seconds since 1970; 0 while unknown
 };
 
 /// What keeps a file from being read, as far as its directory entry and its first byte tell.

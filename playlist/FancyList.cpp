@@ -2,7 +2,9 @@
 
 #include "playlist/AddProgressLine.h"
 #include "playlist/FancyListAccessible.h"
+#include "playlist/ListFoot.h"
 
+#include <QContextMenuEvent>
 #include <QDir>
 #include <QFontMetrics>
 #include <QHelpEvent>
@@ -11,7 +13,7 @@
 #include <QToolTip>
 #include <QUrl>
 
-#include <cstdlib>
+#include <algorithm>
 #include <utility>
 
 namespace zentaro {
@@ -21,8 +23,6 @@ namespace {
 // Heights of a line, in pixels.
 constexpr int kTitleHeight = 18;
 constexpr int kDetailHeight = 15;
-// The smallest wheel delta that moves the view by one pixel.
-constexpr int kWheelPixel = 16;
 // Characters of a title that a tool tip shows.
 constexpr int kLongestTip = 500;
 
@@ -54,7 +54,11 @@ FancyList::FancyList(FancyListItems& items, QWidget* parent)
     : QWidget(parent)
     , m_items(items)
     , m_layout(items, *this)
+    , m_marks(items)
+    , m_drag(m_layout)
+    , m_wheel(m_layout)
     , m_progressLine(new AddProgressLine(this))
+    , m_foot(new ListFoot(this))
 {
     m_look.font = FancyListFont(kTitleHeight);
     m_look.detailFont = FancyListFont(kDetailHeight);
@@ -76,12 +80,56 @@ void FancyList::RenderThumb(QPainter& painter, const Picture& picture, int x, in
     FancyListPainter(painter, m_layout, m_look, m_thumbs).RenderThumb(picture, { x, y, x + width, y + height });
 }
 
+void FancyList::InviteFind()
+{
+    if (!IsFinding())
+        m_foot->SetText(tr("Find: type a part of a title or folder"), true);
+    PlaceSurface();
+}
+
 void FancyList::ShowAddProgress(const AddProgress& progress)
 {
     const bool wasShown = m_progressLine->isVisibleTo(this);
     m_progressLine->SetProgress(progress);
     if (wasShown != m_progressLine->isVisibleTo(this))
-        PlaceSurface();
+        ShowFoot();
+}
+
+void FancyList::SetFoot(const QString& text)
+{
+    m_footText = text;
+    ShowFoot();
+}
+
+void FancyList::SetFind(const std::string& words, std::vector<int> rows)
+{
+    m_look.find = words;
+    const auto found = rows.size();
+    m_layout.SetFilter(words.empty() ? std::nullopt : std::optional(std::move(rows)));
+    ShowFoot();
+    if (words.empty())
+        m_layout.ScrollToRow(SelectedItem());
+    else
+        m_foot->SetText(tr("Find: %1   %2 of %3").arg(QString::fromStdString(words)).arg(found).arg(Count()), true);
+    update();
+}
+
+// How far a batch is goes before what there is.
+void FancyList::ShowFoot()
+{
+    const bool isAdding = m_progressLine->isVisibleTo(this);
+    if (isAdding)
+        m_foot->SetText({}, false);
+    else if (!IsFinding())
+        m_foot->SetText(m_footText, false);
+    PlaceSurface();
+}
+
+int FancyList::LineHeight() const
+{
+    if (m_progressLine->isVisibleTo(this))
+        return m_progressLine->sizeHint().height();
+    return m_foot->isVisibleTo(this) ? m_foot->sizeHint().height() : 0;
 }
 
 void FancyList::SetHint(const QString& hint)
@@ -108,6 +156,7 @@ bool FancyList::event(QEvent* event)
 void FancyList::paintEvent(QPaintEvent*)
 {
     m_look.palette = palette();
+    m_look.dropLine = m_drag.IsDragging() ? std::max(0, m_drag.LineTop()) : -1;
     QPainter painter(this);
     FancyListPainter(painter, m_layout, m_look, m_thumbs).Paint();
 }
@@ -122,6 +171,11 @@ void FancyList::mousePressEvent(QMouseEvent* event)
     if (event->button() == Qt::LeftButton && GrabScrollBar(event->pos()))
         return;
     m_clickPending = event->button() == Qt::LeftButton;
+    if (m_clickPending) {
+        m_marks.Press(m_layout.RowAt(event->pos().y()), event->modifiers() & Qt::ControlModifier,
+            event->modifiers() & Qt::ShiftModifier);
+        m_drag.Press(event->pos());
+    }
     Press(*event);
 }
 
@@ -132,8 +186,18 @@ void FancyList::mouseReleaseEvent(QMouseEvent* event)
     if (m_thumbGrip >= 0) {
         m_thumbGrip = -1;
         SetScrollBarLook(IsOnScrollBar(event->pos()) ? ScrollBarLook::Over : ScrollBarLook::Normal);
-    } else if (std::exchange(m_clickPending, false) && rect().contains(event->pos())) {
+        return;
+    }
+    const bool wasDragging = m_drag.IsDragging();
+    const auto to = m_drag.Release();
+    if (std::exchange(m_clickPending, false) && rect().contains(event->pos()) && !wasDragging) {
+        m_marks.Release(m_layout.RowAt(event->pos().y()), event->modifiers() & Qt::ControlModifier,
+            event->modifiers() & Qt::ShiftModifier);
         emit Click();
+    }
+    if (to) {
+        update();
+        emit RowsDragged(*to);
     }
 }
 
@@ -152,22 +216,40 @@ void FancyList::mouseMoveEvent(QMouseEvent* event)
         m_layout.SetScrollValue(m_layout.ScrollValueForThumb(event->pos().y() - m_thumbGrip));
         return;
     }
+    if (event->buttons() & Qt::LeftButton) {
+        m_drag.Move(event->pos());
+        if (m_drag.IsDragging())
+            update();
+    }
     SetScrollBarLook(IsOnScrollBar(event->pos()) ? ScrollBarLook::Over : ScrollBarLook::Normal);
+    SetHover(m_layout.RowAt(event->pos().y()));
     emit MouseMove(event->buttons(), event->modifiers(), event->pos().x(), event->pos().y());
+}
+
+void FancyList::SetHover(int row)
+{
+    if (std::exchange(m_look.hoverRow, row) != row)
+        update();
+}
+
+void FancyList::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() != QContextMenuEvent::Keyboard)
+        return;
+    const auto row = m_layout.RowRect(std::max(0, SelectedItem()));
+    emit MenuAsked(mapToGlobal(QPoint(width() / 4, std::clamp(row.bottom, 0, height()))));
 }
 
 void FancyList::leaveEvent(QEvent*)
 {
+    SetHover(FancyListItems::kNone);
     if (m_thumbGrip < 0)
         SetScrollBarLook(ScrollBarLook::Normal);
 }
 
 void FancyList::wheelEvent(QWheelEvent* event)
 {
-    m_wheelRest += event->angleDelta().y();
-    // Touch pads send deltas that would each round to nothing.
-    if (std::abs(m_wheelRest) >= kWheelPixel)
-        m_layout.Scroll(std::exchange(m_wheelRest, 0));
+    m_wheel.Turn(*event);
     event->accept();
 }
 
@@ -208,6 +290,8 @@ void FancyList::dropEvent(QDropEvent* event)
 
 void FancyList::ListChanged()
 {
+    if (IsFinding())
+        emit FindOutdated();
     if (std::exchange(m_toldCount, Count()) != Count())
         FancyListAccessible::TellRowsChanged(*this);
     if (std::exchange(m_toldSelection, SelectedItem()) != SelectedItem())
@@ -216,8 +300,9 @@ void FancyList::ListChanged()
 
 void FancyList::PlaceSurface()
 {
-    const int line = m_progressLine->isVisibleTo(this) ? m_progressLine->sizeHint().height() : 0;
-    m_progressLine->setGeometry(0, height() - line, width(), m_progressLine->sizeHint().height());
+    const int line = LineHeight();
+    for (QWidget* const part : { static_cast<QWidget*>(m_progressLine), static_cast<QWidget*>(m_foot) })
+        part->setGeometry(0, height() - line, width(), part->sizeHint().height());
     m_layout.SetSurfaceSize(width(), height() - line);
 }
 
@@ -245,6 +330,7 @@ bool FancyList::GrabScrollBar(const QPoint& at)
         return false;
     const auto thumb = m_layout.ScrollThumb(kScrollBarWidth);
     const bool onThumb = at.y() >= thumb.top && at.y() < thumb.bottom;
+    m_wheel.Stop();
     m_thumbGrip = onThumb ? at.y() - thumb.top : thumb.Height() / 2;
     m_layout.SetScrollValue(m_layout.ScrollValueForThumb(at.y() - m_thumbGrip));
     SetScrollBarLook(ScrollBarLook::Press);

@@ -3,7 +3,10 @@
 #include "playlist/AddQueue.h"
 #include "playlist/FancyListLayout.h"
 #include "playlist/FancyListPainter.h"
+#include "playlist/RowDrag.h"
+#include "playlist/RowMarks.h"
 #include "playlist/ThumbCache.h"
+#include "playlist/WheelScroll.h"
 
 #include <QMimeData>
 #include <QWidget>
@@ -15,6 +18,7 @@
 namespace zentaro {
 
 class AddProgressLine;
+class ListFoot;
 
 /// The local paths of dropped or pasted files, in order; bytes that are no UTF-8 survive.
 std::vector<std::string> DroppedPaths(const QMimeData& data);
@@ -67,12 +71,29 @@ public:
     /// Shows how far a batch is in a line at the bottom, which the rows make room for; nothing hides it.
     void ShowAddProgress(const AddProgress& progress);
 
+    /// The line below the rows; empty for none.
+    void SetFoot(const QString& text);
+    /// Shows only these rows and marks in them what was looked for, which the line below the rows tells; empty words
+    /// end it.
+    void SetFind(const std::string& words, std::vector<int> rows);
+    /// Says that typing finds.
+    void InviteFind();
+    bool IsFinding() const { return !m_look.find.empty(); }
+    /// A key has moved the selection; with Shift the rows on its way are marked.
+    void SelectionMovedByKey(bool shift) { m_marks.SelectionMoved(shift); }
+
     /// A line that stands in the list while it has no entries; empty for none.
     void SetHint(const QString& hint);
 
     QSize sizeHint() const override;
 
 signals:
+    /// The chosen rows were dragged to stand before the row `to`.
+    void RowsDragged(int to);
+    /// The menu key was pressed; `at` is a place on the screen.
+    void MenuAsked(const QPoint& at);
+    /// Rows were added, taken out or arranged anew while only some are shown.
+    void FindOutdated();
     void Click();
     void DblClick();
     void OLEDragDrop(const QMimeData* data, Qt::DropAction effect, Qt::MouseButtons button, Qt::KeyboardModifiers shift,
@@ -93,6 +114,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -107,15 +129,22 @@ private:
     bool IsOnScrollBar(const QPoint& at) const;
     bool GrabScrollBar(const QPoint& at);
     void Press(const QMouseEvent& event);
+    void SetHover(int row);
+    void ShowFoot();
+    int LineHeight() const;
     void SetScrollBarLook(ScrollBarLook look);
 
     FancyListItems& m_items;
     FancyListLayout m_layout;
     FancyListLook m_look;
     ThumbCache m_thumbs;
+    RowMarks m_marks;
+    RowDrag m_drag;
+    WheelScroll m_wheel;
     AddProgressLine* m_progressLine;
+    ListFoot* m_foot;
+    QString m_footText;
     int m_thumbGrip = -1; // where the scroll bar's thumb is held, in pixels below its top
-    int m_wheelRest = 0;  // fine wheel deltas that do not move a pixel yet
     int m_toldSelection = FancyListItems::kNone;
     int m_toldCount = 0;
     bool m_clickPending = false;

@@ -64,7 +64,10 @@ public:
         state.selected = m_list->SelectedItem() == m_row;
         state.focusable = true;
         state.focused = state.selected && m_list->hasFocus();
-        state.offscreen = m_row < visible.first || m_row > visible.last;
+        const int place = m_list->Layout().PlaceOf(m_row);
+        state.multiSelectable = true;
+        state.selected = state.selected || m_list->Items().Item(m_row).IsMarked;
+        state.offscreen = place < visible.first || place > visible.last;
         return state;
     }
 

@@ -1,5 +1,6 @@
 #include "playlist/FancyListItems.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace zentaro {
@@ -26,6 +27,71 @@ void FancyListItems::SetPlayingItem(int index)
     m_playingItem = IsRow(index) ? index : kNone;
     RepaintIfRefresh();
     ShowRow(m_playingItem);
+}
+
+void FancyListItems::MarkPlaying(int index)
+{
+    m_playingItem = IsRow(index) ? index : kNone;
+    RepaintIfRefresh();
+}
+
+std::vector<FancyListItem> FancyListItems::TakeItems()
+{
+    m_playingItem = kNone;
+    return std::exchange(m_items, {});
+}
+
+void FancyListItems::SetItems(std::vector<FancyListItem> items)
+{
+    m_items = std::move(items);
+    if (m_selectedItem > Count())
+        m_selectedItem = kNone;
+    Changed();
+}
+
+void FancyListItems::RestoreSelection(int index)
+{
+    m_selectedItem = index >= 0 && index <= Count() ? index : kNone;
+    Changed();
+}
+
+std::vector<int> FancyListItems::MarkedRows() const
+{
+    std::vector<int> rows;
+    for (int row = 0; row < Count(); ++row) {
+        if (Item(row).IsMarked)
+            rows.push_back(row);
+    }
+    return rows;
+}
+
+bool FancyListItems::IsAnyMarked() const
+{
+    return std::ranges::any_of(m_items, &FancyListItem::IsMarked);
+}
+
+void FancyListItems::SetMarked(int row, bool isMarked)
+{
+    if (!IsRow(row))
+        return;
+    m_items[static_cast<std::size_t>(row)].IsMarked = isMarked;
+    Changed();
+}
+
+void FancyListItems::MarkOnly(int from, int to)
+{
+    for (int row = 0; row < Count(); ++row)
+        m_items[static_cast<std::size_t>(row)].IsMarked = row >= std::min(from, to) && row <= std::max(from, to);
+    Changed();
+}
+
+void FancyListItems::ClearMarks()
+{
+    if (!IsAnyMarked())
+        return;
+    for (auto& item : m_items)
+        item.IsMarked = false;
+    Changed();
 }
 
 void FancyListItems::ShowRow(int row) const

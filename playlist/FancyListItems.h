@@ -12,6 +12,7 @@ struct FancyListItem {
     std::string Text;
     Picture Pic;
     std::string Detail;
+    bool IsMarked = false; ///< one of several that were chosen together
 };
 
 /// What shows a FancyListItems is told.
@@ -56,6 +57,8 @@ public:
     int PlayingItem() const { return m_playingItem; }
     /// Values that name no row take the mark away. A row that gets it is brought into sight.
     void SetPlayingItem(int index);
+    /// As above, but the list stays where it is.
+    void MarkPlaying(int index);
     /// Has the row brought into sight where the list is shown; values that name no row do nothing.
     void ShowRow(int row) const;
 
@@ -67,6 +70,23 @@ public:
     void Clear();
     /// The row behind the removed one is selected, if there is one; else the selection keeps its number.
     void RemoveItem(int index);
+
+    /// Takes all rows out, to be put back in another order; nobody is told before that. Selection and marks of the
+    /// rows are not lost, the mark of the entry being played is.
+    std::vector<FancyListItem> TakeItems();
+    void SetItems(std::vector<FancyListItem> items);
+    /// A selection of before: kNone, a row, or Count().
+    void RestoreSelection(int index);
+
+    // Several rows, chosen together for what is done next; beside the selection.
+    /// In order.
+    std::vector<int> MarkedRows() const;
+    bool IsAnyMarked() const;
+    /// Rows that are not there are left out.
+    void SetMarked(int row, bool isMarked);
+    /// These and no others, whichever of the two comes first.
+    void MarkOnly(int from, int to);
+    void ClearMarks();
 
 private:
     bool IsRow(int index) const { return index >= 0 && index < Count(); }

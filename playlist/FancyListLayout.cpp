@@ -75,6 +75,23 @@ void FancyListLayout::SetSurfaceSize(int width, int height)
     RepaintRequested();
 }
 
+void FancyListLayout::SetFilter(std::optional<std::vector<int>> rows)
+{
+    m_filter = std::move(rows);
+    if (m_filter)
+        std::erase_if(*m_filter, [this](int row) { return row >= m_items.Count(); });
+    UpdateScrollRange();
+    RepaintRequested();
+}
+
+int FancyListLayout::PlaceOf(int row) const
+{
+    if (!m_filter)
+        return row;
+    const auto at = std::lower_bound(m_filter->begin(), m_filter->end(), row);
+    return at != m_filter->end() && *at == row ? static_cast<int>(at - m_filter->begin()) : FancyListItems::kNone;
+}
+
 void FancyListLayout::Scroll(int delta)
 {
     SetScrollValue(RoundHalfEven(m_scrollValue - delta / kWheelUnitsPerPixel));
@@ -88,7 +105,7 @@ void FancyListLayout::SetScrollValue(int value)
 
 void FancyListLayout::ScrollToRow(int row)
 {
-    if (row < 0 || row >= m_items.Count())
+    if (row < 0 || row >= m_items.Count() || PlaceOf(row) < 0)
         return;
     const auto rect = RowRect(row);
     if (rect.bottom > m_surfaceHeight)
@@ -100,7 +117,7 @@ void FancyListLayout::ScrollToRow(int row)
 
 bool FancyListLayout::ScrollBarVisible() const
 {
-    return RowsEnd() <= m_items.Count();
+    return RowsEnd() <= PlaceCount();
 }
 
 ListRect FancyListLayout::ScrollBar(int width) const
@@ -134,14 +151,14 @@ int FancyListLayout::ScrollValueForThumb(int top) const
 
 ListRows FancyListLayout::VisibleRows() const
 {
-    return { FirstRow(), std::min(RowsEnd(), m_items.Count() - 1) };
+    return { FirstRow(), std::min(RowsEnd(), PlaceCount() - 1) };
 }
 
 int FancyListLayout::RowAt(int y) const
 {
     const std::int64_t at = static_cast<std::int64_t>(m_scrollValue) + y;
-    const std::int64_t row = at < 0 ? FancyListItems::kNone : at / RowHeight();
-    return row < m_items.Count() ? static_cast<int>(row) : FancyListItems::kNone;
+    const std::int64_t place = at < 0 ? FancyListItems::kNone : at / RowHeight();
+    return place >= 0 && place < PlaceCount() ? RowOf(static_cast<int>(place)) : FancyListItems::kNone;
 }
 
 ListRect FancyListLayout::RowRect(int row) const
@@ -188,6 +205,8 @@ ListRect FancyListLayout::FitThumb(int pictureWidth, int pictureHeight, const Li
 
 void FancyListLayout::ListChanged()
 {
+    if (m_filter)
+        std::erase_if(*m_filter, [this](int row) { return row >= m_items.Count(); });
     UpdateScrollRange();
     m_screen.ListChanged();
 }
@@ -199,7 +218,7 @@ int FancyListLayout::RowHeight() const
 
 int FancyListLayout::RowTop(int row) const
 {
-    return Clamp(static_cast<std::int64_t>(row) * m_itemHeight - m_scrollValue);
+    return Clamp(static_cast<std::int64_t>(PlaceOf(row)) * m_itemHeight - m_scrollValue);
 }
 
 int FancyListLayout::FirstRow() const
@@ -215,8 +234,8 @@ int FancyListLayout::RowsEnd() const
 
 void FancyListLayout::UpdateScrollRange()
 {
-    const std::int64_t range = static_cast<std::int64_t>(m_items.Count()) * m_itemHeight - m_surfaceHeight;
-    m_scrollMax = m_items.Count() > 0 ? std::max(0, Clamp(range)) : 0;
+    const std::int64_t range = static_cast<std::int64_t>(PlaceCount()) * m_itemHeight - m_surfaceHeight;
+    m_scrollMax = PlaceCount() > 0 ? std::max(0, Clamp(range)) : 0;
     // A scroll bar that is moved by its own range tells so like any other move.
     if (m_scrollValue > m_scrollMax)
         SetScrollValue(m_scrollMax);

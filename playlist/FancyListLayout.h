@@ -2,7 +2,10 @@
 
 #include "playlist/FancyListItems.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <vector>
 
 namespace zentaro {
 
@@ -52,6 +55,17 @@ public:
     int SurfaceWidth() const { return m_surfaceWidth; }
     int SurfaceHeight() const { return m_surfaceHeight; }
 
+    /// Only these rows, in ascending order, have a place on the surface; nothing for all. Rows that are not there any
+    /// more are passed over.
+    void SetFilter(std::optional<std::vector<int>> rows);
+    bool IsFiltered() const { return m_filter.has_value(); }
+    /// How many rows have a place.
+    int PlaceCount() const { return m_filter ? static_cast<int>(m_filter->size()) : m_items.Count(); }
+    /// The row at a place, from 0; without a filter each row is at its own.
+    int RowOf(int place) const { return m_filter ? (*m_filter)[static_cast<std::size_t>(place)] : place; }
+    /// FancyListItems::kNone for a row without a place.
+    int PlaceOf(int row) const;
+
     /// Moves the view by a wheel delta (120 a step); a positive one scrolls up.
     void Scroll(int delta);
     /// Pixels scrolled from the top, 0 to ScrollMax().
@@ -69,6 +83,7 @@ public:
     /// The scroll value that brings the top of the thumb to `top`.
     int ScrollValueForThumb(int top) const;
 
+    /// The places of the rows that a paint touches.
     ListRows VisibleRows() const;
     /// The row at a height of the surface; FancyListItems::kNone above the first and below the last one.
     int RowAt(int y) const;
@@ -93,6 +108,7 @@ private:
 
     FancyListItems& m_items;
     FancyListObserver& m_screen;
+    std::optional<std::vector<int>> m_filter;
     int m_itemHeight = 64;
     int m_padding = 8;
     int m_imageWidth = 0;

@@ -1,6 +1,7 @@
 #include "playlist/FancyListPainter.h"
 
 #include "base/Numbers.h"
+#include "playlist/ListFind.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -13,6 +14,10 @@ namespace zentaro {
 namespace {
 
 constexpr int kDetailGap = 4;
+constexpr double kMarkedShare = 0.7;  // of the selection's colour
+constexpr double kMarkedLight = 0.12; // of the warm light
+constexpr double kFoundShare = 0.4;
+constexpr double kHoverShare = 0.35;
 constexpr int kFade = 20; // px, at the end of a line that goes on
 constexpr QStringView kDetailSeparator(u" \u00B7 ");
 
@@ -106,8 +111,10 @@ void FancyListPainter::Paint()
     if (m_layout.Items().Count() == 0)
         PaintHint();
     const auto rows = m_layout.VisibleRows();
-    for (int row = rows.first; row <= rows.last; ++row)
-        PaintRow(row);
+    for (int place = rows.first; place <= rows.last; ++place)
+        PaintRow(m_layout.RowOf(place));
+    if (m_look.dropLine >= 0)
+        m_painter.fillRect(0, m_look.dropLine, m_layout.SurfaceWidth(), 2, QColor(kWarmLight));
     if (m_layout.ScrollBarVisible())
         PaintScrollBar();
     if (m_look.focusFrame)
@@ -126,7 +133,13 @@ void FancyListPainter::PaintRow(int row)
 {
     const auto& item = m_layout.Items().Item(row);
     const bool selected = row == m_layout.Items().SelectedItem();
-    const auto background = m_look.palette.color(selected ? QPalette::Highlight : QPalette::Window);
+    const auto highlight = m_look.palette.color(QPalette::Highlight);
+    auto background = m_look.palette.color(selected ? QPalette::Highlight : QPalette::Window);
+    if (item.IsMarked)
+        background =
+            Mixed(selected ? highlight : Mixed(background, highlight, kMarkedShare), QColor(kWarmLight), kMarkedLight);
+    else if (row == m_look.hoverRow && !selected)
+        background = Mixed(background, highlight, kHoverShare);
     const auto text = m_look.palette.color(selected ? QPalette::HighlightedText : QPalette::ButtonText);
     auto area = ToQRect(m_layout.RowRect(row));
     area.setHeight(area.height() - 1);
@@ -169,6 +182,8 @@ void FancyListPainter::PaintText(
         if (top >= rect.bottom)
             break;
         const auto text = Paintable(line, rect.Width());
+        if (!m_look.find.empty())
+            PaintFound(text, rect, top);
         m_painter.setPen(TextPen(color, metrics.horizontalAdvance(text), rect));
         m_painter.drawText(QPoint(rect.left, top + metrics.ascent()), text);
         top += metrics.height();
@@ -182,6 +197,20 @@ void FancyListPainter::PaintText(
         m_painter.drawText(QPoint(rect.left, top + kDetailGap + detailMetrics.ascent()), detail);
     }
     m_painter.restore();
+}
+
+void FancyListPainter::PaintFound(const QString& line, const ListRect& rect, int top)
+{
+    const QFontMetrics metrics(m_look.font);
+    const auto bytes = line.toStdString();
+    const auto widthUpTo = [&](std::size_t end) {
+        return metrics.horizontalAdvance(QString::fromUtf8(bytes.data(), static_cast<qsizetype>(end)));
+    };
+    for (const auto& part : FoundParts(bytes, m_look.find)) {
+        const int left = widthUpTo(part.begin);
+        m_painter.fillRect(rect.left + left, top, widthUpTo(part.end) - left, metrics.height(),
+            Faded(QColor(kWarmLight), kFoundShare));
+    }
 }
 
 // A bar at the left edge, beside the thumbnail.

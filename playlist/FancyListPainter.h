@@ -6,6 +6,8 @@
 #include <QFont>
 #include <QPalette>
 
+#include <string>
+
 class QPainter;
 
 namespace zentaro {
@@ -23,7 +25,10 @@ struct FancyListLook {
     QFont detailFont;
     ScrollBarLook scrollBar = ScrollBarLook::Normal;
     bool focusFrame = false;
-    QString hint; ///< stands in a list without entries
+    int hoverRow = FancyListItems::kNone;
+    int dropLine = -1; ///< where dragged rows would go, in pixels; below 0 for nowhere
+    std::string find;  ///< the words whose parts of a title are marked
+    QString hint;      ///< stands in a list without entries
 };
 
 /// Width of the scroll bar in pixels.
@@ -46,6 +51,7 @@ private:
     void PaintHint();
     void PaintRow(int row);
     void PaintText(const FancyListItem& item, const ListRect& rect, const QColor& color, const QColor& dimmed);
+    void PaintFound(const QString& line, const ListRect& rect, int top);
     void PaintPlayingMark(int row);
     void PaintScrollBar();
     void PaintFocusFrame();

@@ -1,8 +1,8 @@
 #include "playlist/Library.h"
 
-#include "playlist/DroppedFiles.h"
-#include "playlist/OpenFiles.h"
+#include "playlist/ListFile.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace zentaro {
@@ -24,7 +24,28 @@ Library::~Library()
 void Library::LoadThumb(const std::string& title, const std::string& path, bool playFlag, bool playNow,
     std::function<void(AddOutcome)> decided)
 {
-    m_adding.Add({ { title, path, playFlag, playNow, false, std::move(decided) } }, AddTurn::AtOnce);
+    AddRequest request{ title, path, playFlag, playNow, false, std::move(decided) };
+    if (ListFormatOf(path, m_separator))
+        return LoadList(request);
+    m_adding.Add({ std::move(request) }, AddTurn::AtOnce);
+}
+
+void Library::LoadList(const AddRequest& list)
+{
+    FindMedia({ list.path }, [this, list](const FoundFiles& found) {
+        auto requests = AddRequests(found.media, m_separator, list.playNow);
+        // A list that says nothing is refused like a file that cannot be read.
+        if (requests.empty() && found.listed == 0)
+            requests.push_back(list);
+        if (requests.empty()) {
+            if (list.onDecided)
+                list.onDecided(AddOutcome::Refused);
+            return;
+        }
+        requests.front().playFlag = list.playFlag;
+        requests.front().onDecided = list.onDecided;
+        m_adding.Add(std::move(requests), AddTurn::AtOnce);
+    });
 }
 
 void Library::OpenFiles(bool addOnly, std::function<void()> then)
@@ -46,20 +67,33 @@ void Library::Ask(bool playFirst, bool selectsFirst, std::function<void()> then)
                             const std::vector<std::string>& answers) {
         if (!*isOpen)
             return;
-        std::vector<AddRequest> requests;
+        std::vector<OpenedFile> opened;
         for (const auto& answer : answers) {
-            const auto files = ParseOpenFileResult(answer, m_separator);
-            if (!files)
-                continue;
-            for (auto& request : AddRequests(*files, m_separator, playFirst && requests.empty())) {
-                request.selectsFirst = selectsFirst;
-                requests.push_back(std::move(request));
-            }
+            if (const auto files = ParseOpenFileResult(answer, m_separator))
+                opened.insert(opened.end(), files->begin(), files->end());
         }
-        m_adding.Add(std::move(requests), playFirst ? AddTurn::AtOnce : AddTurn::AfterOthers);
+        AddChosen(opened, playFirst, selectsFirst);
         then();
     };
     m_host.AskForFiles(std::string(kOpenDialogTitle), OpenDialogFilter(), chosen);
+}
+
+void Library::AddChosen(const std::vector<OpenedFile>& files, bool playFirst, bool selectsFirst)
+{
+    const auto turn = playFirst ? AddTurn::AtOnce : AddTurn::AfterOthers;
+    const auto add = [this, turn, selectsFirst](std::vector<AddRequest> requests) {
+        for (auto& request : requests)
+            request.selectsFirst = selectsFirst;
+        m_adding.Add(std::move(requests), turn);
+    };
+    if (std::ranges::none_of(
+            files, [&](const OpenedFile& file) { return ListFormatOf(file.path, m_separator).has_value(); }))
+        return add(AddRequests(files, m_separator, playFirst));
+    std::vector<std::string> paths;
+    for (const auto& file : files)
+        paths.push_back(file.path);
+    FindMedia(paths,
+        [this, add, playFirst](const FoundFiles& found) { add(AddRequests(found.media, m_separator, playFirst)); });
 }
 
 void Library::SelectFirst()
@@ -71,8 +105,8 @@ void Library::SelectFirst()
 void Library::DropOnList(const std::vector<std::string>& paths)
 {
     auto& drop = m_drops.emplace_back();
-    FindMedia(paths, [this, &drop](const std::vector<std::string>& files) {
-        drop = { true, files };
+    FindMedia(paths, [this, &drop](const FoundFiles& found) {
+        drop = { true, found.media };
         AddReadDrops();
     });
 }
@@ -85,19 +119,20 @@ void Library::AddReadDrops()
 
 void Library::DropOnVideo(const std::vector<std::string>& paths)
 {
-    FindMedia(paths, [this](const std::vector<std::string>& files) {
-        m_adding.Add(AddRequests(files, m_separator, true), AddTurn::AtOnce);
+    FindMedia(paths, [this](const FoundFiles& found) {
+        m_adding.Add(AddRequests(found.media, m_separator, true), AddTurn::AtOnce);
     });
 }
 
-void Library::FindMedia(
-    const std::vector<std::string>& paths, std::function<void(const std::vector<std::string>& files)> found)
+void Library::FindMedia(const std::vector<std::string>& paths, std::function<void(const FoundFiles& found)> found)
 {
-    m_host.RunInBackground([isOpen = m_isOpen, paths, separator = m_separator, found = std::move(found)] {
-        auto files = DroppedMediaFiles(paths, separator, [&] { return isOpen->load(); });
-        return [isOpen, found, files = std::move(files)] {
-            if (*isOpen)
-                found(files);
+    m_host.RunInBackground([this, isOpen = m_isOpen, paths, separator = m_separator, found = std::move(found)] {
+        auto files = FindFiles(paths, separator, [&] { return isOpen->load(); });
+        return [this, isOpen, found, files = std::move(files)] {
+            if (!*isOpen)
+                return;
+            found(files);
+            m_host.FilesFound(files);
         };
     });
 }

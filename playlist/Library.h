@@ -2,6 +2,8 @@
 
 #include "inspect/Inspection.h"
 #include "playlist/AddQueue.h"
+#include "playlist/FoundFiles.h"
+#include "playlist/OpenFiles.h"
 
 #include <atomic>
 #include <functional>
@@ -21,6 +23,8 @@ public:
         const std::string& title, const std::string& filter, std::function<void(std::vector<std::string>)> chosen) = 0;
     /// Runs `work` beside the window and then, on its thread, what `work` has given back.
     virtual void RunInBackground(std::function<std::function<void()>()> work) = 0;
+    /// What was found among names beside files to add: subtitles for what plays, entries of lists that are missing.
+    virtual void FilesFound(const FoundFiles& found) = 0;
 };
 
 /// The entries and every way in which files come to them.
@@ -37,7 +41,7 @@ public:
     const InspectionState& Inspected() const { return m_inspected; }
 
     /// Adds one file at once and, when `playNow`, plays it. `playFlag` asks for full screen; `decided` hears what
-    /// became of it.
+    /// became of it. Of a file of a list all entries are added, and the first one counts.
     void LoadThumb(const std::string& title, const std::string& path, bool playFlag, bool playNow,
         std::function<void(AddOutcome)> decided = {});
     /// Asks for files and adds them; the first one plays unless `addOnly`. `then` is called when the dialog is closed.
@@ -68,9 +72,11 @@ private:
 
     void Ask(bool playFirst, bool selectsFirst, std::function<void()> then);
     void SelectFirst();
-    /// Calls `found` with the media files among the paths, soon or after a whole disk was read.
-    void FindMedia(
-        const std::vector<std::string>& paths, std::function<void(const std::vector<std::string>& files)> found);
+    void AddChosen(const std::vector<OpenedFile>& files, bool playFirst, bool selectsFirst);
+    /// Adds what the list holds as LoadThumb does its file.
+    void LoadList(const AddRequest& list);
+    /// Calls `found` with the files among the paths, soon or after a whole disk was read.
+    void FindMedia(const std::vector<std::string>& paths, std::function<void(const FoundFiles& found)> found);
     void AddReadDrops();
 
     LibraryHost& m_host;

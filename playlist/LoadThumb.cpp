@@ -24,15 +24,6 @@ std::string TwoDigits(int value)
     return (value < 10 ? "0" : "") + std::to_string(value);
 }
 
-std::string DurationText(double duration)
-{
-    const int seconds = RoundHalfEven(duration);
-    const int hours = seconds / 3600;
-    const int minutes = seconds / 60 % 60;
-    const auto tail = ":" + TwoDigits(seconds % 60);
-    return hours > 0 ? std::to_string(hours) + ":" + TwoDigits(minutes) + tail : std::to_string(minutes) + tail;
-}
-
 std::string FileSizeText(std::int64_t bytes)
 {
     constexpr std::array units = { " bytes", " KB", " MB", " GB", " TB" };
@@ -50,6 +41,15 @@ std::string FileSizeText(std::int64_t bytes)
 }
 
 } // namespace
+
+std::string DurationText(double length)
+{
+    const int seconds = RoundHalfEven(length);
+    const int hours = seconds / 3600;
+    const int minutes = seconds / 60 % 60;
+    const auto tail = ":" + TwoDigits(seconds % 60);
+    return hours > 0 ? std::to_string(hours) + ":" + TwoDigits(minutes) + tail : std::to_string(minutes) + tail;
+}
 
 std::string DetailText(const MediaFacts& facts)
 {
@@ -96,7 +96,8 @@ void LoadThumb::Finish()
     if (m_outcome == AddOutcome::Added && m_playlist.IsInPlaylist(m_request.path))
         m_outcome = AddOutcome::Duplicate;
     if (m_outcome == AddOutcome::Added)
-        m_playlist.Append({ m_request.title, m_request.path, m_inspection.thumbnail, m_inspection.mediaInfo },
+        m_playlist.Append(
+            { m_request.title, m_request.path, m_inspection.thumbnail, m_inspection.mediaInfo, 0, m_inspection.facts },
             DetailText(m_inspection.facts));
     if (m_outcome != AddOutcome::Refused) {
         if (m_request.playNow)

@@ -2,6 +2,7 @@
 
 #include "base/Picture.h"
 #include "inspect/Inspection.h"
+#include "playlist/MediaFacts.h"
 #include "playlist/Notice.h"
 #include "playlist/Playlist.h"
 
@@ -12,15 +13,10 @@
 
 namespace zentaro {
 
-/// What the second line of a row tells; 0 or less where unknown.
-struct MediaFacts {
-    double duration = 0;       // seconds
-    int width = 0;             // pixels
-    int height = 0;            // pixels
-    std::int64_t fileSize = 0; // bytes
-};
+/// "1:02:05" or "2:05"; `length` in seconds.
+std::string DurationText(double length);
 
-/// "1:02:05 · 1280 × 720 · 12.3 MB", without the parts that are unknown.
+/// The second line of a row: "1:02:05 · 1280 × 720 · 12.3 MB", without the parts that are unknown.
 std::string DetailText(const MediaFacts& facts);
 
 /// What an inspection leaves behind, as far as the playlist needs it.

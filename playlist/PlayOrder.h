@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace zentaro {
@@ -14,6 +15,14 @@ class PlayOrder {
 public:
     static constexpr int kNone = -1;
 
+    /// All that an order is at a time.
+    struct Table {
+        std::vector<int> values;
+        int position = kNone;
+        int pendingShuffle = kNone; ///< count of a shuffle that nobody has read yet
+        bool isAscending = true;    ///< the values are 0 to n-1 in order
+    };
+
     /// The source must reach all of [0, 1), or a shuffle never ends.
     explicit PlayOrder(RandomSource random);
 
@@ -26,22 +35,27 @@ public:
     int Count() const;
     /// The value at a position; kNone outside the table.
     int At(int position);
-    int Position() const { return m_position; }
+    int Position() const { return m_now.position; }
     /// A position outside the table becomes kNone.
     void SetPosition(int position);
     /// Takes one position out; the other values stay as they are. The current position keeps its number, but does not
     /// pass the new end.
     void RemoveAt(int position);
     void Clear();
+    /// What stands in the table of these values comes next, in this order, behind the current position.
+    void PutNext(const std::vector<int>& values);
+
+    const Table& Save() const { return m_now; }
+    void Restore(Table table) { m_now = std::move(table); }
+    /// How often an order was built: another number when one of before is out of date.
+    int Builds() const { return m_builds; }
 
 private:
     void DrawPendingShuffle();
 
-    std::vector<int> m_table;
     RandomSource m_random;
-    int m_position = kNone;
-    int m_pendingShuffle = kNone; // count of a shuffle that nobody has read yet
-    bool m_ascending = true;      // the table holds 0 to n-1 in order
+    Table m_now;
+    int m_builds = 0;
 };
 
 } // namespace zentaro

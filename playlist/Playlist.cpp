@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <unordered_map>
 #include <utility>
 
 namespace zentaro {
@@ -17,7 +18,7 @@ std::optional<PlaylistEntry> Playlist::EntryAt(int index) const
         return std::nullopt;
     const auto& row = m_list.Item(index);
     const auto& file = m_files[static_cast<std::size_t>(index)];
-    return PlaylistEntry{ row.Text, file.FullPath, row.Pic, file.MediaInfo, file.Id };
+    return PlaylistEntry{ row.Text, file.FullPath, row.Pic, file.MediaInfo, file.Id, file.Facts };
 }
 
 std::string Playlist::PathAt(int index) const
@@ -27,15 +28,19 @@ std::string Playlist::PathAt(int index) const
 
 std::optional<int> Playlist::IndexOf(std::uint64_t id) const
 {
-    const auto at = std::find_if(m_files.begin(), m_files.end(), [&](const File& file) { return file.Id == id; });
+    // Entries can be arranged at will, so their ids are in no order.
+    const auto at =
+        std::find_if(m_files.begin(), m_files.end(), [&](const PlaylistFile& file) { return file.Id == id; });
     return at != m_files.end() ? std::optional(static_cast<int>(at - m_files.begin())) : std::nullopt;
 }
 
 void Playlist::Append(PlaylistEntry entry, std::string detail)
 {
+    if (!m_edits.IsAdding())
+        m_edits.Begin(ListEdit::Add, Shape());
     ++m_revision;
     m_paths.insert(entry.FullPath);
-    m_files.push_back({ std::move(entry.FullPath), std::move(entry.MediaInfo), ++m_lastId });
+    m_files.push_back({ std::move(entry.FullPath), std::move(entry.MediaInfo), ++m_lastId, entry.Facts });
     m_list.AddItem(std::move(entry.Title), std::move(entry.Thumbnail), std::move(detail));
 }
 
@@ -52,20 +57,126 @@ void Playlist::RemoveSelected()
     const int selected = m_list.SelectedItem();
     if (!IsEntry(selected))
         return;
+    auto& step = m_edits.Begin(ListEdit::Remove, Shape());
+    step.away.push_back({ m_list.Item(selected), m_files[static_cast<std::size_t>(selected)] });
     ++m_revision;
     m_paths.erase(PathAt(selected));
     m_files.erase(m_files.begin() + selected);
     m_order.RemoveAt(selected);
     m_list.RemoveItem(selected);
+    step.left = Left();
 }
 
 void Playlist::RemoveAll()
 {
+    ListStep* const step = Count() > 0 ? &m_edits.Begin(ListEdit::RemoveAll, Shape()) : nullptr;
+    if (step != nullptr)
+        TakeEntries({}, step->away);
     ++m_revision;
-    m_files.clear();
-    m_paths.clear();
     m_order.Clear();
     m_list.Clear();
+    if (step != nullptr)
+        step->left = Left();
+}
+
+ListShape Playlist::Shape() const
+{
+    ListShape shape;
+    shape.ids.reserve(m_files.size());
+    for (const auto& file : m_files)
+        shape.ids.push_back(file.Id);
+    shape.order = m_order.Save();
+    shape.selected = m_list.SelectedItem();
+    return shape;
+}
+
+ListStep::Left Playlist::Left() const
+{
+    return { m_list.SelectedItem(), m_order.Position(), m_order.Builds() };
+}
+
+void Playlist::Arrange(ListEdit edit, const std::vector<int>& rows, std::int32_t playMode)
+{
+    auto& step = m_edits.Begin(edit, Shape());
+    std::vector<std::uint64_t> ids;
+    ids.reserve(rows.size());
+    for (const int row : rows)
+        ids.push_back(IdAt(row));
+    // The place that a removed selection leaves is the next entry's.
+    const int selected = m_list.SelectedItem();
+    int next = 0;
+    for (const int row : rows)
+        next += row < selected ? 1 : 0;
+    const auto selectedId = IdAt(selected);
+    TakeEntries(ids, step.away);
+    const auto kept = IndexOf(selectedId);
+    if (selected >= 0)
+        m_list.RestoreSelection(kept.value_or(std::min(next, Count() - 1)));
+    BuildOrder(playMode);
+    step.left = Left();
+}
+
+bool Playlist::Undo(std::int32_t playMode)
+{
+    auto* const step = m_edits.Undoable();
+    if (step == nullptr)
+        return false;
+    TakeShape(*step, playMode);
+    m_edits.Undone();
+    return true;
+}
+
+bool Playlist::Redo(std::int32_t playMode)
+{
+    auto* const step = m_edits.Redoable();
+    if (step == nullptr)
+        return false;
+    TakeShape(*step, playMode);
+    m_edits.Redone();
+    return true;
+}
+
+void Playlist::TakeShape(ListStep& step, std::int32_t playMode)
+{
+    auto present = Shape();
+    const auto target = std::exchange(step.other, std::move(present));
+    const bool isUntouched = step.left == Left();
+    const auto selectedId = IdAt(m_list.SelectedItem());
+    TakeEntries(target.ids, step.away);
+    if (isUntouched) {
+        m_order.Restore(target.order);
+        m_list.RestoreSelection(target.selected);
+    } else {
+        const auto kept = IndexOf(selectedId);
+        m_list.RestoreSelection(kept ? *kept : target.selected);
+        BuildOrder(playMode);
+    }
+    step.left = Left();
+}
+
+void Playlist::TakeEntries(const std::vector<std::uint64_t>& ids, std::vector<ListStep::Away>& away)
+{
+    ++m_revision;
+    const auto playing = IdAt(m_list.PlayingItem());
+    std::unordered_map<std::uint64_t, ListStep::Away> entries;
+    auto rows = m_list.TakeItems();
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        entries.insert({ m_files[i].Id, { std::move(rows[i]), std::move(m_files[i]) } });
+    for (auto& entry : std::exchange(away, {}))
+        entries.insert({ entry.file.Id, std::move(entry) });
+    rows.clear();
+    m_files.clear();
+    m_paths.clear();
+    for (const auto id : ids) {
+        auto node = entries.extract(id);
+        rows.push_back(std::move(node.mapped().row));
+        m_files.push_back(std::move(node.mapped().file));
+        m_paths.insert(m_files.back().FullPath);
+    }
+    for (auto& [id, entry] : entries)
+        away.push_back(std::move(entry));
+    m_list.SetItems(std::move(rows));
+    m_list.MarkPlaying(IndexOf(playing).value_or(FancyListItems::kNone));
 }
 
 void Playlist::OnClick(std::int32_t playMode)

@@ -2,6 +2,8 @@
 
 #include "base/Picture.h"
 #include "playlist/FancyListItems.h"
+#include "playlist/ListHistory.h"
+#include "playlist/MediaFacts.h"
 #include "playlist/PlayOrder.h"
 #include "playlist/Sequencing.h"
 
@@ -20,6 +22,7 @@ struct PlaylistEntry {
     Picture Thumbnail;
     std::string MediaInfo;
     std::uint64_t Id = 0; ///< given by Playlist::Append, from 1; no other entry of this run has it
+    MediaFacts Facts = {};
 };
 
 /// A key that moves the selection.
@@ -45,6 +48,8 @@ public:
     std::optional<PlaylistEntry> EntryAt(int index) const;
     /// The entry's full path; empty when the index names no entry.
     std::string PathAt(int index) const;
+    /// Only for 0 <= index < Count().
+    const MediaFacts& FactsAt(int index) const { return m_files[static_cast<std::size_t>(index)].Facts; }
     /// The index of the entry with this id.
     std::optional<int> IndexOf(std::uint64_t id) const;
     /// The selected entry, nothing while the selection names none.
@@ -58,6 +63,17 @@ public:
     void BuildShuffleOrder() { m_order.BuildShuffle(Count(), m_list.SelectedItem()); }
     /// The order that the play mode asks for.
     void BuildOrder(std::int32_t playMode);
+
+    /// The list consists of these rows from now on, in this order; the selection stays with its entry, else it goes to
+    /// the next one, and the order is built anew.
+    void Arrange(ListEdit edit, const std::vector<int>& rows, std::int32_t playMode);
+    /// The last edit, or the last one undone, is undone or done again. Where nothing has followed it, order and
+    /// selection are what they were; else the order is built anew. False when there is nothing to undo or redo.
+    bool Undo(std::int32_t playMode);
+    bool Redo(std::int32_t playMode);
+    /// What was done to the list.
+    ListHistory& Edits() { return m_edits; }
+    const ListHistory& Edits() const { return m_edits; }
 
     /// Takes out the selected entry, and of the order the position of the same number. The order is not renumbered.
     void RemoveSelected();
@@ -80,18 +96,19 @@ public:
     EndOfItem OnEndOfItem(std::int32_t playMode, std::int32_t repeatMode);
 
 private:
-    /// What an entry has beside its row of the list.
-    struct File {
-        std::string FullPath;
-        std::string MediaInfo;
-        std::uint64_t Id;
-    };
+    ListShape Shape() const;
+    ListStep::Left Left() const;
+    std::uint64_t IdAt(int index) const { return IsEntry(index) ? m_files[static_cast<std::size_t>(index)].Id : 0; }
+    void TakeShape(ListStep& step, std::int32_t playMode);
+    /// The entries with these ids, from the list and from `away`, which keeps the rest of the list.
+    void TakeEntries(const std::vector<std::uint64_t>& ids, std::vector<ListStep::Away>& away);
     bool IsEntry(int index) const { return index >= 0 && index < Count(); }
     std::optional<int> StepTo(std::optional<int> position);
 
     FancyListItems m_list;
     PlayOrder m_order;
-    std::vector<File> m_files; // the same indexes as the rows of m_list
+    ListHistory m_edits;
+    std::vector<PlaylistFile> m_files; // the same indexes as the rows of m_list
     std::unordered_set<std::string> m_paths;
     std::uint64_t m_lastId = 0;
     std::uint64_t m_revision = 0;

@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QPainter>
+#include <QPushButton>
 
 #include <algorithm>
 
@@ -24,7 +25,13 @@ constexpr int kTextFlags = Qt::AlignLeft | Qt::AlignBottom;
 
 NoteBox::NoteBox(QWidget* parent)
     : QWidget(parent)
+    , m_offer(new QPushButton(this))
 {
+    m_offer->setFocusPolicy(Qt::NoFocus);
+    connect(m_offer, &QPushButton::clicked, this, [this] {
+        hide();
+        emit OfferTaken();
+    });
     setObjectName("Note");
     setCursor(Qt::ArrowCursor);
     m_end.setSingleShot(true);
@@ -32,8 +39,11 @@ NoteBox::NoteBox(QWidget* parent)
     hide();
 }
 
-void NoteBox::Show(const QRect& area, const QString& text, const QImage& picture, std::chrono::milliseconds time)
+void NoteBox::Show(
+    const QRect& area, const QString& text, const QImage& picture, std::chrono::milliseconds time, const QString& offer)
 {
+    m_offer->setText(offer);
+    m_offer->setVisible(!offer.isEmpty());
     m_text = text;
     m_picture = picture;
     Place(area);
@@ -65,9 +75,13 @@ void NoteBox::Place(const QRect& area)
     // A long name without blanks is broken in the middle of the word.
     m_wrapping = sizeOf(Qt::TextWordWrap).width() > widest ? Qt::TextWrapAnywhere : Qt::TextWordWrap;
     const auto text = sizeOf(m_wrapping);
+    const auto offer = m_offer->isVisibleTo(this) ? m_offer->sizeHint() + QSize(0, kGap) : QSize(0, 0);
     const int pictureHeight = m_picture.isNull() ? 0 : m_pictureSize.height() + kGap;
     setGeometry(area.left() + kDistance, area.top() + kDistance,
-        frame + std::max(text.width() + 1, m_pictureSize.width()), 2 * kPadding + pictureHeight + text.height());
+        frame + std::max({ text.width() + 1, m_pictureSize.width(), offer.width() }),
+        2 * kPadding + pictureHeight + text.height() + offer.height());
+    m_offer->setGeometry(kMark + kPadding, height() - kPadding - offer.height() + kGap, offer.width(),
+        std::max(offer.height() - kGap, 0));
     update();
 }
 
@@ -78,7 +92,8 @@ void NoteBox::paintEvent(QPaintEvent*)
     painter.setPen(style::kHairline);
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
     painter.fillRect(0, 0, kMark, height(), style::kLight);
-    const auto inner = rect().adjusted(kPadding + kMark, kPadding, -kPadding, -kPadding);
+    const int offer = m_offer->isVisibleTo(this) ? m_offer->height() + kGap : 0;
+    const auto inner = rect().adjusted(kPadding + kMark, kPadding, -kPadding, -kPadding - offer);
     if (!m_picture.isNull()) {
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
         painter.drawImage(QRect(inner.topLeft(), m_pictureSize), m_picture);

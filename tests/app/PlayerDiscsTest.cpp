@@ -165,7 +165,7 @@ TEST_F(DiscsTest, what_happens_while_a_disc_is_awaited_holds)
     meanwhile([&] { Discs().dvdsList_Click(1); });
     EXPECT_EQ(LastPlayed(), "<dvd:///dev/sr1>");
     EXPECT_TRUE(IsLoaded());
-    meanwhile([&] { player.Sequence().RemoveAll(); });
+    meanwhile([&] { player.Editing().RemoveAll(); });
     EXPECT_FALSE(IsLoaded());
 }
 

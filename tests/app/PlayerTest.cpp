@@ -196,7 +196,7 @@ TEST_F(PlayerTest, a_new_play_mode_builds_a_new_order)
 TEST_F(PlayerTest, an_order_that_names_a_removed_entry_plays_nothing)
 {
     auto& player = StartWithEntries(3, kPlayContinuous, kRepeatAll);
-    player.Sequence().RemoveSelected(); // the order is now "1", "2" for two entries
+    player.Editing().Remove(); // the order is now "1", "2" for two entries
     EndItem();
     EXPECT_EQ(Starts(), 1u);
     EXPECT_FALSE(IsLoaded());

@@ -100,7 +100,7 @@ TEST_F(Ends, TheShortestFilesEndAndOnlyThoseThatGiveNothingFail)
 {
     player.Sequence().SetRepeatMode(kNoRepeat);
     const auto fails = [&](const std::string& path) {
-        player.Sequence().RemoveAll();
+        player.Editing().RemoveAll();
         AddEntries({ path });
         PlayAt(1);
         // As close to the end as can be: what was decoded last is not counted yet.

@@ -38,10 +38,16 @@ public:
     {
         notes.push_back(text + (file.empty() ? "" : "|" + file));
     }
+    void FindInList() override { log << "find "; }
+    void ShowOffer(const std::string& text, std::string_view command) override
+    {
+        offers.push_back(text + ": " + std::string(command));
+    }
     void StateChanged() override { ++changes; }
 
     std::ostringstream log;
     std::vector<std::string> notes;
+    std::vector<std::string> offers; ///< with the id of what they offer
     double left = 30;
     bool maximized = false;
     bool isFullScreen = false;
@@ -63,7 +69,9 @@ public:
         ++asked;
         m_chosen = std::move(chosen);
     }
+    void AskForListName(std::function<void(std::string)> chosen) override { chooseListName = std::move(chosen); }
     void AskForSubtitles(std::function<void(std::string)> chosen) override { chooseSubtitles = std::move(chosen); }
+    void ShowFolderOf(const std::string& path) override { log << "folder of " << path << " "; }
     void ShowOptions() override { log << "options "; }
     void ShowAbout() override { log << "about "; }
     void ShowHelp() override { log << "help "; }
@@ -79,6 +87,7 @@ public:
     /// The open dialog is closed with these files; none is cancel.
     void Choose(const std::vector<std::string>& files) { std::exchange(m_chosen, nullptr)(files); }
 
+    std::function<void(std::string)> chooseListName;
     std::function<void(std::string)> chooseSubtitles;
     std::vector<std::string> boxes;
     std::ostringstream log;

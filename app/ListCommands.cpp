@@ -1,0 +1,92 @@
+#include "app/ListCommands.h"
+
+#include "app/ListFiles.h"
+#include "app/Player.h"
+
+#include <array>
+
+namespace zentaro {
+
+namespace {
+
+template <std::size_t Count> using Keys = std::array<std::string_view, Count>;
+
+constexpr Keys<1> kAltDown{ "Alt+Down" }, kAltReturn{ "Alt+Return" }, kAltUp{ "Alt+Up" }, kCtrlA{ "Ctrl+A" },
+    kCtrlJ{ "Ctrl+J" }, kCtrlN{ "Ctrl+N" }, kCtrlShiftS{ "Ctrl+Shift+S" }, kCtrlZ{ "Ctrl+Z" }, kF3{ "F3" };
+constexpr Keys<2> kRedo{ "Ctrl+Shift+Z", "Ctrl+Y" };
+
+bool HasEntries(const Player& player)
+{
+    return player.Entries().Count() > 0;
+}
+
+bool IsAnyChosen(const Player& player)
+{
+    return player.Entries().SelectedEntry() || player.Entries().List().IsAnyMarked();
+}
+
+bool HasSelection(const Player& player)
+{
+    return player.Entries().SelectedEntry().has_value();
+}
+
+Notice PropertiesOf(const PlaylistEntry& entry)
+{
+    const auto detail = DetailText(entry.Facts);
+    return { entry.FullPath + "\r\n" + (detail.empty() ? "" : detail + "\r\n") + "\r\n" + entry.MediaInfo,
+        NoticeIcon::Information, entry.Title };
+}
+
+template <int Step> void MoveBy(Player& player, int)
+{
+    player.Editing().MoveBy(Step);
+}
+
+template <ListSort By> void Sort(Player& player, int)
+{
+    player.Editing().Sort(By);
+}
+
+constexpr std::array kCommands{
+    Command{ "PlayNext", "Play &Next", kCtrlN, [](Player& player, int) { player.Editing().PlayNext(); }, IsAnyChosen },
+    Command{ "ShowInFolder", "Show in &Folder", {},
+        [](Player& player, int) {
+            if (const auto entry = player.Entries().SelectedEntry())
+                player.Face().dialogs->ShowFolderOf(entry->FullPath);
+        },
+        HasSelection },
+    Command{ "Properties", "P&roperties", kAltReturn,
+        [](Player& player, int) {
+            if (const auto entry = player.Entries().SelectedEntry())
+                player.Face().dialogs->ShowNotice(PropertiesOf(*entry), [] {});
+        },
+        HasSelection },
+    Command{ "UndoListEdit", "&Undo", kCtrlZ, [](Player& player, int) { player.Editing().Undo(); },
+        [](const Player& player) { return player.Entries().Edits().CanUndo(); } },
+    Command{ "RedoListEdit", "R&edo", kRedo, [](Player& player, int) { player.Editing().Redo(); },
+        [](const Player& player) { return player.Entries().Edits().CanRedo(); } },
+    Command{ "SelectAll", "Select &All", kCtrlA,
+        [](Player& player, int) { player.Entries().List().MarkOnly(0, player.Entries().Count()); }, HasEntries },
+    Command{ "MoveEntryUp", "Move U&p", kAltUp, MoveBy<-1>, IsAnyChosen, nullptr, nullptr, true },
+    Command{ "MoveEntryDown", "Move &Down", kAltDown, MoveBy<1>, IsAnyChosen, nullptr, nullptr, true },
+    Command{ "SortByName", "Sort by &Name", {}, Sort<ListSort::Name>, HasEntries },
+    Command{ "SortByLength", "Sort by &Length", {}, Sort<ListSort::Length>, HasEntries },
+    Command{ "SortByDate", "Sort by &Date", {}, Sort<ListSort::Date>, HasEntries },
+    Command{ "SortBySize", "Sort by &Size", {}, Sort<ListSort::Size>, HasEntries },
+    Command{ "SortByFolder", "Sort by &Folder", {}, Sort<ListSort::Folder>, HasEntries },
+    Command{ "ShowCurrent", "Show &What Plays", kCtrlJ,
+        [](Player& player, int) { player.Entries().List().ShowRow(player.Entries().List().PlayingItem()); },
+        [](const Player& player) { return player.Entries().List().PlayingItem() >= 0; } },
+    Command{
+        "FindInList", "&Find...", kF3, [](Player& player, int) { player.Face().window->FindInList(); }, HasEntries },
+    Command{ "SaveList", "Save List &As...", kCtrlShiftS, [](Player& player, int) { SaveList(player); }, HasEntries },
+};
+
+} // namespace
+
+std::span<const Command> ListCommands()
+{
+    return kCommands;
+}
+
+} // namespace zentaro

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <cstdint>
+
+namespace zentaro {
+
+/// What a row tells of its file, and what lists are sorted by; 0 or less where unknown.
+struct MediaFacts {
+    double duration = 0;       // seconds
+    int width = 0;             // pixels
+    int height = 0;            // pixels
+    std::int64_t fileSize = 0; // bytes
+    std::int64_t modified = 0; // seconds since 1970
+    bool operator==(const MediaFacts&) const = default;
+};
+
+} // namespace zentaro
