@@ -1,6 +1,7 @@
 #include "app/Commands.h"
 
 #include "app/ListCommands.h"
+#include "app/PlayCommands.h"
 #include "app/Player.h"
 #include "app/Snapshots.h"
 #include "app/VideoChoices.h"
@@ -188,6 +189,7 @@ std::span<const Command> AllCommands()
 {
     static const auto all = [] {
         std::vector<Command> commands(kCommands.begin(), kCommands.end());
+        commands.insert(commands.end(), PlayCommands().begin(), PlayCommands().end());
         commands.insert(commands.end(), ListCommands().begin(), ListCommands().end());
         return commands;
     }();

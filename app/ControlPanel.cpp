@@ -11,6 +11,7 @@
 #include "shell/Style.h"
 #include "shell/VolumeKnob.h"
 
+#include <QEvent>
 #include <QLabel>
 
 #include <initializer_list>
@@ -48,7 +49,10 @@ ControlPanel::ControlPanel(Player& player, QWidget* window)
     m_rate->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_volumeNumber->setObjectName("lblVolume");
     m_volumeNumber->setFont(style::SmallFont());
-    for (auto* const label : { m_time, m_rate, m_volumeNumber })
+    // A press on the time shows what is left instead.
+    m_time->installEventFilter(this);
+    m_time->setCursor(Qt::PointingHandCursor);
+    for (auto* const label : { m_rate, m_volumeNumber })
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
     for (auto* const label : { m_rate, m_volumeNumber })
         label->setForegroundRole(QPalette::PlaceholderText);
@@ -96,6 +100,14 @@ void ControlPanel::MakeSliders()
         [this](int direction) { RunCommand(m_player, direction > 0 ? "Louder" : "Quieter"); });
 }
 
+bool ControlPanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != m_time || event->type() != QEvent::MouseButtonPress)
+        return false;
+    RunCommand(m_player, "ShowRemaining");
+    return true;
+}
+
 void ControlPanel::Show()
 {
     const auto& state = m_player.State();
@@ -105,9 +117,9 @@ void ControlPanel::Show()
     }
     m_buttons[Button::Maximize]->SetName(m_window->isMaximized() ? "Restore" : "Maximize", {});
     m_buttons[Button::SoundOn]->SetName(state.isMuted ? "Unmute" : "Mute", Text(ShownKey(*FindCommand("Mute"))));
-    m_time->setText(ToQString(state.timeText));
+    m_time->setText(ToQString(m_player.Tools().TimeText()));
     m_rate->setText(ToQString(state.rateText));
-    m_volumeNumber->setText(QString::number(state.volume));
+    m_volumeNumber->setText(QString::number(state.boost > 100 ? state.boost : state.volume));
     m_seek->Show(state.mediaControlsEnabled, state.progress, state.length, state.chapters);
     m_volume->Show(state.volume);
 }

@@ -47,6 +47,9 @@ signals:
     void MinimizeAsked();
     void MaximizeAsked();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     /// A button that runs a command; its name and key are the command's.
     SkinButton* MakeButton(Button button, std::string_view command);

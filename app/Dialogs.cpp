@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QInputDialog>
 
 #include <utility>
 
@@ -138,6 +139,19 @@ void Dialogs::Open(QDialog* dialog)
     QObject::connect(dialog, &QDialog::finished, &m_window, [this] { m_player.Window().DialogClosed(); });
     dialog->setModal(true);
     dialog->show();
+}
+
+void Dialogs::AskForTime(const std::string& present, std::function<void(std::string)> chosen)
+{
+    auto* const dialog = new QInputDialog(&m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowTitle("Go to a Time");
+    dialog->setLabelText("Hours, minutes and seconds, such as 1:02:30");
+    dialog->setTextValue(ToQString(present).section(" / ", 0, 0));
+    QObject::connect(dialog, &QDialog::finished, &m_window, [dialog, chosen = std::move(chosen)](int result) {
+        chosen(result == QDialog::Accepted ? ToText(dialog->textValue()) : std::string());
+    });
+    dialog->open();
 }
 
 void Dialogs::ShowFolderOf(const std::string& path)

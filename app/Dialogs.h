@@ -29,6 +29,7 @@ public:
         std::function<void(std::vector<std::string>)> chosen) override;
     void AskForListName(std::function<void(std::string)> chosen) override;
     void AskForSubtitles(std::function<void(std::string)> chosen) override;
+    void AskForTime(const std::string& present, std::function<void(std::string)> chosen) override;
     void ShowFolderOf(const std::string& path) override;
     void ShowOptions() override;
     void ShowAbout() override;

@@ -12,7 +12,8 @@ namespace {
 template <std::size_t Count> using Keys = std::array<std::string_view, Count>;
 
 constexpr Keys<1> kAltDown{ "Alt+Down" }, kAltReturn{ "Alt+Return" }, kAltUp{ "Alt+Up" }, kCtrlA{ "Ctrl+A" },
-    kCtrlJ{ "Ctrl+J" }, kCtrlN{ "Ctrl+N" }, kCtrlShiftS{ "Ctrl+Shift+S" }, kCtrlZ{ "Ctrl+Z" }, kF3{ "F3" };
+    kCtrlJ{ "Ctrl+J" }, kCtrlN{ "Ctrl+N" }, kBackspace{ "Backspace" }, kCtrlShiftT{ "Ctrl+Shift+T" },
+    kCtrlShiftS{ "Ctrl+Shift+S" }, kCtrlZ{ "Ctrl+Z" }, kF3{ "F3" };
 constexpr Keys<2> kRedo{ "Ctrl+Shift+Z", "Ctrl+Y" };
 
 bool HasEntries(const Player& player)
@@ -77,6 +78,44 @@ constexpr std::array kCommands{
     Command{ "ShowCurrent", "Show &What Plays", kCtrlJ,
         [](Player& player, int) { player.Entries().List().ShowRow(player.Entries().List().PlayingItem()); },
         [](const Player& player) { return player.Entries().List().PlayingItem() >= 0; } },
+    Command{ "BringBack", "&Bring Back the Last List", kCtrlShiftT,
+        [](Player& player, int) { player.Remembering().BringBack(); },
+        [](const Player& player) { return !player.Remembering().LastTime().empty(); } },
+    Command{ "GoToLastPlace", "&Go to Where I Was", kBackspace,
+        [](Player& player, int) { player.Remembering().GoToLastPlace(); },
+        [](const Player& player) { return player.Remembering().LastPlace() > 0; } },
+    Command{ "StartOver", "Start &Over", {}, [](Player& player, int) { player.Remembering().StartOver(); },
+        [](const Player& player) { return player.State().mediaControlsEnabled; } },
+    Command{ "Remember", "&Remember Lists and Places", {},
+        [](Player& player, int) { player.Remembering().SetRemembering(!player.Remembering().IsRemembering()); },
+        nullptr, [](const Player& player) { return player.Remembering().IsRemembering(); } },
+    Command{ "RememberRemovable", "Also of &Discs That Are Taken Out", {},
+        [](Player& player, int) {
+            player.Remembering().SetRemembersRemovable(!player.Remembering().RemembersRemovable());
+        },
+        nullptr, [](const Player& player) { return player.Remembering().RemembersRemovable(); } },
+    Command{ "NeverRemember", "&Nothing in This Folder", {},
+        [](Player& player, int) {
+            if (const auto entry = player.Entries().SelectedEntry())
+                player.Remembering().ForgetFolderOf(
+                    entry->FullPath, !player.Remembering().IsFolderForgotten(entry->FullPath));
+        },
+        HasSelection,
+        [](const Player& player) {
+            const auto entry = player.Entries().SelectedEntry();
+            return entry && player.Remembering().IsFolderForgotten(entry->FullPath);
+        } },
+    Command{ "ForgetEntry", "&Forget This Entry", {},
+        [](Player& player, int) {
+            if (const auto entry = player.Entries().SelectedEntry())
+                player.Remembering().Forget(entry->FullPath);
+        },
+        HasSelection },
+    Command{ "ForgetAll", "Forget &All", {},
+        [](Player& player, int) {
+            player.Remembering().ForgetAll();
+            player.Face().window->ShowNote("All is forgotten");
+        } },
     Command{
         "FindInList", "&Find...", kF3, [](Player& player, int) { player.Face().window->FindInList(); }, HasEntries },
     Command{ "SaveList", "Save List &As...", kCtrlShiftS, [](Player& player, int) { SaveList(player); }, HasEntries },

@@ -24,7 +24,7 @@ void ListEditor::Remove()
     else
         Entries().RemoveSelected();
     OfferUndo(before - Entries().Count());
-    m_rooms.face.window->StateChanged();
+    Changed();
 }
 
 void ListEditor::RemoveAll()
@@ -32,6 +32,12 @@ void ListEditor::RemoveAll()
     const int before = Entries().Count();
     Entries().RemoveAll();
     OfferUndo(before);
+    Changed();
+}
+
+void ListEditor::Changed()
+{
+    m_rooms.onEdited();
     m_rooms.face.window->StateChanged();
 }
 
@@ -51,7 +57,7 @@ void ListEditor::Arrange(ListEdit edit, const std::vector<int>& rows)
     if (rows == present && static_cast<int>(rows.size()) == Entries().Count())
         return;
     Entries().Arrange(edit, rows, PlayMode());
-    m_rooms.face.window->StateChanged();
+    Changed();
 }
 
 void ListEditor::MoveBy(int step)
@@ -115,16 +121,12 @@ void ListEditor::ShowRestored()
 {
     auto& list = Entries().List();
     const auto& path = m_rooms.transport.Item().path;
-    if (m_rooms.transport.State().mediaControlsEnabled && list.PlayingItem() < 0 && Entries().IsInPlaylist(path)) {
-        for (int i = 0; i < Entries().Count(); ++i) {
-            if (Entries().PathAt(i) == path)
-                list.MarkPlaying(i);
-        }
-    }
+    if (m_rooms.transport.State().mediaControlsEnabled && list.PlayingItem() < 0)
+        list.MarkPlaying(Entries().IndexOfPath(path).value_or(FancyListItems::kNone));
     m_rooms.menus.SmartMenuXP1.SetEnabled({ "RemoveAll", "Next", "Previous" }, Entries().Count() > 0);
     if (Entries().Count() > 0)
         m_rooms.menus.SmartMenuXP1.SetEnabled("Remove", true);
-    m_rooms.face.window->StateChanged();
+    Changed();
 }
 
 } // namespace zentaro

@@ -7,6 +7,8 @@
 #include "playlist/Library.h"
 #include "playlist/ListArranging.h"
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 namespace zentaro {
@@ -21,9 +23,10 @@ public:
         Library& library;
         Menus& menus;
         const PlayerFace& face;
+        std::function<void()> onEdited; ///< something is different now
     };
     explicit ListEditor(Rooms rooms)
-        : m_rooms(rooms)
+        : m_rooms(std::move(rooms))
     {
     }
 
@@ -46,6 +49,7 @@ private:
     std::int32_t PlayMode() const { return m_rooms.settings.Settings().PlayMode; }
     void Arrange(ListEdit edit, const std::vector<int>& rows);
     void OfferUndo(int removed);
+    void Changed();
     void ShowRestored();
 
     Rooms m_rooms;

@@ -7,10 +7,12 @@ namespace zentaro {
 
 namespace {
 
-/// Ids of commands; "" is a line between them.
+/// Ids of commands; "" is a line between them, ">" begins a menu of that name, "<" ends it.
 constexpr const char* kItems[] = { "PlaySelected", "PlayNext", "RemoveEntry", "ShowInFolder", "Properties", "",
-    "UndoListEdit", "RedoListEdit", "SelectAll", "", "MoveEntryUp", "MoveEntryDown", "SortByName", "SortByLength",
-    "SortByDate", "SortBySize", "SortByFolder", "", "FindInList", "ShowCurrent", "", "SaveList" };
+    "UndoListEdit", "RedoListEdit", "SelectAll", "FindInList", "ShowCurrent", "", ">&Order", "MoveEntryUp",
+    "MoveEntryDown", "", "SortByName", "SortByLength", "SortByDate", "SortBySize", "SortByFolder", "<", ">&Memory",
+    "BringBack", "GoToLastPlace", "StartOver", "", "Remember", "RememberRemovable", "NeverRemember", "", "ForgetEntry",
+    "ForgetAll", "<", "", "SaveList" };
 
 } // namespace
 
@@ -18,29 +20,34 @@ ListMenu::ListMenu(Player& player, QWidget* parent)
     : QMenu("&More", parent)
     , m_player(player)
 {
-    for (const auto* const id : kItems) {
-        const auto* const command = FindCommand(id);
-        if (command == nullptr) {
-            addSeparator();
-            continue;
-        }
-        const auto key = ToQString(std::string(ShownKey(*command)));
-        auto* const action = addAction(ToQString(std::string(command->caption)) + (key.isEmpty() ? "" : "\t" + key));
-        action->setData(ToQString(std::string(command->id)));
-        action->setCheckable(command->isChecked != nullptr);
-        // After this event: Qt closes the menu only then, and a dialog that the click opens must not lie under it.
-        connect(
-            action, &QAction::triggered, this, [this, command] { command->run(m_player, 0); }, Qt::QueuedConnection);
+    QMenu* menu = this;
+    for (const std::string_view id : kItems) {
+        if (id == "<")
+            menu = this;
+        else if (id.starts_with('>'))
+            menu = addMenu(ToQString(std::string(id.substr(1))));
+        else if (const auto* const command = FindCommand(id))
+            Add(*menu, *command);
+        else
+            menu->addSeparator();
     }
     connect(this, &QMenu::aboutToShow, this, &ListMenu::Show);
 }
 
+void ListMenu::Add(QMenu& menu, const Command& command)
+{
+    const auto key = ToQString(std::string(ShownKey(command)));
+    auto* const action = menu.addAction(ToQString(std::string(command.caption)) + (key.isEmpty() ? "" : "\t" + key));
+    action->setCheckable(command.isChecked != nullptr);
+    m_actions.push_back({ action, &command });
+    // After this event: Qt closes the menu only then, and a dialog that the click opens must not lie under it.
+    connect(
+        action, &QAction::triggered, this, [this, &command] { command.run(m_player, 0); }, Qt::QueuedConnection);
+}
+
 void ListMenu::Show()
 {
-    for (auto* const action : actions()) {
-        const auto* const command = FindCommand(ToText(action->data().toString()));
-        if (command == nullptr)
-            continue;
+    for (const auto& [action, command] : m_actions) {
         action->setEnabled(command->isAvailable == nullptr || command->isAvailable(m_player));
         if (command->isChecked != nullptr)
             action->setChecked(command->isChecked(m_player));

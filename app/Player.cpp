@@ -30,7 +30,11 @@ Player::Player(PlayerWorld world)
     , m_history(m_world.historyStore, m_menus, m_world.runForHistory)
     , m_discs(m_world.discs, m_settings, m_transport, m_library, m_menus, m_window, m_face)
     , m_sequencer({ m_settings, m_transport, m_library, m_discs, m_menus, m_history, m_window, m_world.power, m_face })
-    , m_editor({ m_settings, m_transport, m_library, m_menus, m_face })
+    , m_editor({ m_settings, m_transport, m_library, m_menus, m_face, [this] { m_memory.Look(); } })
+    , m_memory(
+          { m_world.settingsFolder, m_world.separator, m_world.after, m_world.runInBackground, m_world.isRemovable },
+          { m_settings, m_transport, m_library, m_sequencer, m_face })
+    , m_tools({ m_world.engines, m_transport, m_library, m_sequencer, m_memory, m_face, m_world.after })
     , m_instance(m_world.handOver, m_world.store, m_world.separator)
     , m_associations(m_world.associations, m_world.associationStore, m_world.separator)
 {
@@ -52,6 +56,7 @@ bool Player::Load(const std::string& commandLine, PlayerFace face)
     if (!m_instance.BecomePlayer(ReadCommandLine(commandLine, m_world.fileExists), Settings().UseNewPlayer != 0))
         return false;
     m_world.engines.Prepare();
+    m_memory.Load();
     // The file's inspection is under way while the window comes up.
     OpenStartupFile();
     m_window.SetPlaylistPosition(m_settings.StoredDock());
@@ -107,6 +112,7 @@ void Player::Unload()
     m_library.Close();
     m_history.Close();
     IgnoreFailure(WriteConfigurations());
+    m_memory.SaveNow();
     m_associations.Close(Settings().Associations);
     m_world.holdOffSleep(false);
     // The engine goes with the process: stopping it first would make the end wait for its threads.
@@ -173,7 +179,12 @@ void Player::OnPositionTick()
     // The word in place of the time stays until the disc plays.
     if (m_discs.IsStarting())
         return;
-    if (const auto end = m_transport.OnPositionTick())
+    m_memory.Tick();
+    m_tools.Tick();
+    const auto end = m_transport.OnPositionTick();
+    if (end && !end->hasFailed)
+        m_memory.ItemEnded();
+    if (end)
         end->isDisc ? m_discs.Ended(end->hasFailed) : m_sequencer.ItemEnded(end->hasFailed);
     const bool isAdding = m_library.Adding().total > 0;
     if (!State().mediaControlsEnabled && !m_starting && !isAdding)
@@ -206,6 +217,7 @@ void Player::RateChanged(const RateChange& change)
 
 void Player::TransportChanged()
 {
+    m_memory.Look();
     m_world.holdOffSleep(Settings().DisableScreenSaver != 0 && State().isWatched);
     m_face.window->StateChanged();
 }
@@ -219,6 +231,7 @@ void Player::EntryAdded()
 {
     if (Entries().Count() > 0)
         m_menus.SmartMenuXP1.SetEnabled({ "Remove", "RemoveAll", "Next", "Previous" }, true);
+    m_memory.Look();
     m_face.window->StateChanged();
 }
 

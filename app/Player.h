@@ -2,6 +2,8 @@
 
 #include "app/Associations.h"
 #include "app/ListEditor.h"
+#include "app/Memory.h"
+#include "app/PlayTools.h"
 #include "app/Sequencer.h"
 #include "app/SingleInstance.h"
 
@@ -35,6 +37,8 @@ struct PlayerWorld {
     History::Background runForHistory = [](auto work) { work()(); };
     /// Holds the screen saver and sleep off, or lets them come again.
     std::function<void(bool held)> holdOffSleep = [](bool) {};
+    /// Whether a path lies on a disc that is taken out.
+    std::function<bool(const std::string& path)> isRemovable = [](const std::string&) { return false; };
 };
 
 /// The whole program without its window: the sum of its rooms.
@@ -79,6 +83,10 @@ public:
     Sequencer& Sequence() { return m_sequencer; }
     const Sequencer& Sequence() const { return m_sequencer; }
     ListEditor& Editing() { return m_editor; }
+    PlayTools& Tools() { return m_tools; }
+    const PlayTools& Tools() const { return m_tools; }
+    Memory& Remembering() { return m_memory; }
+    const Memory& Remembering() const { return m_memory; }
     DiscSession& Discs() { return m_discs; }
     WindowControl& Window() { return m_window; }
     Menus& BothMenus() { return m_menus; }
@@ -115,6 +123,8 @@ private:
     DiscSession m_discs;
     Sequencer m_sequencer;
     ListEditor m_editor;
+    Memory m_memory;
+    PlayTools m_tools;
     SingleInstance m_instance;
     Associations m_associations;
     bool m_starting = true;

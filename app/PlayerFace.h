@@ -60,6 +60,8 @@ public:
     virtual void AskForListName(std::function<void(std::string)> chosen) = 0;
     /// Asks for one file of subtitles; empty on cancel.
     virtual void AskForSubtitles(std::function<void(std::string)> chosen) = 0;
+    /// Asks for a place in the item by a time; empty on cancel. `present` is what the time label shows.
+    virtual void AskForTime(const std::string& present, std::function<void(std::string)> chosen) = 0;
     /// Opens the file manager where that file lies.
     virtual void ShowFolderOf(const std::string& path) = 0;
     /// WindowControl::DialogClosed() follows.

@@ -169,6 +169,8 @@ void Sequencer::ItemEnded(bool failed)
         return ItemFailed();
     m_failuresInRow = 0;
     m_way = Way::ByTheModes;
+    if (std::exchange(m_stopsAfterThis, false))
+        return Follow({}, true);
     const auto& settings = m_rooms.settings.Settings();
     Follow(Entries().OnEndOfItem(settings.PlayMode, settings.RepeatMode), true);
 }

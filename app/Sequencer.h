@@ -58,6 +58,9 @@ public:
     /// Chooses what happens when playback has run out, see AfterPlay.
     void DoAfter(std::int16_t action);
     void DoAfterFinishPlay();
+    /// What is loaded is the last for now, whatever the modes say.
+    void StopAfterThis(bool on) { m_stopsAfterThis = on; }
+    bool StopsAfterThis() const { return m_stopsAfterThis; }
     /// The loaded file has ended, `failed` without ever having played.
     void ItemEnded(bool failed);
 
@@ -77,6 +80,7 @@ private:
 
     Rooms m_rooms;
     AfterPlay m_afterPlay;
+    bool m_stopsAfterThis = false;
     int m_failuresInRow = 0; // items that ended without having played
     /// Where the user is on the way to: what cannot be played is passed in that direction.
     Way m_way = Way::ByTheModes;

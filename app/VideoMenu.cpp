@@ -1,6 +1,6 @@
 #include "app/VideoMenu.h"
 
-#include "app/Commands.h"
+#include "app/PlayCommands.h"
 #include "app/Player.h"
 #include "app/VideoChoices.h"
 #include "shell/MenuText.h"
@@ -53,6 +53,9 @@ void Fill(QMenu* menu, QWidget& window, Player& player)
     menu->addSeparator();
     AddChoices(*menu, "As&pect Ratio", choices.aspectRatios);
     AddChoices(*menu, "&Deinterlace", choices.deinterlacing);
+    auto* const more = menu->addMenu("&More");
+    for (const auto& command : PlayCommands())
+        add(more, std::string(command.id).c_str());
     menu->addSeparator();
     add(menu, "Snapshot");
     add(menu, "ToggleFullScreen", window.isFullScreen() ? "Leave &Full Screen" : "");

@@ -45,7 +45,7 @@ void WindowKeys::MakeShortcuts()
 bool WindowKeys::FocusUsesKey(const QKeyEvent& event) const
 {
     const auto* const focus = QApplication::focusWidget();
-    if (focus == &m_parts.strip)
+    if (focus == &m_parts.strip || TakesCard(event))
         return true;
     if (focus == &m_parts.list && m_search->UsesKey(event))
         return true;
@@ -79,6 +79,14 @@ bool WindowKeys::MoveSelection(const QKeyEvent& event)
     }
 }
 
+bool WindowKeys::TakesCard(const QKeyEvent& event) const
+{
+    const auto* const focus = QApplication::focusWidget();
+    const bool isFree = focus == nullptr || focus == &m_window || focus == &m_parts.list;
+    return isFree && m_parts.list.HasCard() && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter)
+        && (event.modifiers() & ~Qt::KeypadModifier) == 0;
+}
+
 bool WindowKeys::ListKeyPressed(const QKeyEvent& event)
 {
     return m_search->Press(event) || MoveSelection(event);
@@ -86,6 +94,10 @@ bool WindowKeys::ListKeyPressed(const QKeyEvent& event)
 
 bool WindowKeys::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::KeyPress && TakesCard(*static_cast<QKeyEvent*>(event))) {
+        emit m_parts.list.CardTaken();
+        return true;
+    }
     if (watched == &m_parts.list && event->type() == QEvent::KeyPress)
         return ListKeyPressed(*static_cast<QKeyEvent*>(event));
     // Asked of the part that has the focus, and then of the window around it, before a shortcut is looked for.

@@ -32,6 +32,8 @@ protected:
 
 private:
     void MakeShortcuts();
+    /// Enter, while the empty list offers something.
+    bool TakesCard(const QKeyEvent& event) const;
     bool ListKeyPressed(const QKeyEvent& event);
     bool FocusUsesKey(const QKeyEvent& event) const;
     /// The list has no keys of its own. False for keys that do not move its selection.

@@ -1,6 +1,7 @@
 #include "app/frmMain.h"
 
 #include "app/CommandMenu.h"
+#include "app/Commands.h"
 #include "app/ContentPane.h"
 #include "app/ControlPanel.h"
 #include "app/ListMenu.h"
@@ -95,6 +96,7 @@ void frmMain::MakeList()
             m_menus->Popup("mnuPlayListmenu", m_list->mapToGlobal(QPoint(x, y)));
     });
     connect(m_list, &FancyList::CancelAdding, this, [this] { m_player.Files().CancelAdding(); });
+    connect(m_list, &FancyList::CardTaken, this, [this] { RunCommand(m_player, "BringBack"); });
     connect(m_list, &FancyList::RowsDragged, this, [this](int to) { m_player.Editing().MoveTo(to); });
     connect(m_list, &FancyList::MenuAsked, this, [this](const QPoint& at) { m_menus->PopupListMenu(at); });
     connect(m_list, &FancyList::OLEDragDrop, this,
@@ -201,6 +203,7 @@ void frmMain::StateChanged()
     if (isVisible())
         m_menus->ShowTray(m_player.Window().HasTrayIcon());
     ShowAddProgress();
+    m_list->SetCard(ToQString(m_player.Remembering().LastTime()));
     if (const auto revision = m_player.Entries().Revision(); std::exchange(m_toldRevision, revision) != revision)
         m_list->SetFoot(ToQString(SummaryText(m_player.Entries())));
     m_notes->ShowState(FillsScreen() && !m_bar->isVisible());

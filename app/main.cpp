@@ -17,6 +17,7 @@
 #include "platform/MediaControl.h"
 #include "platform/Power.h"
 #include "platform/Process.h"
+#include "platform/RemovableDiscs.h"
 #include "platform/Window.h"
 #include "playback/VideoFrame.h"
 #include "playback/VlcEngine.h"
@@ -227,6 +228,7 @@ int main(int argc, char** argv)
         .runInBackground = runInBackground,
         .runForHistory = runInBackground,
         .holdOffSleep = [&](bool held) { sleepInhibitor->Hold(held); },
+        .isRemovable = &platform::IsOnRemovableDisc,
     });
     drives.onChange = [&] { player.Discs().OnDVDTick(); };
     drives.onFound = [&](auto found) { player.Discs().DrivesFound(std::move(found)); };
@@ -254,6 +256,7 @@ int main(int argc, char** argv)
     // As at a logout, when the display is gone before anybody has asked the player to end.
     platform::OnForcedExit([&] {
         IgnoreFailure(player.WriteConfigurations());
+        player.Remembering().SaveNow();
         endProcess();
     });
     after(kTidyDelay, [&] {

@@ -1,5 +1,7 @@
 // What the playlist costs: adding, painting, removing, and memory. The list is filled with ready thumbnails.
 #include "playlist/FancyList.h"
+#include "playlist/ListArranging.h"
+#include "playlist/ListFind.h"
 #include "playlist/LoadThumb.h"
 #include "playlist/Playlist.h"
 
@@ -116,6 +118,27 @@ void RemoveFromTheMiddle(benchmark::State& state)
     }
 }
 BENCHMARK(RemoveFromTheMiddle)->Unit(benchmark::kMicrosecond);
+
+void FindAsOneTypes(benchmark::State& state)
+{
+    FullList full;
+    ListFind find(full.playlist);
+    for (auto _ : state) {
+        for (const auto* const words : { "9", "99", "99 e", "" })
+            full.list.SetFind(words, find.Rows(words));
+    }
+}
+BENCHMARK(FindAsOneTypes)->Unit(benchmark::kMillisecond);
+
+void SortAndUndo(benchmark::State& state)
+{
+    FullList full;
+    for (auto _ : state) {
+        full.playlist.Arrange(ListEdit::Sort, SortedRows(full.playlist, ListSort::Name, '/'), kPlayContinuous);
+        full.playlist.Undo(kPlayContinuous);
+    }
+}
+BENCHMARK(SortAndUndo)->Unit(benchmark::kMillisecond);
 
 void MemoryPerEntry(benchmark::State& state)
 {

@@ -52,8 +52,12 @@ public:
     virtual ~Engine() = default;
 
     // audio
-    virtual void SetVolume(int percent) = 0; ///< 0 to 100
+    virtual void SetVolume(int percent) = 0; ///< 0 to 100; above, the sound is made louder than it is
     virtual void SetMute(bool muted) = 0;
+
+    /// ms, later for more than 0; 0 for a fresh engine.
+    virtual int AudioDelay() { return 0; }
+    virtual void SetAudioDelay(int /*milliseconds*/) { }
 
     virtual std::vector<EngineTrack> AudioTracks() { return {}; }
     virtual int AudioTrack() { return -1; }
@@ -65,6 +69,10 @@ public:
     virtual void SetSubtitleTrack(int /*id*/) { }
     /// Shows the subtitles of a file from now on; false when it cannot be opened.
     virtual bool AddSubtitleFile(const std::string& /*path*/) { return false; }
+    virtual int SubtitleDelay() { return 0; } ///< as AudioDelay
+    virtual void SetSubtitleDelay(int /*milliseconds*/) { }
+    /// Holds the video and shows its next picture.
+    virtual void NextFrame() { }
     /// Such as "16:9"; empty for the video's own.
     virtual std::string AspectRatio() { return {}; }
     virtual void SetAspectRatio(const std::string& /*ratio*/) { }
@@ -114,6 +122,8 @@ public:
     virtual ~EngineFactory() = default;
     /// The first item will come soon; called once, when it is known that this process plays.
     virtual void Prepare() { }
+    /// In percent of the usual size, for the engines to come.
+    virtual void SetSubtitleScale(int /*percent*/) { }
     /// Null when the engine library cannot be started.
     virtual std::unique_ptr<Engine> Create() = 0;
 };

@@ -15,7 +15,7 @@ void EngineHost::AddVLCPLayer()
     m_fullScreen = false;
     if (!m_engine)
         return;
-    m_engine->SetVolume(m_volume);
+    m_engine->SetVolume(m_volume * m_boost / 100);
     m_engine->SetMute(m_muted);
 }
 
@@ -27,8 +27,16 @@ void EngineHost::RemoveVLCPlayer()
 void EngineHost::SetVolume(int percent)
 {
     m_volume = std::clamp(percent, 0, 100);
+    // Whoever turns it down wants it softer.
+    m_boost = m_volume < 100 ? 100 : m_boost;
     if (m_engine)
-        m_engine->SetVolume(m_volume);
+        m_engine->SetVolume(m_volume * m_boost / 100);
+}
+
+void EngineHost::SetBoost(int percent)
+{
+    m_boost = std::clamp(percent, 100, kMostBoost);
+    SetVolume(m_boost > 100 ? 100 : m_volume);
 }
 
 void EngineHost::ToggleMute()

@@ -23,6 +23,10 @@ public:
 
     int Volume() const { return m_volume; } ///< 0 to 100
     void SetVolume(int percent);
+    /// Percent of the full volume, 100 to kMostBoost: for what is too soft at 100.
+    int Boost() const { return m_boost; }
+    void SetBoost(int percent);
+    static constexpr int kMostBoost = 150;
     bool IsMuted() const { return m_muted; }
     void ToggleMute();
 
@@ -36,6 +40,7 @@ private:
     EngineFactory& m_factory;
     std::unique_ptr<Engine> m_engine;
     int m_volume = 100;
+    int m_boost = 100;
     bool m_muted = false;
     bool m_fullScreen = false;
 };

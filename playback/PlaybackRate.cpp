@@ -2,6 +2,7 @@
 
 #include "base/Numbers.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -11,6 +12,7 @@ namespace {
 
 constexpr double kSlowest = 0.125;
 constexpr double kFastest = 16;
+constexpr double kStepsInOne = 20;
 
 double Normalised(double rate)
 {
@@ -44,6 +46,15 @@ RateChange PlaybackRate::DecreaseRate(bool mediaControlsEnabled)
     if (m_value <= kSlowest)
         change.decreaseEnabled = false;
     return change;
+}
+
+RateChange PlaybackRate::StepRate(int steps, bool mediaControlsEnabled)
+{
+    if (!mediaControlsEnabled)
+        return {};
+    const double next = RoundHalfEven(m_value * kStepsInOne + steps) / kStepsInOne;
+    m_value = std::clamp(next, kSlowest, kFastest);
+    return { .engineRate = m_value, .increaseEnabled = m_value<kFastest, .decreaseEnabled = m_value> kSlowest };
 }
 
 RateChange PlaybackRate::ResetRate(bool mediaControlsEnabled)

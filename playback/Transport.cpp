@@ -199,6 +199,15 @@ void Transport::SetVolume(int percent)
 {
     m_host.SetVolume(percent);
     m_state.volume = m_host.Volume();
+    m_state.boost = m_host.Boost();
+    m_observer.TransportChanged();
+}
+
+void Transport::SetBoost(int percent)
+{
+    m_host.SetBoost(percent);
+    m_state.volume = m_host.Volume();
+    m_state.boost = m_host.Boost();
     m_observer.TransportChanged();
 }
 
@@ -228,6 +237,11 @@ void Transport::IncreaseRate()
 void Transport::DecreaseRate()
 {
     ApplyRate(m_rate.DecreaseRate(m_state.mediaControlsEnabled));
+}
+
+void Transport::StepRate(int steps)
+{
+    ApplyRate(m_rate.StepRate(steps, m_state.mediaControlsEnabled));
 }
 
 void Transport::ResetRate()
@@ -276,6 +290,7 @@ std::optional<ItemEnd> Transport::OnPositionTick()
     m_state.isWatched = HoldsOffSleep(reading);
     if (reading.state >= Engine::kPlaying)
         m_state.isPaused = reading.isLoaded && reading.state == Engine::kPaused;
+    m_state.elapsed = reading.time;
     m_state.length = reading.length;
     // A disc has others in each of its titles.
     if (reading.isLoaded && reading.state >= Engine::kPlaying)

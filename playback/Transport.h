@@ -37,7 +37,9 @@ struct TransportState {
     bool isRewinding = false; ///< Transport::OnRewindTick is due every 10 ms
     bool isMuted = false;
     int volume = 100;      ///< 0 to 100
+    int boost = 100;       ///< percent of the full volume, 100 or more
     double progress = 0;   ///< the share of the item that the seek bar shows as played, 0 to 1
+    double elapsed = 0;    ///< ms
     double length = 0;     ///< ms; 0 or below while unknown
     std::string timeText;  ///< elapsed and total, or a word in their place
     std::string rateText;  ///< the rate label
@@ -103,11 +105,15 @@ public:
 
     /// Clamped to 0 to 100.
     void SetVolume(int percent);
+    /// As EngineHost::SetBoost: the full volume and more.
+    void SetBoost(int percent);
     /// The wheel, wherever it stands for the volume: in eighths of a degree, 120 to a notch, as fine as it comes.
     void TurnVolume(int eighths);
     void cmdMuteClick();
     void IncreaseRate();
     void DecreaseRate();
+    /// Steps of 0.05, down for less than 0; nothing while nothing is loaded.
+    void StepRate(int steps);
     /// Nothing while nothing is loaded.
     void ResetRate();
 

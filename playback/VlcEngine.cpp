@@ -44,6 +44,8 @@ std::vector<std::string> CommonArguments(bool plainOutput)
 
 } // namespace
 
+constexpr std::int64_t kMicroseconds = 1000; // in a millisecond
+
 /// Plays one item. Each start of it has a player of the library of its own, and no stop is waited for.
 class VlcEngine final : public Engine {
 public:
@@ -75,6 +77,30 @@ public:
     {
         if (m_player != nullptr)
             libvlc_audio_set_track(m_player, id);
+    }
+
+    int AudioDelay() override
+    {
+        return m_player ? static_cast<int>(libvlc_audio_get_delay(m_player) / kMicroseconds) : 0;
+    }
+    void SetAudioDelay(int milliseconds) override
+    {
+        if (m_player != nullptr)
+            libvlc_audio_set_delay(m_player, milliseconds * kMicroseconds);
+    }
+    int SubtitleDelay() override
+    {
+        return m_player ? static_cast<int>(libvlc_video_get_spu_delay(m_player) / kMicroseconds) : 0;
+    }
+    void SetSubtitleDelay(int milliseconds) override
+    {
+        if (m_player != nullptr)
+            libvlc_video_set_spu_delay(m_player, milliseconds * kMicroseconds);
+    }
+    void NextFrame() override
+    {
+        if (m_player != nullptr)
+            libvlc_media_player_next_frame(m_player);
     }
 
     std::vector<EngineTrack> SubtitleTracks() override { return Tracks(&libvlc_video_get_spu_description); }
@@ -368,7 +394,9 @@ std::unique_ptr<Engine> VlcEngines::Create()
 
 VlcLibrary VlcEngines::NewLibrary()
 {
-    VlcLibrary library{ m_log, StartLibrary(CommonArguments(m_plainOutput)) };
+    auto arguments = CommonArguments(m_plainOutput);
+    arguments.push_back("--sub-text-scale=" + std::to_string(m_subtitleScale));
+    VlcLibrary library{ m_log, StartLibrary(arguments) };
     if (!library.instance)
         library.instance = m_base.get();
     m_log->Attach(library.instance.get());

@@ -23,6 +23,7 @@ public:
 
     void Prepare() override;
     std::unique_ptr<Engine> Create() override;
+    void SetSubtitleScale(int percent) override { m_subtitleScale = percent; }
 
 private:
     friend class VlcEngine;
@@ -39,6 +40,7 @@ private:
     std::shared_ptr<VlcEndings> m_endings;
     /// Holds the library's plug-in list in memory for the whole run; an instance beside it costs about a millisecond.
     std::shared_future<Instance> m_base;
+    int m_subtitleScale = 100; // percent
     bool m_plainOutput = false;
     std::chrono::steady_clock::time_point m_silentUntil;
 };

@@ -2,7 +2,6 @@
 
 #include "playlist/AddProgressLine.h"
 #include "playlist/FancyListAccessible.h"
-#include "playlist/ListFoot.h"
 
 #include <QContextMenuEvent>
 #include <QDir>
@@ -59,6 +58,7 @@ FancyList::FancyList(FancyListItems& items, QWidget* parent)
     , m_wheel(m_layout)
     , m_progressLine(new AddProgressLine(this))
     , m_foot(new ListFoot(this))
+    , m_card(new ListCard(this))
 {
     m_look.font = FancyListFont(kTitleHeight);
     m_look.detailFont = FancyListFont(kDetailHeight);
@@ -69,6 +69,7 @@ FancyList::FancyList(FancyListItems& items, QWidget* parent)
     // First: while a screen reader listens, a name makes the tool kit ask at once, and only once.
     FancyListAccessible::Install();
     setAccessibleName(tr("Playlist"));
+    connect(m_card, &ListCard::clicked, this, &FancyList::CardTaken);
     connect(m_progressLine, &AddProgressLine::Cancelled, this, &FancyList::CancelAdding);
     PlaceSurface();
 }
@@ -99,6 +100,12 @@ void FancyList::SetFoot(const QString& text)
 {
     m_footText = text;
     ShowFoot();
+}
+
+void FancyList::SetCard(const QString& text)
+{
+    m_cardText = text;
+    PlaceSurface();
 }
 
 void FancyList::SetFind(const std::string& words, std::vector<int> rows)
@@ -292,8 +299,11 @@ void FancyList::ListChanged()
 {
     if (IsFinding())
         emit FindOutdated();
-    if (std::exchange(m_toldCount, Count()) != Count())
+    const int before = std::exchange(m_toldCount, Count());
+    if (before != Count())
         FancyListAccessible::TellRowsChanged(*this);
+    if ((before == 0) != (Count() == 0))
+        PlaceSurface();
     if (std::exchange(m_toldSelection, SelectedItem()) != SelectedItem())
         FancyListAccessible::TellSelectionChanged(*this);
 }
@@ -304,6 +314,7 @@ void FancyList::PlaceSurface()
     for (QWidget* const part : { static_cast<QWidget*>(m_progressLine), static_cast<QWidget*>(m_foot) })
         part->setGeometry(0, height() - line, width(), part->sizeHint().height());
     m_layout.SetSurfaceSize(width(), height() - line);
+    m_card->Show(Count() == 0 ? m_cardText : QString(), { 0, 0, width(), height() - line });
 }
 
 // The title in full, as plain text, when its row is too narrow for it.

@@ -3,6 +3,8 @@
 #include "playlist/AddQueue.h"
 #include "playlist/FancyListLayout.h"
 #include "playlist/FancyListPainter.h"
+#include "playlist/ListCard.h"
+#include "playlist/ListFoot.h"
 #include "playlist/RowDrag.h"
 #include "playlist/RowMarks.h"
 #include "playlist/ThumbCache.h"
@@ -18,7 +20,6 @@
 namespace zentaro {
 
 class AddProgressLine;
-class ListFoot;
 
 /// The local paths of dropped or pasted files, in order; bytes that are no UTF-8 survive.
 std::vector<std::string> DroppedPaths(const QMimeData& data);
@@ -82,6 +83,11 @@ public:
     /// A key has moved the selection; with Shift the rows on its way are marked.
     void SelectionMovedByKey(bool shift) { m_marks.SelectionMoved(shift); }
 
+    /// What the list offers in place of its entries while it has none; empty for nothing.
+    void SetCard(const QString& text);
+    /// Enter takes the offer.
+    bool HasCard() const { return m_card->isVisibleTo(this); }
+
     /// A line that stands in the list while it has no entries; empty for none.
     void SetHint(const QString& hint);
 
@@ -90,6 +96,7 @@ public:
 signals:
     /// The chosen rows were dragged to stand before the row `to`.
     void RowsDragged(int to);
+    void CardTaken();
     /// The menu key was pressed; `at` is a place on the screen.
     void MenuAsked(const QPoint& at);
     /// Rows were added, taken out or arranged anew while only some are shown.
@@ -143,6 +150,8 @@ private:
     WheelScroll m_wheel;
     AddProgressLine* m_progressLine;
     ListFoot* m_foot;
+    ListCard* m_card;
+    QString m_cardText;
     QString m_footText;
     int m_thumbGrip = -1; // where the scroll bar's thumb is held, in pixels below its top
     int m_toldSelection = FancyListItems::kNone;

@@ -1,6 +1,7 @@
 #include "playlist/FancyListItems.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace zentaro {
@@ -53,6 +54,18 @@ void FancyListItems::RestoreSelection(int index)
 {
     m_selectedItem = index >= 0 && index <= Count() ? index : kNone;
     Changed();
+}
+
+void FancyListItems::SetSeen(int row, double share)
+{
+    constexpr double smallest = 0.005; // that can be seen of it
+    if (!IsRow(row))
+        return;
+    auto& seen = m_items[static_cast<std::size_t>(row)].Seen;
+    if (std::abs(seen - share) < smallest && (share < 1 || seen >= 1) && (share > 0 || seen <= 0))
+        return;
+    seen = share;
+    RepaintIfRefresh();
 }
 
 std::vector<int> FancyListItems::MarkedRows() const

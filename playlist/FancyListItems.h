@@ -12,6 +12,7 @@ struct FancyListItem {
     std::string Text;
     Picture Pic;
     std::string Detail;
+    double Seen = 0;       ///< how far it was played before, 0 to 1
     bool IsMarked = false; ///< one of several that were chosen together
 };
 
@@ -77,6 +78,9 @@ public:
     void SetItems(std::vector<FancyListItem> items);
     /// A selection of before: kNone, a row, or Count().
     void RestoreSelection(int index);
+
+    /// Rows that are not there are left out.
+    void SetSeen(int row, double share);
 
     // Several rows, chosen together for what is done next; beside the selection.
     /// In order.

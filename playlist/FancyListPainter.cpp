@@ -16,6 +16,8 @@ namespace {
 constexpr int kDetailGap = 4;
 constexpr double kMarkedShare = 0.7;  // of the selection's colour
 constexpr double kMarkedLight = 0.12; // of the warm light
+constexpr int kSeenLine = 2;          // px
+constexpr int kBadge = 16;            // px
 constexpr double kFoundShare = 0.4;
 constexpr double kHoverShare = 0.35;
 constexpr int kFade = 20; // px, at the end of a line that goes on
@@ -148,6 +150,8 @@ void FancyListPainter::PaintRow(int row)
     m_painter.fillRect(area, background);
     if (!item.Pic.IsEmpty() && m_layout.Thumbnails())
         RenderThumb(item.Pic, m_layout.ImageRect(row));
+    if (item.Seen > 0 && m_layout.Thumbnails())
+        PaintSeen(item.Seen, m_layout.ImageRect(row));
     PaintText(item, m_layout.TextRect(row), text, Mixed(text, background, 0.38));
     if (row == m_layout.Items().PlayingItem())
         PaintPlayingMark(row);
@@ -195,6 +199,29 @@ void FancyListPainter::PaintText(
         m_painter.setPen(TextPen(dimmed, detailMetrics.horizontalAdvance(detail), rect));
         m_painter.setFont(m_look.detailFont);
         m_painter.drawText(QPoint(rect.left, top + kDetailGap + detailMetrics.ascent()), detail);
+    }
+    m_painter.restore();
+}
+
+// Started ones have a line under the thumbnail, watched ones a tick in its corner.
+void FancyListPainter::PaintSeen(double share, const ListRect& box)
+{
+    m_painter.save();
+    if (share < 1) {
+        const QRect line(box.left, box.bottom + 1, box.Width(), kSeenLine);
+        m_painter.fillRect(line, Faded(m_look.palette.color(QPalette::ButtonText), 0.2));
+        m_painter.fillRect(
+            QRect(line.topLeft(), QSize(RoundHalfEven(box.Width() * share), kSeenLine)), QColor(kWarmLight));
+    } else {
+        const QRectF badge(box.right - kBadge, box.bottom - kBadge, kBadge, kBadge);
+        m_painter.setRenderHint(QPainter::Antialiasing);
+        m_painter.setPen(Qt::NoPen);
+        m_painter.setBrush(QColor(0, 0, 0, 170));
+        m_painter.drawEllipse(badge);
+        m_painter.setPen(QPen(QColor(kWarmLight), 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        const auto at = [&](double x, double y) { return badge.topLeft() + QPointF(x, y) * kBadge; };
+        const QPointF tick[] = { at(0.27, 0.52), at(0.44, 0.69), at(0.74, 0.33) };
+        m_painter.drawPolyline(tick, 3);
     }
     m_painter.restore();
 }

@@ -52,6 +52,7 @@ private:
     void PaintRow(int row);
     void PaintText(const FancyListItem& item, const ListRect& rect, const QColor& color, const QColor& dimmed);
     void PaintFound(const QString& line, const ListRect& rect, int top);
+    void PaintSeen(double share, const ListRect& box);
     void PaintPlayingMark(int row);
     void PaintScrollBar();
     void PaintFocusFrame();

@@ -24,7 +24,7 @@ Letter TakeLetter(std::string_view text)
     const auto lead = static_cast<unsigned char>(text[0]);
     const std::size_t length = lead < 0xC2 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 1;
     if (length == 1 || length > text.size())
-        return { lead < 0x80 ? lead : 0xFFFD, 1 };
+        return { lead < 0x80 ? std::uint32_t{ lead } : 0xFFFDU, 1 };
     std::uint32_t code = lead & (0xFFU >> (length + 1));
     for (std::size_t i = 1; i < length; ++i) {
         if ((static_cast<unsigned char>(text[i]) & 0xC0) != 0x80)

@@ -44,6 +44,15 @@ void Playlist::Append(PlaylistEntry entry, std::string detail)
     m_list.AddItem(std::move(entry.Title), std::move(entry.Thumbnail), std::move(detail));
 }
 
+std::optional<int> Playlist::IndexOfPath(const std::string& path) const
+{
+    if (!IsInPlaylist(path))
+        return std::nullopt;
+    const auto at =
+        std::find_if(m_files.begin(), m_files.end(), [&](const PlaylistFile& file) { return file.FullPath == path; });
+    return static_cast<int>(at - m_files.begin());
+}
+
 void Playlist::BuildOrder(std::int32_t playMode)
 {
     if (playMode == kPlayShuffle)

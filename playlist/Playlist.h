@@ -52,6 +52,8 @@ public:
     const MediaFacts& FactsAt(int index) const { return m_files[static_cast<std::size_t>(index)].Facts; }
     /// The index of the entry with this id.
     std::optional<int> IndexOf(std::uint64_t id) const;
+    /// The index of the entry with this path.
+    std::optional<int> IndexOfPath(const std::string& path) const;
     /// The selected entry, nothing while the selection names none.
     std::optional<PlaylistEntry> SelectedEntry() const { return EntryAt(m_list.SelectedItem()); }
     /// By exact comparison, letter case included.

@@ -173,7 +173,7 @@ TEST_F(PlayerTest, continuous_play_goes_round_and_normal_play_stops)
     EXPECT_EQ(Starts(), 4u); // nothing is loaded
     player.Sequence().SetRepeatMode(kRepeatSingle);
     player.Sequence().CMDPlayClick();
-    player.Sequence().RemoveAll();
+    player.Editing().RemoveAll();
     EndItem();
     EXPECT_EQ(world.dialogs.asked, 1); // again, but of what
 }

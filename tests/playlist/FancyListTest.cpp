@@ -214,7 +214,8 @@ TEST_F(FancyListTest, TheProgressLineTakesItsRoomFromTheRowsAndCancels)
     EXPECT_EQ(list.Layout().SurfaceHeight(), 464);
     EXPECT_TRUE(Shot().pixel(149, 464) == kWarmLight && Shot().pixel(150, 464) != kWarmLight) << "five are done";
     QSignalSpy cancelled(&list, &FancyList::CancelAdding);
-    auto* button = list.findChild<QAbstractButton*>();
+    const auto buttons = list.findChildren<QAbstractButton*>();
+    auto* const button = *std::ranges::find(buttons, QString("Cancel"), &QAbstractButton::text);
     EXPECT_EQ(button->parentWidget()->accessibleName(), "Adding 6 of 10");
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_EQ(cancelled.count(), 1);

@@ -22,6 +22,7 @@ struct EngineTrace {
     int volume = -1;
     bool muted = false;
     double rateSet = 0;
+    int audioDelay = 0;
     int stops = 0;
     int state = Engine::kPlaying;
     double time = 0;
@@ -45,6 +46,8 @@ public:
     double Time() override { return m_trace.time; }
     double Position() override { return m_trace.length > 0 ? m_trace.time / m_trace.length : 0; }
     void SetPosition(double position) override { m_trace.time = position * m_trace.length; }
+    int AudioDelay() override { return m_trace.audioDelay; }
+    void SetAudioDelay(int milliseconds) override { m_trace.audioDelay = milliseconds; }
     int State() override { return m_trace.state; }
     double Rate() override { return m_trace.rateSet > 0 ? m_trace.rateSet : 1; }
     void SetRate(double rate) override { m_trace.rateSet = rate; }
@@ -54,6 +57,7 @@ public:
     {
         m_trace.played.push_back(location.isLocation ? "<" + location.text + ">" : location.text);
         m_trace.options = options;
+        m_trace.audioDelay = 0;
         m_trace.rateSet = 0;
     }
     void Play() override

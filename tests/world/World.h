@@ -71,6 +71,10 @@ public:
     }
     void AskForListName(std::function<void(std::string)> chosen) override { chooseListName = std::move(chosen); }
     void AskForSubtitles(std::function<void(std::string)> chosen) override { chooseSubtitles = std::move(chosen); }
+    void AskForTime(const std::string&, std::function<void(std::string)> chosen) override
+    {
+        chooseTime = std::move(chosen);
+    }
     void ShowFolderOf(const std::string& path) override { log << "folder of " << path << " "; }
     void ShowOptions() override { log << "options "; }
     void ShowAbout() override { log << "about "; }
@@ -88,6 +92,7 @@ public:
     void Choose(const std::vector<std::string>& files) { std::exchange(m_chosen, nullptr)(files); }
 
     std::function<void(std::string)> chooseListName;
+    std::function<void(std::string)> chooseTime;
     std::function<void(std::string)> chooseSubtitles;
     std::vector<std::string> boxes;
     std::ostringstream log;
@@ -271,7 +276,8 @@ private:
             { [this] { ++driveQuestions, askForDrives(); }, [] { return Picture(); }, false, after },
             { &associations, "zentaro", "/program/", {} }, after,
             [this](auto work) { background.push_back(std::move(work)); }, [](auto work) { work()(); },
-            [this](bool held) { isSleepHeldOff = held; } };
+            [this](bool held) { isSleepHeldOff = held; },
+            [](const std::string& path) { return path.starts_with("/media/"); } };
     }
 
     EngineFactory& m_engines;

@@ -1,0 +1,87 @@
+#include "app/PlayCommands.h"
+
+#include "app/Player.h"
+
+#include <array>
+
+namespace zentaro {
+
+namespace {
+
+template <std::size_t Count> using Keys = std::array<std::string_view, Count>;
+
+constexpr Keys<1> kB{ "B" }, kCtrlE{ "Ctrl+E" }, kCtrlMinus{ "Ctrl+-" }, kCtrlPlus{ "Ctrl++" },
+    kCtrlShiftDown{ "Ctrl+Shift+Down" }, kCtrlShiftUp{ "Ctrl+Shift+Up" }, kCtrlT{ "Ctrl+T" }, kG{ "G" }, kH{ "H" },
+    kK{ "K" }, kMinus{ "-" }, kPeriod{ "." }, kPlus{ "+" }, kR{ "R" }, kShiftH{ "Shift+H" }, kShiftK{ "Shift+K" };
+
+constexpr int kShift = 50;   // ms
+constexpr int kBoost = 10;   // percent
+constexpr int kLetters = 10; // percent
+
+bool IsLoaded(const Player& player)
+{
+    return player.State().mediaControlsEnabled;
+}
+
+bool HasVideo(const Player& player)
+{
+    return player.State().hasVideoOutput;
+}
+
+template <int Steps> void StepRate(Player& player, int)
+{
+    player.Transporting().StepRate(Steps);
+}
+
+template <void (PlayTools::*Act)(int), int Amount> void Change(Player& player, int)
+{
+    (player.Tools().*Act)(Amount);
+}
+
+template <void (PlayTools::*Act)()> void Do(Player& player, int)
+{
+    (player.Tools().*Act)();
+}
+
+constexpr std::array kCommands{
+    Command{ "FasterALittle", "A Little &Faster", kCtrlShiftUp, StepRate<1>, IsLoaded, nullptr, nullptr, true },
+    Command{ "SlowerALittle", "A Little &Slower", kCtrlShiftDown, StepRate<-1>, IsLoaded, nullptr, nullptr, true },
+    Command{ "NextFrame", "Next Pi&cture", kPeriod, Do<&PlayTools::NextFrame>, HasVideo, nullptr, nullptr, true },
+    Command{ "MarkLoop", "Again and Again from Here, to Here", kB, Do<&PlayTools::MarkLoop>, IsLoaded },
+    Command{ "JumpToTime", "&Go to a Time...", kG, Do<&PlayTools::AskForTime>, IsLoaded },
+    Command{ "SubtitlesLater", "Subtitles Later", kH, Change<&PlayTools::ShiftSubtitles, kShift>, HasVideo, nullptr,
+        nullptr, true },
+    Command{ "SubtitlesEarlier", "Subtitles Earlier", kShiftH, Change<&PlayTools::ShiftSubtitles, -kShift>, HasVideo,
+        nullptr, nullptr, true },
+    Command{ "LargerSubtitles", "Larger Subtitles", kCtrlPlus, Change<&PlayTools::ScaleSubtitles, kLetters>, HasVideo },
+    Command{
+        "SmallerSubtitles", "Smaller Subtitles", kCtrlMinus, Change<&PlayTools::ScaleSubtitles, -kLetters>, HasVideo },
+    Command{
+        "SoundLater", "Sound Later", kK, Change<&PlayTools::ShiftSound, kShift>, IsLoaded, nullptr, nullptr, true },
+    Command{ "SoundEarlier", "Sound Earlier", kShiftK, Change<&PlayTools::ShiftSound, -kShift>, IsLoaded, nullptr,
+        nullptr, true },
+    Command{ "MoreThanFullVolume", "Louder Than the File", kPlus, Change<&PlayTools::Boost, kBoost>, IsLoaded, nullptr,
+        nullptr, true },
+    Command{ "BackToFullVolume", "Back towards the Full Volume", kMinus, Change<&PlayTools::Boost, -kBoost>, IsLoaded,
+        nullptr, nullptr, true },
+    Command{ "ShowRemaining", "Show the Time That Is Left", kR, Do<&PlayTools::ToggleRemaining>, nullptr,
+        [](const Player& player) { return player.Tools().ShowsRemaining(); } },
+    Command{ "StopAfterThis", "Stop After This &One", kCtrlE,
+        [](Player& player, int) {
+            const bool stops = !player.Sequence().StopsAfterThis();
+            player.Sequence().StopAfterThis(stops);
+            player.Face().window->ShowNote(stops ? "Stops after this one" : "Goes on after this one");
+        },
+        IsLoaded, [](const Player& player) { return player.Sequence().StopsAfterThis(); } },
+    Command{ "SleepTimer", "Stop by the Cloc&k", kCtrlT, Do<&PlayTools::NextSleepTime>, nullptr,
+        [](const Player& player) { return player.Tools().SleepTime() > 0; } },
+};
+
+} // namespace
+
+std::span<const Command> PlayCommands()
+{
+    return kCommands;
+}
+
+} // namespace zentaro

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QRect>
+
+namespace zentaro {
+
+/// An offer in the middle of the empty list: what there is, and that a click or Enter brings it.
+class ListCard : public QAbstractButton {
+public:
+    explicit ListCard(QWidget* parent);
+
+    /// Hidden for an empty text. `area`: where it may lie, in pixels of its parent.
+    void Show(const QString& text, const QRect& area);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace zentaro
