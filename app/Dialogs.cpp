@@ -39,6 +39,7 @@ std::vector<FileTypeRow> Rows(const std::vector<AssociationChoice>& choices)
     return rows;
 }
 
+constexpr const char* kAllFiles = "All files (*)";
 constexpr const char* kLists = "Lists (*.m3u *.m3u8 *.pls *.xspf)";
 
 /// From "name|patterns" pairs to what Qt wants: "name (patterns)", with blanks between the patterns.
@@ -77,7 +78,8 @@ void Dialogs::AskForFiles(
 {
     auto* const dialog = new QFileDialog(&m_window, ToQString(title));
     dialog->setFileMode(QFileDialog::ExistingFiles);
-    dialog->setNameFilters(QtFilters(filter) << kLists);
+    dialog->setNameFilters(
+        m_player.Ways().TakesAllMedia() ? QtFilters(filter) << kLists << kAllFiles : QtFilters(filter) << kLists);
     AskForPaths(dialog, [chosen = std::move(chosen)](const std::vector<std::string>& paths) {
         chosen(OpenFileResults(paths, platform::PathSeparator()));
     });

@@ -54,6 +54,45 @@ void History::AddToHistory(const std::string& path, const std::string& title)
     });
 }
 
+void History::AddNewest(const std::string& path, const std::string& title)
+{
+    Files files{ { path, title } };
+    for (int slot = 0; slot < kHistorySlots; ++slot) {
+        const auto known = PathAt(slot);
+        const bool isThere =
+            std::any_of(files.begin(), files.end(), [&](const auto& file) { return file.first == known; });
+        if (!known.empty() && !isThere && static_cast<int>(files.size()) < kFull)
+            files.push_back({ known, TitleAt(slot) });
+    }
+    Replace(files);
+}
+
+void History::Replace(const Files& files)
+{
+    const auto fileAt = [&files](int slot) {
+        const auto at = static_cast<std::size_t>(slot);
+        return at < files.size() ? files[at] : std::pair<std::string, std::string>();
+    };
+    for (int slot = 0; slot < kHistorySlots; ++slot)
+        Fill(slot, fileAt(slot).second, fileAt(slot).first);
+    if (files.empty()) {
+        Fill(0, kNoHistory, {});
+        m_menus.SmartMenuXP1.SetEnabled(HistoryKey(0), false);
+        m_menus.frmMenu.SetEnabled("mnuRecent", 0, false);
+    }
+    m_background([this, files] {
+        const std::lock_guard storing(m_storing);
+        m_store.BeginBatch();
+        for (int slot = 0; slot < kHistorySlots; ++slot) {
+            const auto at = static_cast<std::size_t>(slot);
+            const auto file = at < files.size() ? files[at] : std::pair<std::string, std::string>();
+            Write(slot, file.first, file.second);
+        }
+        IgnoreFailure(m_store.CommitBatch());
+        return [] {};
+    });
+}
+
 void History::Close()
 {
     while (const auto show = StoreNext())

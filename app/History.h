@@ -8,6 +8,8 @@
 #include <functional>
 #include <mutex>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace zentaro {
 
@@ -26,6 +28,9 @@ public:
     void LoadHistory();
     /// Records a file that is played. One that is there already stays where it is. The menus show it when it is stored.
     void AddToHistory(const std::string& path, const std::string& title);
+    /// Records a file that is played as the first one; one that is there already goes there.
+    void AddNewest(const std::string& path, const std::string& title);
+    void Clear() { Replace({}); }
     /// Stores at once what still waits for that.
     void Close();
     /// 0 to 10; empty while the slot is not filled.
@@ -40,6 +45,10 @@ private:
         bool isTaken = false; ///< it is being stored, or only to be shown yet
     };
 
+    using Files = std::vector<std::pair<std::string, std::string>>; // paths and titles
+
+    /// Menus and store hold these from now on.
+    void Replace(const Files& files);
     const CommandItem& Slot(int slot) const { return *m_menus.SmartMenuXP1.Find(HistoryKey(slot)); }
     std::string Read(const char* key, int slot);
     void Write(int slot, const std::string& path, const std::string& title);

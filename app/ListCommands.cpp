@@ -105,6 +105,17 @@ constexpr std::array kCommands{
             const auto entry = player.Entries().SelectedEntry();
             return entry && player.Remembering().IsFolderForgotten(entry->FullPath);
         } },
+    Command{ "CompactList", "&Low Rows", {},
+        [](Player& player, int) { player.Remembering().SetListCompact(!player.Remembering().IsListCompact()); },
+        nullptr, [](const Player& player) { return player.Remembering().IsListCompact(); } },
+    Command{ "FamiliarWays", "&Ways as in Other Players", {},
+        [](Player& player, int) {
+            const bool on = !player.Ways().isFamiliar;
+            player.Remembering().SetFamiliar(on);
+            player.Face().window->ShowNote(on ? "Ways: Familiar" : "Ways: Zentaro's own");
+        },
+        nullptr, [](const Player& player) { return player.Ways().isFamiliar; } },
+    Command{ "ClearHistory", "Clear &Recent Files", {}, [](Player& player, int) { player.ClearHistory(); } },
     Command{ "ForgetEntry", "&Forget This Entry", {},
         [](Player& player, int) {
             if (const auto entry = player.Entries().SelectedEntry())

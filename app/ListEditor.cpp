@@ -19,7 +19,9 @@ void ListEditor::Remove()
 {
     const int before = Entries().Count();
     // One entry leaves the order as it is told of it; several have it built anew.
-    if (const auto marked = Entries().List().MarkedRows(); !marked.empty())
+    const bool isRenumbered = m_rooms.settings.ChosenWays().FollowsWhatPlays();
+    const auto marked = isRenumbered ? ChosenRows() : Entries().List().MarkedRows();
+    if (!marked.empty())
         Entries().Arrange(ListEdit::Remove, RemainingRows(before, marked), PlayMode());
     else
         Entries().RemoveSelected();

@@ -12,7 +12,7 @@ constexpr const char* kItems[] = { "PlaySelected", "PlayNext", "RemoveEntry", "S
     "UndoListEdit", "RedoListEdit", "SelectAll", "FindInList", "ShowCurrent", "", ">&Order", "MoveEntryUp",
     "MoveEntryDown", "", "SortByName", "SortByLength", "SortByDate", "SortBySize", "SortByFolder", "<", ">&Memory",
     "BringBack", "GoToLastPlace", "StartOver", "", "Remember", "RememberRemovable", "NeverRemember", "", "ForgetEntry",
-    "ForgetAll", "<", "", "SaveList" };
+    "ForgetAll", "ClearHistory", "<", "", "CompactList", "FamiliarWays", "SaveList" };
 
 } // namespace
 

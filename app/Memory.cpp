@@ -34,6 +34,7 @@ std::string Format(const Present& present)
     writer.Row("volume").Number(present.volume);
     writer.Row("list").Number(present.selected).Number(present.position);
     writer.Row("remember").Number(present.isRemembering ? 1 : 0).Number(present.remembersRemovable ? 1 : 0);
+    writer.Row("ways").Number(present.isFamiliar ? 1 : 0).Number(present.isListCompact ? 1 : 0);
     return writer.Take();
 }
 
@@ -50,6 +51,9 @@ Present ParsePresent(std::string_view text)
         } else if (row[0] == "list") {
             present.selected = RoundHalfEven(NumberAt(row, 1));
             present.position = RoundHalfEven(NumberAt(row, 2));
+        } else if (row[0] == "ways") {
+            present.isFamiliar = NumberAt(row, 1) != 0;
+            present.isListCompact = NumberAt(row, 2) != 0;
         } else if (row[0] == "remember") {
             present.isRemembering = NumberAt(row, 1) != 0;
             present.remembersRemovable = NumberAt(row, 2) != 0;
@@ -67,10 +71,16 @@ Memory::Memory(Needs needs, Rooms rooms)
 {
 }
 
+void Memory::LoadChoices()
+{
+    m_present = m_shown.present =
+        ParsePresent(platform::ReadTextFile(m_needs.folder + kPresentFile, kLongest).value_or(""));
+    ApplyWays();
+}
+
 void Memory::Load()
 {
     const auto read = [](const std::string& path) { return platform::ReadTextFile(path, kLongest).value_or(""); };
-    m_present = m_shown.present = ParsePresent(read(m_needs.folder + kPresentFile));
     m_places = PlaceBook::Parse(read(m_needs.folder + kPlacesFile));
     m_places.SetTime(m_present.path, m_present.time, m_present.length);
     m_isLoaded = true;
@@ -86,6 +96,9 @@ void Memory::Load()
             m_last.selected = std::min(m_present.selected, static_cast<int>(m_last.entries.size()) - 1);
             m_last.position = m_present.position;
             m_rooms.face.window->StateChanged();
+            if (m_rooms.settings.ChosenWays().GoesOnByItself() && m_rooms.library.Entries().Count() == 0
+                && m_rooms.library.Adding().total == 0)
+                BringBack();
         };
     });
 }
@@ -151,10 +164,14 @@ void Memory::Begin(Engine& engine)
         engine.SetSubtitleDelay(place.subtitleDelay);
     m_item.audio = engine.AudioTrack();
     m_item.subtitle = engine.SubtitleTrack();
-    if (const auto goTo = std::exchange(m_goTo, std::nullopt))
+    if (const auto goTo = std::exchange(m_goTo, std::nullopt)) {
         m_rooms.transport.Seek(*goTo / engine.Length());
-    else if (m_item.lastPlace > 0)
+    } else if (m_item.lastPlace > 0 && m_rooms.settings.ChosenWays().GoesOnByItself()) {
+        GoToLastPlace();
+        m_rooms.face.window->ShowOffer("Goes on at " + PlaceText(m_item.lastPlace), "StartOver");
+    } else if (m_item.lastPlace > 0) {
         m_rooms.face.window->ShowOffer("You were at " + PlaceText(m_item.lastPlace), "GoToLastPlace");
+    }
 }
 
 void Memory::KeepPlace(Engine& engine)
@@ -255,6 +272,28 @@ void Memory::GoToLastPlace()
 void Memory::StartOver()
 {
     m_rooms.transport.Seek(0);
+}
+
+void Memory::ApplyWays()
+{
+    m_rooms.settings.SetWays({ m_present.isFamiliar });
+    m_rooms.library.TakeAllMedia(m_rooms.settings.ChosenWays().TakesAllMedia());
+    m_rooms.transport.LetEngineEndItems(m_rooms.settings.ChosenWays().EngineEndsItems());
+}
+
+void Memory::SetFamiliar(bool on)
+{
+    m_present.isFamiliar = on;
+    ApplyWays();
+    Look();
+    m_rooms.face.window->StateChanged();
+}
+
+void Memory::SetListCompact(bool on)
+{
+    m_present.isListCompact = on;
+    Look();
+    m_rooms.face.window->StateChanged();
 }
 
 void Memory::SetRemembering(bool on)

@@ -26,6 +26,8 @@ struct Present {
     int position = -1; ///< in the play order
     bool isRemembering = true;
     bool remembersRemovable = false;
+    bool isFamiliar = false;
+    bool isListCompact = false;
     bool operator==(const Present&) const = default;
 };
 
@@ -50,6 +52,8 @@ public:
     };
     Memory(Needs needs, Rooms rooms);
 
+    /// Reads what the user has chosen; nothing is kept yet.
+    void LoadChoices();
     /// Reads what was kept; from now on it is kept up to date. The list comes beside the window.
     void Load();
     /// The player may have changed: what is new will be kept within a few seconds.
@@ -73,6 +77,11 @@ public:
     void GoToLastPlace();
     void StartOver();
 
+    /// The rows are low, so that more of them are in sight.
+    bool IsListCompact() const { return m_present.isListCompact; }
+    void SetListCompact(bool on);
+    /// Which ways the user knows.
+    void SetFamiliar(bool on);
     bool IsRemembering() const { return m_present.isRemembering; }
     /// Off: everything is forgotten, too.
     void SetRemembering(bool on);
@@ -91,6 +100,7 @@ private:
     };
     bool MayKeep(const std::string& path) const;
     void Begin(Engine& engine);
+    void ApplyWays();
     void KeepPlace(Engine& engine);
     void KeepTracks(Engine& engine);
     void ShowSeenFrom(int first);

@@ -5,6 +5,7 @@
 #include "app/Snapshots.h"
 #include "base/Paths.h"
 #include "playlist/ListFile.h"
+#include "playlist/MediaTypes.h"
 
 #include <utility>
 
@@ -53,7 +54,9 @@ bool Player::Load(const std::string& commandLine, PlayerFace face)
     m_sequencer.SetPlayMode(Settings().PlayMode);
     m_sequencer.SetRepeatMode(Settings().RepeatMode);
     m_sequencer.DoAfter(0);
-    if (!m_instance.BecomePlayer(ReadCommandLine(commandLine, m_world.fileExists), Settings().UseNewPlayer != 0))
+    m_memory.LoadChoices();
+    if (!m_instance.BecomePlayer(
+            ReadCommandLine(commandLine, m_world.fileExists), Settings().UseNewPlayer != 0, Ways().TakesAllMedia()))
         return false;
     m_world.engines.Prepare();
     m_memory.Load();
@@ -80,7 +83,8 @@ void Player::LoadConfigurations()
 void Player::OpenStartupFile()
 {
     const auto& path = m_instance.Request().StartupArgument;
-    const bool isOurs = IsSupportedFile(path, m_world.separator) || ListFormatOf(path, m_world.separator);
+    const bool isOurs =
+        IsMediaFile(path, m_world.separator, Ways().TakesAllMedia()) || ListFormatOf(path, m_world.separator);
     if (!m_world.fileExists(path) || !isOurs)
         return StartIsOver();
     m_library.LoadThumb(FileNamePart(path, m_world.separator), path, Settings().LaunchFullScreen != 0,
@@ -102,6 +106,11 @@ void Player::ReceiveText(const std::string& text, platform::HandOverDone done)
     if (text.empty())
         return done();
     m_face.window->FlashCaption();
+    constexpr std::string_view added = " *Add";
+    if (Ways().AddIsObeyed() && text.ends_with(added)) {
+        m_library.DropOnList({ text.substr(0, text.size() - added.size()) });
+        return done();
+    }
     // Whether it plays at once depends on how this player itself was started; the text is opened as it stands.
     m_library.LoadThumb(FileNamePart(text, m_world.separator), text, Settings().LaunchFullScreen != 0,
         m_instance.Request().ReplaceOnOpen, [done = std::move(done)](AddOutcome) { done(); });

@@ -74,6 +74,8 @@ public:
     /// A text has come from a later start; `done` is called when its file is open or refused.
     void ReceiveText(const std::string& text, platform::HandOverDone done);
 
+    const zentaro::Ways& Ways() const { return m_settings.ChosenWays(); }
+    void ClearHistory() { m_history.Clear(); }
     const PlayerSettings& Settings() const { return m_settings.Settings(); }
     Transport& Transporting() { return m_transport; }
     const TransportState& State() const { return m_transport.State(); }
@@ -104,6 +106,7 @@ private:
 
     void ShowNotice(const Notice& notice, std::function<void()> closed) override;
     void PlayItem(int index, bool playFlag) override { m_sequencer.PlayChosen(index, playFlag); }
+    bool PlaysListedInPlace() const override { return Ways().ListedPlaysInPlace(); }
     std::int32_t PlayMode() const override { return Settings().PlayMode; }
     void EntryAdded() override;
     void AddProgressChanged() override;

@@ -28,9 +28,12 @@ void Sequencer::PlayItem(std::int16_t index, bool fullScreen)
         DiscSession::ItemOf(*entry), { path, DiscSession::IsDiscLocation(path) }, m_rooms.settings.ItemOptions(path));
     transport.Play();
     m_rooms.window.ShowCaption();
-    m_rooms.history.AddToHistory(path, Entries().List().SelectedText());
+    if (!Known().HistoryIsTidy())
+        m_rooms.history.AddToHistory(path, Entries().List().SelectedText());
+    else if (m_rooms.settings.Settings().KeepHistory != 0)
+        m_rooms.history.AddNewest(path, entry->Title);
     Entries().List().SetPlayingItem(index);
-    transport.ItemStarted();
+    transport.ItemStarted(Known().SpeedStays());
     if (fullScreen)
         transport.Host().ToggleFullScreen();
 }
@@ -59,6 +62,8 @@ void Sequencer::CMDPlayClick()
 {
     if (Entries().Count() == 0)
         return m_rooms.library.OpenFiles(false);
+    if (Known().PlayGoesOn() && m_rooms.transport.State().isPaused)
+        return m_rooms.transport.CMDPauseClick();
     Chosen(Way::ByTheModes);
     if (m_rooms.transport.Item().kind == TransportItem::Kind::DriveDisc)
         m_rooms.discs.Play();
@@ -111,13 +116,28 @@ void Sequencer::cmdPreviousClick()
 
 void Sequencer::StepOn()
 {
+    if (Known().FollowsWhatPlays())
+        Entries().StandOn(Entries().IndexOfPath(m_rooms.transport.Item().path));
+    if (Known().StepsShuffled()) {
+        if (const auto index = Entries().StepInOrder(m_way == Way::Back))
+            PlayItem(ItemNumber(*index), false);
+        return;
+    }
     if (const auto index = m_way == Way::Back ? Entries().StepPrevious() : Entries().StepNext())
         PlayItem(ItemNumber(*index), false);
 }
 
 void Sequencer::ListClicked()
 {
+    if (Known().FollowsWhatPlays())
+        return;
     Entries().OnClick(m_rooms.settings.Settings().PlayMode);
+}
+
+void Sequencer::ListRightPressed(int row)
+{
+    if (Known().RightPressSelects() && row >= 0 && !Entries().List().Item(row).IsMarked)
+        Entries().List().SetSelectedItem(row);
 }
 
 void Sequencer::ListDoubleClicked()
@@ -126,7 +146,8 @@ void Sequencer::ListDoubleClicked()
     if (!index)
         return;
     PlayChosen(*index, false);
-    m_rooms.window.SetPlaylistPosition(PlaylistDock::Hidden);
+    if (!Known().DoubleClickKeepsList())
+        m_rooms.window.SetPlaylistPosition(PlaylistDock::Hidden);
     Entries().MovePositionToSelected();
 }
 
@@ -154,7 +175,8 @@ void Sequencer::DoAfter(std::int16_t action)
 
 void Sequencer::DoAfterFinishPlay()
 {
-    m_afterPlay.DoAfterFinishPlay(m_rooms.power, [this] { m_rooms.face.window->CloseWindow(); });
+    m_afterPlay.DoAfterFinishPlay(
+        m_rooms.power, [this] { m_rooms.face.window->CloseWindow(); }, Known().AfterPlayAsNamed());
 }
 
 bool Sequencer::IsRoundOfFailures() const
@@ -172,6 +194,10 @@ void Sequencer::ItemEnded(bool failed)
     if (std::exchange(m_stopsAfterThis, false))
         return Follow({}, true);
     const auto& settings = m_rooms.settings.Settings();
+    if (Known().FollowsWhatPlays())
+        Entries().StandOn(Entries().IndexOfPath(m_rooms.transport.Item().path));
+    if (Known().AfterPlayEndsRounds() && m_afterPlay.AfterPlayAction() != 0 && settings.RepeatMode == kRepeatAll)
+        return Follow(Entries().OnEndOfItem(settings.PlayMode, kNoRepeat), true);
     Follow(Entries().OnEndOfItem(settings.PlayMode, settings.RepeatMode), true);
 }
 

@@ -46,6 +46,8 @@ public:
     void cmdNextClick();
     void cmdPreviousClick();
     void ListClicked();
+    /// `row`: FancyListItems::kNone below the last.
+    void ListRightPressed(int row);
     void ListDoubleClicked();
 
     void PBNormal() { SetPlayMode(kPlayNormal); }
@@ -76,6 +78,7 @@ private:
     void ItemFailed();
     bool IsRoundOfFailures() const;
     void GoIdle();
+    const Ways& Known() const { return m_rooms.settings.ChosenWays(); }
     Playlist& Entries() { return m_rooms.library.Entries(); }
 
     Rooms m_rooms;

@@ -3,6 +3,7 @@
 #include "app/ConfigFile.h"
 #include "base/Result.h"
 #include "playback/Engine.h"
+#include "playback/Ways.h"
 #include "shell/SettingsPages.h"
 #include "shell/WindowLayout.h"
 
@@ -24,6 +25,9 @@ public:
     SettingsStore(std::string folder, char separator);
 
     const PlayerSettings& Settings() const { return m_settings; }
+    /// Which ways the user knows; not in `Config.cfg`.
+    const Ways& ChosenWays() const { return m_ways; }
+    void SetWays(Ways ways) { m_ways = ways; }
     /// Between the folders of a path.
     char Separator() const { return m_separator; }
 
@@ -63,6 +67,7 @@ private:
     char m_separator;
     bool m_isRead = true;
     PlayerSettings m_settings;
+    Ways m_ways;
     EngineOptions m_options;
 };
 

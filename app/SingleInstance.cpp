@@ -31,14 +31,14 @@ std::string SingleInstance::Read(const char* name, const char* fallback)
     return m_store.Read(kRoot, HandOverKey(), name, fallback);
 }
 
-bool SingleInstance::BecomePlayer(StartupRequest request, bool useNewPlayer)
+bool SingleInstance::BecomePlayer(StartupRequest request, bool useNewPlayer, bool takesAllMedia)
 {
     m_request = std::move(request);
     std::string silent;
     for (int calls = 0;; ++calls) {
         auto lock = m_service.lock();
         const PublishedHandles handles{ Read("txtHwnd", "-1"), Read("txtHwnd1", "") };
-        const auto role = DecideRole(m_request, handles, useNewPlayer, m_service.isAlive, m_separator);
+        const auto role = DecideRole(m_request, handles, useNewPlayer, m_service.isAlive, m_separator, takesAllMedia);
         // A player can end or hang between the test and the call. Then it is decided once more; nobody is called again
         // whom the first call did not reach.
         const bool mayCall = calls < kMostCalls && role.handle != silent;

@@ -2,6 +2,7 @@
 
 #include "base/Paths.h"
 #include "playlist/ListFile.h"
+#include "playlist/MediaTypes.h"
 
 #include <algorithm>
 
@@ -33,7 +34,7 @@ StartupRequest ReadCommandLine(
 }
 
 StartRole DecideRole(const StartupRequest& request, const PublishedHandles& handles, bool useNewPlayer,
-    const std::function<bool(const std::string&)>& isAlive, char separator)
+    const std::function<bool(const std::string&)>& isAlive, char separator, bool takesAllMedia)
 {
     using Kind = StartRole::Kind;
     if (handles.command == "-1" || useNewPlayer || !isAlive(handles.probe))
@@ -41,7 +42,7 @@ StartRole DecideRole(const StartupRequest& request, const PublishedHandles& hand
     if (request.handOverText.empty())
         return { Kind::Messenger, handles.probe, "Hello" };
     const auto& file = request.StartupArgument;
-    if (IsSupportedFile(file, separator) || ListFormatOf(file, separator))
+    if (IsMediaFile(file, separator, takesAllMedia) || ListFormatOf(file, separator))
         return { Kind::Messenger, handles.command, request.handOverText };
     return { Kind::Messenger, {}, {} };
 }

@@ -37,6 +37,6 @@ struct StartRole {
 
 /// Decides between player and messenger. `isAlive` tells whether a probe handle's owner lives.
 StartRole DecideRole(const StartupRequest& request, const PublishedHandles& handles, bool useNewPlayer,
-    const std::function<bool(const std::string&)>& isAlive, char separator);
+    const std::function<bool(const std::string&)>& isAlive, char separator, bool takesAllMedia = false);
 
 } // namespace zentaro

@@ -40,6 +40,11 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr double kTwipsPerPixel = 15;
+// The list's rows, in pixels.
+constexpr int kRow = 80;
+constexpr int kPadding = 8;
+constexpr int kCompactRow = 46;
+constexpr int kCompactPadding = 4;
 constexpr auto kProgressDelay = 700ms;
 
 } // namespace
@@ -92,8 +97,10 @@ void frmMain::MakeList()
     connect(m_list, &FancyList::Click, this, [this] { m_player.Sequence().ListClicked(); });
     connect(m_list, &FancyList::DblClick, this, [this] { m_player.Sequence().ListDoubleClicked(); });
     connect(m_list, &FancyList::MouseDown, this, [this](Qt::MouseButton button, Qt::KeyboardModifiers, int x, int y) {
-        if (button == Qt::RightButton)
-            m_menus->Popup("mnuPlayListmenu", m_list->mapToGlobal(QPoint(x, y)));
+        if (button != Qt::RightButton)
+            return;
+        m_player.Sequence().ListRightPressed(m_list->Layout().RowAt(y));
+        m_menus->Popup("mnuPlayListmenu", m_list->mapToGlobal(QPoint(x, y)));
     });
     connect(m_list, &FancyList::CancelAdding, this, [this] { m_player.Files().CancelAdding(); });
     connect(m_list, &FancyList::CardTaken, this, [this] { RunCommand(m_player, "BringBack"); });
@@ -203,9 +210,7 @@ void frmMain::StateChanged()
     if (isVisible())
         m_menus->ShowTray(m_player.Window().HasTrayIcon());
     ShowAddProgress();
-    m_list->SetCard(ToQString(m_player.Remembering().LastTime()));
-    if (const auto revision = m_player.Entries().Revision(); std::exchange(m_toldRevision, revision) != revision)
-        m_list->SetFoot(ToQString(SummaryText(m_player.Entries())));
+    ShowList();
     m_notes->ShowState(FillsScreen() && !m_bar->isVisible());
     m_timers.Follow();
     m_bar->update();
@@ -218,6 +223,21 @@ void frmMain::ShowCaption()
     // Qt takes a lone "[*]" for its mark of changed documents.
     if (std::exchange(m_caption, caption) != caption)
         setWindowTitle(QString(caption).replace("[*]", "[*][*]"));
+}
+
+void frmMain::ShowList()
+{
+    m_list->SetCard(ToQString(m_player.Remembering().LastTime()));
+    if (const auto revision = m_player.Entries().Revision(); std::exchange(m_toldRevision, revision) != revision)
+        m_list->SetFoot(ToQString(SummaryText(m_player.Entries())));
+    const bool isCompact = m_player.Remembering().IsListCompact();
+    if (std::exchange(m_isCompact, isCompact) == isCompact)
+        return;
+    m_list->SetPadding(isCompact ? kCompactPadding : kPadding);
+    const int side = (isCompact ? kCompactRow : kRow) - 2 * m_list->Padding();
+    m_list->SetImageWidth(side);
+    m_list->SetImageHeight(side);
+    m_list->SetItemHeight(isCompact ? kCompactRow : kRow);
 }
 
 void frmMain::ShowAddProgress()

@@ -65,6 +65,7 @@ private:
     void FillsScreenNow(bool fills);
     void ShowCaption();
     void ShowAddProgress();
+    void ShowList();
 
     Player& m_player;
     PlayerTimers m_timers;
@@ -81,6 +82,7 @@ private:
     QTimer m_progressDelay;
     AddProgress m_progress;
     std::uint64_t m_toldRevision = 0;
+    bool m_isCompact = false;
     QString m_caption;
     PlaylistDock m_dock = PlaylistDock::Hidden;
     bool m_isTopmost = false;

@@ -27,7 +27,9 @@ public:
     void DoAfter(std::int16_t action);
 
     /// Playback has run out. The action stays: a computer that was not switched off is asked again the next time.
-    void DoAfterFinishPlay(platform::Power& power, const std::function<void()>& closeWindow) const;
+    /// `asNamed`: each choice does what its key says.
+    void DoAfterFinishPlay(
+        platform::Power& power, const std::function<void()>& closeWindow, bool asNamed = false) const;
 
 private:
     std::int16_t m_action = 0;

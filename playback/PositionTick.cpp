@@ -25,7 +25,7 @@ bool HoldsOffSleep(const EngineReading& reading)
     return reading.isLoaded && reading.state == Engine::kPlaying && reading.hasVideoOutput;
 }
 
-PositionTick ReadPosition(const EngineReading& reading, bool mediaControlsEnabled)
+PositionTick ReadPosition(const EngineReading& reading, bool mediaControlsEnabled, bool byEngine)
 {
     PositionTick tick;
     if (!reading.isLoaded) {
@@ -44,7 +44,8 @@ PositionTick ReadPosition(const EngineReading& reading, bool mediaControlsEnable
     // The clock alone misses half of all files: its last reading can lie well before the total. The clock of a disc
     // stands at the total while a menu waits.
     const bool endedByState = reading.state >= Engine::kEnded;
-    tick.hasEnded = mediaControlsEnabled && (endedByState || (!reading.isDisc && EndedByTheClock(reading)));
+    tick.hasEnded =
+        mediaControlsEnabled && (endedByState || (!byEngine && !reading.isDisc && EndedByTheClock(reading)));
     tick.hasFailed = tick.hasEnded && reading.state == Engine::kFailed;
     return tick;
 }

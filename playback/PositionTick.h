@@ -30,7 +30,8 @@ struct PositionTick {
 /// Whether somebody may be watching: a video is playing.
 bool HoldsOffSleep(const EngineReading& reading);
 
-/// Works out one tick. `mediaControlsEnabled`: an end counts only while it is set; the caller clears it on an end.
-PositionTick ReadPosition(const EngineReading& reading, bool mediaControlsEnabled);
+/// Works out one tick. `mediaControlsEnabled`: an end counts only while it is set; the caller clears it on an end. With
+/// `byEngine` the clock ends nothing.
+PositionTick ReadPosition(const EngineReading& reading, bool mediaControlsEnabled, bool byEngine = false);
 
 } // namespace zentaro

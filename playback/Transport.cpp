@@ -62,9 +62,12 @@ void Transport::Play()
         engine->Play();
 }
 
-void Transport::ItemStarted()
+void Transport::ItemStarted(bool speedStays)
 {
-    m_rate.ItemStarted();
+    if (speedStays)
+        SetEngineRate(m_rate.Value());
+    else
+        m_rate.ItemStarted();
     m_state.isPaused = false;
     m_state.progress = 0;
     m_state.length = 0;
@@ -284,7 +287,7 @@ EngineReading Transport::Read() const
 std::optional<ItemEnd> Transport::OnPositionTick()
 {
     const auto reading = Read();
-    const auto tick = ReadPosition(reading, m_state.mediaControlsEnabled);
+    const auto tick = ReadPosition(reading, m_state.mediaControlsEnabled, m_engineEndsItems);
     const auto before = m_state;
     m_state.hasVideoOutput = reading.hasVideoOutput;
     m_state.isWatched = HoldsOffSleep(reading);

@@ -87,7 +87,8 @@ public:
     /// The engine plays what it was given.
     void Play();
     /// What counts for an item that was started: controls on, normal speed, "Loading..." until it plays.
-    void ItemStarted();
+    /// `speedStays`: the chosen speed goes on.
+    void ItemStarted(bool speedStays = false);
 
     void CMDPauseClick();
     void cmdStopClick();
@@ -119,6 +120,8 @@ public:
 
     /// The position timer, every 500 ms: reads the engine. Says so when the item has ended, once.
     std::optional<ItemEnd> OnPositionTick();
+    /// The engine alone says when an item ends, not its clock.
+    void LetEngineEndItems(bool on) { m_engineEndsItems = on; }
     /// A word in place of the time, until the next tick.
     void ShowWord(const std::string& word);
     void ShowIdle();
@@ -137,6 +140,7 @@ private:
     PlaybackRate m_rate;
     HeldButtons m_held;
     std::uint64_t m_generation = 0;
+    bool m_engineEndsItems = false;
     int m_wheel = 0; // eighths of a degree that have not made a notch yet
 };
 

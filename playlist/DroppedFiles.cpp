@@ -1,6 +1,7 @@
 #include "playlist/DroppedFiles.h"
 
 #include "base/Paths.h"
+#include "playlist/MediaTypes.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -57,9 +58,10 @@ std::string ToText(const fs::path& path)
 
 class FolderReader {
 public:
-    FolderReader(char separator, const GoOn& goOn)
+    FolderReader(char separator, const GoOn& goOn, bool takesAll)
         : m_separator(separator)
         , m_goOn(goOn)
+        , m_takesAll(takesAll)
     {
     }
 
@@ -95,12 +97,13 @@ private:
         auto name = ToText(entry.path().filename());
         if (entry.is_directory(error))
             folders.push_back(std::move(name));
-        else if (IsSupportedFile(name, m_separator))
+        else if (IsMediaFile(name, m_separator, m_takesAll))
             media.push_back(std::move(name));
     }
 
     char m_separator;
     const GoOn& m_goOn;
+    bool m_takesAll;
     std::set<fs::path> m_seen;
 };
 
@@ -133,16 +136,17 @@ bool NaturalLess(std::string_view a, std::string_view b)
     return wholeA < wholeB;
 }
 
-std::vector<std::string> DroppedMediaFiles(const std::vector<std::string>& paths, char separator, const GoOn& goOn)
+std::vector<std::string> DroppedMediaFiles(
+    const std::vector<std::string>& paths, char separator, const GoOn& goOn, bool takesAll)
 {
     std::vector<std::string> files;
-    FolderReader reader(separator, goOn);
+    FolderReader reader(separator, goOn, takesAll);
     for (const auto& path : paths) {
         std::error_code error;
         if (fs::is_directory(ToPath(path), error)) {
             if (!reader.Read(TidyPath(path), files))
                 break;
-        } else if (IsSupportedFile(path, separator)) {
+        } else if (IsMediaFile(path, separator, takesAll)) {
             files.push_back(TidyPath(path));
         }
     }

@@ -3,6 +3,7 @@
 #include "base/Paths.h"
 #include "platform/Files.h"
 #include "playlist/ListFile.h"
+#include "playlist/MediaTypes.h"
 
 #include <algorithm>
 #include <array>
@@ -24,8 +25,8 @@ std::string FoundPath(const std::string& listed, char separator)
     return {};
 }
 
-void ReadList(const std::string& path, ListFormat format, char separator, const GoOn& goOn, FoundFiles& found,
-    std::vector<std::string>& names)
+void ReadList(const std::string& path, ListFormat format, char separator, const GoOn& goOn, bool takesAll,
+    FoundFiles& found, std::vector<std::string>& names)
 {
     const auto folder = path.substr(0, path.size() - FileNamePart(path, separator).size());
     const auto text = platform::ReadTextFile(path, kLongestList);
@@ -36,7 +37,7 @@ void ReadList(const std::string& path, ListFormat format, char separator, const 
         if (!goOn())
             return;
         auto name = FoundPath(entry.path, separator);
-        if (name.empty() || !IsSupportedFile(name, separator))
+        if (name.empty() || !IsMediaFile(name, separator, takesAll))
             ++found.unreadable;
         else
             names.push_back(std::move(name));
@@ -50,19 +51,19 @@ bool IsSubtitleFile(std::string_view path, char separator)
     return std::ranges::find(kSubtitles, LowerExtension(path, separator)) != kSubtitles.end();
 }
 
-FoundFiles FindFiles(const std::vector<std::string>& paths, char separator, const GoOn& goOn)
+FoundFiles FindFiles(const std::vector<std::string>& paths, char separator, const GoOn& goOn, bool takesAll)
 {
     FoundFiles found;
     std::vector<std::string> names;
     for (const auto& path : paths) {
         if (const auto format = ListFormatOf(path, separator))
-            ReadList(path, *format, separator, goOn, found, names);
+            ReadList(path, *format, separator, goOn, takesAll, found, names);
         else if (IsSubtitleFile(path, separator))
             found.subtitles.push_back(path);
         else
             names.push_back(path);
     }
-    found.media = DroppedMediaFiles(names, separator, goOn);
+    found.media = DroppedMediaFiles(names, separator, goOn, takesAll);
     return found;
 }
 

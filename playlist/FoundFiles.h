@@ -19,7 +19,7 @@ struct FoundFiles {
 bool IsSubtitleFile(std::string_view path, char separator);
 
 /// As DroppedMediaFiles; a file of a list stands for its entries, where they are found. Reads files.
-FoundFiles FindFiles(const std::vector<std::string>& paths, char separator, const GoOn& goOn);
+FoundFiles FindFiles(const std::vector<std::string>& paths, char separator, const GoOn& goOn, bool takesAll = false);
 
 /// "3 of 12 entries could not be found"; empty when none is missing.
 std::string MissingText(const FoundFiles& found);

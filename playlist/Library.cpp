@@ -126,15 +126,17 @@ void Library::DropOnVideo(const std::vector<std::string>& paths)
 
 void Library::FindMedia(const std::vector<std::string>& paths, std::function<void(const FoundFiles& found)> found)
 {
-    m_host.RunInBackground([this, isOpen = m_isOpen, paths, separator = m_separator, found = std::move(found)] {
-        auto files = FindFiles(paths, separator, [&] { return isOpen->load(); });
-        return [this, isOpen, found, files = std::move(files)] {
-            if (!*isOpen)
-                return;
-            found(files);
-            m_host.FilesFound(files);
-        };
-    });
+    m_host.RunInBackground(
+        [this, isOpen = m_isOpen, paths, separator = m_separator, all = m_takesAll, found = std::move(found)] {
+            auto files = FindFiles(
+                paths, separator, [&] { return isOpen->load(); }, all);
+            return [this, isOpen, found, files = std::move(files)] {
+                if (!*isOpen)
+                    return;
+                found(files);
+                m_host.FilesFound(files);
+            };
+        });
 }
 
 void Library::InspectionCompleted(int ticket, Inspection inspection)

@@ -57,6 +57,8 @@ public:
     /// An entry was appended by other hands.
     void TellEntryAdded() { m_host.EntryAdded(); }
 
+    /// As IsMediaFile, for what is dropped or stands in lists.
+    void TakeAllMedia(bool on) { m_takesAll = on; }
     void InspectionCompleted(int ticket, Inspection inspection);
     void CancelAdding() { m_adding.Cancel(); }
     AddProgress Adding() const { return m_adding.Progress(); }
@@ -81,6 +83,7 @@ private:
 
     LibraryHost& m_host;
     char m_separator;
+    bool m_takesAll = false;
     Playlist m_playlist;
     InspectionState m_inspected;
     AddQueue m_adding;

@@ -73,7 +73,8 @@ LoadThumb::LoadThumb(
 {
     if (playlist.IsInPlaylist(m_request.path)) {
         m_outcome = AddOutcome::Duplicate;
-        m_boxes.push_back(DuplicateNotice(m_request));
+        if (!host.PlaysListedInPlace())
+            m_boxes.push_back(DuplicateNotice(m_request));
         return;
     }
     inspected.TakeOver({ m_inspection.ok, m_inspection.errorText, m_inspection.mediaInfo, m_inspection.thumbnail, {} });
@@ -113,9 +114,11 @@ void LoadThumb::Finish()
 
 void LoadThumb::PlayLastEntry()
 {
-    const int last = m_playlist.Count() - 1;
-    m_playlist.List().SetSelectedItem(last);
-    m_host.PlayItem(last, m_request.playFlag);
+    int row = m_playlist.Count() - 1;
+    for (int i = 0; m_host.PlaysListedInPlace() && i < m_playlist.Count(); ++i)
+        row = m_playlist.PathAt(i) == m_request.path ? i : row;
+    m_playlist.List().SetSelectedItem(row);
+    m_host.PlayItem(row, m_request.playFlag);
 }
 
 } // namespace zentaro

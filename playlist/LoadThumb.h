@@ -57,6 +57,8 @@ public:
     virtual void ShowNotice(const Notice& notice, std::function<void()> closed) = 0;
     virtual void PlayItem(int index, bool playFlag) = 0;
     virtual std::int32_t PlayMode() const = 0;
+    /// A file that is listed plays where it stands, and nobody is told so.
+    virtual bool PlaysListedInPlace() const { return false; }
     /// A new entry stands in the list and the order: menus can be brought in line.
     virtual void EntryAdded() = 0;
 };

@@ -226,6 +226,28 @@ EndOfItem Playlist::OnEndOfItem(std::int32_t playMode, std::int32_t repeatMode)
     return next;
 }
 
+void Playlist::StandOn(std::optional<int> index)
+{
+    if (!index)
+        return m_order.SetPosition(m_order.Position() - 1);
+    m_list.SetSelectedItem(*index);
+    for (int position = 0; position < m_order.Count(); ++position) {
+        if (m_order.At(position) == *index)
+            return m_order.SetPosition(position);
+    }
+}
+
+std::optional<int> Playlist::StepInOrder(bool back)
+{
+    const auto position = back ? PreviousPosition(m_order) : NextPosition(m_order);
+    if (!position)
+        return std::nullopt;
+    m_order.SetPosition(*position);
+    const int index = m_order.At(*position);
+    m_list.SetSelectedItem(index);
+    return index;
+}
+
 std::optional<int> Playlist::StepTo(std::optional<int> position)
 {
     if (position) {

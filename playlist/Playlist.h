@@ -90,6 +90,10 @@ public:
     std::optional<int> DoubleClickedIndex() const;
     /// The position follows the selection.
     void MovePositionToSelected() { m_order.SetPosition(m_list.SelectedItem()); }
+    /// Position and selection go to this entry; for none, which was taken out, they go before what stands in its place.
+    void StandOn(std::optional<int> index);
+    /// As StepNext and StepPrevious, but the index is the one that the order names.
+    std::optional<int> StepInOrder(bool back);
     /// "Next" and "Previous": moves position and selection, and gives the index to play; nothing when the order is
     /// empty. After removals the index can name no entry.
     std::optional<int> StepNext() { return StepTo(NextPosition(m_order)); }

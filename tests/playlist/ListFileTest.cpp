@@ -1,4 +1,5 @@
 #include "playlist/ListFile.h"
+#include "platform/Files.h"
 #include "playlist/FoundFiles.h"
 
 #include <gtest/gtest.h>
@@ -80,9 +81,9 @@ TEST(ListFile, FindsWhatALostListStillNames)
     for (const auto* name : { "sub/a.avi", "\xC3\xA9.avi", "z.avi", "note.txt", "own.m3u" })
         std::ofstream(folder / name) << "x";
     std::ofstream(folder / "list.m3u") << "sub\\a.avi\n\xE9.avi\ngone.avi\nnote.txt\nown.m3u\nhttp://there/x.avi\n";
-    const auto inFolder = [&](const char* name) { return (folder / name).string(); };
-    const auto found = FindFiles(
-        { inFolder("z.avi"), inFolder("list.m3u"), inFolder("a.SRT"), inFolder("note.txt") }, '/', [] { return true; });
+    const auto inFolder = [&](const char* name) { return (folder / fs::path(name).make_preferred()).string(); };
+    const auto found = FindFiles({ inFolder("z.avi"), inFolder("list.m3u"), inFolder("a.SRT"), inFolder("note.txt") },
+        platform::PathSeparator(), [] { return true; });
     EXPECT_EQ(
         found.media, (std::vector<std::string>{ inFolder("z.avi"), inFolder("sub/a.avi"), inFolder("\xC3\xA9.avi") }));
     EXPECT_EQ(found.subtitles, std::vector<std::string>{ inFolder("a.SRT") });
