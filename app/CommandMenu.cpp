@@ -1,5 +1,6 @@
 #include "app/CommandMenu.h"
 
+#include "app/Commands.h"
 #include "app/Player.h"
 #include "shell/MenuText.h"
 #include "shell/QtText.h"
@@ -15,6 +16,8 @@ CommandMenu::CommandMenu(Player& player, QWidget* window)
 {
     for (const auto& item : player.BothMenus().SmartMenuXP1.Items())
         Make(item);
+    ShowKeys();
+    player.Keys().onChange.push_back([this] { ShowKeys(); });
     player.BothMenus().SmartMenuXP1.onChange = [this](const CommandItem& item) { Show(item); };
 }
 
@@ -52,14 +55,25 @@ QAction* CommandMenu::MakeItem(const CommandItem& item)
         // A checkable action has changed its mark by itself.
         Show(*m_player.BothMenus().SmartMenuXP1.Find(key));
     });
-    // Only what does something has its keys; a submenu that names the same ones must not take them away.
-    if (!item.shortcut.empty()) {
-        action->setShortcut(QKeySequence(ToQString(item.shortcut)));
-        // A key that rests on the keyboard must not toggle on and on.
-        action->setAutoRepeat(false);
+    // A key that rests on the keyboard must not toggle on and on.
+    action->setAutoRepeat(false);
+    return action;
+}
+
+// Only what does something has its keys; a submenu that names the same ones must not take them away.
+void CommandMenu::ShowKeys()
+{
+    for (const auto& item : m_player.BothMenus().SmartMenuXP1.Items()) {
+        const auto* const command = FindCommand(item.command);
+        if (command == nullptr || item.command == "History" || command->place != KeyPlace::Anywhere)
+            continue;
+        QList<QKeySequence> keys;
+        for (const auto& key : m_player.Keys().KeysOf(command->id))
+            keys << QKeySequence(ToQString(key));
+        auto* const action = m_actions[item.key];
+        action->setShortcuts(keys);
         m_window->addAction(action);
     }
-    return action;
 }
 
 void CommandMenu::Show(const CommandItem& item)

@@ -34,6 +34,7 @@ private:
     void Make(const CommandItem& item);
     QAction* MakeItem(const CommandItem& item);
     void Show(const CommandItem& item);
+    void ShowKeys();
 
     Player& m_player;
     QWidget* m_window;

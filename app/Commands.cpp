@@ -21,12 +21,17 @@ constexpr int kVolumeStep = 5;   // percent
 template <std::size_t Count> using Keys = std::array<std::string_view, Count>;
 
 constexpr Keys<1> kCtrlPageDown{ "Ctrl+PgDown" }, kCtrlPageUp{ "Ctrl+PgUp" };
-constexpr Keys<1> kCtrlF{ "Ctrl+F" }, kCtrlO{ "Ctrl+O" }, kCtrlP{ "Ctrl+P" }, kCtrlR{ "Ctrl+R" }, kCtrlS{ "Ctrl+S" },
-    kCtrlX{ "Ctrl+X" }, kEscape{ "Esc" }, kF{ "F" }, kF1{ "F1" }, kLeft{ "Left" }, kM{ "M" }, kPageDown{ "PgDown" },
-    kPageUp{ "PgUp" }, kRight{ "Right" }, kS{ "S" }, kShiftLeft{ "Shift+Left" }, kShiftRight{ "Shift+Right" },
-    kSpace{ "Space" }, kUp{ "Up" }, kDown{ "Down" };
-constexpr Keys<2> kFaster{ "Ctrl+Up", "]" }, kSlower{ "Ctrl+Down", "[" }, kEnter{ "Return", "Enter" };
-constexpr Keys<2> kDelete{ "", "Del" }; // the menu's item has no key of its own
+constexpr Keys<1> kCtrlD{ "Ctrl+D" }, kCtrlF{ "Ctrl+F" }, kCtrlL{ "Ctrl+L" }, kCtrlLeft{ "Ctrl+Left" },
+    kCtrlM{ "Ctrl+M" }, kCtrlO{ "Ctrl+O" }, kCtrlP{ "Ctrl+P" }, kCtrlR{ "Ctrl+R" }, kCtrlReturn{ "Ctrl+Return" },
+    kCtrlRight{ "Ctrl+Right" }, kCtrlS{ "Ctrl+S" }, kCtrlShiftM{ "Ctrl+Shift+M" }, kCtrlShiftP{ "Ctrl+Shift+P" },
+    kDown{ "Down" }, kEscape{ "Esc" }, kF1{ "F1" }, kF6{ "F6" }, kF10{ "F10" }, kLeft{ "Left" }, kM{ "M" },
+    kPageDown{ "PgDown" }, kPageUp{ "PgUp" }, kRight{ "Right" }, kS{ "S" }, kShiftF6{ "Shift+F6" },
+    kShiftF10{ "Shift+F10" }, kShiftLeft{ "Shift+Left" }, kShiftRight{ "Shift+Right" }, kSpace{ "Space" }, kT{ "T" },
+    kUp{ "Up" };
+constexpr Keys<2> kEnter{ "Return", "Enter" }, kExit{ "Ctrl+X", "Ctrl+Q" }, kF{ "F", "F11" }, kFaster{ "Ctrl+Up", "]" },
+    kSlower{ "Ctrl+Down", "[" };
+// The first one is the key of the menu's item; these have none of its own.
+constexpr Keys<2> kAbout{ "", "Shift+F1" }, kAdd{ "", "Ctrl+Shift+O" }, kOptions{ "", "Ctrl+," }, kRemove{ "", "Del" };
 constexpr Keys<10> kDigits{ "0", "1", "2", "3", "4", "5", "6", "7", "8", "9" };
 
 bool IsLoaded(const Player& player)
@@ -83,6 +88,16 @@ bool HasChapters(const Player& player)
     return IsLoaded(player) && player.State().chapters.size() > 1;
 }
 
+template <WindowAction Action> void Ask(Player& player, int)
+{
+    player.Face().window->Do(Action);
+}
+
+void TellTime(Player& player)
+{
+    player.Face().window->ShowNote(PlaceText(player.State()));
+}
+
 // "Remove" itself stays: on an empty list it does nothing.
 void DisableListCommands(Player& player)
 {
@@ -93,19 +108,21 @@ constexpr std::array kCommands{
     // The command tree's, in its order.
     Command{ "OpenFile", "Open Media File...", kCtrlO, [](Player& player, int) { player.Files().OpenFiles(false); } },
     Command{ "History", "", {}, [](Player& player, int which) { player.PlayHistoryItem(which); } },
-    Command{ "Exit", "E&xit", kCtrlX, [](Player& player, int) { player.Face().window->CloseWindow(); } },
+    Command{ "Exit", "E&xit", kExit, [](Player& player, int) { player.Face().window->CloseWindow(); } },
     Command{ "PlayPause", "Play/Pause", kCtrlP, [](Player& player, int) { player.Sequence().PlayPause(); } },
     Command{ "Stop", "Stop", kCtrlS, [](Player& player, int) { player.Transporting().cmdStopClick(); }, IsLoaded },
     Command{ "PMNormal", "&Normal", {}, [](Player& player, int) { player.Sequence().PBNormal(); }, nullptr,
-        HasPlayMode<kPlayNormal> },
+        HasPlayMode<kPlayNormal>, nullptr, false, {}, KeyPlace::Anywhere, "Play Mode: Normal" },
     Command{ "PMContinuous", "&Continuous", {}, [](Player& player, int) { player.Sequence().PBCont(); }, nullptr,
-        HasPlayMode<kPlayContinuous> },
+        HasPlayMode<kPlayContinuous>, nullptr, false, {}, KeyPlace::Anywhere, "Play Mode: Continuous" },
     Command{ "PMShuffle", "&Shuffle", {}, [](Player& player, int) { player.Sequence().PBShuffle(); }, nullptr,
-        HasPlayMode<kPlayShuffle> },
-    Command{ "RMNoRepeat", "&No Repeat", {}, SetRepeatMode<kNoRepeat>, nullptr, HasRepeatMode<kNoRepeat> },
-    Command{
-        "RMSingleRepeat", "&Single Repeat", {}, SetRepeatMode<kRepeatSingle>, nullptr, HasRepeatMode<kRepeatSingle> },
-    Command{ "RMRepeatAll", "&Repeat All", {}, SetRepeatMode<kRepeatAll>, nullptr, HasRepeatMode<kRepeatAll> },
+        HasPlayMode<kPlayShuffle>, nullptr, false, {}, KeyPlace::Anywhere, "Play Mode: Shuffle" },
+    Command{ "RMNoRepeat", "&No Repeat", {}, SetRepeatMode<kNoRepeat>, nullptr, HasRepeatMode<kNoRepeat>, nullptr,
+        false, {}, KeyPlace::Anywhere, "Repeat Mode: No Repeat" },
+    Command{ "RMSingleRepeat", "&Single Repeat", {}, SetRepeatMode<kRepeatSingle>, nullptr,
+        HasRepeatMode<kRepeatSingle>, nullptr, false, {}, KeyPlace::Anywhere, "Repeat Mode: Single Repeat" },
+    Command{ "RMRepeatAll", "&Repeat All", {}, SetRepeatMode<kRepeatAll>, nullptr, HasRepeatMode<kRepeatAll>, nullptr,
+        false, {}, KeyPlace::Anywhere, "Repeat Mode: Repeat All" },
     Command{ "FullScreen", "Full Screen", kCtrlF, [](Player& player, int) { player.Window().cmdFulScreenClick(); },
         IsLoaded },
     Command{
@@ -113,17 +130,26 @@ constexpr std::array kCommands{
     Command{
         "DecreaseSpeed", "Decrease Speed", kSlower, [](Player& player, int) { player.Transporting().DecreaseRate(); } },
     Command{ "ResetSpeed", "Reset Speed", kCtrlR, [](Player& player, int) { player.Transporting().ResetRate(); } },
-    Command{ "Donothing", "Do nothing", {}, DoAfter<0>, nullptr, IsAfterPlay<0> },
-    Command{ "ExitZentaro", "Exit Zentaro", {}, DoAfter<1>, nullptr, IsAfterPlay<1> },
-    Command{ "RestartTheComputer", "Restart the Computer", {}, DoAfter<2>, nullptr, IsAfterPlay<2> },
-    Command{ "ShutdownTheComputer", "Shutdown the Computer", {}, DoAfter<3>, nullptr, IsAfterPlay<3> },
-    Command{ "AddVideoFile", "Add Media File(s)...", {}, [](Player& player, int) { player.Files().AddVideoFile(); } },
-    Command{ "Remove", "Remove", kDelete,
-        [](Player& player, int) {
-            player.Editing().Remove();
-            if (player.Entries().Count() == 0)
-                DisableListCommands(player);
-        } },
+    Command{ "Donothing", "Do nothing", {}, DoAfter<0>, nullptr, IsAfterPlay<0>, nullptr, false, {}, KeyPlace::Anywhere,
+        "After Playing: Do nothing" },
+    Command{ "ExitZentaro", "Exit Zentaro", {}, DoAfter<1>, nullptr, IsAfterPlay<1>, nullptr, false, {},
+        KeyPlace::Anywhere, "After Playing: Exit Zentaro" },
+    Command{ "RestartTheComputer", "Restart the Computer", {}, DoAfter<2>, nullptr, IsAfterPlay<2>, nullptr, false, {},
+        KeyPlace::Anywhere, "After Playing: Restart the Computer" },
+    Command{ "ShutdownTheComputer", "Shutdown the Computer", {}, DoAfter<3>, nullptr, IsAfterPlay<3>, nullptr, false,
+        {}, KeyPlace::Anywhere, "After Playing: Shutdown the Computer" },
+    Command{ "AddVideoFile", "Add Media File(s)...", kAdd, [](Player& player, int) { player.Files().AddVideoFile(); } },
+    Command{ .id = "Remove",
+        .caption = "Remove",
+        .keys = kRemove,
+        .run =
+            [](Player& player, int) {
+                player.Editing().Remove();
+                if (player.Entries().Count() == 0)
+                    DisableListCommands(player);
+            },
+        .place = KeyPlace::List,
+        .name = "Remove the Selected Entry" },
     Command{ "RemoveAll", "Remove All", {},
         [](Player& player, int) {
             player.Editing().RemoveAll();
@@ -132,24 +158,42 @@ constexpr std::array kCommands{
     Command{ "Next", "Next", kPageDown, [](Player& player, int) { player.Sequence().cmdNextClick(); }, IsLoaded },
     Command{
         "Previous", "Previous", kPageUp, [](Player& player, int) { player.Sequence().cmdPreviousClick(); }, IsLoaded },
-    Command{ "Options", "Options", {}, [](Player& player, int) { player.Window().ShowOptions(); } },
-    Command{ "About", "&About", {}, [](Player& player, int) { player.Window().ShowAbout(); } },
+    Command{ "Options", "Options", kOptions, [](Player& player, int) { player.Window().ShowOptions(); } },
+    Command{ "About", "&About", kAbout, [](Player& player, int) { player.Window().ShowAbout(); } },
     Command{ "HelpTopics", "&Help Topics", kF1, [](Player& player, int) { player.Face().dialogs->ShowHelp(); } },
 
     // The buttons', and keys as people know them from other players.
-    Command{ "Play", "Play", {}, [](Player& player, int) { player.Sequence().CMDPlayClick(); } },
+    Command{ "Play", "Play", kCtrlReturn, [](Player& player, int) { player.Sequence().CMDPlayClick(); }, nullptr,
+        nullptr, nullptr, false, {}, KeyPlace::Anywhere, "Play from the Start" },
     Command{ "PlayOrPause", "Play or Pause", kSpace, [](Player& player, int) { player.Sequence().PlayOrPause(); } },
     Command{ "Pause", "Pause", {}, [](Player& player, int) { player.Transporting().CMDPauseClick(); }, IsLoaded,
-        nullptr, nullptr, false, "Space" },
-    Command{ "PlaySelected", "Play the Selected Entry", kEnter,
-        [](Player& player, int) {
-            if (!player.Discs().Navigate(DiscKey::Activate) && player.Entries().SelectedEntry())
-                player.Sequence().CMDPlayClick();
-        } },
-    Command{ "Rewind", "Rewind", {}, [](Player& player, int) { player.Transporting().RewindPressed(); }, IsLoaded,
-        nullptr, [](Player& player) { player.Transporting().RewindReleased(); }, false, "hold" },
-    Command{ "FastForward", "Fast forward", {}, [](Player& player, int) { player.Transporting().cmdffMouseDown(); },
-        IsLoaded, nullptr, [](Player& player) { player.Transporting().cmdffMouseUp(); }, false, "hold" },
+        nullptr, nullptr, false, "PlayOrPause" },
+    Command{ .id = "PlaySelected",
+        .caption = "Play the Selected Entry",
+        .keys = kEnter,
+        .run =
+            [](Player& player, int) {
+                if (player.Entries().SelectedEntry())
+                    player.Sequence().CMDPlayClick();
+            },
+        .place = KeyPlace::List },
+    Command{ .id = "PressOnVideo",
+        .caption = "Press the Disc's Button, or Fill the Screen",
+        .keys = kEnter,
+        .run =
+            [](Player& player, int) {
+                const bool canFill = IsLoaded(player) || player.Face().window->IsFullScreen();
+                if (!player.Discs().Navigate(DiscKey::Activate) && canFill)
+                    player.Window().ToggleFullScreen();
+            },
+        .place = KeyPlace::Video },
+    Command{ "Rewind", "Rewind", kCtrlLeft, [](Player& player, int) { player.Transporting().RewindPressed(); },
+        IsLoaded, nullptr, [](Player& player) { player.Transporting().RewindReleased(); }, false, {},
+        KeyPlace::Anywhere, "Rewind While Held" },
+    Command{ "FastForward", "Fast forward", kCtrlRight,
+        [](Player& player, int) { player.Transporting().cmdffMouseDown(); }, IsLoaded, nullptr,
+        [](Player& player) { player.Transporting().cmdffMouseUp(); }, false, {}, KeyPlace::Anywhere,
+        "Fast Forward While Held" },
     Command{ "SeekBack", "5 Seconds Back", kLeft, Seek<DiscKey::Left, -kStep>, IsLoaded, nullptr, nullptr, true },
     Command{
         "SeekForward", "5 Seconds Forward", kRight, Seek<DiscKey::Right, kStep>, IsLoaded, nullptr, nullptr, true },
@@ -166,20 +210,45 @@ constexpr std::array kCommands{
     Command{ "Mute", "Mute", kM, [](Player& player, int) { player.Transporting().cmdMuteClick(); }, nullptr,
         [](const Player& player) { return player.State().isMuted; } },
     Command{ "ToggleFullScreen", "&Full Screen", kF, [](Player& player, int) { player.Window().ToggleFullScreen(); },
-        nullptr, [](const Player& player) { return player.Face().window->IsFullScreen(); } },
+        nullptr, [](const Player& player) { return player.Face().window->IsFullScreen(); }, nullptr, false, {},
+        KeyPlace::Anywhere, "Full Screen On or Off" },
     Command{ "LeaveFullScreen", "Leave Full Screen", kEscape,
         [](Player& player, int) { player.Window().LeaveFullScreen(); } },
     Command{ "Snapshot", "S&napshot", kS, [](Player& player, int) { player.TakeSnapshot(); },
         [](const Player& player) { return player.CanTakeSnapshot(); } },
     Command{ "LoadSubtitles", "&Load File...", {}, [](Player& player, int) { LoadSubtitleFile(player); },
         [](const Player& player) { return player.State().hasVideoOutput; } },
-    Command{ "PlayList", "Playlist", {}, [](Player& player, int) { player.Window().cmdPlayListClick(); } },
-    Command{ "Dvd", "DVD", {}, [](Player& player, int) { player.Face().window->PopupMenu("mnuOpenDVD"); } },
+    Command{ "PlayList", "Playlist", kCtrlL, [](Player& player, int) { player.Window().cmdPlayListClick(); }, nullptr,
+        nullptr, nullptr, false, {}, KeyPlace::Anywhere, "Show or Hide the Playlist" },
+    Command{ "Dvd", "DVD", kCtrlD, [](Player& player, int) { player.Face().window->PopupMenu("mnuOpenDVD"); }, nullptr,
+        nullptr, nullptr, false, {}, KeyPlace::Anywhere, "Discs" },
+
+    // The window's.
+    Command{ "TellTime", "Say Where It Is", kT, [](Player& player, int) { TellTime(player); }, IsLoaded },
+    Command{ "CommandList", "Find a Command...", kCtrlShiftP,
+        [](Player& player, int) { player.Face().dialogs->ShowCommandList(); }, nullptr, nullptr, nullptr, false, {},
+        KeyPlace::Anywhere, "-" },
+    Command{ "ContextMenu", "Menu of What Has the Focus", kShiftF10, Ask<WindowAction::ContextMenu> },
+    Command{ "MenuStrip", "First Menu", kF10, Ask<WindowAction::OpenMenuStrip> },
+    Command{ "NextArea", "To the Next Part of the Window", kF6, Ask<WindowAction::NextArea> },
+    Command{ "PreviousArea", "To the Part of the Window Before", kShiftF6, Ask<WindowAction::PreviousArea> },
+    Command{ "Minimize", "Minimize", kCtrlM, Ask<WindowAction::Minimize> },
+    Command{ "Maximize", "Maximize", kCtrlShiftM, Ask<WindowAction::ToggleMaximized>, nullptr, nullptr, nullptr, false,
+        {}, KeyPlace::Anywhere, "Maximize or Restore" },
 
     // The classic tree's, which leave the command tree's items as they are.
-    Command{ "AddFiles", "Add Media File(s)...", {}, [](Player& player, int) { player.Files().OpenFiles(true); } },
-    Command{ "RemoveEntry", "Remove", {}, [](Player& player, int) { player.Editing().Remove(); } },
-    Command{ "RemoveEntries", "Remove All", {}, [](Player& player, int) { player.Editing().RemoveAll(); } },
+    Command{ .id = "AddFiles",
+        .caption = "Add Media File(s)...",
+        .run = [](Player& player, int) { player.Files().OpenFiles(true); },
+        .name = "-" },
+    Command{ .id = "RemoveEntry",
+        .caption = "Remove",
+        .run = [](Player& player, int) { player.Editing().Remove(); },
+        .name = "-" },
+    Command{ .id = "RemoveEntries",
+        .caption = "Remove All",
+        .run = [](Player& player, int) { player.Editing().RemoveAll(); },
+        .name = "-" },
     Command{ "PlayDisc", "", {}, [](Player& player, int which) { player.Discs().dvdsList_Click(which); } },
 };
 
@@ -209,11 +278,13 @@ void RunCommand(Player& player, std::string_view id, int which)
         command->run(player, which);
 }
 
-std::string_view ShownKey(const Command& command)
+std::string ListedName(const Command& command)
 {
-    if (!command.shownKey.empty() || command.keys.empty())
-        return command.shownKey;
-    return command.keys.front();
+    if (command.name == "-")
+        return {};
+    std::string name(command.name.empty() ? command.caption : command.name);
+    std::erase(name, '&');
+    return name;
 }
 
 } // namespace zentaro

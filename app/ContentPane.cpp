@@ -1,5 +1,7 @@
 #include "app/ContentPane.h"
 
+#include "app/SplitHandle.h"
+
 #include <utility>
 
 namespace zentaro {
@@ -14,6 +16,20 @@ ContentPane::ContentPane(QWidget& video, QWidget& list, QWidget* parent)
     for (auto* const pane : { &m_video, &m_list })
         addWidget(pane);
     connect(this, &QSplitter::splitterMoved, this, [this] { m_isSplitByHand = true; });
+}
+
+QSplitterHandle* ContentPane::createHandle()
+{
+    return new SplitHandle(orientation(), this);
+}
+
+QWidget* ContentPane::OrderFocus()
+{
+    for (int i = 0; i + 1 < count(); ++i) {
+        setTabOrder(widget(i), handle(i + 1));
+        setTabOrder(handle(i + 1), widget(i + 1));
+    }
+    return widget(count() - 1);
 }
 
 void ContentPane::Arrange(PlaylistDock dock, bool isFilled, const QRect& place)

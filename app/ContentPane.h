@@ -17,6 +17,11 @@ public:
     /// Takes this place and puts the list where it is docked; while the window is filled with the video, and where
     /// there is no room for both, there is no list.
     void Arrange(PlaylistDock dock, bool isFilled, const QRect& place);
+    /// Tab goes through the two as they lie; the last of them.
+    QWidget* OrderFocus();
+
+protected:
+    QSplitterHandle* createHandle() override;
 
 private:
     QWidget& m_video;

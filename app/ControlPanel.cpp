@@ -2,8 +2,10 @@
 
 #include "app/Commands.h"
 #include "app/Player.h"
+#include "base/Words.h"
 #include "shell/DigitLabel.h"
 #include "shell/FullScreenBar.h"
+#include "shell/MenuText.h"
 #include "shell/QtGeometry.h"
 #include "shell/QtText.h"
 #include "shell/SeekTrack.h"
@@ -21,15 +23,10 @@ namespace zentaro {
 
 namespace {
 
-QString Text(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 /// A caption of a menu as the name of a button.
 QString NameOf(const Command& command)
 {
-    return Text(command.caption).remove('&').remove("...");
+    return ToQString(Words(command.caption)).remove('&').remove("...");
 }
 
 } // namespace
@@ -70,24 +67,41 @@ ControlPanel::ControlPanel(Player& player, QWidget* window)
 SkinButton* ControlPanel::MakeButton(Button button, std::string_view command)
 {
     const auto& row = *FindCommand(command);
-    auto* const made = m_buttons[button] = new SkinButton(NameOf(row), Text(ShownKey(row)), m_window);
+    auto* const made = m_buttons[button] = new SkinButton(zentaro::NameOf(row), KeyOf(command), m_window);
     m_commands[button] = command;
     if (row.release == nullptr) {
         connect(made, &SkinButton::clicked, this, [this, command] { RunCommand(m_player, command); });
         return made;
     }
+    made->SetHeld();
+    connect(made, &SkinButton::Stepped, this,
+        [this, command] { RunCommand(m_player, command == "Rewind" ? "SeekFarBack" : "SeekFarForward"); });
     connect(made, &SkinButton::pressed, this, [this, command] { RunCommand(m_player, command); });
     connect(made, &SkinButton::released, this, [this, &row] { row.release(m_player); });
     return made;
 }
 
+QString ControlPanel::NameOf(Button button, const Command& command) const
+{
+    if (button == Button::Close)
+        return tr("Close");
+    if (button == Button::Maximize && m_window->isMaximized())
+        return tr("Restore");
+    if (button == Button::SoundOn && m_player.State().isMuted)
+        return tr("Unmute");
+    return zentaro::NameOf(command);
+}
+
+QString ControlPanel::KeyOf(std::string_view command) const
+{
+    return KeyName(m_player.Keys().Shown(*FindCommand(command)));
+}
+
 void ControlPanel::MakeTitleButtons()
 {
-    auto* const minimize = m_buttons[Button::Minimize] = new SkinButton("Minimize", {}, m_window);
-    connect(minimize, &SkinButton::clicked, this, &ControlPanel::MinimizeAsked);
-    auto* const maximize = m_buttons[Button::Maximize] = new SkinButton("Maximize", {}, m_window);
-    connect(maximize, &SkinButton::clicked, this, &ControlPanel::MaximizeAsked);
-    MakeButton(Button::Close, "Exit")->SetName("Close", Text(ShownKey(*FindCommand("Exit"))));
+    MakeButton(Button::Minimize, "Minimize");
+    MakeButton(Button::Maximize, "Maximize");
+    MakeButton(Button::Close, "Exit");
 }
 
 void ControlPanel::MakeSliders()
@@ -114,13 +128,13 @@ void ControlPanel::Show()
     for (const auto& [button, id] : m_commands) {
         const auto& command = *FindCommand(id);
         m_buttons[button]->setEnabled(command.isAvailable == nullptr || command.isAvailable(m_player));
+        m_buttons[button]->SetName(NameOf(button, command), KeyOf(id));
     }
-    m_buttons[Button::Maximize]->SetName(m_window->isMaximized() ? "Restore" : "Maximize", {});
-    m_buttons[Button::SoundOn]->SetName(state.isMuted ? "Unmute" : "Mute", Text(ShownKey(*FindCommand("Mute"))));
-    m_time->setText(ToQString(m_player.Tools().TimeText()));
-    m_rate->setText(ToQString(state.rateText));
+    m_time->setText(ToQString(Words(m_player.Tools().TimeText())));
+    m_rate->setText(ToQString(Words(state.rateText)));
     m_volumeNumber->setText(QString::number(state.boost > 100 ? state.boost : state.volume));
-    m_seek->Show(state.mediaControlsEnabled, state.progress, state.length, state.chapters);
+    m_seek->Show({ state.mediaControlsEnabled, state.progress, state.length, state.chapters, state.seeks,
+        state.mediaControlsEnabled ? ToQString(PlaceText(state)) : QString() });
     m_volume->Show(state.volume);
 }
 
@@ -198,7 +212,10 @@ SkinButtons ControlPanel::ButtonStates() const
 bool ControlPanel::UsesKey(const QWidget* control, int key) const
 {
     if (control == m_volume)
-        return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+        return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down
+            || key == Qt::Key_Home || key == Qt::Key_End;
+    if (control == m_seek)
+        return key == Qt::Key_Home || key == Qt::Key_End;
     return key == Qt::Key_Space && qobject_cast<const QAbstractButton*>(control) != nullptr;
 }
 

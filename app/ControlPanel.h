@@ -16,6 +16,7 @@ namespace zentaro {
 
 class FullScreenBar;
 class Player;
+struct Command;
 class SeekTrack;
 class SkinButton;
 class VolumeKnob;
@@ -43,16 +44,14 @@ public:
     /// Whether the control uses this key itself while it has the focus.
     bool UsesKey(const QWidget* control, int key) const;
 
-signals:
-    void MinimizeAsked();
-    void MaximizeAsked();
-
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     /// A button that runs a command; its name and key are the command's.
     SkinButton* MakeButton(Button button, std::string_view command);
+    QString NameOf(Button button, const Command& command) const;
+    QString KeyOf(std::string_view command) const;
     void MakeTitleButtons();
     void MakeSliders();
     void Place(QWidget* control, QWidget* home, const Rect& rect);

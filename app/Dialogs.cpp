@@ -1,12 +1,17 @@
 #include "app/Dialogs.h"
 
 #include "app/Background.h"
+#include "app/CommandList.h"
+#include "app/Commands.h"
+#include "app/DisplayStore.h"
 #include "app/Player.h"
 #include "app/frmMain.h"
 #include "base/Paths.h"
+#include "base/Words.h"
 #include "platform/AssociationShell.h"
 #include "platform/Files.h"
 #include "playlist/OpenFiles.h"
+#include "shell/KeysPage.h"
 #include "shell/MessageDialog.h"
 #include "shell/QtText.h"
 #include "shell/frmAbout.h"
@@ -31,16 +36,48 @@ QIcon ToIcon(const Picture& picture)
     return QIcon(QPixmap::fromImage(pixels));
 }
 
+/// "Video File (*.avi)", of which the pattern is the same in every language.
+QString TypeText(const std::string& listText)
+{
+    const auto pattern = listText.rfind('(');
+    const auto name = listText.substr(0, listText.find_last_not_of(' ', pattern - 1) + 1);
+    return ToQString(Words(name) + listText.substr(name.size()));
+}
+
 std::vector<FileTypeRow> Rows(const std::vector<AssociationChoice>& choices)
 {
     std::vector<FileTypeRow> rows;
     for (const auto& choice : choices)
-        rows.push_back({ ToQString(choice.listText), ToIcon(choice.icon) });
+        rows.push_back({ TypeText(choice.listText), ToIcon(choice.icon) });
     return rows;
 }
 
-constexpr const char* kAllFiles = "All files (*)";
-constexpr const char* kLists = "Lists (*.m3u *.m3u8 *.pls *.xspf)";
+QString AllFiles()
+{
+    return ToQString(Words("All files")) + " (*)";
+}
+
+QString Lists()
+{
+    return ToQString(Words("Lists")) + " (*.m3u *.m3u8 *.pls *.xspf)";
+}
+
+KeyChoices ChoicesOf(KeyMap& map)
+{
+    KeyChoices choices;
+    choices.keys = map.Table();
+    choices.defaults = KeyMap::Defaults();
+    for (const auto& command : AllCommands()) {
+        if (KeyMap::IsChangeable(command))
+            choices.rows.push_back({ std::string(command.id), Words(ListedName(command)) });
+    }
+    choices.userOf = [](const KeyTable& keys, const std::string& key, const std::string& id) {
+        const auto* const user = KeyMap::UserOf(keys, key, id);
+        return user != nullptr ? std::string(user->id) : std::string();
+    };
+    choices.take = [&map](const KeyTable& keys) { map.Take(keys); };
+    return choices;
+}
 
 /// From "name|patterns" pairs to what Qt wants: "name (patterns)", with blanks between the patterns.
 QStringList QtFilters(const std::string& filter)
@@ -76,10 +113,10 @@ void Dialogs::ShowNotice(const Notice& notice, std::function<void()> closed)
 void Dialogs::AskForFiles(
     const std::string& title, const std::string& filter, std::function<void(std::vector<std::string>)> chosen)
 {
-    auto* const dialog = new QFileDialog(&m_window, ToQString(title));
+    auto* const dialog = new QFileDialog(&m_window, ToQString(Words(title)));
     dialog->setFileMode(QFileDialog::ExistingFiles);
     dialog->setNameFilters(
-        m_player.Ways().TakesAllMedia() ? QtFilters(filter) << kLists << kAllFiles : QtFilters(filter) << kLists);
+        m_player.Ways().TakesAllMedia() ? QtFilters(filter) << Lists() << AllFiles() : QtFilters(filter) << Lists());
     AskForPaths(dialog, [chosen = std::move(chosen)](const std::vector<std::string>& paths) {
         chosen(OpenFileResults(paths, platform::PathSeparator()));
     });
@@ -87,7 +124,7 @@ void Dialogs::AskForFiles(
 
 void Dialogs::AskForListName(std::function<void(std::string)> chosen)
 {
-    auto* const dialog = new QFileDialog(&m_window, "Save List As");
+    auto* const dialog = new QFileDialog(&m_window, ToQString(Words("Save List As")));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->setNameFilters({ "M3U list (*.m3u8 *.m3u)", "PLS list (*.pls)", "XSPF list (*.xspf)" });
     const auto suffix = [dialog](const QString& filter) {
@@ -102,9 +139,10 @@ void Dialogs::AskForListName(std::function<void(std::string)> chosen)
 
 void Dialogs::AskForSubtitles(std::function<void(std::string)> chosen)
 {
-    auto* const dialog = new QFileDialog(&m_window, "Open Subtitles");
+    auto* const dialog = new QFileDialog(&m_window, ToQString(Words("Open Subtitles")));
     dialog->setFileMode(QFileDialog::ExistingFile);
-    dialog->setNameFilters({ "Subtitles (*.srt *.sub *.ass *.ssa *.vtt *.idx *.smi *.txt *.mpl)", "All files (*)" });
+    dialog->setNameFilters({ ToQString(Words("Subtitles")) + " (*.srt *.sub *.ass *.ssa *.vtt *.idx *.smi *.txt *.mpl)",
+        AllFiles() });
     AskForPaths(dialog, [chosen = std::move(chosen)](const std::vector<std::string>& paths) {
         chosen(paths.empty() ? std::string() : paths.front());
     });
@@ -177,7 +215,10 @@ void Dialogs::ShowOptions()
 
 void Dialogs::OpenOptions(const std::vector<AssociationChoice>& choices)
 {
-    auto* const options = new frmSettings(PagesOf(m_player.Settings()), Rows(choices), m_window.Pictures(), &m_window);
+    auto* const options = new frmSettings(PagesOf(m_player.Settings()), Rows(choices), m_window.Pictures(), &m_window,
+        { new KeysPage(ChoicesOf(m_player.Keys()), m_window.Pictures()),
+            new DisplayPage(ReadDisplay(m_player.Own()),
+                [this](const DisplayChoices& chosen) { KeepDisplay(m_player.Own(), chosen); }) });
     QObject::connect(options, &frmSettings::Commit, &m_window,
         [this](const SettingsPages& shown, const SettingsPages& chosen) { m_player.CommitOptions(shown, chosen); });
     Open(options);
@@ -188,18 +229,35 @@ void Dialogs::ShowAbout()
     if (IsOneOpen())
         return;
     auto* const about = new frmAbout(m_window.Pictures(), &m_window);
-    QObject::connect(about, &frmAbout::LinkChosen, &m_window,
-        [this](const QString& address) { OpenPage(ToText(address), "There is no browser that shows this page:\r\n"); });
+    QObject::connect(about, &frmAbout::LinkChosen, &m_window, [this](const QString& address) {
+        OpenPage(ToText(address), Words("There is no browser that shows this page:") + "\r\n");
+    });
     Open(about);
+}
+
+void Dialogs::ShowCommandList()
+{
+    if (IsOneOpen())
+        return;
+    auto* const list = new CommandList(m_player, m_window.Pictures(), &m_window);
+    // After the list is gone, so that what the command opens does not lie under it.
+    QObject::connect(
+        list, &CommandList::Chosen, &m_window,
+        [this](const std::string& id) {
+            const bool isItem = m_player.BothMenus().SmartMenuXP1.Find(id) != nullptr;
+            isItem ? m_player.RunCommand(id) : RunCommand(m_player, id);
+        },
+        Qt::QueuedConnection);
+    Open(list);
 }
 
 void Dialogs::ShowHelp()
 {
     const auto help = m_programFolder + platform::HelpFile();
     if (platform::PathExists(help))
-        OpenPage(help, "There is no program that shows the help:\r\n");
+        OpenPage(help, Words("There is no program that shows the help:") + "\r\n");
     else
-        Say("The help is missing. It should be here:\r\n" + help);
+        Say(Words("The help is missing. It should be here:") + "\r\n" + help);
 }
 
 void Dialogs::OpenPage(const std::string& page, const std::string& complaint)

@@ -33,6 +33,7 @@ public:
     void ShowFolderOf(const std::string& path) override;
     void ShowOptions() override;
     void ShowAbout() override;
+    void ShowCommandList() override;
     void ShowHelp() override;
 
 private:

@@ -2,6 +2,7 @@
 
 #include "app/WindowControl.h"
 #include "base/Paths.h"
+#include "base/Words.h"
 
 #include <utility>
 
@@ -112,7 +113,7 @@ void DiscSession::ListDisc(const std::string& caption, const std::string& locati
 {
     auto& entries = m_library.Entries();
     entries.RemoveAll();
-    entries.Append({ caption, location, m_service.readPicture(), "Video DVD" });
+    entries.Append({ caption, location, m_service.readPicture(), Words("Video DVD") });
     if (entries.List().SelectedItem() < 0)
         entries.List().SetSelectedItem(0);
     entries.BuildSequentialOrder();
@@ -159,7 +160,7 @@ void DiscSession::Ended(bool failed)
 void DiscSession::Failed()
 {
     m_transport.ShowWord({});
-    m_face.dialogs->ShowNotice({ "Please insert a valid DVD.", NoticeIcon::Critical }, [] {});
+    m_face.dialogs->ShowNotice({ Words("Please insert a valid DVD."), NoticeIcon::Critical }, [] {});
 }
 
 bool DiscSession::Navigate(DiscKey key)

@@ -1,6 +1,7 @@
 #include "app/InspectionThreads.h"
 
 #include "base/Paths.h"
+#include "base/Words.h"
 #include "inspect/ConsoleToolRunner.h"
 #include "inspect/clsSource.h"
 #include "platform/ChildProcess.h"
@@ -118,7 +119,7 @@ struct InspectionThreads::Job {
         std::error_code ignored;
         // A folder that is not new is not ours to remove.
         if (!std::filesystem::create_directory(folder, ignored))
-            return Refusal("No working folder can be made.");
+            return Refusal(Words("No working folder can be made."));
         CancellableRunner runner(tools, cancelled, [this] { lastSign = Clock::now(); });
         const auto context = askForContext();
         limit = context->reportLimit.total;

@@ -2,6 +2,7 @@
 
 #include "app/ListFiles.h"
 #include "app/Player.h"
+#include "base/Words.h"
 
 #include <array>
 
@@ -112,7 +113,7 @@ constexpr std::array kCommands{
         [](Player& player, int) {
             const bool on = !player.Ways().isFamiliar;
             player.Remembering().SetFamiliar(on);
-            player.Face().window->ShowNote(on ? "Ways: Familiar" : "Ways: Zentaro's own");
+            player.Face().window->ShowNote(Words(on ? "Ways: Familiar" : "Ways: Zentaro's own"));
         },
         nullptr, [](const Player& player) { return player.Ways().isFamiliar; } },
     Command{ "ClearHistory", "Clear &Recent Files", {}, [](Player& player, int) { player.ClearHistory(); } },
@@ -125,7 +126,7 @@ constexpr std::array kCommands{
     Command{ "ForgetAll", "Forget &All", {},
         [](Player& player, int) {
             player.Remembering().ForgetAll();
-            player.Face().window->ShowNote("All is forgotten");
+            player.Face().window->ShowNote(Words("All is forgotten"));
         } },
     Command{
         "FindInList", "&Find...", kF3, [](Player& player, int) { player.Face().window->FindInList(); }, HasEntries },

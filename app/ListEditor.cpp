@@ -1,5 +1,6 @@
 #include "app/ListEditor.h"
 
+#include "base/Words.h"
 #include <algorithm>
 #include <numeric>
 #include <string>
@@ -48,7 +49,7 @@ void ListEditor::OfferUndo(int removed)
     if (removed == 0)
         return;
     const auto text =
-        removed == 1 ? std::string("Removed one entry") : "Removed " + std::to_string(removed) + " entries";
+        removed == 1 ? Words("Removed one entry") : Words("Removed %1 entries", { std::to_string(removed) });
     m_rooms.face.window->ShowOffer(text, "UndoListEdit");
 }
 
@@ -102,8 +103,8 @@ void ListEditor::PlayNext()
     std::iota(next.begin(), next.end(), list.SelectedItem() + 1);
     if (PlayMode() == kPlayShuffle)
         Entries().Order().PutNext(next);
-    m_rooms.face.window->ShowNote(
-        moved == 1 ? "Plays next: " + list.Item(next.front()).Text : std::to_string(moved) + " entries play next");
+    m_rooms.face.window->ShowNote(moved == 1 ? Words("Plays next: %1", { list.Item(next.front()).Text })
+                                             : Words("%1 entries play next", { std::to_string(moved) }));
 }
 
 void ListEditor::Undo()

@@ -2,6 +2,7 @@
 
 #include "app/Player.h"
 #include "base/Paths.h"
+#include "base/Words.h"
 #include "platform/Files.h"
 #include "playlist/ListFile.h"
 
@@ -30,21 +31,22 @@ void WriteList(Player& player, std::string path)
     const auto folder = path.substr(0, path.size() - name.size());
     const auto text = FormatListFile(ListedEntries(player.Entries()), *format, folder, separator);
     if (const auto written = platform::ReplaceTextFile(path, text); !written)
-        player.Face().dialogs->ShowNotice({ "Cannot save the list <" + path + ">\r\n" + written.error().text }, [] {});
+        player.Face().dialogs->ShowNotice(
+            { Words("Cannot save the list <%1>", { path }) + "\r\n" + written.error().text }, [] {});
     else
-        player.Face().window->ShowNote("Saved " + name);
+        player.Face().window->ShowNote(Words("Saved %1", { name }));
 }
 
 void ShowSubtitles(Player& player, const std::vector<std::string>& files)
 {
     auto* const engine = player.Transporting().LoadedEngine();
     if (engine == nullptr)
-        return player.Face().window->ShowNote("Nothing plays that the subtitles could belong to");
+        return player.Face().window->ShowNote(Words("Nothing plays that the subtitles could belong to"));
     const char separator = platform::PathSeparator();
     for (const auto& file : files) {
         const auto name = FileNamePart(file, separator);
         player.Face().window->ShowNote(
-            engine->AddSubtitleFile(file) ? "Subtitles: " + name : "The subtitles cannot be opened");
+            engine->AddSubtitleFile(file) ? Words("Subtitles: %1", { name }) : Words("The subtitles cannot be opened"));
     }
 }
 

@@ -1,6 +1,9 @@
 #include "app/ListMenu.h"
 
 #include "app/Commands.h"
+#include "app/Player.h"
+#include "base/Words.h"
+#include "shell/MenuText.h"
 #include "shell/QtText.h"
 
 namespace zentaro {
@@ -17,7 +20,7 @@ constexpr const char* kItems[] = { "PlaySelected", "PlayNext", "RemoveEntry", "S
 } // namespace
 
 ListMenu::ListMenu(Player& player, QWidget* parent)
-    : QMenu("&More", parent)
+    : QMenu(ToQString(Words("&More")), parent)
     , m_player(player)
 {
     QMenu* menu = this;
@@ -25,7 +28,7 @@ ListMenu::ListMenu(Player& player, QWidget* parent)
         if (id == "<")
             menu = this;
         else if (id.starts_with('>'))
-            menu = addMenu(ToQString(std::string(id.substr(1))));
+            menu = addMenu(ToQString(Words(id.substr(1))));
         else if (const auto* const command = FindCommand(id))
             Add(*menu, *command);
         else
@@ -36,8 +39,8 @@ ListMenu::ListMenu(Player& player, QWidget* parent)
 
 void ListMenu::Add(QMenu& menu, const Command& command)
 {
-    const auto key = ToQString(std::string(ShownKey(command)));
-    auto* const action = menu.addAction(ToQString(std::string(command.caption)) + (key.isEmpty() ? "" : "\t" + key));
+    const auto key = KeyName(m_player.Keys().Shown(command));
+    auto* const action = menu.addAction(ToQString(Words(command.caption)) + (key.isEmpty() ? "" : "\t" + key));
     action->setCheckable(command.isChecked != nullptr);
     m_actions.push_back({ action, &command });
     // After this event: Qt closes the menu only then, and a dialog that the click opens must not lie under it.

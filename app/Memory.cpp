@@ -3,6 +3,7 @@
 #include "app/StateText.h"
 #include "base/Numbers.h"
 #include "base/Paths.h"
+#include "base/Words.h"
 #include "platform/Files.h"
 
 #include <algorithm>
@@ -168,9 +169,9 @@ void Memory::Begin(Engine& engine)
         m_rooms.transport.Seek(*goTo / engine.Length());
     } else if (m_item.lastPlace > 0 && m_rooms.settings.ChosenWays().GoesOnByItself()) {
         GoToLastPlace();
-        m_rooms.face.window->ShowOffer("Goes on at " + PlaceText(m_item.lastPlace), "StartOver");
+        m_rooms.face.window->ShowOffer(Words("Goes on at %1", { PlaceText(m_item.lastPlace) }), "StartOver");
     } else if (m_item.lastPlace > 0) {
-        m_rooms.face.window->ShowOffer("You were at " + PlaceText(m_item.lastPlace), "GoToLastPlace");
+        m_rooms.face.window->ShowOffer(Words("You were at %1", { PlaceText(m_item.lastPlace) }), "GoToLastPlace");
     }
 }
 
@@ -236,13 +237,13 @@ std::string Memory::LastTime() const
     if (!m_present.isRemembering || m_last.IsEmpty())
         return {};
     const auto count = m_last.entries.size();
-    auto text = "Last time: " + std::to_string(count) + (count == 1 ? " file" : " files");
+    auto text = count == 1 ? Words("Last time: 1 file") : Words("Last time: %1 files", { std::to_string(count) });
     const auto played =
         std::ranges::find_if(m_last.entries, [&](const auto& entry) { return entry.entry.FullPath == m_present.path; });
     if (played == m_last.entries.end())
         return text;
     text += ", " + played->entry.Title;
-    return m_present.time > 0 ? text + " at " + PlaceText(m_present.time) : text;
+    return m_present.time > 0 ? Words("%1 at %2", { text, PlaceText(m_present.time) }) : text;
 }
 
 void Memory::BringBack()

@@ -1,6 +1,7 @@
 #include "app/PlayCommands.h"
 
 #include "app/Player.h"
+#include "base/Words.h"
 
 #include <array>
 
@@ -70,7 +71,7 @@ constexpr std::array kCommands{
         [](Player& player, int) {
             const bool stops = !player.Sequence().StopsAfterThis();
             player.Sequence().StopAfterThis(stops);
-            player.Face().window->ShowNote(stops ? "Stops after this one" : "Goes on after this one");
+            player.Face().window->ShowNote(Words(stops ? "Stops after this one" : "Goes on after this one"));
         },
         IsLoaded, [](const Player& player) { return player.Sequence().StopsAfterThis(); } },
     Command{ "SleepTimer", "Stop by the Cloc&k", kCtrlT, Do<&PlayTools::NextSleepTime>, nullptr,

@@ -1,6 +1,7 @@
 #include "app/PlayTools.h"
 
 #include "base/Numbers.h"
+#include "base/Words.h"
 #include "playback/TimeText.h"
 
 #include <algorithm>
@@ -51,9 +52,10 @@ void PlayTools::MarkLoop()
         m_loop.Clear();
     m_loop.Mark(engine->Time());
     if (m_loop.IsBegun())
-        Note("From " + TimeOf(m_loop.Begin()) + ": press again at the end");
+        Note(Words("From %1: press again at the end", { TimeOf(m_loop.Begin()) }));
     else
-        Note(m_loop.IsOn() ? "Again and again: " + TimeOf(m_loop.Begin()) + " to " + TimeOf(m_loop.End()) : "Plays on");
+        Note(m_loop.IsOn() ? Words("Again and again: %1 to %2", { TimeOf(m_loop.Begin()), TimeOf(m_loop.End()) })
+                           : Words("Plays on"));
     Tick();
 }
 
@@ -96,7 +98,7 @@ void PlayTools::AskForTime()
         if (asked == nullptr || asked->Length() <= 0 || text.empty())
             return;
         if (!time || *time > asked->Length())
-            return Note(time ? "The item is not that long" : "A time looks like this: 1:02:30");
+            return Note(time ? Words("The item is not that long") : Words("A time looks like this: 1:02:30"));
         m_rooms.transport.Seek(*time / asked->Length());
     });
 }
@@ -105,7 +107,7 @@ void PlayTools::ShiftSound(int milliseconds)
 {
     if (auto* const engine = m_rooms.transport.LoadedEngine()) {
         engine->SetAudioDelay(engine->AudioDelay() + milliseconds);
-        Note("Sound " + Signed(engine->AudioDelay()));
+        Note(Words("Sound %1", { Signed(engine->AudioDelay()) }));
     }
 }
 
@@ -113,7 +115,7 @@ void PlayTools::ShiftSubtitles(int milliseconds)
 {
     if (auto* const engine = m_rooms.transport.LoadedEngine()) {
         engine->SetSubtitleDelay(engine->SubtitleDelay() + milliseconds);
-        Note("Subtitles " + Signed(engine->SubtitleDelay()));
+        Note(Words("Subtitles %1", { Signed(engine->SubtitleDelay()) }));
     }
 }
 
@@ -121,7 +123,7 @@ void PlayTools::ScaleSubtitles(int percent)
 {
     m_subtitleScale = std::clamp(m_subtitleScale + percent, kSmallestText, kLargestText);
     m_rooms.engines.SetSubtitleScale(m_subtitleScale);
-    Note("Subtitles " + std::to_string(m_subtitleScale) + " %");
+    Note(Words("Subtitles %1", { std::to_string(m_subtitleScale) + " %" }));
     auto* const engine = m_rooms.transport.LoadedEngine();
     const int playing = m_rooms.library.Entries().List().PlayingItem();
     // The library takes the size with an item only.
@@ -136,7 +138,8 @@ void PlayTools::Boost(int percent)
 {
     m_rooms.transport.SetBoost(m_rooms.transport.State().boost + percent);
     const int boost = m_rooms.transport.State().boost;
-    Note("Volume " + std::to_string(boost) + " %" + (boost > 100 ? ": more than the file has, it can distort" : ""));
+    Note(boost > 100 ? Words("Volume %1 %: more than the file has, it can distort", { std::to_string(boost) })
+                     : Words("Volume %1 %", { std::to_string(boost) }));
 }
 
 std::string PlayTools::TimeText() const
@@ -163,14 +166,14 @@ void PlayTools::NextSleepTime()
     m_sleepTime = at + 1 < kSleepTimes.end() ? *(at + 1) : kSleepTimes.front();
     m_sleep = std::make_shared<int>(m_sleepTime);
     if (m_sleepTime == 0)
-        return Note("Plays on, whatever the clock says");
-    Note("Stops in " + std::to_string(m_sleepTime) + " minutes");
+        return Note(Words("Plays on, whatever the clock says"));
+    Note(Words("Stops in %1 minutes", { std::to_string(m_sleepTime) }));
     m_rooms.after(std::chrono::minutes(m_sleepTime), [this, sleep = std::weak_ptr(m_sleep)] {
         if (sleep.expired())
             return;
         m_sleepTime = 0;
         m_rooms.transport.cmdStopClick();
-        Note("Stopped, as the clock was told");
+        Note(Words("Stopped, as the clock was told"));
     });
 }
 

@@ -23,6 +23,7 @@ constexpr const char* kNotKept = "Config.cfg cannot be read at the moment: the s
 
 Player::Player(PlayerWorld world)
     : m_world(std::move(world))
+    , m_keys(m_world.own)
     , m_settings(m_world.settingsFolder, m_world.separator)
     , m_transport(
           m_world.engines, [this](bool fullScreen) { m_face.window->SetFullScreen(fullScreen); }, *this)

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "app/Associations.h"
+#include "app/KeyMap.h"
+#include "app/OwnSettings.h"
 #include "app/ListEditor.h"
 #include "app/Memory.h"
 #include "app/PlayTools.h"
@@ -25,6 +27,7 @@ struct PlayerWorld {
     RandomSource random; ///< uniform in [0, 1)
     std::function<bool(const std::string& path)> fileExists;
     std::function<void()> endProcess;
+    OwnSettings& own;           ///< has been loaded
     std::string settingsFolder; ///< with a trailing separator
     char separator = '/';       ///< between the folders of a path
     DiscService discs;
@@ -91,6 +94,8 @@ public:
     const Memory& Remembering() const { return m_memory; }
     DiscSession& Discs() { return m_discs; }
     WindowControl& Window() { return m_window; }
+    KeyMap& Keys() { return m_keys; }
+    OwnSettings& Own() { return m_world.own; }
     Menus& BothMenus() { return m_menus; }
     Associations& Types() { return m_associations; }
     const PlayerFace& Face() const { return m_face; }
@@ -118,6 +123,7 @@ private:
     PlayerWorld m_world;
     PlayerFace m_face;
     Menus m_menus;
+    KeyMap m_keys;
     SettingsStore m_settings;
     Transport m_transport;
     Library m_library;

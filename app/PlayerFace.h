@@ -10,6 +10,16 @@
 
 namespace zentaro {
 
+/// What only the window can do.
+enum class WindowAction {
+    Minimize,
+    ToggleMaximized,
+    ContextMenu, ///< of what has the focus
+    OpenMenuStrip,
+    NextArea, ///< the focus goes to the next part of the window
+    PreviousArea,
+};
+
 /// The main window, as the player knows it.
 class WindowFace {
 public:
@@ -30,6 +40,7 @@ public:
     virtual void SetWindowPosition(int left, int top) = 0; ///< twips
     virtual void SetFullScreen(bool fullScreen) = 0;
     virtual void FlashCaption() = 0;
+    virtual void Do(WindowAction action) = 0;
     /// Keys go to the video from now on.
     virtual void FocusVideo() = 0;
     /// Pops a menu of the classic tree up, by its control's name, near what it belongs to.
@@ -67,6 +78,8 @@ public:
     /// WindowControl::DialogClosed() follows.
     virtual void ShowOptions() = 0;
     virtual void ShowAbout() = 0;
+    /// All commands, to find one, see its key and run it.
+    virtual void ShowCommandList() = 0;
     /// Opens the help pages; says so when they are missing.
     virtual void ShowHelp() = 0;
 };

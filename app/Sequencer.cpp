@@ -1,6 +1,7 @@
 #include "app/Sequencer.h"
 
 #include "base/Paths.h"
+#include "base/Words.h"
 
 #include <limits>
 #include <utility>
@@ -229,11 +230,12 @@ void Sequencer::ItemFailed()
         m_failuresInRow = 0;
         m_rooms.transport.cmdStopClick();
         const bool isOnly = Entries().Count() <= 1;
-        m_rooms.face.window->ShowNote(isOnly ? FileNamePart(path, m_rooms.settings.Separator()) + " cannot be played"
-                                             : "Nothing in the playlist can be played");
+        m_rooms.face.window->ShowNote(isOnly
+                ? Words("%1 cannot be played", { FileNamePart(path, m_rooms.settings.Separator()) })
+                : Words("Nothing in the playlist can be played"));
         return;
     }
-    m_rooms.face.window->ShowNote(FileNamePart(path, m_rooms.settings.Separator()) + " cannot be played");
+    m_rooms.face.window->ShowNote(Words("%1 cannot be played", { FileNamePart(path, m_rooms.settings.Separator()) }));
     if (m_way != Way::ByTheModes)
         return StepOn();
     const auto& settings = m_rooms.settings.Settings();

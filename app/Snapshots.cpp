@@ -1,6 +1,7 @@
 #include "app/Snapshots.h"
 
 #include "base/Paths.h"
+#include "base/Words.h"
 #include "platform/Files.h"
 #include "playback/Snapshot.h"
 
@@ -18,9 +19,10 @@ void TakeSnapshot(Transport& transport, const SettingsStore& settings, WindowFac
     const bool isWritten = !name.empty() && platform::MakeFolder(folder) && engine->TakeSnapshot(pathOf(name))
         && platform::PathExists(pathOf(name));
     if (isWritten)
-        window.ShowNote("Saved " + name, settings.Settings().SnapshotPreview != 0 ? pathOf(name) : std::string());
+        window.ShowNote(
+            Words("Saved %1", { name }), settings.Settings().SnapshotPreview != 0 ? pathOf(name) : std::string());
     else
-        window.ShowNote("No snapshot could be saved in " + folder);
+        window.ShowNote(Words("No snapshot could be saved in %1", { folder }));
 }
 
 } // namespace zentaro

@@ -1,6 +1,7 @@
 #include "app/VideoChoices.h"
 
 #include "app/Player.h"
+#include "base/Words.h"
 
 #include <utility>
 
@@ -22,10 +23,11 @@ std::vector<VideoChoice> TrackChoices(
 {
     std::vector<VideoChoice> choices;
     for (const auto& track : tracks) {
-        choices.push_back({ track.id < 0 ? "Off" : track.name, track.id == present, [&player, choose, id = track.id] {
-                               if (auto* const engine = player.Transporting().LoadedEngine())
-                                   (engine->*choose)(id);
-                           } });
+        choices.push_back(
+            { track.id < 0 ? Words("Off") : track.name, track.id == present, [&player, choose, id = track.id] {
+                 if (auto* const engine = player.Transporting().LoadedEngine())
+                     (engine->*choose)(id);
+             } });
     }
     return choices;
 }
@@ -45,7 +47,7 @@ std::vector<VideoChoice> NamedChoices(
 {
     std::vector<VideoChoice> choices;
     for (const auto& [caption, word] : rows) {
-        choices.push_back({ caption, present == word, [&player, choose, word = word] {
+        choices.push_back({ Words(caption), present == word, [&player, choose, word = word] {
                                if (auto* const engine = player.Transporting().LoadedEngine())
                                    (engine->*choose)(word);
                            } });
@@ -59,7 +61,7 @@ VideoChoices ReadVideoChoices(Player& player)
 {
     VideoChoices choices;
     for (int dock = 0; dock < static_cast<int>(std::size(kDocks)); ++dock) {
-        choices.docking.push_back({ kDocks[dock], player.Settings().PlaylistPosition == dock,
+        choices.docking.push_back({ Words(kDocks[dock]), player.Settings().PlaylistPosition == dock,
             [&player, dock] { player.Window().DockPlaylist(static_cast<PlaylistDock>(dock)); } });
     }
     auto* const engine = player.Transporting().LoadedEngine();
@@ -88,7 +90,7 @@ void LoadSubtitleFile(Player& player)
         // The item can have ended under the dialog.
         auto* const engine = player.Transporting().LoadedEngine();
         if (!path.empty() && engine != nullptr && !engine->AddSubtitleFile(path))
-            player.Face().window->ShowNote("The subtitles cannot be opened");
+            player.Face().window->ShowNote(Words("The subtitles cannot be opened"));
     });
 }
 

@@ -41,7 +41,10 @@ bool VideoHand::Pointer(QEvent& event)
             RunCommand(m_player, "ToggleFullScreen");
         return true;
     case QEvent::ContextMenu:
-        ShowVideoMenu(m_window, m_player, static_cast<QContextMenuEvent&>(event).globalPos());
+        // A key asks for the menu of what has the focus, which the window knows.
+        if (static_cast<QContextMenuEvent&>(event).reason() == QContextMenuEvent::Keyboard)
+            return false;
+        ShowVideoMenu(m_window, m_player, static_cast<QContextMenuEvent&>(event).globalPos(), false);
         return true;
     case QEvent::Enter:
         m_window.unsetCursor();

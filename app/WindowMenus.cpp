@@ -1,9 +1,11 @@
 #include "app/WindowMenus.h"
 
 #include "app/ListMenu.h"
+#include "app/Player.h"
 #include "app/frmMenu.h"
 #include "shell/Caption.h"
 
+#include <QMenu>
 #include <QSystemTrayIcon>
 #include <QWidget>
 
@@ -13,12 +15,18 @@ WindowMenus::WindowMenus(Player& player, QWidget& window)
     : m_player(player)
     , m_window(window)
 {
+    m_player.BothMenus().frmMenu.onChange = [this] { Rebuild(); };
+}
+
+WindowMenus::~WindowMenus()
+{
+    m_player.BothMenus().frmMenu.onChange = nullptr;
 }
 
 frmMenu& WindowMenus::Menus()
 {
     if (m_menus == nullptr) {
-        m_menus = new frmMenu(m_player, &m_window);
+        m_menus = new frmMenu(m_player, &m_window, false);
         m_menus->Menu("mnuPlayListmenu")->addSeparator();
         m_listMenu = new ListMenu(m_player, &m_window);
         m_menus->Menu("mnuPlayListmenu")->addMenu(m_listMenu);
@@ -26,9 +34,17 @@ frmMenu& WindowMenus::Menus()
     return *m_menus;
 }
 
-void WindowMenus::Popup(const std::string& menu, const QPoint& at)
+void WindowMenus::Rebuild()
 {
-    Menus().Popup(menu, at);
+    if (m_menus != nullptr)
+        m_menus->Rebuild();
+    if (m_trayMenus)
+        m_trayMenus->Rebuild();
+}
+
+void WindowMenus::Popup(const std::string& menu, const QPoint& at, bool byKey)
+{
+    Menus().Popup(menu, at, byKey);
 }
 
 void WindowMenus::PopupAbove(const std::string& menu, const QPoint& at)
@@ -47,12 +63,19 @@ void WindowMenus::ShowTray(bool isWanted)
     if (isWanted == (m_tray != nullptr))
         return;
     delete m_tray.data();
+    delete m_trayMenus.data();
     if (!isWanted)
         return;
     m_tray = new QSystemTrayIcon(m_window.windowIcon(), &m_window);
     m_tray->setToolTip(kApplicationTitle);
     // The right button opens it as soon as it goes down; the icon has nothing else to say.
-    m_tray->setContextMenu(Menus().Menu("mnuFileMenu"));
+    auto* const menu = Menus().Menu("mnuFileMenu");
+    m_tray->setContextMenu(menu);
+    // Then the desktop shows it, and takes names otherwise than the menus of the window do.
+    if (menu->platformMenu() != nullptr) {
+        m_trayMenus = new frmMenu(m_player, &m_window, true);
+        m_tray->setContextMenu(m_trayMenus->Menu("mnuFileMenu"));
+    }
     m_tray->show();
 }
 

@@ -18,9 +18,12 @@ class frmMenu;
 class WindowMenus {
 public:
     WindowMenus(Player& player, QWidget& window);
+    ~WindowMenus();
+    WindowMenus(const WindowMenus&) = delete;
+    WindowMenus& operator=(const WindowMenus&) = delete;
 
     /// A menu of the classic tree, by its control's name, at a place of the screen.
-    void Popup(const std::string& menu, const QPoint& at);
+    void Popup(const std::string& menu, const QPoint& at, bool byKey = false);
     /// It stands on that place.
     void PopupAbove(const std::string& menu, const QPoint& at);
     /// The menu of the list's rows.
@@ -29,11 +32,13 @@ public:
 
 private:
     frmMenu& Menus();
+    void Rebuild();
 
     Player& m_player;
     QWidget& m_window;
     frmMenu* m_menus = nullptr;
     ListMenu* m_listMenu = nullptr;
+    QPointer<frmMenu> m_trayMenus;
     QPointer<QSystemTrayIcon> m_tray;
 };
 

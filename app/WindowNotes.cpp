@@ -3,8 +3,11 @@
 #include "app/Background.h"
 #include "app/Commands.h"
 #include "app/Player.h"
+#include "base/Words.h"
 #include "playback/TimeText.h"
 #include "playback/VideoFrame.h"
+#include "shell/Announcer.h"
+#include "shell/MenuText.h"
 #include "shell/NoteBox.h"
 #include "shell/QtText.h"
 
@@ -63,9 +66,9 @@ void WindowNotes::Offer(const std::string& text, std::string_view command)
     const auto* const offered = FindCommand(command);
     if (offered == nullptr)
         return;
-    auto caption = ToQString(std::string(offered->caption)).remove('&');
-    if (const auto key = ShownKey(*offered); !key.empty())
-        caption += " (" + ToQString(std::string(key)) + ")";
+    auto caption = ToQString(Words(offered->caption)).remove('&');
+    if (const auto key = KeyName(m_player.Keys().Shown(*offered)); !key.isEmpty())
+        caption += " (" + key + ")";
     m_box->Show(Area(), ToQString(text), {}, kOfferTime, caption);
     m_offered = offered;
 }
@@ -84,13 +87,13 @@ void WindowNotes::ShowChange(const QString& text)
 QString WindowNotes::VolumeText() const
 {
     const auto& state = m_player.State();
-    return QString("Volume %1 %").arg(state.volume) + (state.isMuted ? " (muted)" : "");
+    return ToQString(Words(state.isMuted ? "Volume %1 % (muted)" : "Volume %1 %", { std::to_string(state.volume) }));
 }
 
-QString WindowNotes::PlaceText() const
+std::string WindowNotes::PlaceText() const
 {
     const auto& state = m_player.State();
-    return ToQString(TimeLabelText(state.progress * state.length, state.length));
+    return TimeLabelText(state.progress * state.length, state.length);
 }
 
 void WindowNotes::TurnVolume(int eighths)
@@ -99,30 +102,39 @@ void WindowNotes::TurnVolume(int eighths)
     ShowChange(VolumeText());
 }
 
-void WindowNotes::ShowState(bool isAlone)
+WindowNotes::News WindowNotes::NewState()
 {
     const auto& state = m_player.State();
     const auto volume = VolumeText();
     const bool isVolumeNew = std::exchange(m_shownVolume, volume) != volume;
     const bool isRateNew = std::exchange(m_shownRate, state.chosenRate) != state.chosenRate;
-    const bool isPauseNew = std::exchange(m_shownPause, state.isPaused) != state.isPaused;
+    const bool isPauseNew = std::exchange(m_shownPause, state.isPaused) != state.isPaused && state.mediaControlsEnabled;
     const bool isPlaceNew = std::exchange(m_shownSeeks, state.seeks) != state.seeks && state.seeks > 0;
-    if (!isAlone || !state.mediaControlsEnabled)
-        return;
     if (isVolumeNew)
-        ShowChange(volume);
-    else if (isRateNew)
-        ShowChange(ToQString(RateLabelText(state.chosenRate)));
-    else if (isPauseNew)
-        ShowChange((state.isPaused ? "Paused at " : "Playing from ") + PlaceText());
-    else if (isPlaceNew)
-        ShowChange(PlaceText());
+        return { volume, volume };
+    if (isRateNew)
+        return { ToQString(RateLabelText(state.chosenRate)), ToQString(RateLabelText(state.chosenRate)) };
+    if (isPauseNew)
+        return { ToQString(Words(state.isPaused ? "Paused at %1" : "Playing from %1", { PlaceText() })),
+            ToQString(Words(state.isPaused ? "Paused" : "Playing")) };
+    return isPlaceNew ? News{ ToQString(PlaceText()), ToQString(zentaro::PlaceText(state)) } : News();
+}
+
+void WindowNotes::ShowState(bool isAlone)
+{
+    const auto news = NewState();
+    if (news.spoken.isEmpty())
+        return;
+    if (isAlone && m_player.State().mediaControlsEnabled)
+        ShowChange(news.shown);
+    else
+        Announce(*m_content.window(), news.spoken);
 }
 
 void WindowNotes::ShowDropTarget(bool isTarget)
 {
     if (isTarget)
-        m_box->Show(Area(), "Let go to play", {}, kNoteTime);
+        m_box->Show(Area(), ToQString(Words("Let go to play")), {}, kNoteTime);
     else
         m_box->hide();
 }

@@ -29,7 +29,7 @@ public:
     void Offer(const std::string& text, std::string_view command);
     /// The wheel over the video, in eighths of a degree.
     void TurnVolume(int eighths);
-    /// Volume, speed, pause or place may be new; `isAlone` where no control shows them.
+    /// Volume, speed, pause or place may be new; `isAlone` where no control shows them. What is not shown is read out.
     void ShowState(bool isAlone);
     /// Files hover over the video, or have left it.
     void ShowDropTarget(bool isTarget);
@@ -37,10 +37,16 @@ public:
     void Place();
 
 private:
+    struct News {
+        QString shown;
+        QString spoken;
+    };
     QRect Area() const;
     QString VolumeText() const;
-    QString PlaceText() const;
+    std::string PlaceText() const;
     void ShowChange(const QString& text);
+    /// What is new; empty where nothing is.
+    News NewState();
 
     Player& m_player;
     QWidget& m_video;

@@ -4,6 +4,7 @@
 #include "app/Commands.h"
 #include "app/ContentPane.h"
 #include "app/ControlPanel.h"
+#include "app/FocusAreas.h"
 #include "app/ListMenu.h"
 #include "app/Player.h"
 #include "app/VideoHand.h"
@@ -11,6 +12,7 @@
 #include "app/WindowKeys.h"
 #include "app/WindowMenus.h"
 #include "app/WindowNotes.h"
+#include "base/Words.h"
 #include "platform/Process.h"
 #include "platform/Window.h"
 #include "playback/VideoFrame.h"
@@ -67,13 +69,10 @@ frmMain::frmMain(Player& player, VideoFrame* video, const QString& programFolder
     setWindowTitle(kProgramName);
     setWindowIcon(QIcon(programFolder + "icons/zentaro.png"));
     new VideoHand(player, *m_video, *m_bar, *m_notes, *this);
-    m_video->setFocusPolicy(Qt::ClickFocus);
-    m_video->setAccessibleName("Video");
+    m_video->setFocusPolicy(Qt::StrongFocus);
     LetCoverVideo(*m_bar);
     connect(&m_bar->LeaveButton(), &QAbstractButton::clicked, this, [this] { FillScreen(false); });
     connect(m_bar, &FullScreenBar::PointerWanted, m_video, &VideoFrame::ShowPointer);
-    connect(m_controls, &ControlPanel::MinimizeAsked, this, &QWidget::showMinimized);
-    connect(m_controls, &ControlPanel::MaximizeAsked, this, &WindowFrame::ToggleMaximized);
     connect(this, &WindowFrame::Resized, this, &frmMain::PlaceParts);
     connect(this, &WindowFrame::FillsScreenChanged, this, &frmMain::FillsScreenNow);
     connect(this, &WindowFrame::NormalSizeChanged, this,
@@ -83,9 +82,10 @@ frmMain::frmMain(Player& player, VideoFrame* video, const QString& programFolder
     connect(&m_progressDelay, &QTimer::timeout, this, [this] { m_list->ShowAddProgress(m_progress); });
     MakeList();
     MakeMenus();
+    m_areas = new FocusAreas({ *this, *m_video, *m_list, *m_content, *m_controls, *m_bar });
     PlaceParts();
     m_controls->Show();
-    m_controls->OrderFocus(m_list);
+    m_areas->Order();
 }
 
 void frmMain::MakeList()
@@ -120,7 +120,7 @@ void frmMain::MakeMenus()
     auto* const listMenu = commands->Menu("PlayList");
     listMenu->addSeparator();
     listMenu->addMenu(new ListMenu(m_player, this));
-    new WindowKeys(m_player, *this, { *m_list, *m_strip, *m_controls });
+    new WindowKeys(m_player, *this, { *m_list, *m_strip, *m_controls, *m_video });
 }
 
 ScreenExtent frmMain::Extent() const
@@ -153,7 +153,7 @@ void frmMain::ShowWindow()
         qWarning("There is no display: the window is not seen, but files play. Ctrl+C ends the player.");
     PlaceFirst();
     // Else the first part that takes keys would have them.
-    setFocus();
+    m_video->setFocus();
     // Not earlier: a messenger that waits for its player ends at once. Not later: the first file can take long.
     platform::OnQuitRequest([this] { close(); });
     show();
@@ -168,6 +168,51 @@ void frmMain::FlashCaption()
 void frmMain::FocusVideo()
 {
     m_video->setFocus();
+}
+
+void frmMain::Do(WindowAction action)
+{
+    switch (action) {
+    case WindowAction::Minimize:
+        return showMinimized();
+    case WindowAction::ToggleMaximized:
+        return ToggleMaximized();
+    case WindowAction::ContextMenu:
+        return ShowMenuOfFocus();
+    case WindowAction::OpenMenuStrip:
+        return m_strip->OpenFirst();
+    case WindowAction::NextArea:
+        return m_areas->Step(1);
+    case WindowAction::PreviousArea:
+        return m_areas->Step(-1);
+    }
+}
+
+void frmMain::ShowMenuOfFocus()
+{
+    if (!m_list->hasFocus()) {
+        const auto& over = m_video->isVisible() ? static_cast<QWidget&>(*m_video) : *this;
+        return ShowVideoMenu(*this, m_player, over.mapToGlobal(over.rect().center()), true);
+    }
+    const auto row = m_list->Layout().RowRect(std::max(m_list->SelectedItem(), 0));
+    const auto at = QPoint(row.left + 40, std::clamp(row.bottom, 0, m_list->height()));
+    m_menus->Popup("mnuPlayListmenu", m_list->mapToGlobal(at), true);
+}
+
+void frmMain::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        ShowMenuOfFocus();
+}
+
+bool frmMain::focusNextPrevChild(bool next)
+{
+    // In full screen the controls are out of sight until they are asked for.
+    if (FillsScreen() && !m_bar->isVisible()) {
+        m_areas->Step(next ? 1 : -1);
+        return true;
+    }
+    return WindowFrame::focusNextPrevChild(next);
 }
 
 void frmMain::PopupMenu(const std::string& menu)
@@ -259,7 +304,7 @@ void frmMain::PlaceParts()
     if (m_dock == PlaylistDock::Hidden && m_list->hasFocus())
         setFocus();
     // Beside the list the video says it.
-    m_list->SetHint(m_dock == PlaylistDock::Whole ? "Drop files here, or press Ctrl+O" : QString());
+    m_list->SetHint(m_dock == PlaylistDock::Whole ? ToQString(Words("Drop files here, or press Ctrl+O")) : QString());
     m_content->Arrange(m_dock, fills, fills ? rect() : ToQt(Layout().Content()));
     if (fills) {
         for (auto* const part : std::initializer_list<QWidget*>{ m_content, m_bar, &m_notes->Box() })
@@ -269,6 +314,7 @@ void frmMain::PlaceParts()
     } else {
         m_strip->setGeometry(ToQt(Layout().MenuStrip()));
         m_controls->PlaceOnWindow(Layout());
+        m_areas->Order();
     }
 }
 
@@ -281,7 +327,7 @@ void frmMain::FillsScreenNow(bool fills)
     } else {
         m_player.Transporting().Host().FullScreenLeft();
         m_bar->End();
-        m_controls->OrderFocus(m_list);
+        m_areas->Order();
     }
 }
 
@@ -293,6 +339,11 @@ void frmMain::paintEvent(QPaintEvent*)
         // A hair of light keeps the window's edge on a dark desktop.
         painter.setPen(style::kHairline);
         painter.drawRect(0, 0, width() - 1, height() - 1);
+    }
+    if (m_areas->IsVideoMarked() && !FillsScreen()) {
+        const QRect video(m_video->mapTo(this, QPoint()), m_video->size());
+        painter.setPen(QPen(style::kLight, 2));
+        painter.drawRect(video.adjusted(-2, -2, 2, 2));
     }
     const auto caption = ToQt(Layout().Caption());
     const auto line = QString(m_caption).replace('\n', ' ');

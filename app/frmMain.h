@@ -13,6 +13,7 @@ namespace zentaro {
 class ContentPane;
 class ControlPanel;
 class FancyList;
+class FocusAreas;
 class FullScreenBar;
 class MenuStrip;
 class Player;
@@ -44,6 +45,7 @@ public:
     void SetWindowPosition(int left, int top) override;
     void SetFullScreen(bool fullScreen) override { FillScreen(fullScreen); }
     void FlashCaption() override;
+    void Do(WindowAction action) override;
     void FocusVideo() override;
     void PopupMenu(const std::string& menu) override;
     void ShowNote(const std::string& text, const std::string& file) override;
@@ -56,6 +58,8 @@ protected:
     void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:
@@ -63,6 +67,7 @@ private:
     void MakeMenus();
     void PlaceParts();
     void FillsScreenNow(bool fills);
+    void ShowMenuOfFocus();
     void ShowCaption();
     void ShowAddProgress();
     void ShowList();
@@ -78,6 +83,7 @@ private:
     FullScreenBar* m_bar;
     WindowMenus* m_menus;
     WindowNotes* m_notes;
+    FocusAreas* m_areas = nullptr;
     MenuStrip* m_strip = nullptr;
     QTimer m_progressDelay;
     AddProgress m_progress;

@@ -8,18 +8,13 @@
 
 namespace zentaro {
 
-frmMenu::frmMenu(Player& player, QWidget* owner)
+frmMenu::frmMenu(Player& player, QWidget* owner, bool forDesktop)
     : QObject(owner)
     , m_player(player)
     , m_owner(owner)
+    , m_forDesktop(forDesktop)
 {
     Rebuild();
-    m_player.BothMenus().frmMenu.onChange = [this] { Rebuild(); };
-}
-
-frmMenu::~frmMenu()
-{
-    m_player.BothMenus().frmMenu.onChange = nullptr;
 }
 
 QMenu* frmMenu::Menu(const std::string& name) const
@@ -28,10 +23,14 @@ QMenu* frmMenu::Menu(const std::string& name) const
     return at == m_menus.end() ? nullptr : at->second;
 }
 
-void frmMenu::Popup(const std::string& name, const QPoint& at)
+void frmMenu::Popup(const std::string& name, const QPoint& at, bool byKey)
 {
-    if (auto* const menu = Menu(name))
-        menu->popup(at);
+    auto* const menu = Menu(name);
+    if (menu == nullptr)
+        return;
+    menu->popup(at);
+    if (byKey)
+        ChooseFirst(*menu);
 }
 
 void frmMenu::PopupAbove(const std::string& name, const QPoint& at)
@@ -94,7 +93,9 @@ void frmMenu::Rebuild()
 
 void frmMenu::Show(QAction& action, const ClassicItem& item) const
 {
-    action.setText(ClassicTree::IsSlot(item) && item.enabled ? MenuName(item.caption) : MenuCaption(item.caption));
+    const bool isName = ClassicTree::IsSlot(item) && item.enabled;
+    const auto name = [&] { return m_forDesktop ? DesktopMenuName(item.caption) : MenuName(item.caption); };
+    action.setText(isName ? name() : MenuCaption(item.caption));
     action.setEnabled(item.enabled);
     action.setVisible(item.visible);
     action.setCheckable(item.checked);

@@ -1,7 +1,9 @@
 #include "app/Background.h"
 #include "app/Dialogs.h"
+#include "app/DisplayStore.h"
 #include "app/DriveQueries.h"
 #include "app/InspectionThreads.h"
+#include "app/Language.h"
 #include "app/MediaRemote.h"
 #include "app/Player.h"
 #include "app/frmMain.h"
@@ -164,6 +166,12 @@ int main(int argc, char** argv)
     if (!ChooseWindowSystem())
         return 1;
     qInstallMessageHandler(&SayOrEnd);
+    const auto separator = platform::PathSeparator();
+    OwnSettings own(WithTrailingSeparator(platform::SettingsFolder(), separator) + "Own.cfg");
+    own.Load();
+    const auto display = ReadDisplay(own);
+    if (display.scale != 100)
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(display.scale / 100.0));
     // Qt takes words of its own from the command line; all of ours belong to the file.
     int ownArgument = 1;
     QApplication application(ownArgument, argv);
@@ -171,10 +179,9 @@ int main(int argc, char** argv)
     QApplication::setApplicationName(kApplicationTitle);
     QApplication::setDesktopFileName("zentaro");
     QApplication::setQuitOnLastWindowClosed(false);
-    style::Apply(application);
-
-    const auto separator = platform::PathSeparator();
     const auto programFolder = WithTrailingSeparator(platform::ExecutableFolder(), separator);
+    SpeakLanguage(application, display.language, ToQString(programFolder + "languages" + separator));
+    style::Apply(application, { display.highContrast, display.lessMotion });
     const auto workingFolder = MakeFolderOfThisRun();
     const auto store = platform::StringStore::Open();
     const auto historyStore = platform::StringStore::Open();
@@ -217,6 +224,7 @@ int main(int argc, char** argv)
         .random = RealRandom(),
         .fileExists = &platform::PathExists,
         .endProcess = endProcess,
+        .own = own,
         .settingsFolder = WithTrailingSeparator(platform::SettingsFolder(), separator),
         .separator = separator,
         .discs = {

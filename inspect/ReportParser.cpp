@@ -1,5 +1,6 @@
 #include "inspect/ReportParser.h"
 
+#include "base/Words.h"
 #include "inspect/TextValues.h"
 
 #include <algorithm>
@@ -167,8 +168,9 @@ private:
         else
             ReadVideo(line.substr(video + kVideoMark.size()), m_videoNames, stream.info);
         if (stream.info.Type == kAudioStream && IsUnsupportedAudio(stream.info.Compression))
-            m_report.messages.push_back({ "The audio format " + stream.info.Compression + " in file " + m_fileName
-                + " is currently unsupported. It will not be added to the project." });
+            m_report.messages.push_back(
+                { Words("The audio format %1 in file %2 is currently unsupported. It will not be added to the project.",
+                    { stream.info.Compression, m_fileName }) });
         else
             m_report.streams.push_back(std::move(stream));
     }

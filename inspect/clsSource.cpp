@@ -2,6 +2,7 @@
 
 #include "base/Numbers.h"
 #include "base/Paths.h"
+#include "base/Words.h"
 #include "inspect/MpegReport.h"
 #include "inspect/ReportParser.h"
 #include "inspect/StreamReport.h"
@@ -29,13 +30,13 @@ std::string TroubleText(FileTrouble trouble)
 {
     switch (trouble) {
     case FileTrouble::Missing:
-        return "There is no such file.";
+        return Words("There is no such file.");
     case FileTrouble::Folder:
-        return "It is a folder, not a file.";
+        return Words("It is a folder, not a file.");
     case FileTrouble::Empty:
-        return "The file is empty.";
+        return Words("The file is empty.");
     case FileTrouble::Unreadable:
-        return "The file cannot be read. It may belong to another user, or its drive may be damaged.";
+        return Words("The file cannot be read. It may belong to another user, or its drive may be damaged.");
     case FileTrouble::None:
         break;
     }
@@ -219,7 +220,7 @@ void clsSource::MakeThumbnails()
             { m_fileName, ThumbnailSizeOf(info.Width, info.Height, lying), ThumbnailTime(m_duration), stream });
         if (picture.IsEmpty())
             m_outcome.messages.push_back(
-                { "Cannot render thumbnail for " + m_fileName + ". The video codec may be unsupported." });
+                { Words("Cannot render thumbnail for %1. The video codec may be unsupported.", { m_fileName }) });
         GivePicture(info, picture.IsEmpty() ? m_context.defaultVideoPicture : picture);
     }
 }

@@ -13,6 +13,7 @@ packages_help='
 ccache                  makes the second build quick
 fonts-inter             the typeface of the windows, and of the icons
 libvlc-bin              the plug-in cache of the engine: without it every start costs a tenth of a second more
+qt6-translations-l10n   the texts of the file dialogs in other languages
 qt6-wayland             shows the windows where there is no X server beside a Wayland display
 xdg-utils               opens the help and web pages in the browser
 '
@@ -26,6 +27,7 @@ libvlc-dev              the engine that plays
 libxcb1-dev             window states that Qt has no call for
 libsystemd-dev          sd-bus: speaks to the login manager, the disk service and the session
 libdvdread-dev          finds the video folder of a disc that is not mounted
+qt6-l10n-tools          compiles the texts of other languages
 nlohmann-json3-dev      prints what zentaro-inspect knows as JSON
 librsvg2-bin            draws the SVG sources of all pictures
 icoutils                packs the icons of Windows
@@ -53,6 +55,8 @@ appstream               checks the metadata of the package
 lintian                 checks the package
 playerctl               a client of the media controls
 systemd                 busctl, another one
+at-spi2-core            the bus of screen readers
+python3-pyatspi         reads the window as they do
 weston                  a Wayland display in memory
 clang                   builds the fuzz targets
 libclang-rt-dev         libFuzzer and the sanitizers of clang

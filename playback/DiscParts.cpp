@@ -1,6 +1,7 @@
 #include "playback/DiscParts.h"
 
 #include "base/Numbers.h"
+#include "base/Words.h"
 #include "playback/TimeText.h"
 
 #include <algorithm>
@@ -25,7 +26,7 @@ std::vector<std::string> Names(const std::vector<DiscPart>& parts, const std::st
 
 std::vector<std::string> TitleCaptions(const std::vector<DiscPart>& titles)
 {
-    auto captions = Names(titles, "Title");
+    auto captions = Names(titles, Words("Title"));
     for (std::size_t i = 0; i < titles.size(); ++i) {
         if (const auto seconds = RoundHalfEven(titles[i].length / 1000); seconds > 0)
             captions[i] += " (" + TimeText(seconds) + ")";
@@ -35,7 +36,7 @@ std::vector<std::string> TitleCaptions(const std::vector<DiscPart>& titles)
 
 std::vector<std::string> ChapterCaptions(const std::vector<DiscPart>& chapters)
 {
-    auto captions = Names(chapters, "Chapter");
+    auto captions = Names(chapters, Words("Chapter"));
     for (std::size_t i = 0; HaveStarts(chapters) && i < chapters.size(); ++i)
         captions[i] = TimeText(RoundHalfEven(chapters[i].start / 1000)) + "  " + captions[i];
     return captions;

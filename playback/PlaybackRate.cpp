@@ -1,6 +1,7 @@
 #include "playback/PlaybackRate.h"
 
 #include "base/Numbers.h"
+#include "base/Words.h"
 
 #include <algorithm>
 #include <array>
@@ -71,7 +72,7 @@ std::string RateLabelText(double rate)
     const double shown = RoundHalfEven(rate * 1000) / 1000.0;
     std::array<char, 32> digits{};
     const auto written = std::to_chars(digits.data(), digits.data() + digits.size(), shown, std::chars_format::fixed);
-    return "Playing rate:" + std::string(digits.data(), written.ptr) + "x";
+    return Words("Playing rate:%1x", { std::string_view(digits.data(), written.ptr) });
 }
 
 } // namespace zentaro

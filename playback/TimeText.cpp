@@ -21,6 +21,15 @@ std::string TimeText(long long seconds)
     return TwoDigits(all / 3600) + ":" + TwoDigits(all % 3600 / 60) + ":" + TwoDigits(all % 60);
 }
 
+std::string ShortTimeText(long long seconds)
+{
+    const auto all = std::max(seconds, 0LL);
+    const auto rest = TwoDigits(all % 60);
+    if (all < 3600)
+        return std::to_string(all / 60) + ":" + rest;
+    return std::to_string(all / 3600) + ":" + TwoDigits(all % 3600 / 60) + ":" + rest;
+}
+
 std::string TimeLabelText(double elapsed, double total)
 {
     return TimeText(RoundHalfEven(elapsed / 1000)) + " / " + TimeText(RoundHalfEven(total / 1000));

@@ -1,5 +1,7 @@
 #include "playback/Transport.h"
 
+#include "base/Numbers.h"
+#include "base/Words.h"
 #include "playback/TimeText.h"
 
 #include <algorithm>
@@ -27,6 +29,15 @@ double StepFrom(double position, int milliseconds, double length)
 }
 
 } // namespace
+
+std::string PlaceText(const TransportState& state)
+{
+    if (!state.mediaControlsEnabled || state.length <= 0)
+        return state.timeText;
+    const auto secondsOf = [](double milliseconds) { return RoundHalfEven(milliseconds / 1000); };
+    return Words("%1 of %2",
+        { ShortTimeText(secondsOf(state.progress * state.length)), ShortTimeText(secondsOf(state.length)) });
+}
 
 Transport::Transport(EngineFactory& engines, std::function<void(bool)> showFullScreen, TransportObserver& observer)
     : m_host(engines)

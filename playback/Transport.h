@@ -50,6 +50,9 @@ struct TransportState {
     bool operator==(const TransportState&) const = default;
 };
 
+/// Where the loaded item is, to be read out: "0:42 of 1:30:05", or what stands in place of the time.
+std::string PlaceText(const TransportState& state);
+
 /// Hears what a transport does.
 class TransportObserver {
 public:

@@ -1,6 +1,8 @@
 #include "playback/VideoFrame.h"
 
+#include <QAccessibleWidget>
 #include <QBuffer>
+#include <QContextMenuEvent>
 #include <QFile>
 #include <QGuiApplication>
 #include <QImageReader>
@@ -184,11 +186,41 @@ void VLCAudioLogo::paintEvent(QPaintEvent*)
     QPainter(this).drawPixmap(rect(), m_picture);
 }
 
+namespace {
+
+/// What the right button gives can be asked for, too.
+class VideoAccessible : public QAccessibleWidget {
+public:
+    explicit VideoAccessible(VideoFrame* video)
+        : QAccessibleWidget(video, QAccessible::Animation)
+    {
+    }
+    QStringList actionNames() const override { return { setFocusAction(), showMenuAction() }; }
+    void doAction(const QString& name) override
+    {
+        if (name != showMenuAction())
+            return QAccessibleWidget::doAction(name);
+        const auto middle = widget()->rect().center();
+        QCoreApplication::postEvent(
+            widget(), new QContextMenuEvent(QContextMenuEvent::Other, middle, widget()->mapToGlobal(middle)));
+    }
+};
+
+QAccessibleInterface* MakeAccessible(const QString&, QObject* object)
+{
+    auto* const video = qobject_cast<VideoFrame*>(object);
+    return video != nullptr ? new VideoAccessible(video) : nullptr;
+}
+
+} // namespace
+
 VideoFrame::VideoFrame(const QString& logoPath, QWidget* parent)
     : QWidget(parent)
     , m_logo(new VLCAudioLogo(logoPath, this))
 {
+    QAccessible::installFactory(&MakeAccessible);
     setObjectName("fraVideo");
+    setAccessibleName(tr("Video"));
     MakeBlack(*this);
     setMouseTracking(true);
 }
@@ -278,7 +310,7 @@ void VideoFrame::paintEvent(QPaintEvent*)
     QPainter painter(this);
     const QPointF middle = QRectF(rect()).center();
     PaintIdleMark(painter, rect());
-    const auto hint = fontMetrics().elidedText("Drop files here to play them", Qt::ElideRight, width());
+    const auto hint = fontMetrics().elidedText(tr("Drop files here to play them"), Qt::ElideRight, width());
     const QRectF line(0, middle.y() + kMarkRadius + kHintGap, width(), fontMetrics().height());
     painter.setPen(QColor(0x9A, 0xA0, 0xA6));
     painter.drawText(line, Qt::AlignCenter, hint);

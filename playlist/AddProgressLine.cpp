@@ -3,6 +3,7 @@
 #include "base/Numbers.h"
 #include "playlist/FancyListPainter.h"
 
+#include <QAccessibleWidget>
 #include <QPainter>
 
 namespace zentaro {
@@ -43,10 +44,21 @@ void QuietButton::paintEvent(QPaintEvent*)
     painter.drawText(rect(), Qt::AlignCenter, text());
 }
 
+namespace {
+
+QAccessibleInterface* MakeAccessible(const QString&, QObject* object)
+{
+    auto* const line = qobject_cast<AddProgressLine*>(object);
+    return line != nullptr ? new QAccessibleWidget(line, QAccessible::ProgressBar) : nullptr;
+}
+
+} // namespace
+
 AddProgressLine::AddProgressLine(QWidget* parent)
     : QWidget(parent)
     , m_cancel(new QuietButton(tr("Cancel"), this))
 {
+    QAccessible::installFactory(&MakeAccessible);
     setFont(FancyListFont(kFontHeight));
     m_cancel->setAccessibleDescription(tr("Stops adding files to the playlist"));
     connect(m_cancel, &QuietButton::clicked, this, &AddProgressLine::Cancelled);

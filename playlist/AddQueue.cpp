@@ -1,5 +1,7 @@
 #include "playlist/AddQueue.h"
 
+#include "base/Words.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <utility>
@@ -16,7 +18,7 @@ std::string ProgressText(const AddProgress& progress)
 {
     if (progress.total == 0)
         return {};
-    return "Adding " + std::to_string(progress.current) + " of " + std::to_string(progress.total);
+    return Words("Adding %1 of %2", { std::to_string(progress.current), std::to_string(progress.total) });
 }
 
 AddQueue::AddQueue(

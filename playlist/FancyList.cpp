@@ -273,6 +273,9 @@ void FancyList::focusInEvent(QFocusEvent* event)
         || event->reason() == Qt::ShortcutFocusReason;
     QWidget::focusInEvent(event);
     update();
+    // The tool kit names the list itself, right after this event; what the keys are on is its row.
+    QMetaObject::invokeMethod(
+        this, [this] { FancyListAccessible::TellSelectionChanged(*this); }, Qt::QueuedConnection);
 }
 
 void FancyList::focusOutEvent(QFocusEvent* event)
@@ -304,7 +307,8 @@ void FancyList::ListChanged()
         FancyListAccessible::TellRowsChanged(*this);
     if ((before == 0) != (Count() == 0))
         PlaceSurface();
-    if (std::exchange(m_toldSelection, SelectedItem()) != SelectedItem())
+    // After a removal another row can stand at the selection's number.
+    if (std::exchange(m_toldSelection, SelectedItem()) != SelectedItem() || before > Count())
         FancyListAccessible::TellSelectionChanged(*this);
 }
 

@@ -2,6 +2,8 @@
 
 #include "playlist/FancyList.h"
 
+#include <QContextMenuEvent>
+#include <QCoreApplication>
 #include <QPointer>
 
 #include <utility>
@@ -75,15 +77,30 @@ public:
     {
         return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
     }
-    QStringList actionNames() const override { return { pressAction() }; }
+    QStringList actionNames() const override { return { pressAction(), showMenuAction() }; }
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
-    /// What a double click on the row does.
+    /// What a double click on the row does, or the key for its menu; after the answer, which must not wait for it.
     void doAction(const QString& name) override
     {
-        if (name != pressAction() || !isValid())
+        if (!isValid())
             return;
-        m_list->SetSelectedItem(m_row);
-        emit m_list->DblClick();
+        const bool isPress = name == pressAction();
+        QMetaObject::invokeMethod(
+            m_list,
+            [list = m_list, row = m_row, isPress] {
+                if (row >= list->Count())
+                    return;
+                list->SetSelectedItem(row);
+                if (isPress) {
+                    emit list->DblClick();
+                    return;
+                }
+                list->setFocus();
+                const QPoint at(0, 0);
+                QContextMenuEvent menu(QContextMenuEvent::Keyboard, at, list->mapToGlobal(at));
+                QCoreApplication::sendEvent(list, &menu);
+            },
+            Qt::QueuedConnection);
     }
 
 private:

@@ -1,6 +1,7 @@
 #include "playlist/LoadThumb.h"
 
 #include "base/Numbers.h"
+#include "base/Words.h"
 
 #include <array>
 #include <utility>
@@ -11,12 +12,12 @@ namespace {
 
 Notice DuplicateNotice(const AddRequest& request)
 {
-    return { "\"" + request.title + "\" is already in your playlist", NoticeIcon::Information, "Media Player" };
+    return { Words("\"%1\" is already in your playlist", { request.title }), NoticeIcon::Information, "Media Player" };
 }
 
 Notice CannotOpenNotice(const AddRequest& request, const std::string& reason)
 {
-    return { "Cannot open file <" + request.path + ">\r\n" + reason };
+    return { Words("Cannot open file <%1>", { request.path }) + "\r\n" + reason };
 }
 
 std::string TwoDigits(int value)

@@ -1,6 +1,7 @@
 #include "playlist/OpenFiles.h"
 
 #include "base/Paths.h"
+#include "base/Words.h"
 
 #include <algorithm>
 #include <cctype>
@@ -30,7 +31,7 @@ OpenedFile SingleFile(std::string_view path, char separator)
 
 std::string OpenDialogFilter()
 {
-    std::string filter = "All Supported Formats|";
+    std::string filter = Words("All Supported Formats") + "|";
     for (const auto extension : kMediaExtensions)
         filter.append("*.").append(extension).append(";");
     filter.back() = '|';

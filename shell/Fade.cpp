@@ -1,5 +1,7 @@
 #include "shell/Fade.h"
 
+#include "shell/Style.h"
+
 #include <QStyle>
 #include <QWidget>
 
@@ -32,7 +34,7 @@ void Fade::Show(double share)
 void Fade::Go(double from, double to)
 {
     const int allowed = m_widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &m_widget);
-    const int duration = m_widget.isVisible() ? std::min(kDuration, allowed) : 0;
+    const int duration = m_widget.isVisible() && !style::HasLessMotion() ? std::min(kDuration, allowed) : 0;
     m_motion.stop();
     if (duration <= 0)
         return Show(to);

@@ -24,10 +24,10 @@ FullScreenBar::FullScreenBar(Skin& skin, std::function<SkinButtons()> states, QW
     : QWidget(parent)
     , m_skin(skin)
     , m_states(std::move(states))
-    , m_leave(new SkinButton("Leave Full Screen", "Esc", this))
+    , m_leave(new SkinButton(tr("Leave Full Screen"), tr("Esc"), this))
 {
     setObjectName("FullScreenBar");
-    setAccessibleName("Full screen controls");
+    setAccessibleName(tr("Full screen controls"));
     setCursor(Qt::ArrowCursor);
     m_rest.setSingleShot(true);
     m_rest.setInterval(kRest);
@@ -60,7 +60,13 @@ void FullScreenBar::PointerSeen(const QPoint& global)
 {
     // Windows that come and go under a still pointer are told of it, too.
     const bool moved = std::exchange(m_pointer, global) != global;
-    if (!m_serves || (!moved && !isVisible()))
+    if (moved || isVisible())
+        Wake();
+}
+
+void FullScreenBar::Wake()
+{
+    if (!m_serves)
         return;
     if (!isVisible()) {
         show();
@@ -74,14 +80,14 @@ void FullScreenBar::PointerSeen(const QPoint& global)
 
 void FullScreenBar::Rest()
 {
-    const bool isUsed = rect().contains(mapFromGlobal(QCursor::pos())) || QApplication::mouseButtons() != Qt::NoButton;
+    // Only keys give the focus to something on it: who has brought it there is not done.
+    const auto* const focus = QApplication::focusWidget();
+    const bool isUsed = rect().contains(mapFromGlobal(QCursor::pos())) || QApplication::mouseButtons() != Qt::NoButton
+        || (focus != nullptr && isAncestorOf(focus));
     if (isUsed) {
         m_rest.start();
         return;
     }
-    // What is hidden must not keep the keys.
-    if (const auto* const focus = QApplication::focusWidget(); focus != nullptr && isAncestorOf(focus))
-        parentWidget()->setFocus();
     hide();
     m_pointer = QCursor::pos();
     emit PointerWanted(false);

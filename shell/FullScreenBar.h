@@ -28,6 +28,8 @@ public:
     void Begin();
     /// Full screen has ended.
     void End();
+    /// Comes without the pointer, for the keys; nothing outside full screen.
+    void Wake();
     /// The pointer was seen at this place of the screen.
     void PointerSeen(const QPoint& global);
 

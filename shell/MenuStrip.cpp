@@ -18,7 +18,7 @@ MenuStrip::MenuStrip(QWidget* parent)
     : QMenuBar(parent)
 {
     setObjectName("SmartMenuXP1");
-    setAccessibleName("Menu");
+    setAccessibleName(tr("Menu"));
     // Menu bars of the desktop's own would take it out of the window.
     setNativeMenuBar(false);
     setCursor(Qt::ArrowCursor);

@@ -1,5 +1,6 @@
 #include "shell/MessageDialog.h"
 
+#include "base/Words.h"
 #include "shell/QtText.h"
 #include "shell/Style.h"
 
@@ -77,7 +78,7 @@ public:
 } // namespace
 
 MessageDialog::MessageDialog(const Notice& notice, Skin& skin, QWidget* owner)
-    : SkinDialog(ToQString(notice.title), skin, owner)
+    : SkinDialog(ToQString(Words(notice.title)), skin, owner)
     , m_sign(SignOf(notice.icon, *this))
 {
     setObjectName("MessageDialog");
@@ -85,6 +86,7 @@ MessageDialog::MessageDialog(const Notice& notice, Skin& skin, QWidget* owner)
     setAccessibleDescription(text);
     const QSize room(Room().width() - 2 * kMargin - kSign - kSignGap, static_cast<int>(Room().height() * kHighest));
     auto* const message = new MessageText(text, room, this);
+    message->setAccessibleName(windowTitle());
     auto* const ok = new SkinPushButton(tr("OK"), skin, this);
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);

@@ -1,8 +1,9 @@
 #include "shell/NoteBox.h"
 
+#include "shell/Announcer.h"
 #include "shell/Style.h"
 
-#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QPainter>
 #include <QPushButton>
 
@@ -21,12 +22,19 @@ constexpr int kLargeLetters = 18; // px
 constexpr int kMostLines = 4;
 constexpr int kTextFlags = Qt::AlignLeft | Qt::AlignBottom;
 
+QAccessibleInterface* MakeAccessible(const QString&, QObject* object)
+{
+    auto* const box = qobject_cast<NoteBox*>(object);
+    return box != nullptr ? new QAccessibleWidget(box, QAccessible::StaticText) : nullptr;
+}
+
 } // namespace
 
 NoteBox::NoteBox(QWidget* parent)
     : QWidget(parent)
     , m_offer(new QPushButton(this))
 {
+    QAccessible::installFactory(&MakeAccessible);
     m_offer->setFocusPolicy(Qt::NoFocus);
     connect(m_offer, &QPushButton::clicked, this, [this] {
         hide();
@@ -48,11 +56,10 @@ void NoteBox::Show(
     m_picture = picture;
     Place(area);
     setAccessibleName(text);
+    Announce(*window(), text);
     show();
     raise();
     m_end.start(time);
-    QAccessibleEvent announcement(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&announcement);
 }
 
 void NoteBox::Place(const QRect& area)

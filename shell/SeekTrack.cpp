@@ -9,6 +9,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace zentaro {
@@ -18,8 +19,10 @@ namespace {
 constexpr double kSlim = 4;         // px
 constexpr double kUnderPointer = 6; // px
 constexpr double kKnobRadius = 6;   // px
+constexpr double kRingMargin = 4.5; // px, over and under the ring of the focus
 constexpr double kNotch = 2;        // px
 constexpr double kChapterReach = 4; // px, from where a press means a chapter's start
+constexpr double kBeforeEnd = 5000; // ms that are left after a jump to the end
 
 } // namespace
 
@@ -28,36 +31,42 @@ SeekTrack::SeekTrack(QWidget* parent)
 {
     SliderAccessible::Install();
     setObjectName("IMGProgressBack");
-    setAccessibleName("Position");
+    setAccessibleName(tr("Position"));
     setMouseTracking(true);
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
     setCursor(Qt::ArrowCursor);
 }
 
-void SeekTrack::Show(bool mediaControlsEnabled, double progress, double length, const std::vector<DiscPart>& chapters)
+void SeekTrack::Show(const Place& place)
 {
-    m_mediaControlsEnabled = mediaControlsEnabled;
-    if (std::exchange(m_length, length) != length || m_chapters != chapters) {
-        m_chapters = chapters;
+    const bool hasJumped = place.seeks != m_place.seeks && place.seeks > 0;
+    if (m_place.length != place.length || m_place.chapters != place.chapters)
         update();
-    }
+    m_place = place;
     const auto before = m_bar.FillWidth();
-    m_bar.SetProgress(progress * 100);
+    m_bar.SetProgress(place.progress * 100);
     if (m_bar.FillWidth() != before)
         update();
     FollowHand();
+    if (hasJumped)
+        SliderAccessible::TellValue(*this, *this);
+}
+
+double SeekTrack::Maximum() const
+{
+    return m_place.length > 0 ? std::round(m_place.length / 1000) : 100;
 }
 
 double SeekTrack::Value() const
 {
-    return m_bar.TrackWidth() > 0 ? m_bar.FillWidth() / m_bar.TrackWidth() * 100 : 0;
+    return std::round(m_place.progress * Maximum());
 }
 
 void SeekTrack::ChooseValue(double value)
 {
-    if (m_mediaControlsEnabled)
-        Choose(value / 100);
+    if (m_place.mediaControlsEnabled && Maximum() > 0)
+        Choose(value / Maximum());
 }
 
 void SeekTrack::Choose(std::optional<double> position)
@@ -70,28 +79,30 @@ void SeekTrack::Choose(std::optional<double> position)
 
 void SeekTrack::ShowTimeAt(const QPoint& global, double x)
 {
-    auto text = ToQString(m_bar.TimeUnder(x, m_length, m_mediaControlsEnabled));
+    auto text = ToQString(m_bar.TimeUnder(x, m_place.length, m_place.mediaControlsEnabled));
     if (text.isEmpty()) {
         QToolTip::hideText();
         return;
     }
-    const auto chapter = ChapterAt(m_chapters, ChapterMeant(x).value_or(TimeOf(x) / m_length) * m_length);
-    if (chapter >= 0 && !m_chapters[static_cast<std::size_t>(chapter)].name.empty())
-        text += '\n' + ToQString(m_chapters[static_cast<std::size_t>(chapter)].name);
+    const auto chapter =
+        ChapterAt(m_place.chapters, ChapterMeant(x).value_or(TimeOf(x) / m_place.length) * m_place.length);
+    if (chapter >= 0 && !m_place.chapters[static_cast<std::size_t>(chapter)].name.empty())
+        text += '\n' + ToQString(m_place.chapters[static_cast<std::size_t>(chapter)].name);
     QToolTip::showText(global, text, this);
 }
 
 std::optional<double> SeekTrack::ChapterMeant(double x) const
 {
-    if (m_length <= 0 || m_bar.TrackWidth() <= 0)
+    if (m_place.length <= 0 || m_bar.TrackWidth() <= 0)
         return std::nullopt;
-    const auto near = ChapterNear(m_chapters, TimeOf(x), TimeOf(kChapterReach));
-    return near >= 0 ? std::optional(m_chapters[static_cast<std::size_t>(near)].start / m_length) : std::nullopt;
+    const auto near = ChapterNear(m_place.chapters, TimeOf(x), TimeOf(kChapterReach));
+    return near >= 0 ? std::optional(m_place.chapters[static_cast<std::size_t>(near)].start / m_place.length)
+                     : std::nullopt;
 }
 
 void SeekTrack::FollowHand()
 {
-    const bool isNear = m_mediaControlsEnabled && (underMouse() || hasFocus());
+    const bool isNear = m_place.mediaControlsEnabled && (underMouse() || hasFocus());
     if (std::exchange(m_isNear, isNear) != isNear)
         m_nearness.Go(m_nearness.Share(), isNear ? 1 : 0);
 }
@@ -118,8 +129,8 @@ void SeekTrack::mousePressEvent(QMouseEvent* event)
     const auto x = event->position().x();
     const bool isLeft = event->button() == Qt::LeftButton;
     m_heldOnFill = m_bar.IsOnFill(x);
-    const auto place = m_heldOnFill ? m_bar.PointerOnFill(x, isLeft, m_mediaControlsEnabled)
-                                    : m_bar.PressOnTrack(x, isLeft, m_mediaControlsEnabled);
+    const auto place = m_heldOnFill ? m_bar.PointerOnFill(x, isLeft, m_place.mediaControlsEnabled)
+                                    : m_bar.PressOnTrack(x, isLeft, m_place.mediaControlsEnabled);
     Choose(place && isLeft && ChapterMeant(x) ? ChapterMeant(x) : place);
 }
 
@@ -130,14 +141,16 @@ void SeekTrack::mouseMoveEvent(QMouseEvent* event)
     if (event->buttons() == Qt::NoButton)
         return;
     const bool isLeft = event->buttons().testFlag(Qt::LeftButton);
-    Choose(m_heldOnFill ? m_bar.PointerOnFill(x, isLeft, m_mediaControlsEnabled)
-                        : m_bar.MoveOnTrack(x, isLeft, m_mediaControlsEnabled));
+    Choose(m_heldOnFill ? m_bar.PointerOnFill(x, isLeft, m_place.mediaControlsEnabled)
+                        : m_bar.MoveOnTrack(x, isLeft, m_place.mediaControlsEnabled));
 }
 
 void SeekTrack::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Home)
         ChooseValue(0);
+    else if (event->key() == Qt::Key_End && m_place.mediaControlsEnabled && m_place.length > 0)
+        Choose(std::max(1 - kBeforeEnd / m_place.length, m_place.progress));
     else
         QWidget::keyPressEvent(event);
 }
@@ -162,20 +175,21 @@ void SeekTrack::paintEvent(QPaintEvent*)
     if (hasFocus()) {
         painter.setPen(QPen(style::kLight, 1));
         painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), height() / 2.0, height() / 2.0);
+        const auto ring = QRectF(rect()).adjusted(0.5, kRingMargin, -0.5, -kRingMargin);
+        painter.drawRoundedRect(ring, ring.height() / 2, ring.height() / 2);
     }
 }
 
 void SeekTrack::PaintNotches(QPainter& painter, const QRectF& track)
 {
-    if (m_length <= 0)
+    if (m_place.length <= 0)
         return;
     painter.setBrush(style::kBase);
-    for (const auto& chapter : m_chapters) {
+    for (const auto& chapter : m_place.chapters) {
         // The beginning needs no sign.
-        if (chapter.start > 0 && chapter.start < m_length)
-            painter.drawRect(
-                QRectF(track.width() * chapter.start / m_length - kNotch / 2, track.top(), kNotch, track.height()));
+        if (chapter.start > 0 && chapter.start < m_place.length)
+            painter.drawRect(QRectF(
+                track.width() * chapter.start / m_place.length - kNotch / 2, track.top(), kNotch, track.height()));
     }
 }
 

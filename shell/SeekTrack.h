@@ -20,12 +20,23 @@ class SeekTrack : public QWidget, public SliderFace {
 public:
     explicit SeekTrack(QWidget* parent);
 
-    /// Whether it can seek, how much is played (0 to 1), of which length (ms, 0 or below while unknown), and the
-    /// chapters, which get a notch each.
-    void Show(bool mediaControlsEnabled, double progress, double length, const std::vector<DiscPart>& chapters);
+    /// What is shown of the loaded item.
+    struct Place {
+        bool mediaControlsEnabled = false;   ///< it can seek
+        double progress = 0;                 ///< how much is played, 0 to 1
+        double length = 0;                   ///< ms; 0 or below while unknown
+        std::vector<DiscPart> chapters = {}; ///< they get a notch each
+        int seeks = 0;                       ///< changes whenever another place was chosen
+        QString spoken = {};                 ///< the place in words
+    };
+    void Show(const Place& place);
 
+    // In seconds; of an unknown length in hundredths.
     double Value() const override;
+    double Maximum() const override;
+    double Step() const override { return 5; }
     void ChooseValue(double value) override;
+    QString ValueText() const override { return m_place.spoken; }
 
 signals:
     /// The engine is to go to this position, 0.0 to 1.0.
@@ -45,13 +56,11 @@ private:
     void ShowTimeAt(const QPoint& global, double x);
     /// At its start where a chapter begins so near that the hand must have meant it.
     std::optional<double> ChapterMeant(double x) const;
-    double TimeOf(double x) const { return x / m_bar.TrackWidth() * m_length; }
+    double TimeOf(double x) const { return x / m_bar.TrackWidth() * m_place.length; }
     void PaintNotches(QPainter& painter, const QRectF& track);
 
     SeekBar m_bar;
-    double m_length = 0;
-    std::vector<DiscPart> m_chapters;
-    bool m_mediaControlsEnabled = false;
+    Place m_place;
     bool m_isNear = false;
     Fade m_nearness{ *this, [this] { update(); } };
     bool m_heldOnFill = false; // the button went down on the played part

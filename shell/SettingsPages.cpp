@@ -1,6 +1,7 @@
 #include "shell/SettingsPages.h"
 
 #include "base/Paths.h"
+#include "base/Words.h"
 #include "platform/Files.h"
 
 #include <algorithm>
@@ -34,11 +35,12 @@ std::optional<PageFault> FaultInPath(const std::string& path)
 {
     using enum PageFault::Field;
     if (!platform::IsAbsolutePath(path))
-        return PageFault{ SnapshotPath, "Please choose a folder for the snapshots, with its whole path." };
+        return PageFault{ SnapshotPath, Words("Please choose a folder for the snapshots, with its whole path.") };
     if (IsCutByTheFile(path))
         return PageFault{ SnapshotPath,
-            "The folder's name can be kept only without a comma, and without a blank or a quote at its beginning. "
-            "Please choose another folder." };
+            Words(
+                "The folder's name can be kept only without a comma, and without a blank or a quote at its beginning. "
+                "Please choose another folder.") };
     return std::nullopt;
 }
 
@@ -47,9 +49,9 @@ std::optional<PageFault> FaultInPrefix(const std::string& prefix)
     using enum PageFault::Field;
     if (IsCutByTheFile(prefix))
         return PageFault{ SnapshotPrefix,
-            "The prefix can be kept only without a comma, and without a blank or a quote at its beginning." };
+            Words("The prefix can be kept only without a comma, and without a blank or a quote at its beginning.") };
     if (prefix.find_first_of("/\\:*?\"<>|") != std::string::npos)
-        return PageFault{ SnapshotPrefix, "A file's name cannot hold any of / \\ : * ? \" < > |" };
+        return PageFault{ SnapshotPrefix, Words("A file's name cannot hold any of / \\ : * ? \" < > |") };
     return std::nullopt;
 }
 

@@ -1,6 +1,7 @@
 #include "shell/Skin.h"
 
 #include "shell/QtText.h"
+#include "shell/Style.h"
 
 #include <QImageReader>
 #include <QPainter>
@@ -25,6 +26,22 @@ QImage Decoded(const QString& path)
     // The two formats that are copied to the screen without a look at each pixel's format.
     image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32);
     return image;
+}
+
+/// What is dark becomes black, what is bright stays so, and there is little between: signs without their plates.
+QImage WithHighContrast(const QImage& picture)
+{
+    constexpr int kBlackBelow = 0x48;
+    constexpr int kGain = 3;
+    const auto stretch = [](int part) { return std::clamp((part - kBlackBelow) * kGain, 0, 255); };
+    auto result = picture.convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < result.height(); ++y) {
+        auto* const line = reinterpret_cast<QRgb*>(result.scanLine(y));
+        for (int x = 0; x < result.width(); ++x)
+            line[x] = qRgba(stretch(qRed(line[x])), stretch(qGreen(line[x])), stretch(qBlue(line[x])), qAlpha(line[x]));
+    }
+    result.convertTo(picture.format());
+    return result;
 }
 
 /// `image` as large as the device pixels that it fills.
@@ -83,7 +100,8 @@ Result<void> Skin::Load(const QString& folder)
     for (std::size_t i = 0; i < files.size(); ++i) {
         if (decoded[i].isNull())
             return Error{ 0, "cannot load the picture " + ToText(folder) + files[i].name };
-        m_images[static_cast<std::size_t>(files[i].image)] = decoded[i];
+        m_images[static_cast<std::size_t>(files[i].image)] =
+            style::HasHighContrast() ? WithHighContrast(decoded[i]) : decoded[i];
     }
     return {};
 }

@@ -2,6 +2,8 @@
 
 #include "shell/Style.h"
 
+#include <QAccessibleWidget>
+#include <QApplication>
 #include <QCursor>
 #include <QPainter>
 
@@ -9,9 +11,50 @@
 
 namespace zentaro {
 
+namespace {
+
+class SkinButtonAccessible : public QAccessibleWidget {
+public:
+    explicit SkinButtonAccessible(SkinButton* button)
+        : QAccessibleWidget(button, QAccessible::Button)
+    {
+    }
+    QStringList actionNames() const override { return { pressAction(), setFocusAction() }; }
+    QStringList keyBindingsForAction(const QString& name) const override
+    {
+        const auto key = Button().Shortcut();
+        return name == pressAction() && !key.isEmpty() ? QStringList(key) : QStringList();
+    }
+    /// After the answer: what the press opens can take its time.
+    void doAction(const QString& name) override
+    {
+        if (name != pressAction())
+            return QAccessibleWidget::doAction(name);
+        QMetaObject::invokeMethod(&Button(), &SkinButton::PressOnce, Qt::QueuedConnection);
+    }
+    QAccessible::State state() const override
+    {
+        auto state = QAccessibleWidget::state();
+        state.pressed = Button().isDown();
+        return state;
+    }
+
+private:
+    SkinButton& Button() const { return *static_cast<SkinButton*>(widget()); }
+};
+
+QAccessibleInterface* MakeAccessible(const QString&, QObject* object)
+{
+    auto* const button = qobject_cast<SkinButton*>(object);
+    return button != nullptr ? new SkinButtonAccessible(button) : nullptr;
+}
+
+} // namespace
+
 SkinButton::SkinButton(const QString& name, const QString& shortcut, QWidget* parent)
     : QAbstractButton(parent)
 {
+    QAccessible::installFactory(&MakeAccessible);
     setObjectName(name);
     SetName(name, shortcut);
     setCursor(Qt::ArrowCursor);
@@ -34,8 +77,23 @@ bool SkinButton::event(QEvent* event)
 
 void SkinButton::SetName(const QString& name, const QString& shortcut)
 {
+    if (name == accessibleName() && shortcut == m_shortcut)
+        return;
     setAccessibleName(name);
+    m_shortcut = shortcut;
     setToolTip(shortcut.isEmpty() ? name : name + " (" + shortcut + ")");
+}
+
+void SkinButton::PressOnce()
+{
+    // A dialog keeps the pointer from the window; it must keep this way off it, too.
+    const auto* const dialog = QApplication::activeModalWidget();
+    if (!isEnabled() || (dialog != nullptr && !dialog->isAncestorOf(this)))
+        return;
+    if (m_isHeld)
+        emit Stepped();
+    else
+        click();
 }
 
 ButtonState SkinButton::State() const

@@ -10,7 +10,23 @@ namespace zentaro::style {
 
 namespace {
 
-constexpr QColor kListBase{ 0x1B, 0x1E, 0x24 };
+QColor listBase{ 0x1B, 0x1E, 0x24 };
+bool hasHighContrast = false;
+bool hasLessMotion = false;
+
+void TakeHighContrast()
+{
+    kBase = kBaseLight = listBase = QColor(0, 0, 0);
+    kRaised = QColor(0x14, 0x14, 0x14);
+    kRaisedHigh = QColor(0x2A, 0x2A, 0x2A);
+    kTrack = QColor(0x80, 0x80, 0x80);
+    kText = kSecondText = QColor(0xFF, 0xFF, 0xFF);
+    kFaintText = QColor(0xA8, 0xA8, 0xA8);
+    kLight = kLightHigh = kLightDeep = QColor(0xFF, 0xD0, 0x30);
+    kAlarm = QColor(0xFF, 0x70, 0x70);
+    kSelection = QColor(0x00, 0x4A, 0x9F);
+    kHairline = QColor(0xFF, 0xFF, 0xFF, 0xB0);
+}
 
 QFont TextFont()
 {
@@ -44,15 +60,19 @@ QPalette MakePalette()
 /// A list lies deeper than the window, and its lines are hair-thin.
 QPalette ListPalette(QPalette palette)
 {
-    palette.setColor(QPalette::Window, kListBase);
+    palette.setColor(QPalette::Window, listBase);
     palette.setColor(QPalette::Button, kRaised);
     return palette;
 }
 
 } // namespace
 
-void Apply(QApplication& application)
+void Apply(QApplication& application, const Needs& needs)
 {
+    hasHighContrast = needs.highContrast;
+    if (needs.highContrast)
+        TakeHighContrast();
+    hasLessMotion = needs.lessMotion;
     const auto palette = MakePalette();
     QApplication::setStyle(new WidgetStyle);
     QApplication::setPalette(palette);
@@ -60,6 +80,16 @@ void Apply(QApplication& application)
     QToolTip::setPalette(palette);
     application.setFont(TextFont());
     QToolTip::setFont(TextFont());
+}
+
+bool HasHighContrast()
+{
+    return hasHighContrast;
+}
+
+bool HasLessMotion()
+{
+    return hasLessMotion;
 }
 
 QFont TimeFont()

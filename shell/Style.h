@@ -8,24 +8,34 @@ class QApplication;
 /// The look that everything in the program shares.
 namespace zentaro::style {
 
-inline constexpr QColor kBase{ 0x16, 0x18, 0x1D };
-inline constexpr QColor kBaseLight{ 0x23, 0x26, 0x2E };
-inline constexpr QColor kRaised{ 0x2C, 0x30, 0x38 };
-inline constexpr QColor kRaisedHigh{ 0x38, 0x3D, 0x47 };
-inline constexpr QColor kTrack{ 0x3A, 0x3F, 0x49 }; // of a bar, where it is not filled
-inline constexpr QColor kText{ 0xE8, 0xEA, 0xED };
-inline constexpr QColor kSecondText{ 0x9A, 0xA0, 0xA6 };
-inline constexpr QColor kFaintText{ 0x62, 0x68, 0x71 }; // of what cannot be used now
-inline constexpr QColor kLight{ 0xFF, 0xB0, 0x20 };
-inline constexpr QColor kLightHigh{ 0xFF, 0xC6, 0x5C };
-inline constexpr QColor kLightDeep{ 0xD9, 0x8E, 0x0A };
-inline constexpr QColor kAlarm{ 0xE5, 0x48, 0x4D };
-inline constexpr QColor kSelection{ 0x3D, 0x43, 0x4F };
+// They are what they are to be before the first widget is made, and then stay so.
+
+inline QColor kBase{ 0x16, 0x18, 0x1D };
+inline QColor kBaseLight{ 0x23, 0x26, 0x2E };
+inline QColor kRaised{ 0x2C, 0x30, 0x38 };
+inline QColor kRaisedHigh{ 0x38, 0x3D, 0x47 };
+inline QColor kTrack{ 0x3A, 0x3F, 0x49 }; // of a bar, where it is not filled
+inline QColor kText{ 0xE8, 0xEA, 0xED };
+inline QColor kSecondText{ 0x9A, 0xA0, 0xA6 };
+inline QColor kFaintText{ 0x62, 0x68, 0x71 }; // of what cannot be used now
+inline QColor kLight{ 0xFF, 0xB0, 0x20 };
+inline QColor kLightHigh{ 0xFF, 0xC6, 0x5C };
+inline QColor kLightDeep{ 0xD9, 0x8E, 0x0A };
+inline QColor kAlarm{ 0xE5, 0x48, 0x4D };
+inline QColor kSelection{ 0x3D, 0x43, 0x4F };
 /// Over whatever it is drawn on.
-inline constexpr QColor kHairline{ 0xFF, 0xFF, 0xFF, 0x14 };
+inline QColor kHairline{ 0xFF, 0xFF, 0xFF, 0x14 };
+
+/// What some users need otherwise.
+struct Needs {
+    bool highContrast = false; ///< light on black, lines instead of shades
+    bool lessMotion = false;   ///< what changes does so at once
+};
 
 /// Style, palette and font of the whole program.
-void Apply(QApplication& application);
+void Apply(QApplication& application, const Needs& needs = {});
+bool HasHighContrast();
+bool HasLessMotion();
 
 /// The font of times and numbers; `DigitLabel` gives its digits one width.
 QFont TimeFont();

@@ -23,8 +23,8 @@ VolumeKnob::VolumeKnob(QWidget* parent)
 {
     SliderAccessible::Install();
     setObjectName("ImgSlider");
-    setAccessibleName("Volume");
-    setToolTip("Volume");
+    setAccessibleName(tr("Volume"));
+    setToolTip(tr("Volume"));
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
     setCursor(Qt::ArrowCursor);
@@ -37,8 +37,7 @@ void VolumeKnob::Show(int percent)
     m_toldVolume = percent;
     m_slider.SetVolume(percent);
     update();
-    QAccessibleValueChangeEvent change(this, percent);
-    QAccessible::updateAccessibility(&change);
+    SliderAccessible::TellValue(*this, *this);
 }
 
 void VolumeKnob::PointAt(double x)
@@ -81,6 +80,8 @@ void VolumeKnob::keyPressEvent(QKeyEvent* event)
         emit StepChosen(-1);
     else if (event->key() == Qt::Key_Right || event->key() == Qt::Key_Up)
         emit StepChosen(1);
+    else if (event->key() == Qt::Key_Home || event->key() == Qt::Key_End)
+        emit VolumeChosen(event->key() == Qt::Key_Home ? 0 : 100);
     else
         QWidget::keyPressEvent(event);
 }
@@ -103,6 +104,11 @@ void VolumeKnob::paintEvent(QPaintEvent*)
     painter.drawRoundedRect(loud, kTrackHeight / 2, kTrackHeight / 2);
     painter.setBrush(isLit ? style::kLightHigh : style::kText);
     painter.drawRoundedRect(QRectF(knobLeft, middle - kKnobHeight / 2, kKnobWidth, kKnobHeight), 2.5, 2.5);
+    if (hasFocus()) {
+        painter.setPen(QPen(style::kLight, 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+    }
 }
 
 } // namespace zentaro

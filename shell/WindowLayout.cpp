@@ -103,12 +103,12 @@ void BarLayout::Place(Fold fold)
     };
     m_buttons[static_cast<std::size_t>(Button::FullScreen)] = { right, 0, 30, kHeight };
     m_number = fold < Fold::Number ? placeLeftwards(kBarGap, 18, 30, 20) : Rect();
-    m_slider = fold < Fold::Slider ? placeLeftwards(fold < Fold::Number ? 8 : kBarGap, 18, kBarSlider, 20) : Rect();
+    m_slider = fold < Fold::Slider ? placeLeftwards(fold < Fold::Number ? 8 : kBarGap, 16, kBarSlider, 24) : Rect();
     const auto sound = placeLeftwards(fold < Fold::Slider ? 7 : kBarGap, 0, 23, kHeight);
     for (const auto button : { Button::SoundOn, Button::SoundOff })
         m_buttons[static_cast<std::size_t>(button)] = sound;
     m_time = { buttons, 17, kBarTime, 22 };
-    m_track = { m_time.Right() + 8, 20, sound.left - 16 - m_time.Right() - 8, 16 };
+    m_track = { m_time.Right() + 8, 16, sound.left - 16 - m_time.Right() - 8, 24 };
 }
 
 int BarLayout::PlaceButtons(Fold fold)

@@ -62,9 +62,10 @@ public:
     Rect Panel() const { return { 0, m_height - kPanelHeight, m_width, kPanelHeight }; }
     Rect TimeLabel() const { return { 45, PanelTop() + 12, (m_width - 93) / 2, 22 }; }
     Rect RateLabel() const { return { TimeLabel().Right(), PanelTop() + 12, m_width - 48 - TimeLabel().Right(), 22 }; }
-    Rect SeekTrack() const { return { 45, PanelTop() + 38, m_width - 93, 16 }; }
+    /// Higher than what is painted: a finger or a trembling hand meets it, too.
+    Rect SeekTrack() const { return { 45, PanelTop() + 34, m_width - 93, 24 }; }
     /// Right of the sound button.
-    Rect VolumeSlider() const { return { m_width - 78, m_height - 27, 44, 20 }; }
+    Rect VolumeSlider() const { return { m_width - 78, m_height - 29, 44, 24 }; }
     Rect VolumeNumber() const { return { m_width - 30, m_height - 27, 24, 20 }; }
 
     /// Which edges of the frameless window a pointer takes hold of.

@@ -92,8 +92,8 @@ QLayout* Parts(QWidget* page, int spacing)
     for (const auto& part : kParts) {
         const int row = parts->rowCount();
         parts->addWidget(new QLabel(part.name, page), row, 0);
-        parts->addWidget(SecondText(part.purpose, page), row, 1);
-        parts->addWidget(SecondText(part.licence, page), row, 2, Qt::AlignRight);
+        parts->addWidget(SecondText(frmAbout::tr(part.purpose), page), row, 1);
+        parts->addWidget(SecondText(frmAbout::tr(part.licence), page), row, 2, Qt::AlignRight);
     }
     return parts;
 }

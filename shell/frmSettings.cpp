@@ -1,6 +1,7 @@
 #include "shell/frmSettings.h"
 
 #include "base/Paths.h"
+#include "base/Words.h"
 #include "platform/Files.h"
 #include "shell/MessageDialog.h"
 #include "shell/QtText.h"
@@ -20,7 +21,9 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace zentaro {
 
@@ -44,10 +47,12 @@ QVBoxLayout* PageLayout(QWidget* page)
 
 } // namespace
 
-frmSettings::frmSettings(const SettingsPages& pages, const std::vector<FileTypeRow>& rows, Skin& skin, QWidget* owner)
+frmSettings::frmSettings(const SettingsPages& pages, const std::vector<FileTypeRow>& rows, Skin& skin, QWidget* owner,
+    std::vector<OptionsPage*> more)
     : SkinDialog(tr("Options"), skin, owner)
     , m_pages(pages)
     , m_committed(pages)
+    , m_more(std::move(more))
     , m_tabs(new SkinTabs(skin, this))
 {
     setObjectName("frmSettings");
@@ -56,6 +61,10 @@ frmSettings::frmSettings(const SettingsPages& pages, const std::vector<FileTypeR
     m_tabs->addTab(new SkinScroll(MakePlayerPage(), m_tabs), tr("&Player"));
     m_tabs->addTab(new SkinScroll(MakeAssociationsPage(rows), m_tabs), tr("Asso&ciations"));
     m_tabs->addTab(new SkinScroll(MakeSnapshotsPage(), m_tabs), tr("&Snapshots"));
+    for (auto* const page : m_more) {
+        m_tabs->addTab(new SkinScroll(page, m_tabs), page->Title());
+        connect(page, &OptionsPage::Changed, this, &frmSettings::NoteChange);
+    }
     auto* const all = new QVBoxLayout(this);
     all->setContentsMargins(1, kTabsTop, 1, 0);
     all->setSpacing(0);
@@ -163,7 +172,7 @@ QWidget* frmSettings::MakeAssociationsPage(const std::vector<FileTypeRow>& rows)
     AddFamily(*side, tr("All file &types"), std::move(everything));
     side->addSpacing(6);
     for (const auto& family : FileTypeFamilies())
-        AddFamily(*side, ToQString(family.name), family.members);
+        AddFamily(*side, ToQString(Words(family.name)), family.members);
     side->addStretch();
     ShowAssociations();
     if (m_types->count() > 0)
@@ -315,7 +324,7 @@ void frmSettings::Browse()
 void frmSettings::NoteChange()
 {
     if (m_apply != nullptr)
-        m_apply->setEnabled(m_pages != m_committed);
+        m_apply->setEnabled(m_pages != m_committed || std::ranges::any_of(m_more, &OptionsPage::IsChanged));
 }
 
 bool frmSettings::CommitPages()
@@ -330,6 +339,10 @@ bool frmSettings::CommitPages()
     }
     emit Commit(m_committed, m_pages);
     m_committed = m_pages;
+    for (auto* const page : m_more) {
+        if (page->IsChanged())
+            page->Commit();
+    }
     NoteChange();
     return true;
 }

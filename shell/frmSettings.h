@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/OptionsPage.h"
 #include "shell/SettingsPages.h"
 #include "shell/SkinDialog.h"
 
@@ -28,8 +29,10 @@ class frmSettings : public SkinDialog {
     Q_OBJECT
 
 public:
-    /// One row for each file type, in the order of the settings.
-    frmSettings(const SettingsPages& pages, const std::vector<FileTypeRow>& rows, Skin& skin, QWidget* owner);
+    /// One row for each file type, in the order of the settings. `more` follows the pages of the settings and is taken
+    /// over.
+    frmSettings(const SettingsPages& pages, const std::vector<FileTypeRow>& rows, Skin& skin, QWidget* owner,
+        std::vector<OptionsPage*> more = {});
 
 signals:
     /// OK or Apply, with values that can be stored. `shown`: what the pages held at the opening or the commit before.
@@ -64,6 +67,7 @@ private:
     SettingsPages m_pages;
     SettingsPages m_committed;
     bool m_isNarrow = false; // the columns of the pages stand below each other
+    std::vector<OptionsPage*> m_more;
     QTabWidget* m_tabs = nullptr;
     QListWidget* m_types = nullptr;
     std::vector<FamilyBox> m_families;

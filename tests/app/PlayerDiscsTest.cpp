@@ -112,7 +112,7 @@ TEST_F(DiscsTest, a_disc_replaces_the_list_and_plays_by_its_root_after_half_a_se
     EXPECT_EQ(player.Window().Caption(), "Zentaro - (dvd:///dev/sr0)");
     EXPECT_EQ(trace.options[2], "snapshot-path=C:\\\\MOVIE Images");
     Run("Quieter"); // goes to the menu of the disc
-    Run("PlaySelected");
+    Run("PressOnVideo");
     trace.title = 1; // no menu any more
     Run("Quieter");
     EXPECT_EQ(trace.keys, (std::vector{ DiscKey::Down, DiscKey::Activate }));

@@ -246,7 +246,10 @@ TEST_F(FancyListTest, AScreenReaderFindsTheRowsAndThenTheWidgets)
     EXPECT_EQ(second.rect().topLeft(), list.mapToGlobal(QPoint(0, -20)));
     EXPECT_TRUE(first.state().offscreen && !first.state().selected);
     EXPECT_TRUE(second.state().selected && !second.state().offscreen && face.child(19)->state().offscreen);
-    const auto press = [&] { first.actionInterface()->doAction(QAccessibleActionInterface::pressAction()); };
+    const auto press = [&] {
+        first.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QApplication::processEvents();
+    };
     EXPECT_EQ(Recorded(press), (Events{ "DblClick 0" }));
     list.Clear();
     EXPECT_EQ(at(50), -1);

@@ -193,7 +193,7 @@ TEST(Sliders, are_sliders_to_a_screen_reader)
     track.setAttribute(Qt::WA_DontShowOnScreen);
     track.resize(200, 16);
     track.show();
-    track.Show(false, 0.4, 0, {});
+    track.Show({ false, 0.4, 0 });
     VolumeKnob knob(nullptr);
     double position = -1;
     int volume = -1;
@@ -205,8 +205,11 @@ TEST(Sliders, are_sliders_to_a_screen_reader)
     EXPECT_EQ(face->valueInterface()->currentValue(), 40);
     face->valueInterface()->setCurrentValue(75);
     EXPECT_EQ(position, -1); // nothing is loaded
-    track.Show(true, 0.4, 1000, {});
-    face->valueInterface()->setCurrentValue(75);
+    // Of a known length they are seconds, and words say which.
+    track.Show({ .mediaControlsEnabled = true, .progress = 0.4, .length = 120'000, .spoken = "0:48 of 2:00" });
+    EXPECT_EQ(face->valueInterface()->currentValue(), 48);
+    EXPECT_EQ(face->text(QAccessible::Description), "0:48 of 2:00");
+    face->valueInterface()->setCurrentValue(90);
     EXPECT_EQ(position, 0.75);
     QAccessible::queryAccessibleInterface(&knob)->valueInterface()->setCurrentValue(30);
     EXPECT_EQ(volume, 30);
@@ -218,7 +221,7 @@ TEST(Sliders, a_press_beside_a_chapters_notch_means_its_start)
     track.setAttribute(Qt::WA_DontShowOnScreen);
     track.resize(200, 16);
     track.show();
-    track.Show(true, 0, 1000, { { "Dawn" }, { "Dusk", 0, 250 } });
+    track.Show({ true, 0, 1000, { { "Dawn" }, { "Dusk", 0, 250 } } });
     double position = -1;
     QObject::connect(&track, &SeekTrack::PositionChosen, [&](double chosen) { position = chosen; });
     for (const auto& [x, chosen] : { std::pair{ 46.0, 0.25 }, { 54.0, 0.25 }, { 60.0, 0.3 } }) {

@@ -109,7 +109,7 @@ TEST(WindowLayout, the_bar_of_full_screen_goes_without_controls_before_its_track
     EXPECT_EQ(before, 7u);
     EXPECT_EQ(BarLayout(787).VolumeNumber(), Rect());
     EXPECT_EQ(BarLayout(788).VolumeNumber(), (Rect{ 700, 18, 30, 20 }));
-    EXPECT_EQ(BarLayout(788).SeekTrack(), (Rect{ 430, 20, 120, 16 }));
+    EXPECT_EQ(BarLayout(788).SeekTrack(), (Rect{ 430, 16, 120, 24 }));
     EXPECT_GT(BarLayout(640).ButtonRect(Button::Rewind).width, 0);
 }
 

@@ -32,6 +32,7 @@ public:
     void SetWindowPosition(int x, int y) override { log << "at " << x << "," << y << " "; }
     void SetFullScreen(bool fullScreen) override { isFullScreen = fullScreen; }
     void FlashCaption() override { log << "flash "; }
+    void Do(WindowAction action) override { log << "action " << static_cast<int>(action) << " "; }
     void FocusVideo() override { log << "video "; }
     void PopupMenu(const std::string& menu) override { log << "menu " << menu << " "; }
     void ShowNote(const std::string& text, const std::string& file) override
@@ -78,6 +79,7 @@ public:
     void ShowFolderOf(const std::string& path) override { log << "folder of " << path << " "; }
     void ShowOptions() override { log << "options "; }
     void ShowAbout() override { log << "about "; }
+    void ShowCommandList() override { log << "commands "; }
     void ShowHelp() override { log << "help "; }
 
     std::size_t OpenBoxes() const { return m_open.size(); }
@@ -225,6 +227,7 @@ public:
     }
 
     std::string folder;
+    OwnSettings own{ folder + "Own.cfg" };
     FakeWindow window;
     FakeDialogs dialogs;
     FakeEngines engines;
@@ -272,8 +275,8 @@ private:
             timers.push_back({ time, std::move(work) });
         };
         return { m_engines, inspections, store, store, store, power, HandOver(), [this] { return random(); },
-            [](const std::string& path) { return path != "/clips/missing.avi"; }, [this] { ended = true; }, folder, '/',
-            { [this] { ++driveQuestions, askForDrives(); }, [] { return Picture(); }, false, after },
+            [](const std::string& path) { return path != "/clips/missing.avi"; }, [this] { ended = true; }, own, folder,
+            '/', { [this] { ++driveQuestions, askForDrives(); }, [] { return Picture(); }, false, after },
             { &associations, "zentaro", "/program/", {} }, after,
             [this](auto work) { background.push_back(std::move(work)); }, [](auto work) { work()(); },
             [this](bool held) { isSleepHeldOff = held; },

@@ -1,0 +1,98 @@
+#include "shell/KeyedRows.h"
+
+#include "shell/MenuText.h"
+#include "shell/QtText.h"
+#include "shell/Style.h"
+
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
+
+namespace zentaro {
+
+namespace {
+
+constexpr int kRowHeight = 28; // px
+constexpr int kEdge = 10;      // px
+constexpr int kKeys = Qt::UserRole;
+constexpr int kId = Qt::UserRole + 1;
+
+class RowFace : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const override
+    {
+        return { 0, std::max(kRowHeight, option.fontMetrics.height() + kEdge) };
+    }
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        if (option.state & QStyle::State_Selected)
+            painter->fillRect(option.rect, style::kSelection);
+        if ((option.state & QStyle::State_Selected) && option.widget->hasFocus())
+            painter->fillRect(option.rect.left(), option.rect.top(), 3, option.rect.height(), style::kLight);
+        const auto place = option.rect.adjusted(kEdge, 0, -kEdge, 0);
+        const auto keys = index.data(kKeys).toString();
+        painter->setFont(option.font);
+        painter->setPen(style::kSecondText);
+        painter->drawText(place, Qt::AlignVCenter | Qt::AlignRight, keys);
+        painter->setPen(index.flags().testFlag(Qt::ItemIsEnabled) ? style::kText : style::kSecondText);
+        const int room = place.width() - option.fontMetrics.horizontalAdvance(keys) - kEdge;
+        const auto name = index.data(Qt::DisplayRole).toString();
+        painter->drawText(
+            place, Qt::AlignVCenter | Qt::AlignLeft, option.fontMetrics.elidedText(name, Qt::ElideRight, room));
+    }
+};
+
+} // namespace
+
+KeyedRows::KeyedRows(QWidget* parent)
+    : QListWidget(parent)
+{
+    setItemDelegate(new RowFace(this));
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setUniformItemSizes(true);
+}
+
+void KeyedRows::Add(const std::string& id, const QString& name, const std::vector<std::string>& keys, bool isUsable)
+{
+    auto* const item = new QListWidgetItem(name, this);
+    item->setData(kId, ToQString(id));
+    if (!isUsable)
+        item->setFlags(item->flags() & ~Qt::ItemIsEnabled);
+    ShowKeys(row(item), keys);
+}
+
+void KeyedRows::ShowKeys(int row, const std::vector<std::string>& keys)
+{
+    QStringList names;
+    for (const auto& key : keys)
+        names << KeyName(key);
+    auto* const shown = item(row);
+    shown->setData(kKeys, names.join(",  "));
+    names.prepend(shown->text());
+    shown->setData(Qt::AccessibleTextRole, names.join(", "));
+}
+
+std::string KeyedRows::IdOf(int row) const
+{
+    return row < 0 ? std::string() : ToText(item(row)->data(kId).toString());
+}
+
+void KeyedRows::Search(const QString& words)
+{
+    const auto wanted = words.simplified().split(' ', Qt::SkipEmptyParts);
+    int first = -1;
+    for (int i = 0; i < count(); ++i) {
+        const auto text = item(i)->text() + ' ' + item(i)->data(kKeys).toString();
+        const bool isFound =
+            std::ranges::all_of(wanted, [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
+        item(i)->setHidden(!isFound);
+        if (isFound && first < 0)
+            first = i;
+    }
+    setCurrentRow(first);
+}
+
+} // namespace zentaro

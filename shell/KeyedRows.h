@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QListWidget>
+
+#include <string>
+#include <vector>
+
+namespace zentaro {
+
+/// A list of names with their keys at the right edge.
+class KeyedRows : public QListWidget {
+    Q_OBJECT
+
+public:
+    explicit KeyedRows(QWidget* parent);
+
+    /// `keys`: as Qt's portable text.
+    void Add(const std::string& id, const QString& name, const std::vector<std::string>& keys, bool isUsable = true);
+    void ShowKeys(int row, const std::vector<std::string>& keys);
+    std::string IdOf(int row) const;
+    /// Leaves the rows whose names and keys have all these words, and chooses the first of them.
+    void Search(const QString& words);
+};
+
+} // namespace zentaro

@@ -1,0 +1,210 @@
+#include "app/CommandList.h"
+#include "app/DisplayStore.h"
+#include "app/Language.h"
+#include "app/frmMain.h"
+#include "base/Words.h"
+#include "playback/VideoFrame.h"
+#include "shell/DisplayPage.h"
+#include "shell/KeysPage.h"
+#include "shell/MenuText.h"
+#include "shell/MessageDialog.h"
+#include "shell/Style.h"
+#include "shell/frmAbout.h"
+#include "shell/frmSettings.h"
+#include "tests/app/PlayerFixture.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
+#include <QImage>
+#include <QLabel>
+#include <QMenu>
+#include <QTabWidget>
+
+#include <cmath>
+#include <map>
+
+namespace zentaro {
+namespace {
+
+/// Whether everyone can use the window and all dialogs: in every language, in both palettes.
+class Everyone : public PlayerTest {
+protected:
+    explicit Everyone(const style::Needs& needs = {})
+        : m_player((style::Apply(*qApp, needs), world.Make()))
+        , m_programFolder(QApplication::applicationDirPath() + "/../bin/")
+        , m_window(m_player, new VideoFrame(m_programFolder + "Audio.JPG", nullptr), m_programFolder)
+    {
+        m_player.Load("", { &m_window, &world.dialogs });
+        world.Settle();
+    }
+    ~Everyone() override { SetTranslator(nullptr); }
+
+    /// Each dialog, as it opens, with each of its pages.
+    void WithEach(const std::function<void(QWidget&)>& look)
+    {
+        look(m_window);
+        KeyChoices keys{ {}, KeyMap::Defaults(), KeyMap::Defaults(), [](auto...) { return std::string(); },
+            [](auto&) {} };
+        for (const auto& command : AllCommands()) {
+            if (KeyMap::IsChangeable(command))
+                keys.rows.push_back({ std::string(command.id), Words(ListedName(command)) });
+        }
+        auto& skin = m_window.Pictures();
+        frmSettings options({}, std::vector<FileTypeRow>(24, { "x", {} }), skin, nullptr,
+            { new KeysPage(keys, skin), new DisplayPage({}, [](auto&) {}) });
+        auto* const tabs = options.findChild<QTabWidget*>();
+        for (int page = 0; page < tabs->count(); ++page) {
+            tabs->setCurrentIndex(page);
+            Show(options, look);
+        }
+        frmAbout about(skin, nullptr);
+        Show(about, look);
+        CommandList commands(m_player, skin, nullptr);
+        Show(commands, look);
+        MessageDialog message({ Words("Please insert a valid DVD.") }, skin, nullptr);
+        Show(message, look);
+    }
+    static void Show(QWidget& dialog, const std::function<void(QWidget&)>& look)
+    {
+        dialog.show();
+        QApplication::processEvents();
+        look(dialog);
+    }
+    static std::vector<QWidget*> Shown(QWidget& top)
+    {
+        std::vector<QWidget*> shown;
+        for (auto* const widget : top.findChildren<QWidget*>()) {
+            if (widget->isVisible())
+                shown.push_back(widget);
+        }
+        return shown;
+    }
+    static std::string Where(const QWidget& top, const QWidget& widget)
+    {
+        return (top.windowTitle() + ": " + widget.metaObject()->className() + " " + widget.objectName()).toStdString();
+    }
+    static double Light(QRgb colour)
+    {
+        const auto linear = [](int part) {
+            const double share = part / 255.0;
+            return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(qRed(colour)) + 0.7152 * linear(qGreen(colour)) + 0.0722 * linear(qBlue(colour));
+    }
+    /// Between the lightest and the darkest of what is drawn there.
+    static double Contrast(const QImage& picture, const QRect& place)
+    {
+        double least = 1;
+        double most = 0;
+        const auto part = place.intersected(picture.rect());
+        for (int y = part.top(); y <= part.bottom(); ++y) {
+            for (int x = part.left(); x <= part.right(); ++x) {
+                const auto light = Light(picture.pixel(x, y));
+                least = std::min(least, light);
+                most = std::max(most, light);
+            }
+        }
+        return (most + 0.05) / (least + 0.05);
+    }
+    void ExpectContrast()
+    {
+        WithEach([](QWidget& top) {
+            const auto picture = top.grab().toImage();
+            for (auto* const widget : Shown(top)) {
+                const auto* const label = qobject_cast<QLabel*>(widget);
+                const auto* const button = qobject_cast<QAbstractButton*>(widget);
+                const bool isText =
+                    (label != nullptr && !label->text().isEmpty()) || (button != nullptr && !button->text().isEmpty());
+                if ((!isText && button == nullptr) || !widget->isEnabled() || widget->visibleRegion().isEmpty())
+                    continue;
+                const QRect place(widget->mapTo(&top, QPoint()), widget->size());
+                EXPECT_GE(Contrast(picture, place), isText ? 4.5 : 3.0) << Where(top, *widget);
+            }
+        });
+    }
+
+    Player& m_player;
+    QString m_programFolder;
+    frmMain m_window;
+};
+
+TEST_F(Everyone, FindsANameAndARoleAtEveryControl)
+{
+    WithEach([](QWidget& top) {
+        for (auto* const widget : Shown(top)) {
+            if (widget->focusPolicy() == Qt::NoFocus || widget->inherits("QTabBar") || widget->inherits("QTabWidget"))
+                continue;
+            auto* const face = QAccessible::queryAccessibleInterface(widget);
+            ASSERT_NE(face, nullptr);
+            const bool isLabelled = !face->relations(QAccessible::Label).empty();
+            EXPECT_TRUE(isLabelled || !face->text(QAccessible::Name).isEmpty()) << Where(top, *widget);
+            EXPECT_NE(face->role(), QAccessible::NoRole) << Where(top, *widget);
+            EXPECT_NE(face->role(), QAccessible::Client) << Where(top, *widget);
+        }
+    });
+}
+
+TEST_F(Everyone, ReadsWholeTextsAndOneLetterForEachThing)
+{
+    for (const auto* const language : { "en", "de", "fr", "es", "ja" }) {
+        SCOPED_TRACE(language);
+        QObject texts;
+        SpeakLanguage(*QCoreApplication::instance(), language, m_programFolder + "languages/");
+        WithEach([&](QWidget& top) {
+            std::map<QChar, std::string> letters;
+            for (auto* const widget : Shown(top)) {
+                const auto* const button = qobject_cast<QAbstractButton*>(widget);
+                const auto* const label = qobject_cast<QLabel*>(widget);
+                const auto text = button != nullptr ? button->text() : label != nullptr ? label->text() : QString();
+                if (const auto mark = text.indexOf('&'); mark >= 0 && mark + 1 < text.size()) {
+                    const auto [other, isNew] = letters.emplace(text[mark + 1].toLower(), text.toStdString());
+                    EXPECT_TRUE(isNew) << text.toStdString() << " and " << other->second;
+                }
+                const bool wraps = label != nullptr && (label->wordWrap() || label->text().isEmpty());
+                // Everything is drawn larger with its text, so what fits at one size fits at all.
+                if ((button != nullptr && !text.isEmpty()) || (label != nullptr && !wraps)) {
+                    EXPECT_GE(widget->width(), widget->sizeHint().width()) << Where(top, *widget) << text.toStdString();
+                }
+            }
+        });
+        SetTranslator(nullptr);
+    }
+}
+
+TEST_F(Everyone, HasATextForWhateverACommandIsCalled)
+{
+    for (const auto* const language : { "de", "fr", "es", "ja" }) {
+        SpeakLanguage(*QCoreApplication::instance(), language, m_programFolder + "languages/");
+        // Where the text is the same in both languages a mark says that it was found.
+        const auto expectKnown = [&](const std::string& english) {
+            EXPECT_TRUE(Words(english) != english || english.size() < 12) << language << ": " << english;
+        };
+        for (const auto& command : AllCommands())
+            expectKnown(ListedName(command));
+        for (const CommandTree tree; const auto& item : tree.Items())
+            expectKnown(item.caption);
+        SetTranslator(nullptr);
+    }
+}
+
+TEST_F(Everyone, SeesTextsAndSigns)
+{
+    ExpectContrast();
+}
+
+class EveryoneWithHighContrast : public Everyone {
+protected:
+    EveryoneWithHighContrast()
+        : Everyone({ true, true })
+    {
+    }
+};
+
+TEST_F(EveryoneWithHighContrast, SeesTextsAndSigns)
+{
+    ExpectContrast();
+}
+
+} // namespace
+} // namespace zentaro
