@@ -59,7 +59,7 @@ bool Player::Load(const std::string& commandLine, PlayerFace face)
     if (!m_instance.BecomePlayer(
             ReadCommandLine(commandLine, m_world.fileExists), Settings().UseNewPlayer != 0, Ways().TakesAllMedia()))
         return false;
-    m_world.engines.Prepare();
+    const auto prepared = m_world.engines.Prepare();
     m_memory.Load();
     // The file's inspection is under way while the window comes up.
     OpenStartupFile();
@@ -67,6 +67,8 @@ bool Player::Load(const std::string& commandLine, PlayerFace face)
     m_face.window->ShowWindow();
     if (!m_settings.IsRead())
         m_face.window->ShowNote(kNotKept);
+    if (!prepared)
+        m_face.dialogs->ShowNotice({ prepared.error().text, NoticeIcon::Critical }, [] { });
     m_instance.Receive([this](const std::string& text, auto done) { ReceiveText(text, std::move(done)); });
     m_instance.ReceiveAdded([this](const std::string& path) {
         m_face.window->FlashCaption();

@@ -11,7 +11,20 @@
 
 namespace zentaro::platform {
 
-decltype(&::SetNamedPipeHandleState) SetPipeState = &::SetNamedPipeHandleState;
+namespace {
+
+/// Wine takes what Windows refuses, and its pipe would then not wait for the tool.
+BOOL WINAPI SetAsOnWindows(HANDLE pipe, LPDWORD mode, LPDWORD maximumCollection, LPDWORD collectTimeout)
+{
+    if (::GetProcAddress(::GetModuleHandleA("ntdll.dll"), "wine_get_version") == nullptr)
+        return ::SetNamedPipeHandleState(pipe, mode, maximumCollection, collectTimeout);
+    ::SetLastError(ERROR_INVALID_PARAMETER);
+    return FALSE;
+}
+
+} // namespace
+
+decltype(&::SetNamedPipeHandleState) SetPipeState = &SetAsOnWindows;
 
 namespace {
 
@@ -242,7 +255,7 @@ Result<std::unique_ptr<ChildProcess>> ChildProcess::Start(const ChildCommand& co
     auto commandLine = CommandLine(command);
     PROCESS_INFORMATION process{};
     if (!::CreateProcessA(command.useShellName ? "cmd.exe" : nullptr, commandLine.data(), &inherited, &inherited, TRUE,
-            command.creationFlags, nullptr, workDir.c_str(), &startUp.StartupInfo, &process))
+            command.creationFlags | CREATE_NO_WINDOW, nullptr, workDir.c_str(), &startUp.StartupInfo, &process))
         return LastError(StartStep::Process);
     Handle(process.hThread).Close();
     pipe.writeEnd.Close();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Result.h"
+
 #include <array>
 #include <cstdint>
 #include <memory>
@@ -120,8 +122,9 @@ public:
 class EngineFactory {
 public:
     virtual ~EngineFactory() = default;
-    /// The first item will come soon; called once, when it is known that this process plays.
-    virtual void Prepare() { }
+    /// The first item will come soon; called once, when it is known that this process plays. Fails, with what the user
+    /// can do, where the engine library is missing.
+    virtual Result<void> Prepare() { return {}; }
     /// In percent of the usual size, for the engines to come.
     virtual void SetSubtitleScale(int /*percent*/) { }
     /// Null when the engine library cannot be started.

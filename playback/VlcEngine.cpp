@@ -1,5 +1,6 @@
 #include "playback/VlcEngine.h"
 
+#include "platform/EngineLibrary.h"
 #include "platform/Process.h"
 #include "platform/Window.h"
 #include "playback/VideoFrame.h"
@@ -373,21 +374,22 @@ VlcEngines::~VlcEngines()
         m_base.wait();
 }
 
-void VlcEngines::Prepare()
+Result<void> VlcEngines::Prepare()
 {
+    if (auto loaded = platform::LoadEngineLibrary(); !loaded)
+        return loaded;
     m_plainOutput = !platform::HasGraphicsCard();
     // Finding the plug-ins takes longest at a start; the window comes up meanwhile.
     m_base = std::async(std::launch::async, [plain = m_plainOutput] {
         platform::SilenceSoundLibrary();
         return StartLibrary(CommonArguments(plain));
     }).share();
+    return {};
 }
 
 std::unique_ptr<Engine> VlcEngines::Create()
 {
-    if (!m_base.valid())
-        Prepare();
-    if (!m_base.get())
+    if ((!m_base.valid() && !Prepare()) || !m_base.get())
         return nullptr;
     return std::make_unique<VlcEngine>(*this);
 }

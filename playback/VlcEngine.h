@@ -21,7 +21,7 @@ public:
     /// A moment is left to the items that are ending, no more.
     ~VlcEngines() override;
 
-    void Prepare() override;
+    Result<void> Prepare() override;
     std::unique_ptr<Engine> Create() override;
     void SetSubtitleScale(int percent) override { m_subtitleScale = percent; }
 

@@ -10,6 +10,7 @@
 #include <fstream>
 #include <io.h>
 #include <thread>
+#include <utility>
 
 using namespace zentaro;
 namespace fs = std::filesystem;
@@ -44,12 +45,6 @@ int Act(const std::string& role, const std::vector<std::string>& arguments)
     return 0;
 }
 
-BOOL WINAPI Refuse(HANDLE, LPDWORD, LPDWORD, LPDWORD)
-{
-    ::SetLastError(ERROR_INVALID_PARAMETER);
-    return FALSE;
-}
-
 BOOL WINAPI Accept(HANDLE, LPDWORD, LPDWORD, LPDWORD)
 {
     ::SetLastError(7);
@@ -58,7 +53,6 @@ BOOL WINAPI Accept(HANDLE, LPDWORD, LPDWORD, LPDWORD)
 
 class WindowsRunner : public testing::Test {
 protected:
-    WindowsRunner() { platform::SetPipeState = &Refuse; }
 
     Result<void> Run(const ToolCommand& command, std::int32_t priority = 2, const std::string& workDir = "")
     {
@@ -91,9 +85,9 @@ protected:
 
 TEST_F(WindowsRunner, a_step_that_fails_has_its_number_and_leaves_no_log)
 {
-    platform::SetPipeState = &Accept;
+    const auto original = std::exchange(platform::SetPipeState, &Accept);
     EXPECT_EQ(Run(Child({ "print" })).error(), (Error{ 2002, "Could not set pipe state LastError 7" }));
-    platform::SetPipeState = &Refuse;
+    platform::SetPipeState = original;
     const auto result = Run({ "C:\\no\\such.exe", {}, "t" });
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error().number, 2003);

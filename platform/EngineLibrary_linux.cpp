@@ -1,0 +1,10 @@
+#include "platform/EngineLibrary.h"
+
+namespace zentaro::platform {
+
+Result<void> LoadEngineLibrary()
+{
+    return {};
+}
+
+} // namespace zentaro::platform
