@@ -30,7 +30,7 @@ namespace zentaro {
 namespace {
 
 constexpr int kSnapshotsPage = 2;
-constexpr int kWidth = 560;
+constexpr int kWidth = 590;
 constexpr int kHeight = 500;
 constexpr int kBand = 52;      // px, the strip of the buttons
 constexpr int kCorner = 16;    // px
