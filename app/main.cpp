@@ -70,7 +70,7 @@ struct InspectionBase {
         context.readAviStreams = &ReadAviStreams;
         context.decodePicture = &DecodePictureFile;
         context.ffmpeg = FindTool("ffmpeg", programFolder);
-        context.mpgtx = FindTool("mpgtx", programFolder);
+        context.mpgtx = platform::FindTool("mpgtx", programFolder).value_or("");
         context.installAdvice = &platform::InstallAdvice;
         context.separator = platform::PathSeparator();
         context.audioCodecNames = &audioNames;

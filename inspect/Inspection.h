@@ -59,7 +59,7 @@ struct InspectionContext {
     RunLimit reportLimit{ .silence = std::chrono::seconds(60), .total = std::chrono::minutes(5) };
     RunLimit pictureLimit{ .total = std::chrono::seconds(30) };
     std::string ffmpeg;        // the program: its full path
-    std::string mpgtx;         // the program: its full path
+    std::string mpgtx;         // the program: its full path; empty where it is not installed
     std::string workingFolder; // private to this inspection, with a trailing separator
     char separator = '/';      // between the folders of a path
     /// How the user gets a tool of that name: a sentence.

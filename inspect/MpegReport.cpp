@@ -3,6 +3,8 @@
 #include "base/Numbers.h"
 #include "inspect/TextValues.h"
 
+#include <cmath>
+
 namespace zentaro {
 
 namespace {
@@ -60,6 +62,16 @@ void ReadLine(std::string_view line, MpegFacts& facts)
 }
 
 } // namespace
+
+float KnownAspect(float aspect)
+{
+    constexpr float kTolerance = 0.01F;
+    for (const auto& row : kAspects) {
+        if (std::abs(aspect - row.aspect) < kTolerance)
+            return row.aspect;
+    }
+    return 0;
+}
 
 MpegFacts ParseMpegReport(std::string_view text)
 {

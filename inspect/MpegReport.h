@@ -16,4 +16,7 @@ struct MpegFacts {
 /// Reads the tool's text literally. Of several lines that tell the same the last one counts.
 MpegFacts ParseMpegReport(std::string_view text);
 
+/// The one of the aspects that an MPEG film can name which this is; 0 when it is none of them.
+float KnownAspect(float aspect);
+
 } // namespace zentaro

@@ -379,6 +379,8 @@ ClassicFacts ToClassicVideo(std::string_view facts, StreamDialect dialect)
         ReadVideoPart(parts[i], i == 1, video);
     classic.nominalRateOnly = video.frameRate.empty() && !video.nominalRate.empty();
     classic.displayAspect = video.displayAspect;
+    // As in "yuv420p(tv, top first)" and "yuv420p(bottom coded first (swapped))".
+    classic.interlaced = parts.size() > 1 && Contains(parts[1], " first");
     if (const auto cross = video.size.find('x'); cross != std::string_view::npos) {
         classic.width = IntegerOfText(video.size).value_or(0);
         classic.height = IntegerOfText(video.size.substr(cross + 1)).value_or(0);

@@ -32,6 +32,7 @@ struct ClassicFacts {
     bool attachedPicture = false; // marked as such by the tool
     bool nominalRateOnly = false; // the rate is the container's clock, not one of the film
     float displayAspect = 0;      // 0: none given
+    bool interlaced = false;      // as marked by the tool
     std::int32_t width = 0;       // px, of a picture; 0: none given
     std::int32_t height = 0;      // px
 };

@@ -13,6 +13,7 @@ struct StreamHint {
     std::int32_t number = 0; // the whole stream number
     float displayAspect = 0; // of the line's DAR; 0 when it has none
     bool lying = false;      // the tool turns the picture by a quarter: height becomes width
+    bool interlaced = false; // as the line says; many tools do not
 };
 
 /// An attached picture, which is no stream for the rules.

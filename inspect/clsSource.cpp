@@ -3,7 +3,6 @@
 #include "base/Numbers.h"
 #include "base/Paths.h"
 #include "base/Words.h"
-#include "inspect/MpegReport.h"
 #include "inspect/ReportParser.h"
 #include "inspect/StreamReport.h"
 #include "inspect/Thumbnail.h"
@@ -161,33 +160,59 @@ void clsSource::ReadAviDelays()
 
 bool clsSource::RefineMpeg()
 {
+    const auto facts = m_context.mpgtx.empty() ? FactsWithoutMpgtx() : FactsOfMpgtx();
+    if (!facts)
+        return false;
+    auto* const video = FirstVideoRecord();
+    if (video != nullptr)
+        Refine(*video, *facts);
+    return true;
+}
+
+/// Nothing when the tool could not be run.
+std::optional<MpegFacts> clsSource::FactsOfMpgtx()
+{
     const auto command = InfoCommand(m_context.mpgtx, m_fileName, {});
     const auto log = RunTool(command, m_context.workingFolder + "mpgtx.txt");
     if (!log)
-        return false;
-    auto* const video = FirstVideoRecord();
-    if (video == nullptr)
-        return true;
-    const auto facts = ParseMpegReport(ToClassicMpegReport(*log, command.text, m_fileName));
+        return std::nullopt;
+    return ParseMpegReport(ToClassicMpegReport(*log, command.text, m_fileName));
+}
+
+/// What the first tool has said beyond the records, in the words of the second one, which only knows these shapes.
+std::optional<MpegFacts> clsSource::FactsWithoutMpgtx() const
+{
+    MpegFacts facts;
+    for (std::size_t i = 0; i < m_streams.size(); ++i) {
+        if (m_streams[i].Type != kVideoStream)
+            continue;
+        facts.interlaced = m_hints[i].interlaced;
+        facts.aspect = KnownAspect(m_hints[i].displayAspect);
+        break;
+    }
+    return facts;
+}
+
+void clsSource::Refine(zentaro::StreamInfo& video, const MpegFacts& facts) const
+{
     if (facts.frameRate != 0)
-        video->FPS = facts.frameRate;
+        video.FPS = facts.frameRate;
     if (facts.aspect != 0)
-        video->DisplayAR = facts.aspect;
+        video.DisplayAR = facts.aspect;
     if (facts.interlaced)
-        video->Interlaced = true;
+        video.Interlaced = true;
     if (facts.bitRate != 0)
-        video->BitRate = facts.bitRate;
+        video.BitRate = facts.bitRate;
     // What the file's size leaves for the film is trusted above what either tool printed.
     const auto file = m_context.files->Facts(m_fileName);
     if (!file || m_duration == 0)
-        return true;
+        return;
     const double bytesPerSecond = RoundHalfEven(static_cast<double>(file->size) / static_cast<double>(m_duration));
     double rate = RoundHalfEven(bytesPerSecond / 1000 * 8);
     for (const auto& info : m_streams)
         if (info.Type == kAudioStream)
             rate -= info.BitRate;
-    video->BitRate = RoundHalfEven(rate);
-    return true;
+    video.BitRate = RoundHalfEven(rate);
 }
 
 void clsSource::CompleteVideoRecords()

@@ -3,6 +3,7 @@
 #include "base/Picture.h"
 #include "inspect/Dictionary.h"
 #include "inspect/Inspection.h"
+#include "inspect/MpegReport.h"
 #include "inspect/StreamInfo.h"
 #include "inspect/ToolDialect.h"
 
@@ -52,6 +53,9 @@ private:
     bool ReadStreams(const std::string& log, const ToolCommand& command);
     void ReadAviDelays();
     bool RefineMpeg();
+    std::optional<MpegFacts> FactsOfMpgtx();
+    std::optional<MpegFacts> FactsWithoutMpgtx() const;
+    void Refine(zentaro::StreamInfo& video, const MpegFacts& facts) const;
     void CompleteVideoRecords();
     void MakeThumbnails();
     void MakeCoverPicture();

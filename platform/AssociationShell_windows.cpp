@@ -90,8 +90,10 @@ std::string ShortProgramPath()
     path.resize(GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size())));
     std::string shortPath(32'768, '\0');
     const auto size = GetShortPathNameA(path.c_str(), shortPath.data(), static_cast<DWORD>(shortPath.size()));
-    // A volume may have no short names.
-    return size == 0 || size >= shortPath.size() ? path : shortPath.substr(0, size);
+    if (size > 0 && size < shortPath.size())
+        path = shortPath.substr(0, size);
+    // A volume may have no short names: then the call gives the long one back.
+    return path.find(' ') == std::string::npos ? path : '"' + path + '"';
 }
 
 std::string HelpFile()

@@ -18,22 +18,23 @@ struct RegistryKey {
     std::unique_ptr<std::remove_pointer_t<HKEY>, CloseKey> key;
 };
 
-HKEY HandleOf(StringStore::Root root)
+/// HKEY_CLASSES_ROOT shows the user's classes before those of the machine, and the user may write only the former.
+std::string UsersPath(StringStore::Root root, const std::string& path)
 {
-    return root == StringStore::Root::CurrentUser ? HKEY_CURRENT_USER : HKEY_CLASSES_ROOT;
+    return root == StringStore::Root::CurrentUser ? path : "Software\\Classes\\" + path;
 }
 
-RegistryKey OpenKey(StringStore::Root root, const std::string& path, REGSAM access)
+RegistryKey OpenKey(HKEY root, const std::string& path, REGSAM access)
 {
     HKEY key = nullptr;
-    const LSTATUS status = RegOpenKeyExA(HandleOf(root), path.c_str(), 0, access, &key);
+    const LSTATUS status = RegOpenKeyExA(root, path.c_str(), 0, access, &key);
     return { status, decltype(RegistryKey::key)(key) };
 }
 
 RegistryKey CreateKey(StringStore::Root root, const std::string& path)
 {
     HKEY key = nullptr;
-    const LSTATUS status = RegCreateKeyA(HandleOf(root), path.c_str(), &key);
+    const LSTATUS status = RegCreateKeyA(HKEY_CURRENT_USER, UsersPath(root, path).c_str(), &key);
     return { status, decltype(RegistryKey::key)(key) };
 }
 
@@ -59,14 +60,20 @@ std::optional<std::string> QueryText(HKEY key, const std::string& name)
     return text;
 }
 
+std::optional<std::string> QueryText(HKEY root, const std::string& path, const std::string& name)
+{
+    const auto opened = OpenKey(root, path, KEY_QUERY_VALUE);
+    return opened.status == ERROR_SUCCESS ? QueryText(opened.key.get(), name) : std::nullopt;
+}
+
 class Registry : public StringStore {
 public:
     std::string Read(Root root, const std::string& key, const std::string& name, const std::string& fallback) override
     {
-        const auto opened = OpenKey(root, key, KEY_QUERY_VALUE);
-        if (opened.status != ERROR_SUCCESS)
-            return fallback;
-        return QueryText(opened.key.get(), name).value_or(fallback);
+        auto text = QueryText(HKEY_CURRENT_USER, UsersPath(root, key), name);
+        if (!text && root == Root::ClassesRoot)
+            text = QueryText(HKEY_CLASSES_ROOT, key, name);
+        return text.value_or(fallback);
     }
 
     Result<void> Write(Root root, const std::string& key, const std::string& name, const std::string& text) override
@@ -81,7 +88,7 @@ public:
 
     Result<void> Delete(Root root, const std::string& key, const std::string& name) override
     {
-        const auto opened = OpenKey(root, key, KEY_SET_VALUE);
+        const auto opened = OpenKey(HKEY_CURRENT_USER, UsersPath(root, key), KEY_SET_VALUE);
         auto status = opened.status;
         if (status == ERROR_SUCCESS)
             status = RegDeleteValueA(opened.key.get(), name.c_str());

@@ -136,7 +136,7 @@ int Run(const Options& options)
     context.readAviStreams = ReadAviStreams;
     context.decodePicture = DecodePictureFile;
     context.ffmpeg = FindTool("ffmpeg", folder);
-    context.mpgtx = FindTool("mpgtx", folder);
+    context.mpgtx = platform::FindTool("mpgtx", folder).value_or("");
     context.workingFolder = WithTrailingSeparator(working.Path(), separator);
     context.installAdvice = platform::InstallAdvice;
     context.separator = separator;

@@ -31,7 +31,7 @@ void CopyProgramFolder(const fs::path& folder)
     fs::create_directory(folder);
     for (const auto& entry : fs::directory_iterator(fs::canonical(fs::path(Helper("")).parent_path() / "../bin"))) {
         const auto name = entry.path().filename();
-        if (name == "zentaro")
+        if (name == "zentaro" || name == "zentaro.exe")
             fs::copy_file(entry.path(), folder / name);
         else if (name != "Config.cfg" && name != "zentaro.package")
             fs::create_symlink(entry.path(), folder / name);

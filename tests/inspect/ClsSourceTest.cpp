@@ -14,6 +14,7 @@ protected:
     std::map<std::string, std::string> files; // by path
     std::string report;                       // behind the command and the version
     std::string mpgtx;
+    bool hasMpgtx = true;
     std::string version = "ffmpeg version 5.1";
     std::map<std::string, FileTrouble> troubles;
     std::vector<std::string> thumbnailRuns; // the arguments' text
@@ -76,7 +77,7 @@ protected:
         context.readAviStreams = [this](const std::string&) { return avi; };
         context.decodePicture = [this](const std::string&) { return thumbnail; };
         context.ffmpeg = "/p/ffmpeg";
-        context.mpgtx = "/p/mpgtx";
+        context.mpgtx = hasMpgtx ? "/p/mpgtx" : "";
         context.workingFolder = "/t/";
         context.installAdvice = [](const std::string& tool) { return "Get " + tool + "."; };
         context.audioCodecNames = &audioNames;
@@ -190,6 +191,15 @@ TEST_F(SourceTest, an_avi_files_delays_and_an_mpeg_films_facts_refine_the_record
     EXPECT_EQ(video.DisplayAR, static_cast<float>(16.0 / 9.0));
     EXPECT_TRUE(video.Interlaced);
     EXPECT_EQ(video.BitRate, 988 - 128); // 123457 bytes a second
+
+    hasMpgtx = false;
+    const auto alone = Inspected("/A.MPG",
+        kTenSeconds + "  Stream #0:0: Video: mpeg2video, yuv420p(tv, top first), 720x576 [SAR 64:45 DAR 16:9], 25 fps\n"
+            + kSound);
+    EXPECT_EQ(alone.Streams()[0].FPS, 25.0F);
+    EXPECT_EQ(alone.Streams()[0].DisplayAR, video.DisplayAR);
+    EXPECT_TRUE(alone.Streams()[0].Interlaced);
+    EXPECT_EQ(alone.Streams()[0].BitRate, video.BitRate);
 }
 
 TEST_F(SourceTest, a_dictionary_gives_back_all_but_the_start_time_and_the_pictures)
