@@ -1,5 +1,6 @@
 #include "app/WindowFrame.h"
 
+#include "platform/Window.h"
 #include "shell/QtGeometry.h"
 
 #include <QAccessibleWidget>
@@ -72,6 +73,22 @@ WindowFrame::WindowFrame()
         KeepNormalGeometry();
         m_isStarting = false;
     });
+}
+
+void WindowFrame::LeaveFrameToSystem()
+{
+    platform::TakeFrame(
+        winId(), { [this](int x, int y) { return PartAt(x, y); }, [this] { emit PointerRestsOnCaption(); } });
+}
+
+desktop::FramePart WindowFrame::PartAt(int x, int y) const
+{
+    const QPoint at(static_cast<int>(x / devicePixelRatio()), static_cast<int>(y / devicePixelRatio()));
+    if (m_fullScreen || childAt(at) != nullptr)
+        return desktop::FramePart::Content;
+    const auto edges = isMaximized() ? WindowLayout::Edges() : Layout().EdgesAt(at.x(), at.y());
+    return desktop::FramePartAt(edges.left, edges.top, edges.right, edges.bottom,
+        Layout().TitleBar().Contains(at.x(), at.y()), Layout().Icon().Contains(at.x(), at.y()));
 }
 
 void WindowFrame::TakeSize(int width, int height)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/FrameRules.h"
 #include "shell/WindowLayout.h"
 
 #include <QTimer>
@@ -33,6 +34,10 @@ public:
     void FillScreen(bool fill);
     void ToggleMaximized();
 
+protected:
+    /// Before it is first shown: leaves edges and caption to a system that takes hold of them itself.
+    void LeaveFrameToSystem();
+
 signals:
     /// It fills the screen from now on, or no longer, by whoever's hand.
     void FillsScreenChanged(bool fills);
@@ -41,6 +46,8 @@ signals:
     void NormalSizeChanged(int width, int height);
     /// Its parts are to be placed anew.
     void Resized();
+    /// The pointer rests on the caption while that belongs to the system.
+    void PointerRestsOnCaption();
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -56,6 +63,8 @@ private:
     /// All of the screen that shows most of the window.
     QRect FullScreenArea() const;
     void KeepNormalGeometry();
+    /// By a point in physical pixels.
+    desktop::FramePart PartAt(int x, int y) const;
     void UseCursorFor(const QPoint& at);
     /// Hands a drag to the system: a resize at an edge, a move of the title bar.
     void StartDrag();

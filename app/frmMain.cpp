@@ -74,6 +74,7 @@ frmMain::frmMain(Player& player, VideoFrame* video, const QString& programFolder
     connect(&m_bar->LeaveButton(), &QAbstractButton::clicked, this, [this] { FillScreen(false); });
     connect(m_bar, &FullScreenBar::PointerWanted, m_video, &VideoFrame::ShowPointer);
     connect(this, &WindowFrame::Resized, this, &frmMain::PlaceParts);
+    connect(this, &WindowFrame::PointerRestsOnCaption, this, [this] { ShowTip(true, QCursor::pos()); });
     connect(this, &WindowFrame::FillsScreenChanged, this, &frmMain::FillsScreenNow);
     connect(this, &WindowFrame::NormalSizeChanged, this,
         [this](int width, int height) { m_player.WindowResized(width, height); });
@@ -152,6 +153,7 @@ void frmMain::ShowWindow()
     if (QGuiApplication::platformName() == "offscreen")
         qWarning("There is no display: the window is not seen, but files play. Ctrl+C ends the player.");
     PlaceFirst();
+    LeaveFrameToSystem();
     // Else the first part that takes keys would have them.
     m_video->setFocus();
     // Not earlier: a messenger that waits for its player ends at once. Not later: the first file can take long.
@@ -290,6 +292,7 @@ void frmMain::ShowAddProgress()
     const auto progress = m_player.Files().Adding();
     if (std::exchange(m_progress, progress) == progress)
         return;
+    platform::ShowProgress(winId(), progress.current, progress.total);
     // One file is opened in a moment; the line comes only when that moment grows long.
     if (progress.total == 1)
         m_progressDelay.start();
@@ -353,13 +356,16 @@ void frmMain::paintEvent(QPaintEvent*)
         painter.fontMetrics().elidedText(line, Qt::ElideRight, caption.width()));
 }
 
+void frmMain::ShowTip(bool isOnCaption, const QPoint& at)
+{
+    QToolTip::showText(at, isOnCaption ? "<p>" + m_caption.toHtmlEscaped() + "</p>" : QString(), this);
+}
+
 bool frmMain::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip) {
         const auto* const help = static_cast<QHelpEvent*>(event);
-        const bool isOnCaption = Layout().Caption().Contains(help->pos().x(), help->pos().y());
-        QToolTip::showText(
-            help->globalPos(), isOnCaption ? "<p>" + m_caption.toHtmlEscaped() + "</p>" : QString(), this);
+        ShowTip(Layout().Caption().Contains(help->pos().x(), help->pos().y()), help->globalPos());
         return true;
     }
     return WindowFrame::event(event);

@@ -71,6 +71,7 @@ private:
     void ShowCaption();
     void ShowAddProgress();
     void ShowList();
+    void ShowTip(bool isOnCaption, const QPoint& at);
 
     Player& m_player;
     PlayerTimers m_timers;

@@ -247,18 +247,20 @@ int main(int argc, char** argv)
     Dialogs dialogs(window, player, programFolder);
 
     MediaRemote remote(player, RemoteWindow(window, workingFolder));
-    const auto mediaControl = platform::MediaControl::Open([&](platform::MediaCommand command) {
-        const auto obey = [&, asked = std::move(command)] {
-            remote.Do(asked);
-            // The desktop shows what it hears, and the next tick can be half a second away.
-            QTimer::singleShot(kEngineDelay, &window, [&] { window.Timers().Follow(); });
-        };
-        QMetaObject::invokeMethod(&application, obey, Qt::QueuedConnection);
-    });
-    if (mediaControl)
-        window.Timers().settled = [&] { mediaControl->Publish(remote.Status()); };
     if (!player.Load(commandLine, { &window, &dialogs }))
         endProcess();
+    const auto mediaControl = platform::MediaControl::Open(
+        [&](platform::MediaCommand command) {
+            const auto obey = [&, asked = std::move(command)] {
+                remote.Do(asked);
+                // The desktop shows what it hears, and the next tick can be half a second away.
+                QTimer::singleShot(kEngineDelay, &window, [&] { window.Timers().Follow(); });
+            };
+            QMetaObject::invokeMethod(&application, obey, Qt::QueuedConnection);
+        },
+        window.winId());
+    if (mediaControl)
+        window.Timers().settled = [&] { mediaControl->Publish(remote.Status()); };
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
         [&] { IgnoreFailure(player.WriteConfigurations()); });
     // As at a logout, when the display is gone before anybody has asked the player to end.

@@ -1,5 +1,7 @@
 #include "platform/AssociationShell.h"
 
+#include "desktop/WindowsRules.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <memory>
@@ -14,12 +16,57 @@
 namespace zentaro::platform {
 namespace {
 
+std::string ProgramPath()
+{
+    std::string path(32'768, '\0');
+    path.resize(GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return path;
+}
+
 class Explorer : public AssociationShell {
 public:
     bool Refresh() override { return true; }
     std::optional<LiveOwner> CurrentOwner(const std::string&) override { return std::nullopt; }
     void AssociationsChanged() override { SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, nullptr, nullptr); }
-    bool BringInLine(const std::vector<AssociatedType>&) override { return true; }
+    bool BringInLine(const std::vector<AssociatedType>& types) override
+    {
+        std::vector<std::pair<std::string, std::string>> ours;
+        for (const auto& type : types) {
+            const auto name = "Zentaro" + type.extension;
+            if (type.isOurs)
+                ours.emplace_back(type.extension, name);
+            else
+                RemoveValue(desktop::OpenWithKey(type.extension), name);
+        }
+        // What was registered for types that are given back goes, too.
+        for (const auto* const key : { desktop::kApplicationKey, desktop::kCapabilitiesKey })
+            RegDeleteTreeA(HKEY_CURRENT_USER, key);
+        if (ours.empty()) {
+            RegDeleteKeyValueA(HKEY_CURRENT_USER, desktop::kRegisteredKey, desktop::kRegisteredName);
+            return true;
+        }
+        for (const auto& [key, name, text] : desktop::RegistrationOf(ProgramPath(), ours))
+            RegSetKeyValueA(HKEY_CURRENT_USER, key.c_str(), name.c_str(), REG_SZ, text.c_str(),
+                static_cast<DWORD>(text.size() + 1));
+        return true;
+    }
+
+private:
+    /// With its key, when that holds nothing else.
+    static void RemoveValue(const std::string& key, const std::string& name)
+    {
+        if (RegDeleteKeyValueA(HKEY_CURRENT_USER, key.c_str(), name.c_str()) != ERROR_SUCCESS)
+            return;
+        HKEY opened = nullptr;
+        DWORD values = 1;
+        if (RegOpenKeyExA(HKEY_CURRENT_USER, key.c_str(), 0, KEY_QUERY_VALUE, &opened) != ERROR_SUCCESS)
+            return;
+        RegQueryInfoKeyA(
+            opened, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &values, nullptr, nullptr, nullptr, nullptr);
+        RegCloseKey(opened);
+        if (values == 0)
+            RegDeleteKeyA(HKEY_CURRENT_USER, key.c_str());
+    }
 };
 
 constexpr std::intptr_t kLastError = 32; // what is above means success
@@ -86,8 +133,7 @@ std::unique_ptr<AssociationShell> AssociationShell::Open(const std::string&, con
 
 std::string ShortProgramPath()
 {
-    std::string path(32'768, '\0');
-    path.resize(GetModuleFileNameA(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    auto path = ProgramPath();
     std::string shortPath(32'768, '\0');
     const auto size = GetShortPathNameA(path.c_str(), shortPath.data(), static_cast<DWORD>(shortPath.size()));
     if (size > 0 && size < shortPath.size())

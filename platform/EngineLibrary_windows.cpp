@@ -12,11 +12,11 @@ namespace zentaro::platform {
 namespace {
 
 constexpr const char* kName = "libvlc.dll";
-constexpr const char* kMissing
-    = "libVLC was not found: files cannot be played. Please install VLC 3 (the 64-bit one) from "
-      "https://www.videolan.org/vlc/ and start Zentaro again, or put its \"libvlc.dll\", \"libvlccore.dll\" and "
-      "\"plugins\" into the folder that Zentaro lies in.\r\n\r\nNothing was lost: your playlist, history and options "
-      "are as they were.";
+constexpr const char* kMissing =
+    "libVLC was not found: files cannot be played. Please install VLC 3 (the 64-bit one) from "
+    "https://www.videolan.org/vlc/ and start Zentaro again, or put its \"libvlc.dll\", \"libvlccore.dll\" and "
+    "\"plugins\" into the folder that Zentaro lies in.\r\n\r\nNothing was lost: your playlist, history and options "
+    "are as they were.";
 
 /// Where an installed VLC says that it lies; empty when it does not.
 std::string InstalledFolder(HKEY root, DWORD view)
@@ -24,7 +24,8 @@ std::string InstalledFolder(HKEY root, DWORD view)
     std::array<char, 32768> text{};
     DWORD size = text.size() - 1;
     const DWORD flags = RRF_RT_REG_SZ | view;
-    if (RegGetValueA(root, "Software\\VideoLAN\\VLC", "InstallDir", flags, nullptr, text.data(), &size) != ERROR_SUCCESS)
+    if (RegGetValueA(root, "Software\\VideoLAN\\VLC", "InstallDir", flags, nullptr, text.data(), &size)
+        != ERROR_SUCCESS)
         return {};
     return text.data();
 }
@@ -39,8 +40,8 @@ bool Load(const std::string& folder)
     const HMODULE library = LoadLibraryExA(path.c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
     if (library == nullptr)
         return false;
-    const auto version = reinterpret_cast<const char* (*)()>(
-        reinterpret_cast<void*>(GetProcAddress(library, "libvlc_get_version")));
+    const auto version =
+        reinterpret_cast<const char* (*)()>(reinterpret_cast<void*>(GetProcAddress(library, "libvlc_get_version")));
     if (version != nullptr && std::strncmp(version(), "3.", 2) == 0)
         return true;
     FreeLibrary(library);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desktop/MediaStatus.h"
+#include "platform/Window.h"
 
 #include <functional>
 #include <memory>
@@ -15,7 +16,8 @@ using desktop::MediaTrack;
 using desktop::MediaTracks;
 
 /// The desktop's own controls for whatever plays: media keys, lock screen, headsets. Linux: MPRIS on the session's bus.
-/// Windows: none; its media keys reach the window as messages.
+/// Windows: media keys, also of other windows while an item is loaded, the buttons at the window's taskbar button, and
+/// the recently used files.
 class MediaControl {
 public:
     virtual ~MediaControl() = default;
@@ -23,8 +25,8 @@ public:
     /// The first one brings the player onto the desktop. Returns at once.
     virtual void Publish(MediaStatus status) = 0;
 
-    /// `onCommand` is called on a thread of its own. Null where the system has no such controls.
-    static std::unique_ptr<MediaControl> Open(std::function<void(MediaCommand)> onCommand);
+    /// `onCommand` is called on any thread. `window`: the main one, which stays as long as this.
+    static std::unique_ptr<MediaControl> Open(std::function<void(MediaCommand)> onCommand, NativeWindow window);
 };
 
 } // namespace zentaro::platform

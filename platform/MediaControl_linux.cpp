@@ -131,7 +131,7 @@ void MprisControl::AnnounceTracks(sd_bus* bus, const MediaStatus& before) const
         });
 }
 
-std::unique_ptr<MediaControl> MediaControl::Open(std::function<void(MediaCommand)> onCommand)
+std::unique_ptr<MediaControl> MediaControl::Open(std::function<void(MediaCommand)> onCommand, NativeWindow)
 {
     return std::make_unique<MprisControl>(SessionBusAddress(), std::move(onCommand));
 }

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "base/Result.h"
+#include "desktop/FrameRules.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace zentaro::platform {
@@ -19,6 +21,23 @@ inline constexpr const char* kNoWaylandPlugin =
 /// named. `wanted`: which one the user has told Qt to use, empty for none. Fails, with what can be done, where a
 /// Wayland display is named and neither that nor an X server can be used: Qt itself would abort.
 Result<std::string> WindowSystem(const std::string& wanted);
+
+/// What a system that frames windows itself asks about one that is painted up to its edges.
+struct FrameFace {
+    /// By a point of the client area, in physical pixels.
+    std::function<desktop::FramePart(int x, int y)> partAt;
+    /// The pointer has come to rest on the caption, where the window does not hear of it.
+    std::function<void()> rests;
+};
+
+/// Gives a window without a frame, before it is shown, the ways of one that has one: snapping, shaking, shadow, the
+/// system's menu, a place beside the taskbar when maximised. The system takes hold of edges and caption from
+/// now on. On Linux nothing happens: the window hands each drag to the window manager.
+void TakeFrame(NativeWindow window, FrameFace face);
+
+/// How far adding files has come, where the system shows that at the window's button; nothing to show for a total of
+/// less than two.
+void ShowProgress(NativeWindow window, int done, int total);
 
 /// Keeps the (shown) window above all others, or no longer. Its place, size and focus stay.
 void SetTopmost(NativeWindow window, bool topmost);

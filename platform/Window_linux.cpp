@@ -123,6 +123,11 @@ Result<std::string> WindowSystem(const std::string& wanted)
     return std::string("offscreen");
 }
 
+// Window managers move and resize for the window, which begins each drag.
+void TakeFrame(NativeWindow, FrameFace) { }
+
+void ShowProgress(NativeWindow, int, int) { }
+
 void SetTopmost(NativeWindow window, bool topmost)
 {
     RequestState(window, topmost ? kAddState : kRemoveState, "_NET_WM_STATE_ABOVE");

@@ -1,7 +1,10 @@
 #include "desktop/CommandLine.h"
+#include "desktop/FrameRules.h"
 #include "desktop/HandOverRules.h"
 #include "desktop/MprisRules.h"
+#include "desktop/WindowsRules.h"
 
+#include <algorithm>
 #include <gmock/gmock.h>
 
 namespace zentaro::desktop {
@@ -105,6 +108,55 @@ TEST(MprisRules, a_few_tracks_come_and_go_one_by_one_and_many_as_a_new_list)
     EXPECT_EQ(change.addedFrom, 2U);
     EXPECT_TRUE(ChangeOfTracks(nullptr, tracks({ 1, 2, 3, 4, 5, 6, 7, 8, 9 })).replaced);
     EXPECT_THAT(ChangeOfTracks(tracks({ 1 }), nullptr).removed, ElementsAre(1));
+}
+
+TEST(FrameRules, a_corner_goes_before_its_edges_and_all_of_them_before_the_caption)
+{
+    EXPECT_EQ(FramePartAt(true, true, false, false, true, true), FramePart::TopLeft);
+    EXPECT_EQ(FramePartAt(false, true, true, false, true, false), FramePart::TopRight);
+    EXPECT_EQ(FramePartAt(false, true, false, false, true, false), FramePart::Top);
+    EXPECT_EQ(FramePartAt(true, false, false, true, false, false), FramePart::BottomLeft);
+    EXPECT_EQ(FramePartAt(false, false, true, true, false, false), FramePart::BottomRight);
+    EXPECT_EQ(FramePartAt(false, false, false, true, false, false), FramePart::Bottom);
+    EXPECT_EQ(FramePartAt(false, false, true, false, true, false), FramePart::Right);
+    EXPECT_EQ(FramePartAt(false, false, false, false, true, true), FramePart::Menu);
+    EXPECT_EQ(FramePartAt(false, false, false, false, true, false), FramePart::Caption);
+    EXPECT_EQ(FramePartAt(false, false, false, false, false, false), FramePart::Content);
+}
+
+TEST(FrameRules, a_maximised_window_leaves_the_line_that_calls_a_hidden_taskbar)
+{
+    const Rect work{ 1920, 40, 2560, 1400 };
+    EXPECT_EQ(MaximizedArea(work, {}), work);
+    EXPECT_EQ(MaximizedArea(work, { .bottom = true }), (Rect{ 1920, 40, 2560, 1398 }));
+    EXPECT_EQ(MaximizedArea(work, { .left = true, .top = true, .right = true }), (Rect{ 1922, 42, 2556, 1398 }));
+    EXPECT_EQ(SystemMenuOf(false, false, false), (SystemMenuItems{ false, true, true, true }));
+    EXPECT_EQ(SystemMenuOf(true, false, false), (SystemMenuItems{ true, false, false, false }));
+    EXPECT_EQ(SystemMenuOf(false, false, true), SystemMenuItems());
+}
+
+TEST(WindowsRules, media_keys_and_the_buttons_at_the_taskbar)
+{
+    EXPECT_EQ(KindOfAppCommand(14), MediaCommand::Kind::PlayPause);
+    EXPECT_EQ(KindOfAppCommand(12), MediaCommand::Kind::Previous);
+    EXPECT_FALSE(KindOfAppCommand(8)); // mute
+    MediaStatus status;
+    EXPECT_FALSE(TaskbarLookOf(status).canPlay);
+    status.playback = MediaPlayback::Playing;
+    status.tracks = std::make_shared<const std::vector<MediaTrack>>(1);
+    EXPECT_TRUE(TaskbarLookOf(status).showsPause && TaskbarLookOf(status).canStep);
+}
+
+TEST(WindowsRules, a_registration_names_the_program_in_quotes_and_each_type_three_times)
+{
+    const auto texts = RegistrationOf("C:\\My Programs\\zentaro.exe", { { ".avi", "Zentaro.avi" } });
+    const auto has = [&](const RegistryText& text) { return std::ranges::find(texts, text) != texts.end(); };
+    EXPECT_TRUE(has({ "Software\\Classes\\Applications\\zentaro.exe\\shell\\open\\command", "",
+        R"("C:\My Programs\zentaro.exe" "%1")" }));
+    EXPECT_TRUE(has({ "Software\\Classes\\Applications\\zentaro.exe\\SupportedTypes", ".avi", "" }));
+    EXPECT_TRUE(has({ "Software\\Quorvane\\Zentaro\\Capabilities\\FileAssociations", ".avi", "Zentaro.avi" }));
+    EXPECT_TRUE(has({ "Software\\Classes\\.avi\\OpenWithProgids", "Zentaro.avi", "" }));
+    EXPECT_TRUE(has({ "Software\\RegisteredApplications", "Zentaro", "Software\\Quorvane\\Zentaro\\Capabilities" }));
 }
 
 } // namespace
