@@ -65,7 +65,7 @@ add_library(zentaro_libvlc INTERFACE)
 target_include_directories(zentaro_libvlc SYSTEM INTERFACE "${kit}/include")
 target_link_libraries(zentaro_libvlc INTERFACE "${kit}/libvlc.a")
 
-# zentaro_windows_folder(target): lays beside the executables what they load and run.
+# zentaro_windows_folder(target): lays beside the executables what they load and run, without what is for debuggers.
 function(zentaro_windows_folder target)
   set(files)
   foreach(library libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
@@ -90,7 +90,7 @@ function(zentaro_windows_folder target)
     set(copy "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${to}")
     cmake_path(GET copy PARENT_PATH folder)
     add_custom_command(OUTPUT "${copy}" COMMAND "${CMAKE_COMMAND}" -E make_directory "${folder}"
-      COMMAND "${CMAKE_COMMAND}" -E copy "${from}" "${copy}" DEPENDS "${from}" VERBATIM)
+      COMMAND "${CMAKE_STRIP}" --strip-debug -o "${copy}" "${from}" DEPENDS "${from}" VERBATIM)
     list(APPEND copies "${copy}")
   endwhile()
   add_custom_target(${target} ALL DEPENDS ${copies})

@@ -35,6 +35,13 @@ icoutils                packs the icons of Windows
 packages_package='
 dpkg-dev                finds what the .deb depends on
 '
+packages_windows='
+nasm                    the assembler of ffmpeg
+libz-mingw-w64-dev      zlib for ffmpeg
+dpkg-dev                unpacks the sources of Qt and ffmpeg
+xz-utils                unpacks a kit that was given
+nsis                    makes the installer
+'
 packages_screenless='
 xvfb                    a display in memory
 openbox                 a window manager for it
