@@ -15,7 +15,7 @@ protected:
     ~Registry() override
     {
         RegDeleteTreeA(HKEY_CURRENT_USER, top.c_str());
-        RegDeleteTreeA(HKEY_CLASSES_ROOT, ".zentarotest");
+        RegDeleteTreeA(HKEY_CURRENT_USER, "Software\\Classes\\.zentarotest");
     }
 
     /// What another program would find.
@@ -41,7 +41,7 @@ TEST_F(Registry, texts_of_any_language_and_length_lie_under_their_names_as_plain
     ASSERT_TRUE(store->Write(Root::ClassesRoot, ".zentarotest", "OldAss", "Other.x"));
     EXPECT_EQ(Raw(HKEY_CURRENT_USER, key, "txtHwnd"), std::string("65566\0", 6));
     EXPECT_EQ(Raw(HKEY_CURRENT_USER, key, nullptr), std::string("own value\0", 10));
-    EXPECT_EQ(Raw(HKEY_CLASSES_ROOT, ".zentarotest", "OldAss"), std::string("Other.x\0", 8));
+    EXPECT_EQ(Raw(HKEY_CURRENT_USER, "Software\\Classes\\.zentarotest", "OldAss"), std::string("Other.x\0", 8));
     for (const auto& text : { std::string(), std::string("C:\\Clips\\Ä 日本 😀.avi"), std::string(255, 'x'),
              std::string(256, 'y'), std::string(20'000, 'z') }) {
         ASSERT_TRUE(store->Write(Root::CurrentUser, key, "Ä", text));
