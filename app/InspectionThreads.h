@@ -3,10 +3,12 @@
 #include "app/Background.h"
 #include "inspect/Inspection.h"
 #include "playlist/AddQueue.h"
+#include "playlist/KnownFiles.h"
 
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace zentaro {
 
@@ -19,14 +21,24 @@ public:
     /// folder are set here for each one.
     using SharedContext = std::function<std::shared_ptr<const InspectionContext>()>;
 
-    /// `workingFolder`: the folder of this run, with a trailing separator; without one (empty) every inspection fails.
-    InspectionThreads(SharedContext context, std::string workingFolder, Post post);
+    /// `workingFolder`: the folder of this run, with a trailing separator; without one (empty) every inspection of a
+    /// file fails that is not among the `known` ones. `context` is called on any thread.
+    InspectionThreads(
+        SharedContext context, std::string workingFolder, Post post, std::shared_ptr<KnownFiles> known = nullptr);
     ~InspectionThreads() override;
 
-    /// Receives the results, on the UI thread.
+    // These receive the results, on the UI thread.
+    std::function<void(int ticket, Inspection report)> onReported = [](int, const Inspection&) {};
     std::function<void(int ticket, Inspection inspection)> onCompleted;
+    std::function<void(std::vector<RecalledFile> files)> onRecalled;
+    std::function<void(std::vector<FoundPicture> pictures)> onPicturesFound;
 
+    void Expect(const std::string& path) override;
     void Start(int ticket, const std::string& path) override;
+    void StartAtOnce(int ticket, const std::string& path) override;
+    bool Recall(const std::vector<FileToRecall>& files) override;
+    void FindPictures(std::vector<PictureOrder> orders) override;
+    void GiveWay(bool givesWay) override { m_givesWay = givesWay; }
     void Cancel(int ticket) override;
     /// Ends everything without a result, in a tenth of a second at most: tools, and whatever else was started and is
     /// waited for, get no time to end by themselves. Nothing is posted any more when it returns.
@@ -36,13 +48,19 @@ private:
     struct Job;
     class Jobs;
 
+    std::shared_ptr<Job> MakeJob(const std::string& path);
+
     SharedContext m_context;
     std::string m_workingFolder;
+    Post m_post;
+    std::shared_ptr<KnownFiles> m_known;
+    std::shared_ptr<Job> m_expected;
     /// Shared with the threads, which may outlive this.
     std::shared_ptr<Jobs> m_jobs;
     /// Results that are posted after the end find it gone.
     std::shared_ptr<InspectionThreads*> m_alive;
     int m_started = 0;
+    bool m_givesWay = false;
 };
 
 } // namespace zentaro

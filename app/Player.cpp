@@ -44,6 +44,17 @@ Player::Player(PlayerWorld world)
 
 Player::~Player() = default;
 
+void Player::Expect(const std::string& commandLine)
+{
+    const auto path = ReadCommandLine(commandLine, m_world.fileExists).StartupArgument;
+    // Where a player is there already, this process is most likely its messenger.
+    if (m_instance.IsPlayerThere())
+        return;
+    IgnoreFailure(m_world.engines.Prepare()); // it is told when the player is up
+    if (m_world.fileExists(path) && IsSupportedFile(path, m_world.separator))
+        m_world.inspections.Expect(path);
+}
+
 bool Player::Load(const std::string& commandLine, PlayerFace face)
 {
     m_face = face;
@@ -61,6 +72,8 @@ bool Player::Load(const std::string& commandLine, PlayerFace face)
         return false;
     const auto prepared = m_world.engines.Prepare();
     m_memory.Load();
+    // The engine draws in the window before it is seen; one that gets its place later would not know of it.
+    m_face.window->PlaceWindow();
     // The file's inspection is under way while the window comes up.
     OpenStartupFile();
     m_window.SetPlaylistPosition(m_settings.StoredDock());
@@ -90,8 +103,16 @@ void Player::OpenStartupFile()
         IsMediaFile(path, m_world.separator, Ways().TakesAllMedia()) || ListFormatOf(path, m_world.separator);
     if (!m_world.fileExists(path) || !isOurs)
         return StartIsOver();
-    m_library.LoadThumb(FileNamePart(path, m_world.separator), path, Settings().LaunchFullScreen != 0,
-        m_instance.Request().ReplaceOnOpen, [this](AddOutcome) { StartIsOver(); });
+    const bool plays = m_instance.Request().ReplaceOnOpen;
+    m_library.LoadThumb(FileNamePart(path, m_world.separator), path, Settings().LaunchFullScreen != 0, plays,
+        [this](AddOutcome outcome) {
+            if (outcome != AddOutcome::Added)
+                m_world.engines.Forget();
+            StartIsOver();
+        });
+    // The engine opens the file while it is inspected.
+    if (plays && !ListFormatOf(path, m_world.separator))
+        m_world.engines.MakeReady({ path, false }, m_settings.ItemOptions(path));
 }
 
 void Player::StartIsOver()
@@ -231,6 +252,8 @@ void Player::TransportChanged()
 {
     m_memory.Look();
     m_world.holdOffSleep(Settings().DisableScreenSaver != 0 && State().isWatched);
+    m_world.inspections.GiveWay(State().mediaControlsEnabled && !State().isPaused);
+    m_library.UpdatePictures();
     m_face.window->StateChanged();
 }
 
@@ -243,7 +266,14 @@ void Player::EntryAdded()
 {
     if (Entries().Count() > 0)
         m_menus.SmartMenuXP1.SetEnabled({ "Remove", "RemoveAll", "Next", "Previous" }, true);
+    m_library.UpdatePictures();
     m_memory.Look();
+    m_face.window->StateChanged();
+}
+
+void Player::ThumbnailChanged()
+{
+    m_library.UpdatePictures();
     m_face.window->StateChanged();
 }
 

@@ -50,6 +50,8 @@ public:
     explicit Player(PlayerWorld world);
     ~Player() override;
 
+    /// May come before Load: what takes longest of opening the file of the command line begins, beside the window.
+    void Expect(const std::string& commandLine);
     /// Brings the program up, decides its role and opens the file of the command line. False when this process was only
     /// a messenger: nothing was shown, and it is to end at once.
     bool Load(const std::string& commandLine, PlayerFace face);
@@ -115,6 +117,7 @@ private:
     std::int32_t PlayMode() const override { return Settings().PlayMode; }
     void EntryAdded() override;
     void AddProgressChanged() override;
+    void ThumbnailChanged() override;
     void AskForFiles(const std::string& title, const std::string& filter,
         std::function<void(std::vector<std::string>)> chosen) override;
     void FilesFound(const FoundFiles& found) override;

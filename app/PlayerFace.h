@@ -34,6 +34,8 @@ public:
     virtual int WindowHeight() const = 0;  ///< as above
     virtual bool IsFullScreen() const = 0;
 
+    /// Gives the window its place and size, not yet to be seen.
+    virtual void PlaceWindow() { }
     virtual void ShowWindow() = 0;
     virtual void CloseWindow() = 0;
     virtual void SetWindowSize(int width, int height) = 0; ///< logical pixels

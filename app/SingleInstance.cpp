@@ -31,6 +31,11 @@ std::string SingleInstance::Read(const char* name, const char* fallback)
     return m_store.Read(kRoot, HandOverKey(), name, fallback);
 }
 
+bool SingleInstance::IsPlayerThere()
+{
+    return Read("txtHwnd", "-1") != "-1" && m_service.isAlive(Read("txtHwnd1", ""));
+}
+
 bool SingleInstance::BecomePlayer(StartupRequest request, bool useNewPlayer, bool takesAllMedia)
 {
     m_request = std::move(request);

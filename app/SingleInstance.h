@@ -30,6 +30,8 @@ class SingleInstance {
 public:
     SingleInstance(HandOverService service, platform::StringStore& store, char separator);
 
+    /// A player that was started before lives, as far as the store tells.
+    bool IsPlayerThere();
     /// Decides what this process is. True when it is the player from now on: then later starts can reach it. False when
     /// it was a messenger and is to end at once.
     bool BecomePlayer(StartupRequest request, bool useNewPlayer, bool takesAllMedia = false);

@@ -152,7 +152,6 @@ void frmMain::ShowWindow()
         qWarning("%s", loaded.error().text.c_str());
     if (QGuiApplication::platformName() == "offscreen")
         qWarning("There is no display: the window is not seen, but files play. Ctrl+C ends the player.");
-    PlaceFirst();
     LeaveFrameToSystem();
     // Else the first part that takes keys would have them.
     m_video->setFocus();

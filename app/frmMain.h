@@ -39,6 +39,7 @@ public:
     int WindowWidth() const override { return NormalGeometry().width(); }
     int WindowHeight() const override { return NormalGeometry().height(); }
     bool IsFullScreen() const override { return FillsScreen(); }
+    void PlaceWindow() override { PlaceFirst(); }
     void ShowWindow() override;
     void CloseWindow() override { close(); }
     void SetWindowSize(int width, int height) override { TakeSize(width, height); }

@@ -43,6 +43,7 @@ namespace {
 using namespace zentaro;
 
 constexpr auto kEngineDelay = std::chrono::milliseconds(100); // until the engine shows what it was told
+constexpr std::int64_t kKnownFilesLimit = 512 << 20;          // bytes
 constexpr auto kTidyDelay = std::chrono::seconds(5);          // a start has shown its first picture by then
 
 HandOverService RealHandOver()
@@ -69,6 +70,7 @@ struct InspectionBase {
         context.files = &files;
         context.readAviStreams = &ReadAviStreams;
         context.decodePicture = &DecodePictureFile;
+        context.decodeBytes = &DecodePictureBytes;
         context.ffmpeg = FindTool("ffmpeg", programFolder);
         context.mpgtx = platform::FindTool("mpgtx", programFolder).value_or("");
         context.installAdvice = &platform::InstallAdvice;
@@ -201,7 +203,11 @@ int main(int argc, char** argv)
 
     auto* const video = new VideoFrame(ToQString(programFolder) + "Audio.JPG", nullptr);
     VlcEngines engines(*video, workingFolder.empty() ? std::string() : workingFolder + "engine.log");
-    InspectionThreads inspections(SharedInspectionBase(programFolder), workingFolder, onWindowThread);
+    const auto known = std::make_shared<KnownFiles>([separator] {
+        const auto folder = platform::CacheFolder();
+        return folder.empty() ? nullptr : platform::CacheStore::Open(folder + separator + "seen.db", kKnownFilesLimit);
+    });
+    InspectionThreads inspections(SharedInspectionBase(programFolder), workingFolder, onWindowThread, known);
     DriveQueries drives(platform::Drives::Open(), onWindowThread);
     const bool isToldOfDiscs = drives.Watch();
     const auto endProcess = [&] {
@@ -238,8 +244,14 @@ int main(int argc, char** argv)
         .holdOffSleep = [&](bool held) { sleepInhibitor->Hold(held); },
         .isRemovable = &platform::IsOnRemovableDisc,
     });
+    player.Expect(commandLine);
     drives.onChange = [&] { player.Discs().OnDVDTick(); };
     drives.onFound = [&](auto found) { player.Discs().DrivesFound(std::move(found)); };
+    inspections.onReported = [&](int ticket, Inspection report) {
+        player.Files().InspectionReported(ticket, std::move(report));
+    };
+    inspections.onRecalled = [&](auto files) { player.Files().FilesRecalled(std::move(files)); };
+    inspections.onPicturesFound = [&](auto pictures) { player.Files().PicturesFound(std::move(pictures)); };
     inspections.onCompleted = [&](int ticket, Inspection result) {
         player.Files().InspectionCompleted(ticket, std::move(result));
     };

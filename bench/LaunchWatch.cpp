@@ -1,6 +1,10 @@
 // Starts a player and measures from outside: launch-watch SECONDS COMMAND...
-// Prints the time from the launch to the first frame on the screen (ms) and, SECONDS after that, the memory of the
-// player and its children (PSS, KiB). The video must show a band of pure magenta across its middle.
+// Prints the time from the launch to the first frame on the screen (ms), and of the SECONDS after that the memory of
+// the player and its children at their end (PSS, KiB) and the processor time they took (s per s). The video must show a
+// band of pure magenta across its middle.
+//   launch-watch settings FILE 0|1    writes settings of ours with which a launch fills the screen or not
+#include "app/ConfigFile.h"
+
 #include <algorithm>
 #include <chrono>
 #include <csignal>
@@ -9,9 +13,11 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <map>
 #include <memory>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <sys/wait.h>
 #include <thread>
@@ -112,6 +118,33 @@ long MemoryOf(long pid, const std::multimap<long, long>& children)
     return sum;
 }
 
+/// Processor time (s) of a process, of its children that have ended, and of all that descend from it.
+double ProcessorTimeOf(long pid, const std::multimap<long, long>& children)
+{
+    std::ifstream file("/proc/" + std::to_string(pid) + "/stat");
+    const std::string text(std::istreambuf_iterator<char>(file), {});
+    std::istringstream fields(text.substr(std::min(text.rfind(')') + 1, text.size())));
+    std::string skipped;
+    for (int field = 3; field < 14; ++field)
+        fields >> skipped;
+    double sum = 0;
+    double ticks = 0;
+    for (int field = 14; field < 18 && fields >> ticks; ++field)
+        sum += ticks / static_cast<double>(sysconf(_SC_CLK_TCK));
+    const auto [first, last] = children.equal_range(pid);
+    for (auto child = first; child != last; ++child)
+        sum += ProcessorTimeOf(child->second, children);
+    return sum;
+}
+
+int WriteSettings(const char* path, bool fullScreen)
+{
+    auto settings = zentaro::DefaultSettings("/", { 1920 * 15, 1080 * 15 });
+    settings.LaunchFullScreen = fullScreen;
+    std::ofstream(path, std::ios::binary) << zentaro::FormatConfigurations(settings);
+    return 0;
+}
+
 bool HasEnded(pid_t player)
 {
     return waitpid(player, nullptr, WNOHANG) == player;
@@ -144,6 +177,8 @@ std::optional<double> MillisecondsToFirstFrame(const Screen& screen, Clock::time
 
 int main(int argc, char** argv)
 {
+    if (argc == 4 && argv[1] == std::string("settings"))
+        return WriteSettings(argv[2], argv[3] == std::string("1"));
     const Screen screen;
     if (argc < 3 || !screen.IsOpen()) {
         std::fputs("launch-watch SECONDS COMMAND..., on a display\n", stderr);
@@ -161,14 +196,17 @@ int main(int argc, char** argv)
         _exit(127);
     }
     const auto launch = MillisecondsToFirstFrame(screen, start);
+    const auto seconds = std::atoi(argv[1]);
+    double load = -ProcessorTimeOf(player, ChildrenOfAll());
     if (launch)
-        std::this_thread::sleep_for(std::chrono::seconds(std::atoi(argv[1])));
+        std::this_thread::sleep_for(std::chrono::seconds(seconds));
+    load += ProcessorTimeOf(player, ChildrenOfAll());
     const auto memory = launch && screen.ShowsVideo() ? MemoryOf(player, ChildrenOfAll()) : 0;
     End(player);
     if (memory == 0) {
         std::fprintf(stderr, "%s showed no video\n", argv[2]);
         return 1;
     }
-    std::printf("%.0f %ld\n", *launch, memory);
+    std::printf("%.0f %ld %.3f\n", *launch, memory, load / std::max(1, seconds));
     return 0;
 }

@@ -36,10 +36,22 @@ open_stage() {
   ((${#user[@]})) && chown -R nobody: "$stage/home" "$stage/bin"
 }
 
-# as_user COMMAND...: in the user's home, with nothing of this environment but the display.
+# open_bus: a session bus, for all that as_user starts from now on.
+open_bus() {
+  as_user dbus-daemon --session --nofork --nopidfile --address="unix:path=$stage/home/run/bus" 2>"$stage/bus.log" &
+  session_bus="unix:path=$stage/home/run/bus"
+  local tries=200
+  until [[ -S $stage/home/run/bus ]]; do
+    ((tries-- > 0)) || { echo "no session bus" >&2; exit 1; }
+    sleep 0.02
+  done
+}
+
+# as_user COMMAND...: in the user's home, with nothing of this environment but the display, and the bus if there is one.
 as_user() {
   (cd "$stage/home" && exec "${user[@]}" env -i PATH="$PATH" LC_ALL=C.UTF-8 DISPLAY="${DISPLAY:-}" \
-    HOME="$stage/home" XDG_RUNTIME_DIR="$stage/home/run" DBUS_SYSTEM_BUS_ADDRESS="unix:path=$stage/no-bus" "$@")
+    HOME="$stage/home" XDG_RUNTIME_DIR="$stage/home/run" DBUS_SYSTEM_BUS_ADDRESS="unix:path=$stage/no-bus" \
+    ${session_bus:+DBUS_SESSION_BUS_ADDRESS="$session_bus"} "$@")
 }
 
 # median NUMBER...

@@ -56,6 +56,8 @@ struct InspectionContext {
     std::function<std::optional<std::vector<AviStream>>(const std::string& path)> readAviStreams;
     /// No picture when the file cannot be decoded.
     std::function<Picture(const std::string& path)> decodePicture;
+    /// The same for the bytes of such a file.
+    std::function<Picture(const std::string& bytes)> decodeBytes = [](const std::string&) { return Picture(); };
     RunLimit reportLimit{ .silence = std::chrono::seconds(60), .total = std::chrono::minutes(5) };
     RunLimit pictureLimit{ .total = std::chrono::seconds(30) };
     std::string ffmpeg;        // the program: its full path
@@ -68,6 +70,8 @@ struct InspectionContext {
     const CodecNames* videoCodecNames = nullptr;
     Picture defaultVideoPicture;
     Picture defaultAudioPicture;
+    /// Called when the file is known to be good and its report is written: what remains is to make its picture.
+    std::function<void()> reportRead = [] {};
 };
 
 enum class MessageIcon { Information, Exclamation };
@@ -86,6 +90,7 @@ struct InspectionOutcome {
     std::string error;                       // why not; may be empty
     std::string report;                      // for the user to read; of a success only
     Picture lastPicture;                     // the picture given to a stream last, or an audio file's cover
+    std::string lastPictureFile;             // the file that it was decoded from; empty for a default picture
     std::vector<InspectionMessage> messages; // in order
 };
 

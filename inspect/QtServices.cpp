@@ -16,7 +16,11 @@ Picture DecodePictureFile(const std::string& path)
 {
     // Not read by Qt: a path may hold bytes that are no valid text, and a QString could not name the file.
     std::ifstream file(path, std::ios::binary);
-    const std::string bytes{ std::istreambuf_iterator<char>(file), {} };
+    return DecodePictureBytes({ std::istreambuf_iterator<char>(file), {} });
+}
+
+Picture DecodePictureBytes(const std::string& bytes)
+{
     const auto data = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
     return ToPicture(QImage::fromData(data));
 }

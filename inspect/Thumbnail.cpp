@@ -41,6 +41,8 @@ private:
     ToolCommand m_command;
 };
 
+constexpr std::size_t kFileLimit = 1 << 20; // bytes; far above any picture of this size
+
 std::string SizeText(ThumbnailSize size)
 {
     return std::to_string(size.width) + "x" + std::to_string(size.height);
@@ -120,7 +122,7 @@ ToolCommand ThumbnailCommand(
     return classicTool ? ClassicCommand(program, request, output) : CurrentCommand(program, request, output);
 }
 
-Picture ThumbnailMaker::RenderThumbnail(const ThumbnailRequest& request) const
+Picture ThumbnailMaker::RenderThumbnail(const ThumbnailRequest& request, std::string* file) const
 {
     const auto output = m_context.workingFolder + "img.jpg";
     bool hasRun = Run(request, output);
@@ -131,6 +133,8 @@ Picture ThumbnailMaker::RenderThumbnail(const ThumbnailRequest& request) const
         hasRun = Run(firstPicture, output);
     }
     auto picture = hasRun && IsThere(output) ? m_context.decodePicture(output) : Picture();
+    if (file != nullptr)
+        *file = picture ? m_context.files->Read(output, kFileLimit).value_or("") : std::string();
     m_context.files->Remove(output);
     return picture;
 }

@@ -49,7 +49,8 @@ public:
     }
 
     /// No picture when the tool made none or hangs. A clip that is too short for the seek time gets its first picture.
-    Picture RenderThumbnail(const ThumbnailRequest& request) const;
+    /// `file` takes the bytes of the file that the tool wrote; empty where there is no picture.
+    Picture RenderThumbnail(const ThumbnailRequest& request, std::string* file = nullptr) const;
 
 private:
     bool Run(const ThumbnailRequest& request, const std::string& output) const;

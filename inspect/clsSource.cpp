@@ -87,14 +87,17 @@ bool clsSource::Inspect(const std::string& fileName)
     if (IsMpegFile(fileName, m_context.separator) && !RefineMpeg())
         return false;
     CompleteVideoRecords();
-    MakeThumbnails();
     if (m_streams.size() == 1 && m_streams[0].Type == kAudioStream)
         m_streams[0].Picture = m_context.defaultAudioPicture;
-    if (FirstVideoRecord() == nullptr)
-        MakeCoverPicture();
+    if (FirstVideoRecord() == nullptr && !m_streams.empty())
+        m_outcome.lastPicture = m_context.defaultAudioPicture;
     m_outcome.report = StreamReport(m_fileName, m_duration, m_startTime, m_streams);
     if (const auto facts = m_context.files->Facts(fileName))
         m_timeStamp = facts->lastModified;
+    m_context.reportRead();
+    MakeThumbnails();
+    if (FirstVideoRecord() == nullptr)
+        MakeCoverPicture();
     return true;
 }
 
@@ -242,7 +245,8 @@ void clsSource::MakeThumbnails()
         const auto stream = several ? std::optional(m_hints[i].number) : std::nullopt;
         const bool lying = m_hints[i].lying && !m_classicTool;
         const auto picture = maker.RenderThumbnail(
-            { m_fileName, ThumbnailSizeOf(info.Width, info.Height, lying), ThumbnailTime(m_duration), stream });
+            { m_fileName, ThumbnailSizeOf(info.Width, info.Height, lying), ThumbnailTime(m_duration), stream },
+            &m_outcome.lastPictureFile);
         if (picture.IsEmpty())
             m_outcome.messages.push_back(
                 { Words("Cannot render thumbnail for %1. The video codec may be unsupported.", { m_fileName }) });
@@ -253,13 +257,12 @@ void clsSource::MakeThumbnails()
 /// A file of sound alone shows its cover in the list when it has one.
 void clsSource::MakeCoverPicture()
 {
-    if (!m_streams.empty())
-        m_outcome.lastPicture = m_context.defaultAudioPicture;
     if (!m_cover)
         return;
     const auto picture = ThumbnailMaker(m_context, m_classicTool)
                              .RenderThumbnail({ m_fileName, ThumbnailSizeOf(m_cover->width, m_cover->height, false),
-                                 std::nullopt, std::nullopt });
+                                                  std::nullopt, std::nullopt },
+                                 &m_outcome.lastPictureFile);
     if (!picture.IsEmpty())
         m_outcome.lastPicture = picture;
 }

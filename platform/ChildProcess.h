@@ -86,6 +86,10 @@ struct ShellCommand {
 /// Starts a program (on Windows also a document's program) with no standard streams; null when that fails.
 std::unique_ptr<StartedProcess> ShellStart(const ShellCommand& command);
 
+/// Lets this thread, and every process that it starts from now on, give way to all others, at the processor and at the
+/// disk. There is no way back.
+void GiveWay();
+
 /// Ends, at once and hard, all processes that were started here and that somebody still waits for. For the end of this
 /// process, which does not wait until those who use them are done.
 void EndStartedProcesses();

@@ -229,6 +229,25 @@ STARTUPINFOEXA HiddenStartUp(HANDLE output)
 
 } // namespace
 
+namespace {
+
+thread_local bool givesWay = false;
+
+/// Processes have no such thing from the thread that starts them.
+void LowerLikeThisThread(HANDLE process)
+{
+    if (givesWay && process != nullptr)
+        ::SetPriorityClass(process, kBelowNormalPriority);
+}
+
+} // namespace
+
+void GiveWay()
+{
+    givesWay = true;
+    ::SetThreadPriority(::GetCurrentThread(), THREAD_PRIORITY_BELOW_NORMAL);
+}
+
 Result<std::unique_ptr<ChildProcess>> ChildProcess::Start(const ChildCommand& command)
 {
     // Every child inherits all inheritable handles. Another one that is started meanwhile would keep this one's stream
@@ -258,6 +277,7 @@ Result<std::unique_ptr<ChildProcess>> ChildProcess::Start(const ChildCommand& co
             command.creationFlags | CREATE_NO_WINDOW, nullptr, workDir.c_str(), &startUp.StartupInfo, &process))
         return LastError(StartStep::Process);
     Handle(process.hThread).Close();
+    LowerLikeThisThread(process.hProcess);
     pipe.writeEnd.Close();
     return std::unique_ptr<ChildProcess>(
         std::make_unique<WindowsChild>(Handle(process.hProcess), std::move(pipe.readEnd)));
@@ -275,6 +295,7 @@ std::unique_ptr<StartedProcess> ShellStart(const ShellCommand& command)
     info.nShow = command.showCommand;
     if (!::ShellExecuteExA(&info))
         return nullptr;
+    LowerLikeThisThread(info.hProcess);
     return std::make_unique<WindowsShellProcess>(Handle(info.hProcess), command.detached);
 }
 

@@ -49,6 +49,10 @@ std::string ExecutableFolder();
 /// folder, unless a file "zentaro.package" lies beside the executable: then it is a folder of the user.
 std::string SettingsFolder();
 
+/// The folder of the user for what can be found out again, without a trailing separator; not made here. Empty when the
+/// system names none.
+std::string CacheFolder();
+
 /// The user's Desktop folder, "C:\" on Windows when it cannot be found out, the home folder elsewhere.
 std::string DesktopFolder();
 

@@ -248,6 +248,12 @@ std::string SettingsFolder()
     return folder;
 }
 
+std::string CacheFolder()
+{
+    const char* const configured = std::getenv("XDG_CACHE_HOME");
+    return (configured && configured[0] == '/' ? std::string(configured) : HomeFolder() + "/.cache") + "/zentaro";
+}
+
 std::string DesktopFolder()
 {
     return UserFolder(QStandardPaths::DesktopLocation);

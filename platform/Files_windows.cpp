@@ -163,6 +163,12 @@ std::string SettingsFolder()
     return ExecutableFolder();
 }
 
+std::string CacheFolder()
+{
+    const char* const local = std::getenv("LOCALAPPDATA");
+    return local != nullptr && *local != '\0' ? std::string(local) + "\\Zentaro" : std::string();
+}
+
 std::string DesktopFolder()
 {
     return ShellFolder("Desktop", "C:\\");

@@ -17,6 +17,7 @@ using EngineOptions = std::array<std::string, 9>;
 struct MediaLocation {
     std::string text;
     bool isLocation = false;
+    bool operator==(const MediaLocation&) const = default;
 };
 
 /// What a user presses in the menu of a disc.
@@ -42,6 +43,7 @@ struct EngineTrack {
 class Engine {
 public:
     /// State values that the program compares with; below kPlaying the item is still being opened or buffered.
+    static constexpr int kOpening = 1;
     static constexpr int kPlaying = 3;
     static constexpr int kPaused = 4;
     static constexpr int kStopped = 5;
@@ -122,11 +124,15 @@ public:
 class EngineFactory {
 public:
     virtual ~EngineFactory() = default;
-    /// The first item will come soon; called once, when it is known that this process plays. Fails, with what the user
-    /// can do, where the engine library is missing.
+    /// The first item will come soon; only the first call counts. Fails, with what the user can do, where the engine
+    /// library is missing.
     virtual Result<void> Prepare() { return {}; }
     /// In percent of the usual size, for the engines to come.
     virtual void SetSubtitleScale(int /*percent*/) { }
+    /// That item may be played next: it is opened at once, unseen and unheard, for the engine that is given the same.
+    virtual void MakeReady(const MediaLocation& /*location*/, const EngineOptions& /*options*/) { }
+    /// The item that was made ready will not be played; nothing of it is left.
+    virtual void Forget() { }
     /// Null when the engine library cannot be started.
     virtual std::unique_ptr<Engine> Create() = 0;
 };

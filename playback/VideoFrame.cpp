@@ -108,6 +108,7 @@ VideoSurface::VideoSurface(QWidget* parent)
     // Qt paints the bars beside the picture; the engine's plain output leaves them alone.
     MakeBlack(*this);
     setMouseTracking(true);
+    hide();
     LetCoverVideo(*this);
     if (!TakesWindowNumber())
         m_sink = std::make_shared<PictureSink>(*this);
@@ -117,6 +118,12 @@ VideoSurface::~VideoSurface()
 {
     if (m_sink)
         m_sink->Close();
+}
+
+void VideoSurface::Appear()
+{
+    if (auto* const frame = qobject_cast<VideoFrame*>(parentWidget()))
+        frame->ShowSurface(*this);
 }
 
 void VideoSurface::Vanish()
@@ -225,15 +232,23 @@ VideoFrame::VideoFrame(const QString& logoPath, QWidget* parent)
     setMouseTracking(true);
 }
 
-VideoSurface* VideoFrame::AddSurface()
+VideoSurface* VideoFrame::AddSurface(bool isShown)
 {
-    m_surface = new VideoSurface(this);
-    m_surface->setGeometry(Inner());
+    auto* const surface = new VideoSurface(this);
+    surface->setGeometry(Inner());
+    if (isShown)
+        ShowSurface(*surface);
+    return surface;
+}
+
+void VideoFrame::ShowSurface(VideoSurface& surface)
+{
+    m_surface = &surface;
+    surface.setGeometry(Inner());
     setCursor(m_pointer);
-    m_surface->setCursor(m_pointer);
-    m_surface->show();
+    surface.setCursor(m_pointer);
+    surface.show();
     KeepBelow();
-    return m_surface;
 }
 
 void VideoFrame::Forget(const VideoSurface& surface)

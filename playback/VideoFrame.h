@@ -50,6 +50,8 @@ public:
     /// True when the engine can be handed this window's number.
     static bool TakesWindowNumber();
     const std::shared_ptr<PictureSink>& Sink() const { return m_sink; }
+    /// One that was made hidden is what the frame shows from now on.
+    void Appear();
     /// Nothing of it is seen any more. The engine may draw on it until it is deleted.
     void Vanish();
 
@@ -84,8 +86,11 @@ class VideoFrame : public QWidget {
 public:
     VideoFrame(const QString& logoPath, QWidget* parent);
 
-    /// A fresh surface over the whole frame. The caller lets it vanish, and deletes it.
-    VideoSurface* AddSurface();
+    /// A fresh surface over the whole frame, to appear later unless `isShown`. The caller lets it vanish, and deletes
+    /// it.
+    VideoSurface* AddSurface(bool isShown = true);
+    /// The surface, one of this frame, is what is shown from now on.
+    void ShowSurface(VideoSurface& surface);
     /// The surface is no longer what the frame shows.
     void Forget(const VideoSurface& surface);
     void ShowAudioLogo(bool shown);

@@ -9,6 +9,7 @@
 #include <vlc/vlc.h>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace zentaro {
@@ -56,7 +57,11 @@ public:
     {
     }
 
-    ~VlcEngine() override { Close(); }
+    ~VlcEngine() override
+    {
+        Close();
+        *m_self = nullptr;
+    }
 
     void SetVolume(int percent) override
     {
@@ -116,7 +121,7 @@ public:
     {
         if (m_player == nullptr)
             return false;
-        auto* const media = libvlc_media_new_path(m_library.instance.get(), path.c_str());
+        auto* const media = libvlc_media_new_path(m_instance.get(), path.c_str());
         auto* const address = media != nullptr ? libvlc_media_get_mrl(media) : nullptr;
         const bool isAdded = address != nullptr
             && libvlc_media_player_add_slave(m_player, libvlc_media_slave_type_subtitle, address, true) == 0;
@@ -167,7 +172,10 @@ public:
     {
         if (m_player == nullptr)
             return m_isAdded ? kStopped : 0;
-        return m_item->State();
+        const auto state = m_item->State();
+        // A pause that it was made ready with is none that anybody asked for.
+        m_isLeavingPause = m_isLeavingPause && state <= kPaused && state != kPlaying;
+        return m_isLeavingPause && state == kPaused ? kOpening : state;
     }
 
     double Rate() override { return m_player ? static_cast<double>(libvlc_media_player_get_rate(m_player)) : 1.0; }
@@ -207,9 +215,12 @@ public:
             Close();
         if (m_player == nullptr && !Open())
             return;
-        if (state > 0)
+        if (state > 0 && !m_isLeavingPause)
             m_pauseWaits = false;
-        libvlc_media_player_play(m_player);
+        if (std::exchange(m_isReady, false))
+            libvlc_media_player_set_pause(m_player, 0);
+        else
+            libvlc_media_player_play(m_player);
     }
 
     void SetPause(bool paused) override
@@ -279,17 +290,17 @@ public:
 
     int ItemCount() override { return m_isAdded ? 1 : 0; }
 
-private:
     /// Engine threads. A pause that was asked for too early is given now, where the library may be called.
     static void PauseLater(std::weak_ptr<VlcEngine*> self)
     {
         const auto pause = [self = std::move(self)] {
-            if (const auto engine = self.lock(); engine && (*engine)->m_pauseWaits)
+            if (const auto engine = self.lock(); engine && *engine != nullptr && (*engine)->m_pauseWaits)
                 (*engine)->SetPause(true);
         };
         QMetaObject::invokeMethod(QCoreApplication::instance(), pause, Qt::QueuedConnection);
     }
 
+private:
     template <typename Description> static std::vector<DiscPart> PartsOf(Description* const* all, int count)
     {
         std::vector<DiscPart> parts;
@@ -312,28 +323,18 @@ private:
 
     bool Open()
     {
-        m_engines.WaitForEndings();
-        m_library = m_engines.NewLibrary();
-        if (!m_library.instance)
+        auto open = m_engines.TakeReady(m_location, m_options);
+        m_isReady = open.item != nullptr;
+        m_isLeavingPause = m_isReady;
+        if (!m_isReady)
+            open = m_engines.OpenNew(m_location, m_options, m_self, false);
+        if (!open.item)
             return false;
-        auto* const instance = m_library.instance.get();
-        auto* const media = m_location.isLocation ? libvlc_media_new_location(instance, m_location.text.c_str())
-                                                  : libvlc_media_new_path(instance, m_location.text.c_str());
-        if (media == nullptr)
-            return false;
-        for (const auto& option : m_options)
-            libvlc_media_add_option(media, option.c_str());
-        // No card decodes either, and asking for one makes the card's library complain on the terminal. The player
-        // would forget this one; the item keeps it.
-        if (m_engines.m_plainOutput)
-            libvlc_media_add_option(media, ":avcodec-hw=none");
-        m_item = std::make_unique<VlcItem>(
-            m_library, media, m_engines.m_frame.AddSurface(), [self = std::weak_ptr(m_self)] { PauseLater(self); });
+        m_self = std::move(open.owner);
+        *m_self = this;
+        m_instance = std::move(open.instance);
+        m_item = std::move(open.item);
         m_player = m_item->Player();
-        if (m_player == nullptr)
-            return false;
-        if (!m_engines.MayTrySound())
-            libvlc_audio_output_set(m_player, "adummy");
         libvlc_audio_set_volume(m_player, m_volume);
         libvlc_audio_set_mute(m_player, m_muted);
         m_deinterlacing = kDeinterlaceAuto;
@@ -343,18 +344,22 @@ private:
     void Close()
     {
         m_player = nullptr;
+        m_isReady = false;
+        m_isLeavingPause = false;
         m_engines.End(std::move(m_item));
     }
 
     VlcEngines& m_engines;
-    std::shared_ptr<VlcEngine*> m_self; // late calls find it gone
+    std::shared_ptr<VlcEngine*> m_self; // late calls find it null
     MediaLocation m_location;
     EngineOptions m_options;
-    VlcLibrary m_library;
+    std::shared_ptr<libvlc_instance_t> m_instance; // the item's
     std::unique_ptr<VlcItem> m_item;
     libvlc_media_player_t* m_player = nullptr; // the item's; null while it is stopped
     bool m_isAdded = false;
-    bool m_pauseWaits = false; // until it plays
+    bool m_pauseWaits = false;     // until it plays
+    bool m_isReady = false;        // the item was made ready, and does not play yet
+    bool m_isLeavingPause = false; // and does not play yet, but was told to
     std::string m_deinterlacing = kDeinterlaceAuto;
     int m_volume = 100;
     bool m_muted = false;
@@ -369,6 +374,7 @@ VlcEngines::VlcEngines(VideoFrame& frame, const std::string& logPath)
 
 VlcEngines::~VlcEngines()
 {
+    Forget();
     m_endings->Wait(kLastWait);
     if (m_base.valid())
         m_base.wait();
@@ -376,6 +382,8 @@ VlcEngines::~VlcEngines()
 
 Result<void> VlcEngines::Prepare()
 {
+    if (m_base.valid())
+        return {};
     if (auto loaded = platform::LoadEngineLibrary(); !loaded)
         return loaded;
     m_plainOutput = !platform::HasGraphicsCard();
@@ -389,13 +397,75 @@ Result<void> VlcEngines::Prepare()
 
 std::unique_ptr<Engine> VlcEngines::Create()
 {
-    if ((!m_base.valid() && !Prepare()) || !m_base.get())
+    if (!Prepare() || !m_base.get())
         return nullptr;
     return std::make_unique<VlcEngine>(*this);
 }
 
+void VlcEngines::MakeReady(const MediaLocation& location, const EngineOptions& options)
+{
+    Forget();
+    if (!Prepare())
+        return;
+    auto open = OpenNew(location, options, std::make_shared<VlcEngine*>(nullptr), true);
+    if (!open.item)
+        return;
+    libvlc_media_player_play(open.item->Player());
+    m_ready = { location, options, std::move(open) };
+}
+
+void VlcEngines::Forget()
+{
+    if (m_ready)
+        End(std::move(m_ready->open.item));
+    m_ready.reset();
+}
+
+VlcEngines::OpenItem VlcEngines::TakeReady(const MediaLocation& location, const EngineOptions& options)
+{
+    OpenItem taken;
+    if (m_ready && m_ready->location == location && m_ready->options == options) {
+        taken = std::move(m_ready->open);
+        taken.item->ShowSurface();
+    }
+    Forget();
+    return taken;
+}
+
+VlcEngines::OpenItem VlcEngines::OpenNew(
+    const MediaLocation& location, const EngineOptions& options, Owner owner, bool isReady)
+{
+    WaitForEndings();
+    auto library = NewLibrary();
+    auto* const instance = library.instance.get();
+    if (instance == nullptr)
+        return {};
+    auto* const media = location.isLocation ? libvlc_media_new_location(instance, location.text.c_str())
+                                            : libvlc_media_new_path(instance, location.text.c_str());
+    if (media == nullptr)
+        return {};
+    for (const auto& option : options)
+        libvlc_media_add_option(media, option.c_str());
+    // No card decodes either, and asking for one makes the card's library complain on the terminal. The player would
+    // forget this one; the item keeps it.
+    if (m_plainOutput)
+        libvlc_media_add_option(media, ":avcodec-hw=none");
+    if (isReady)
+        libvlc_media_add_option(media, ":start-paused");
+    OpenItem open{ library.instance, nullptr, owner };
+    open.item = std::make_unique<VlcItem>(std::move(library), media, m_frame.AddSurface(!isReady),
+        [self = std::weak_ptr(owner)] { VlcEngine::PauseLater(self); });
+    auto* const player = open.item->Player();
+    if (player == nullptr)
+        return {};
+    if (!MayTrySound())
+        libvlc_audio_output_set(player, "adummy");
+    return open;
+}
+
 VlcLibrary VlcEngines::NewLibrary()
 {
+    m_base.wait();
     auto arguments = CommonArguments(m_plainOutput);
     arguments.push_back("--sub-text-scale=" + std::to_string(m_subtitleScale));
     VlcLibrary library{ m_log, StartLibrary(arguments) };

@@ -148,6 +148,12 @@ int VlcItem::State() const
     return m_isOver ? Engine::kFailed : Engine::kPlaying;
 }
 
+void VlcItem::ShowSurface()
+{
+    if (m_surface)
+        m_surface->Appear();
+}
+
 void VlcItem::Vanish()
 {
     if (m_player != nullptr) {

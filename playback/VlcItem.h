@@ -54,6 +54,8 @@ public:
     VlcItem& operator=(const VlcItem&) = delete;
 
     libvlc_media_player_t* Player() const { return m_player; }
+    /// For an item whose surface was made hidden.
+    void ShowSurface();
     /// One of Engine's numbers.
     int State() const;
 

@@ -56,9 +56,49 @@ AddQueue::Batch& AddQueue::BatchFor(AddTurn turn)
     return m_batches.emplace_back(Batch{ turn });
 }
 
+void AddQueue::Recalled(std::vector<RecalledFile> files)
+{
+    m_asked = 0;
+    for (auto& file : files) {
+        auto* const job = FindJob(file.ticket);
+        if (job == nullptr || job->state != Job::State::Asked)
+            continue;
+        job->state = file.inspection ? Job::State::Done : Job::State::Waiting;
+        if (file.inspection)
+            job->inspection = std::move(*file.inspection);
+    }
+    Advance();
+}
+
+void AddQueue::Reported(int ticket, Inspection report)
+{
+    for (auto& batch : m_batches) {
+        if (batch.inHand || batch.jobs.empty() || batch.jobs.front().ticket != ticket)
+            continue;
+        const auto& job = batch.jobs.front();
+        const bool mayPlay = job.isWaitedFor && job.request.playNow && report.ok && report.notices.empty();
+        if (!mayPlay || job.state != Job::State::Running || m_playlist.IsInPlaylist(job.request.path))
+            return;
+        auto request = std::move(batch.jobs.front().request);
+        batch.jobs.pop_front();
+        batch.inHand.reset(
+            new InHand{ LoadThumb(m_playlist, m_inspected, m_host, std::move(request), std::move(report)) });
+        batch.inHand->awaited = ticket;
+        // Nobody waits for the picture: the next file that somebody waits for has its place.
+        --m_waitedFor;
+        ++m_running;
+        batch.inHand->isAdded = true;
+        batch.inHand->file.Finish();
+        ReportProgress();
+        return;
+    }
+}
+
 void AddQueue::Completed(int ticket, Inspection inspection)
 {
     for (auto& batch : m_batches) {
+        if (batch.inHand && batch.inHand->awaited == ticket)
+            return PictureCame(batch, std::move(inspection));
         const auto job = std::ranges::find(batch.jobs, ticket, &Job::ticket);
         if (job == batch.jobs.end() || job->state != Job::State::Running)
             continue;
@@ -68,6 +108,16 @@ void AddQueue::Completed(int ticket, Inspection inspection)
         Advance();
         return;
     }
+}
+
+void AddQueue::PictureCame(Batch& batch, Inspection inspection)
+{
+    --m_running;
+    batch.inHand->awaited = 0;
+    batch.inHand->file.TakePicture(std::move(inspection));
+    if (!ShowNextBox(batch))
+        Finish(batch);
+    Advance();
 }
 
 void AddQueue::Cancel()
@@ -83,8 +133,11 @@ void AddQueue::Cancel()
 void AddQueue::Close()
 {
     m_closed = true;
-    for (auto& batch : m_batches)
+    for (auto& batch : m_batches) {
         DropJobs(batch);
+        if (batch.inHand && batch.inHand->awaited != 0)
+            m_runner.Cancel(batch.inHand->awaited);
+    }
     m_batches.clear();
 }
 
@@ -102,14 +155,51 @@ void AddQueue::Advance()
         // The next inspection is under way before the host is told of the file.
         for (StartAhead(); !batch.inHand && IsFirstReady(batch); StartAhead())
             TakeFirst(batch);
+        for (; IsFirstSilent(batch); StartAhead())
+            TakeSilently(batch);
     }
     EndOldBatches();
     ReportProgress();
 }
 
+AddQueue::Job* AddQueue::FindJob(int ticket)
+{
+    for (auto& batch : m_batches) {
+        // Tickets ascend within a batch.
+        const auto job = std::ranges::lower_bound(batch.jobs, ticket, {}, &Job::ticket);
+        if (job != batch.jobs.end() && job->ticket == ticket)
+            return &*job;
+    }
+    return nullptr;
+}
+
+void AddQueue::AskAhead()
+{
+    std::vector<FileToRecall> files;
+    std::vector<Job*> asked;
+    for (auto& batch : m_batches) {
+        const auto ahead = std::min(batch.jobs.size(), static_cast<std::size_t>(std::max(1, m_limits.recalled)));
+        // Who waits for the first one waits for no answer about it: its inspection looks by itself.
+        for (std::size_t at = batch.turn == AddTurn::AtOnce ? 1 : 0; at < ahead && m_asked == 0; ++at) {
+            auto& job = batch.jobs[at];
+            if (job.state != Job::State::New)
+                continue;
+            files.push_back({ job.ticket, job.request.path });
+            asked.push_back(&job);
+        }
+    }
+    if (files.empty())
+        return;
+    const bool isAnswered = m_runner.Recall(files);
+    m_asked = isAnswered ? static_cast<int>(files.size()) : 0;
+    for (auto* const job : asked)
+        job->state = isAnswered ? Job::State::Asked : Job::State::Waiting;
+}
+
 void AddQueue::StartAhead()
 {
     ReportProgress();
+    AskAhead();
     for (auto batch = m_batches.rbegin(); batch != m_batches.rend(); ++batch) {
         if (batch->turn == AddTurn::AtOnce)
             StartIn(*batch);
@@ -133,7 +223,7 @@ void AddQueue::StartIn(Batch& batch)
         job.state = Job::State::Running;
         job.isWaitedFor = isWaitedFor;
         ++(isWaitedFor ? m_waitedFor : m_running);
-        m_runner.Start(job.ticket, job.request.path);
+        isWaitedFor ? m_runner.StartAtOnce(job.ticket, job.request.path) : m_runner.Start(job.ticket, job.request.path);
     }
 }
 
@@ -141,7 +231,9 @@ void AddQueue::StartIn(Batch& batch)
 bool AddQueue::MayStart(const Batch& batch, std::size_t at) const
 {
     const auto& job = batch.jobs[at];
-    if (job.state != Job::State::Waiting || m_playlist.IsInPlaylist(job.request.path))
+    const bool isDue =
+        job.state == Job::State::Waiting || (job.state == Job::State::New && at == 0 && batch.turn == AddTurn::AtOnce);
+    if (!isDue || m_playlist.IsInPlaylist(job.request.path))
         return false;
     const auto end = batch.jobs.begin() + static_cast<std::ptrdiff_t>(at);
     return std::none_of(
@@ -152,6 +244,24 @@ bool AddQueue::IsFirstReady(const Batch& batch) const
 {
     return !batch.jobs.empty()
         && (batch.jobs.front().state == Job::State::Done || m_playlist.IsInPlaylist(batch.jobs.front().request.path));
+}
+
+/// The file before it only waits for its picture, and this one raises no box that could come before that one's.
+bool AddQueue::IsFirstSilent(const Batch& batch) const
+{
+    if (!batch.inHand || batch.inHand->awaited == 0 || batch.jobs.empty())
+        return false;
+    const auto& job = batch.jobs.front();
+    return job.state == Job::State::Done && job.inspection.ok && job.inspection.notices.empty()
+        && !m_playlist.IsInPlaylist(job.request.path);
+}
+
+void AddQueue::TakeSilently(Batch& batch)
+{
+    auto job = std::move(batch.jobs.front());
+    batch.jobs.pop_front();
+    LoadThumb(m_playlist, m_inspected, m_host, std::move(job.request), std::move(job.inspection)).Finish();
+    ++m_taken;
 }
 
 void AddQueue::TakeFirst(Batch& batch)
@@ -201,7 +311,8 @@ void AddQueue::BoxClosed(Batch& batch)
 void AddQueue::Finish(Batch& batch)
 {
     const auto inHand = std::exchange(batch.inHand, nullptr);
-    inHand->file.Finish();
+    if (!inHand->isAdded)
+        inHand->file.Finish();
     if (inHand->counts)
         ++m_taken;
 }

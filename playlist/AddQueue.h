@@ -1,21 +1,44 @@
 #pragma once
 
 #include "playlist/LoadThumb.h"
+#include "playlist/RowPictures.h"
 
 #include <deque>
 #include <list>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace zentaro {
+
+struct FileToRecall {
+    int ticket = 0;
+    std::string path;
+};
+
+/// What an inspection of before has left of a file that is still the same; without it the file is new.
+struct RecalledFile {
+    int ticket = 0;
+    std::optional<Inspection> inspection;
+};
 
 /// Inspects files beside the user interface, several at once. Results come back through AddQueue::Completed on the
 /// thread that runs the queue, in any order, never from within Start.
 class InspectionRunner {
 public:
     virtual ~InspectionRunner() = default;
+    /// StartAtOnce for this file will follow soon.
+    virtual void Expect(const std::string& /*path*/) { }
     virtual void Start(int ticket, const std::string& path) = 0;
+    /// For a file that somebody waits for.
+    virtual void StartAtOnce(int ticket, const std::string& path) { Start(ticket, path); }
+    /// Looks up which of the files were seen before; AddQueue::Recalled follows. False where nothing is ever known.
+    virtual bool Recall(const std::vector<FileToRecall>& /*files*/) { return false; }
+    /// Has the thumbnails of files that were seen before; Library::PicturesFound follows.
+    virtual void FindPictures(std::vector<PictureOrder> /*orders*/) { }
+    /// Whether a film plays: what is started from now on, and nobody waits for, must not cost it a picture.
+    virtual void GiveWay(bool /*givesWay*/) { }
     /// Ends a started inspection without a result.
     virtual void Cancel(int ticket) = 0;
 };
@@ -42,6 +65,8 @@ struct AddQueueLimits {
     int window = 16;
     /// Files that somebody waits for and that may be inspected at the same time.
     int waitedFor = 8;
+    /// Files that are looked up together among those seen before.
+    int recalled = 200;
 };
 
 /// Who else a batch of files has to wait for.
@@ -63,6 +88,11 @@ public:
     AddQueue& operator=(const AddQueue&) = delete;
 
     void Add(std::vector<AddRequest> requests, AddTurn turn = AddTurn::AfterOthers);
+    /// The answer to InspectionRunner::Recall.
+    void Recalled(std::vector<RecalledFile> files);
+    /// What is known of a running inspection's file before its picture is made; Completed() follows. A file that is to
+    /// play at once is added and played on this word, unless it raises boxes: they come before it.
+    void Reported(int ticket, Inspection report);
     /// The result for a ticket of the runner; results nobody waits for any more are dropped.
     void Completed(int ticket, Inspection inspection);
     /// Leaves out the files that are not added yet, and shows the boxes that are gathered so far.
@@ -76,15 +106,23 @@ private:
     struct Job {
         AddRequest request;
         int ticket = 0;
-        enum class State { Waiting, Running, Done } state = State::Waiting;
+        enum class State {
+            New,
+            Asked, // whether it is known
+            Waiting,
+            Running,
+            Done
+        } state = State::New;
         bool isWaitedFor = false; // runs beside the limit for the others
         Inspection inspection = {};
     };
-    /// A file whose boxes are open.
+    /// A file whose boxes are open, or one that was added on its report and waits for its picture.
     struct InHand {
         LoadThumb file;
         std::size_t shown = 0; // of its boxes
         bool counts = true;    // for the progress: not after a cancel
+        int awaited = 0;       // the ticket of the picture; 0 for none
+        bool isAdded = false;
     };
     struct Batch {
         AddTurn turn = AddTurn::AfterOthers;
@@ -98,17 +136,22 @@ private:
 
     Batch& BatchFor(AddTurn turn);
     void Advance();
+    void AskAhead();
     void StartAhead();
     void StartIn(Batch& batch);
     bool MayStart(const Batch& batch, std::size_t at) const;
     bool IsFirstReady(const Batch& batch) const;
+    bool IsFirstSilent(const Batch& batch) const;
+    void TakeSilently(Batch& batch);
     void TakeFirst(Batch& batch);
+    void PictureCame(Batch& batch, Inspection inspection);
     bool ShowNextBox(Batch& batch);
     void BoxClosed(Batch& batch);
     void Finish(Batch& batch);
     void DropJobs(Batch& batch);
     void EndOldBatches();
     void ReportProgress();
+    Job* FindJob(int ticket);
 
     Playlist& m_playlist;
     InspectionState& m_inspected;
@@ -118,6 +161,7 @@ private:
     std::list<Batch> m_batches; // the oldest first
     int m_lastTicket = 0;
     int m_running = 0;
+    int m_asked = 0; // looked up just now
     int m_waitedFor = 0;
     int m_taken = 0;
     AddProgress m_reported;

@@ -166,6 +166,9 @@ void FancyList::paintEvent(QPaintEvent*)
     m_look.dropLine = m_drag.IsDragging() ? std::max(0, m_drag.LineTop()) : -1;
     QPainter painter(this);
     FancyListPainter(painter, m_layout, m_look, m_thumbs).Paint();
+    const auto rows = m_layout.VisibleRows();
+    if (m_items.onRowsSeen)
+        m_items.onRowsSeen(rows.first, rows.last);
 }
 
 void FancyList::resizeEvent(QResizeEvent*)

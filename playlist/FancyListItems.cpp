@@ -126,6 +126,14 @@ void FancyListItems::AddItem(std::string text, Picture picture, std::string deta
     Changed();
 }
 
+void FancyListItems::SetPicture(int index, Picture picture)
+{
+    if (!IsRow(index))
+        return;
+    m_items[static_cast<std::size_t>(index)].Pic = std::move(picture);
+    RepaintIfRefresh();
+}
+
 void FancyListItems::Clear()
 {
     m_items.clear();

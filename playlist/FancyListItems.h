@@ -2,6 +2,7 @@
 
 #include "base/Picture.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -63,11 +64,16 @@ public:
     /// Has the row brought into sight where the list is shown; values that name no row do nothing.
     void ShowRow(int row) const;
 
+    /// Hears which rows are in sight, at every paint.
+    std::function<void(int first, int last)> onRowsSeen;
+
     /// Whether changes repaint by themselves. Setting it always repaints.
     bool Refresh() const { return m_refresh; }
     void SetRefresh(bool on);
 
     void AddItem(std::string text, Picture picture, std::string detail = {});
+    /// Another thumbnail for a row; values that name no row do nothing.
+    void SetPicture(int index, Picture picture);
     void Clear();
     /// The row behind the removed one is selected, if there is one; else the selection keeps its number.
     void RemoveItem(int index);

@@ -3,17 +3,30 @@
 #include "playlist/ListFile.h"
 
 #include <algorithm>
+#include <thread>
 #include <utility>
 
 namespace zentaro {
+
+namespace {
+
+int ProcessorCount()
+{
+    return std::max(2, static_cast<int>(std::thread::hardware_concurrency()));
+}
+
+} // namespace
 
 Library::Library(LibraryHost& host, InspectionRunner& inspections, RandomSource random, char separator)
     : m_host(host)
     , m_separator(separator)
     , m_playlist(std::move(random))
-    , m_adding(m_playlist, m_inspected, host, inspections)
+    , m_adding(m_playlist, m_inspected, host, inspections, { .running = ProcessorCount() })
+    , m_pictures(
+          m_playlist, [&inspections](std::vector<PictureOrder> orders) { inspections.FindPictures(std::move(orders)); })
     , m_isOpen(std::make_shared<std::atomic<bool>>(true))
 {
+    m_playlist.List().onRowsSeen = [this](int first, int last) { m_pictures.RowsInSight(first, last); };
 }
 
 Library::~Library()
@@ -137,6 +150,17 @@ void Library::FindMedia(const std::vector<std::string>& paths, std::function<voi
                 m_host.FilesFound(files);
             };
         });
+}
+
+void Library::InspectionReported(int ticket, Inspection report)
+{
+    m_adding.Reported(ticket, std::move(report));
+}
+
+void Library::PicturesFound(std::vector<FoundPicture> pictures)
+{
+    m_pictures.Found(std::move(pictures));
+    m_host.ThumbnailChanged();
 }
 
 void Library::InspectionCompleted(int ticket, Inspection inspection)

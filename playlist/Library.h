@@ -10,6 +10,7 @@
 #include <list>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace zentaro {
@@ -59,7 +60,13 @@ public:
 
     /// As IsMediaFile, for what is dropped or stands in lists.
     void TakeAllMedia(bool on) { m_takesAll = on; }
+    // What the inspections have to say.
+    void InspectionReported(int ticket, Inspection report);
     void InspectionCompleted(int ticket, Inspection inspection);
+    void FilesRecalled(std::vector<RecalledFile> files) { m_adding.Recalled(std::move(files)); }
+    void PicturesFound(std::vector<FoundPicture> pictures);
+    /// The entries have changed, or another one plays.
+    void UpdatePictures() { m_pictures.EntriesChanged(); }
     void CancelAdding() { m_adding.Cancel(); }
     AddProgress Adding() const { return m_adding.Progress(); }
     /// Nothing is added any more, and nobody is asked.
@@ -87,6 +94,7 @@ private:
     Playlist m_playlist;
     InspectionState m_inspected;
     AddQueue m_adding;
+    RowPictures m_pictures;
     std::list<Drop> m_drops;
     std::shared_ptr<std::atomic<bool>> m_isOpen; // what comes back from elsewhere finds it closed
 };

@@ -21,6 +21,7 @@ struct PlaylistFile {
     std::string MediaInfo;
     std::uint64_t Id = 0;
     MediaFacts Facts = {};
+    bool IsThumbnailKept = false;
 };
 
 /// A list as it is or was: which entries in which order, and the order in which they are played.

@@ -68,6 +68,7 @@ std::string DetailText(const MediaFacts& facts)
 LoadThumb::LoadThumb(
     Playlist& playlist, InspectionState& inspected, AddHost& host, AddRequest request, Inspection inspection)
     : m_playlist(playlist)
+    , m_inspected(inspected)
     , m_host(host)
     , m_request(std::move(request))
     , m_inspection(std::move(inspection))
@@ -78,7 +79,8 @@ LoadThumb::LoadThumb(
             m_boxes.push_back(DuplicateNotice(m_request));
         return;
     }
-    inspected.TakeOver({ m_inspection.ok, m_inspection.errorText, m_inspection.mediaInfo, m_inspection.thumbnail, {} });
+    inspected.TakeOver(
+        { m_inspection.ok, m_inspection.errorText, m_inspection.mediaInfo, m_inspection.thumbnail, {}, {} });
     m_boxes = m_inspection.notices;
     if (!m_inspection.ok) {
         m_outcome = AddOutcome::Refused;
@@ -98,8 +100,8 @@ void LoadThumb::Finish()
     if (m_outcome == AddOutcome::Added && m_playlist.IsInPlaylist(m_request.path))
         m_outcome = AddOutcome::Duplicate;
     if (m_outcome == AddOutcome::Added)
-        m_playlist.Append(
-            { m_request.title, m_request.path, m_inspection.thumbnail, m_inspection.mediaInfo, 0, m_inspection.facts },
+        m_entry = m_playlist.Append({ m_request.title, m_request.path, m_inspection.thumbnail, m_inspection.mediaInfo,
+                                         0, m_inspection.facts, m_inspection.isPictureKept },
             DetailText(m_inspection.facts));
     if (m_outcome != AddOutcome::Refused) {
         if (m_request.playNow)
@@ -111,6 +113,16 @@ void LoadThumb::Finish()
     if (m_outcome == AddOutcome::Added)
         m_host.EntryAdded();
     TellDecision();
+}
+
+void LoadThumb::TakePicture(Inspection inspection)
+{
+    m_boxes = std::move(inspection.notices);
+    if (m_entry == 0 || !inspection.ok)
+        return;
+    m_inspected.LastStreamPicture = inspection.thumbnail;
+    m_playlist.SetThumbnail(m_entry, std::move(inspection.thumbnail), inspection.isPictureKept);
+    m_host.ThumbnailChanged();
 }
 
 void LoadThumb::PlayLastEntry()

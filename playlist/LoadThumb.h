@@ -29,6 +29,10 @@ struct Inspection {
     /// Boxes that the inspection itself raises, in order.
     std::vector<Notice> notices;
     MediaFacts facts;
+    /// The file that the thumbnail was decoded from; empty for none.
+    std::string pictureFile;
+    /// The thumbnail can be had again at any time, and need not be here.
+    bool isPictureKept = false;
 };
 
 enum class AddOutcome {
@@ -61,6 +65,8 @@ public:
     virtual bool PlaysListedInPlace() const { return false; }
     /// A new entry stands in the list and the order: menus can be brought in line.
     virtual void EntryAdded() = 0;
+    /// An entry that stands in the list has got another picture.
+    virtual void ThumbnailChanged() { }
 };
 
 /// Takes one inspected file into the playlist, with the boxes that belong to it, and plays it when the request says so.
@@ -75,15 +81,19 @@ public:
     void TellDecision();
     /// Adds and plays. A duplicate adds nothing, but plays the last entry of the list all the same.
     void Finish();
+    /// After Finish(), where the inspection was a mere report: the entry gets its picture, and there are boxes anew.
+    void TakePicture(Inspection inspection);
 
 private:
     void PlayLastEntry();
 
     Playlist& m_playlist;
+    InspectionState& m_inspected;
     AddHost& m_host;
     AddRequest m_request;
     Inspection m_inspection;
     AddOutcome m_outcome = AddOutcome::Added;
+    std::uint64_t m_entry = 0; // its id, once added
     std::vector<Notice> m_boxes;
 };
 

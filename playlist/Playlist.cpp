@@ -18,7 +18,7 @@ std::optional<PlaylistEntry> Playlist::EntryAt(int index) const
         return std::nullopt;
     const auto& row = m_list.Item(index);
     const auto& file = m_files[static_cast<std::size_t>(index)];
-    return PlaylistEntry{ row.Text, file.FullPath, row.Pic, file.MediaInfo, file.Id, file.Facts };
+    return PlaylistEntry{ row.Text, file.FullPath, row.Pic, file.MediaInfo, file.Id, file.Facts, file.IsThumbnailKept };
 }
 
 std::string Playlist::PathAt(int index) const
@@ -34,14 +34,25 @@ std::optional<int> Playlist::IndexOf(std::uint64_t id) const
     return at != m_files.end() ? std::optional(static_cast<int>(at - m_files.begin())) : std::nullopt;
 }
 
-void Playlist::Append(PlaylistEntry entry, std::string detail)
+std::uint64_t Playlist::Append(PlaylistEntry entry, std::string detail)
 {
     if (!m_edits.IsAdding())
         m_edits.Begin(ListEdit::Add, Shape());
     ++m_revision;
     m_paths.insert(entry.FullPath);
-    m_files.push_back({ std::move(entry.FullPath), std::move(entry.MediaInfo), ++m_lastId, entry.Facts });
+    m_files.push_back(
+        { std::move(entry.FullPath), std::move(entry.MediaInfo), ++m_lastId, entry.Facts, entry.IsThumbnailKept });
     m_list.AddItem(std::move(entry.Title), std::move(entry.Thumbnail), std::move(detail));
+    return m_lastId;
+}
+
+void Playlist::SetThumbnail(std::uint64_t id, Picture picture, bool isKept)
+{
+    const auto index = IndexOf(id);
+    if (!index)
+        return;
+    m_files[static_cast<std::size_t>(*index)].IsThumbnailKept = isKept;
+    m_list.SetPicture(*index, std::move(picture));
 }
 
 std::optional<int> Playlist::IndexOfPath(const std::string& path) const

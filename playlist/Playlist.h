@@ -23,6 +23,7 @@ struct PlaylistEntry {
     std::string MediaInfo;
     std::uint64_t Id = 0; ///< given by Playlist::Append, from 1; no other entry of this run has it
     MediaFacts Facts = {};
+    bool IsThumbnailKept = false; ///< it can be had again at any time, and is missing here while it is not in sight
 };
 
 /// A key that moves the selection.
@@ -50,6 +51,10 @@ public:
     std::string PathAt(int index) const;
     /// Only for 0 <= index < Count().
     const MediaFacts& FactsAt(int index) const { return m_files[static_cast<std::size_t>(index)].Facts; }
+    /// As above.
+    bool IsThumbnailKept(int index) const { return m_files[static_cast<std::size_t>(index)].IsThumbnailKept; }
+    /// 0 when the index names no entry.
+    std::uint64_t IdAt(int index) const { return IsEntry(index) ? m_files[static_cast<std::size_t>(index)].Id : 0; }
     /// The index of the entry with this id.
     std::optional<int> IndexOf(std::uint64_t id) const;
     /// The index of the entry with this path.
@@ -59,8 +64,10 @@ public:
     /// By exact comparison, letter case included.
     bool IsInPlaylist(const std::string& path) const { return m_paths.count(path) != 0; }
 
-    /// Gives the entry an id. `detail` is the second line of the row. The order is left to BuildOrder.
-    void Append(PlaylistEntry entry, std::string detail = {});
+    /// Gives the entry an id, and returns it. `detail` is the second line of the row. The order is left to BuildOrder.
+    std::uint64_t Append(PlaylistEntry entry, std::string detail = {});
+    /// Nothing where no entry has this id.
+    void SetThumbnail(std::uint64_t id, Picture picture, bool isKept);
     void BuildSequentialOrder() { m_order.BuildSequential(Count(), m_list.SelectedItem()); }
     void BuildShuffleOrder() { m_order.BuildShuffle(Count(), m_list.SelectedItem()); }
     /// The order that the play mode asks for.
@@ -104,7 +111,6 @@ public:
 private:
     ListShape Shape() const;
     ListStep::Left Left() const;
-    std::uint64_t IdAt(int index) const { return IsEntry(index) ? m_files[static_cast<std::size_t>(index)].Id : 0; }
     void TakeShape(ListStep& step, std::int32_t playMode);
     /// The entries with these ids, from the list and from `away`, which keeps the rest of the list.
     void TakeEntries(const std::vector<std::uint64_t>& ids, std::vector<ListStep::Away>& away);

@@ -32,7 +32,8 @@ protected:
             [this](std::function<void()> work) {
                 const std::lock_guard lock(m_mutex);
                 m_posted.push_back(std::move(work));
-            });
+            },
+            known);
         threads->onCompleted = [this](int ticket, const Inspection& result) {
             completed.push_back(std::to_string(ticket) + " " + result.errorText);
         };
@@ -70,6 +71,8 @@ protected:
     std::shared_ptr<InspectionContext> context = std::make_shared<InspectionContext>();
     std::vector<std::string> completed;
     std::unique_ptr<InspectionThreads> threads;
+    std::shared_ptr<KnownFiles> known =
+        std::make_shared<KnownFiles>([this] { return platform::CacheStore::Open(folder / "seen.db", 1 << 20); });
 
 private:
     DiskFiles m_files{ [](std::int64_t) { return std::string(); } };
@@ -132,4 +135,44 @@ TEST_F(Threads, a_read_that_never_ends_holds_up_neither_the_queue_nor_the_end)
     drive.set_value();
     EXPECT_TRUE(RunUntil([&] { return context.use_count() == 1; }));
     EXPECT_EQ(completed.size(), 1U);
+}
+
+TEST_F(Threads, an_expected_file_is_inspected_before_it_is_asked_for)
+{
+    WriteTool("echo \"$2\" >> " + folder / "runs");
+    threads->Expect("/clips/a.mp3");
+    EXPECT_TRUE(RunUntil([&] { return std::filesystem::exists(folder / "runs"); }));
+    threads->StartAtOnce(3, "/clips/a.mp3");
+    threads->StartAtOnce(4, "/clips/b.mp3");
+    EXPECT_TRUE(RunUntil([&] { return completed.size() == 2; }));
+    std::string runs;
+    std::ifstream lines(folder / "runs");
+    for (std::string line; std::getline(lines, line);)
+        runs += line + ";";
+    EXPECT_EQ(runs, "/clips/a.mp3;/clips/b.mp3;");
+}
+
+TEST_F(Threads, a_known_file_runs_no_tool)
+{
+    WriteTool("echo \"Input #0, matroska:\"; echo '  Duration: 00:00:10.00, start: 0.000000';"
+              "echo '  Stream #0:0: Audio: mp3, 44100 Hz, stereo, s16p, 128 kb/s'; echo run >> "
+        + folder / "runs");
+    std::ofstream(folder / "song.mka") << "song";
+    context->defaultAudioPicture = Picture(1, 1, { 1 });
+    std::vector<Inspection> results;
+    threads->onCompleted = [&](int, const Inspection& result) { results.push_back(result); };
+    for (const auto count : { 1U, 2U }) {
+        threads->Start(static_cast<int>(count), folder / "song.mka");
+        EXPECT_TRUE(RunUntil([&] { return results.size() == count; }));
+    }
+    EXPECT_TRUE(results[0].ok && results[1].ok);
+    EXPECT_EQ(results[0].mediaInfo, results[1].mediaInfo);
+    EXPECT_EQ(results[1].thumbnail, context->defaultAudioPicture);
+    EXPECT_EQ(std::filesystem::file_size(folder / "runs"), std::string("run\n").size());
+
+    std::vector<RecalledFile> recalled;
+    threads->onRecalled = [&](std::vector<RecalledFile> files) { recalled = std::move(files); };
+    EXPECT_TRUE(threads->Recall({ { 7, folder / "song.mka" }, { 8, folder / "other.mka" } }));
+    EXPECT_TRUE(RunUntil([&] { return recalled.size() == 2; }));
+    EXPECT_TRUE(recalled[0].inspection && !recalled[1].inspection);
 }

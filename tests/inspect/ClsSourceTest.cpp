@@ -138,8 +138,8 @@ TEST_F(SourceTest, failures_leave_their_reason_and_keep_the_report_of_the_last_s
     EXPECT_TRUE(source.Outcome().lastPicture.IsEmpty());
 
     InspectionState state;
-    state.TakeOver({ true, "", "report", thumbnail, {} });
-    state.TakeOver({ false, "reason", "", {}, {} });
+    state.TakeOver({ true, "", "report", thumbnail, {}, {} });
+    state.TakeOver({ false, "reason", "", {}, {}, {} });
     EXPECT_EQ(state.StreamInfoText + " " + state.LastSourceError, "report reason");
     EXPECT_TRUE(state.LastStreamPicture.IsEmpty());
 }

@@ -237,5 +237,76 @@ TEST(DetailTextTest, TheSecondLineNamesWhatIsKnown)
     EXPECT_EQ(DetailText({ .fileSize = 999 }), "999 bytes");
 }
 
+TEST_F(AddQueueTest, AFileToPlayPlaysOnItsReportAndGetsPictureAndBoxLater)
+{
+    Add({ "a", "b", "odd", "d" }, AddTurn::AtOnce);
+    const int first = runner.atWork.begin()->first;
+    queue.Reported(first, FakeInspections::ResultFor("/v/a"));
+    EXPECT_EQ(host.played, std::vector{ 0 });
+    EXPECT_EQ(Titles(), "a ");
+    Finish("b");
+    EXPECT_EQ(Titles(), "a b ");
+    Finish("d");
+    Finish("odd");
+    EXPECT_EQ(Titles(), "a b ");
+    EXPECT_TRUE(host.boxes.empty()) << "a box goes before that of an earlier file";
+
+    auto whole = FakeInspections::ResultFor("/v/odd a");
+    whole.thumbnail = Picture(1, 1, { 7 });
+    queue.Completed(first, whole);
+    EXPECT_EQ(playlist.EntryAt(0)->Thumbnail, whole.thumbnail);
+    ASSERT_EQ(host.boxes.size(), 1U);
+    EXPECT_EQ(host.boxes[0].text, "odd /v/odd a");
+    CloseBox();
+    CloseBox();
+    EXPECT_EQ(Titles(), "a b odd d ");
+    EXPECT_EQ(host.played, std::vector{ 0 });
+    EXPECT_EQ(queue.Progress().total, 0);
+}
+
+TEST_F(AddQueueTest, PicturesThatAreMadeSlowlyHoldUpNobodyWhoWaits)
+{
+    for (int i = 0; i < 10; ++i) {
+        Add({ std::to_string(i) }, AddTurn::AtOnce);
+        ASSERT_FALSE(runner.atWork.empty());
+        queue.Reported(runner.atWork.rbegin()->first, FakeInspections::ResultFor("/v/" + std::to_string(i)));
+        EXPECT_EQ(playlist.Count(), i + 1);
+    }
+    FinishAll();
+    EXPECT_EQ(queue.Progress().total, 0);
+}
+
+TEST_F(AddQueueTest, NothingIsPlayedOnAReportThatLeavesAQuestion)
+{
+    Add({ "bad", "b" }, AddTurn::AtOnce);
+    Add({ "odd" }, AddTurn::AtOnce);
+    Add({ "c" });
+    const auto running = runner.atWork;
+    for (const auto& [ticket, path] : running)
+        queue.Reported(ticket, FakeInspections::ResultFor(path));
+    EXPECT_TRUE(host.played.empty());
+    EXPECT_EQ(playlist.Count(), 0);
+    FinishAll();
+    EXPECT_EQ(playlist.Count(), 3);
+}
+
+TEST_F(AddQueueTest, KnownFilesNeedNoInspection)
+{
+    runner.answersRecalls = true;
+    Add({ "a", "b", "c" });
+    EXPECT_TRUE(runner.atWork.empty());
+    ASSERT_EQ(runner.asked.size(), 3U);
+    queue.Recalled({ { runner.asked[0].ticket, FakeInspections::ResultFor("/v/a") }, { runner.asked[1].ticket, {} },
+        { runner.asked[2].ticket, FakeInspections::ResultFor("/v/c") } });
+    EXPECT_EQ(Titles(), "a ");
+    EXPECT_EQ(runner.started, std::vector<std::string>{ "/v/b" });
+    FinishAll();
+    EXPECT_EQ(Titles(), "a b c ");
+
+    // Who waits for a file does not wait for an answer about it.
+    Add({ "d" }, AddTurn::AtOnce);
+    EXPECT_EQ(runner.atWork.size(), 1U);
+}
+
 } // namespace
 } // namespace zentaro

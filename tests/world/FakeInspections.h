@@ -18,6 +18,11 @@ public:
         atWork[ticket] = path;
         most = std::max(most, atWork.size());
     }
+    bool Recall(const std::vector<FileToRecall>& files) override
+    {
+        asked = files;
+        return answersRecalls;
+    }
     void Cancel(int ticket) override { atWork.erase(ticket); }
 
     static Inspection ResultFor(const std::string& path)
@@ -34,6 +39,8 @@ public:
     std::map<int, std::string> atWork; ///< by ticket
     std::vector<std::string> started;
     std::size_t most = 0;
+    std::vector<FileToRecall> asked;
+    bool answersRecalls = false;
 };
 
 } // namespace zentaro

@@ -1,0 +1,136 @@
+// How a player takes a folder of files that were all seen before: known-watch PLAYER ADD FOLDER COUNT THUMBNAIL
+// Makes the files and what is known of them, starts PLAYER on a display of its own and lets ADD give it the folder.
+// Says how long the list took (until the player is at rest), how long its window needed for an answer meanwhile, and
+// what memory (PSS) the entries take.
+#include "bench/WindowAsker.h"
+#include "platform/Files.h"
+#include "playlist/KnownFiles.h"
+#include "tests/desktop/Desktop.h"
+#include "tests/desktop/Wait.h"
+
+#include <algorithm>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+namespace {
+
+using namespace zentaro;
+using namespace zentaro::trial;
+using Clock = std::chrono::steady_clock;
+namespace fs = std::filesystem;
+
+constexpr auto kRest = 400ms; // without any work: it is done
+
+std::string TextOf(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return { std::istreambuf_iterator<char>(file), {} };
+}
+
+void MakeFiles(const std::string& folder, int count, const std::string& thumbnail)
+{
+    KnownFiles known([] { return platform::CacheStore::Open(platform::CacheFolder() + "/seen.db", 512 << 20); });
+    Inspection film;
+    film.ok = true;
+    film.mediaInfo.assign(600, 'x'); // as long as that of a film with two sound tracks
+    film.pictureFile = TextOf(thumbnail);
+    film.facts = { 4711, 1280, 720, 12'345'678 };
+    fs::create_directory(folder);
+    for (int i = 0; i < count; ++i) {
+        const auto path = folder + "/A film of some length, part " + std::to_string(i) + ".mkv";
+        std::ofstream(path) << i;
+        if (!known.Remember(path, *StampOf(path), film))
+            throw std::runtime_error("the store takes nothing");
+    }
+}
+
+long Memory(pid_t id)
+{
+    std::istringstream lines(TextOf("/proc/" + std::to_string(id) + "/smaps_rollup"));
+    for (std::string line; std::getline(lines, line);)
+        if (line.starts_with("Pss:"))
+            return std::strtol(line.c_str() + 4, nullptr, 10);
+    return 0;
+}
+
+/// Ticks of the processor.
+long Work(pid_t id)
+{
+    const auto text = TextOf("/proc/" + std::to_string(id) + "/stat");
+    std::istringstream fields(text.substr(text.rfind(')') + 1));
+    std::string skipped;
+    for (int field = 3; field < 14; ++field)
+        fields >> skipped;
+    long user = 0;
+    long system = 0;
+    fields >> user >> system;
+    return user + system;
+}
+
+/// When it did something last.
+Clock::time_point AtRest(pid_t id, Clock::duration limit)
+{
+    auto work = Work(id);
+    auto last = Clock::now();
+    const auto end = last + limit;
+    // A tick now and then is no work.
+    while (Clock::now() - last < kRest && Clock::now() < end) {
+        std::this_thread::sleep_for(20ms);
+        if (const auto now = Work(id); now > work + 1) {
+            work = now;
+            last = Clock::now();
+        }
+    }
+    return last;
+}
+
+void Measure(const std::string& player, const std::string& add, const std::string& folder)
+{
+    Desktop desktop(1280, 800, Desktop::WindowManager::None);
+    WindowAsker asker(desktop.Name());
+    Process process({ "DISPLAY=" + desktop.Name(), player });
+    std::vector<::Window> windows;
+    if (!WaitUntil([&] { return !(windows = desktop.WindowsOf(process.Id())).empty(); }))
+        throw std::runtime_error("no window came");
+    std::this_thread::sleep_for(8s);
+    const auto empty = Memory(process.Id());
+    asker.Ask(windows.front());
+    std::this_thread::sleep_for(1s);
+    asker.Take();
+    const auto start = Clock::now();
+    Process adding({ "DISPLAY=" + desktop.Name(), add, folder });
+    adding.WaitForEnd();
+    const std::chrono::duration<double> listed = AtRest(process.Id(), 120s) - start;
+    auto times = asker.Take();
+    std::sort(times.begin(), times.end());
+    std::printf(
+        "listed in %.2f s; the window answered within %.0f ms, middle %.1f ms; %.1f MiB more than empty (%.1f)\n",
+        listed.count(), times.empty() ? -1 : times.back(), times.empty() ? -1 : times[times.size() / 2],
+        static_cast<double>(Memory(process.Id()) - empty) / 1024, static_cast<double>(empty) / 1024);
+    process.Signal(SIGTERM);
+    if (!process.WaitForEnd(10s))
+        process.Kill();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 6) {
+        std::fputs("known-watch PLAYER ADD FOLDER COUNT THUMBNAIL\n", stderr);
+        return 2;
+    }
+    try {
+        XInitThreads();
+        MakeFiles(argv[3], std::atoi(argv[4]), argv[5]);
+        Measure(argv[1], argv[2], argv[3]);
+    } catch (const std::exception& failure) {
+        std::fprintf(stderr, "%s\n", failure.what());
+        return 1;
+    }
+}
