@@ -141,8 +141,8 @@ void Dialogs::AskForSubtitles(std::function<void(std::string)> chosen)
 {
     auto* const dialog = new QFileDialog(&m_window, ToQString(Words("Open Subtitles")));
     dialog->setFileMode(QFileDialog::ExistingFile);
-    dialog->setNameFilters({ ToQString(Words("Subtitles")) + " (*.srt *.sub *.ass *.ssa *.vtt *.idx *.smi *.txt *.mpl)",
-        AllFiles() });
+    dialog->setNameFilters(
+        { ToQString(Words("Subtitles")) + " (*.srt *.sub *.ass *.ssa *.vtt *.idx *.smi *.txt *.mpl)", AllFiles() });
     AskForPaths(dialog, [chosen = std::move(chosen)](const std::vector<std::string>& paths) {
         chosen(paths.empty() ? std::string() : paths.front());
     });

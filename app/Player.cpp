@@ -81,7 +81,7 @@ bool Player::Load(const std::string& commandLine, PlayerFace face)
     if (!m_settings.IsRead())
         m_face.window->ShowNote(kNotKept);
     if (!prepared)
-        m_face.dialogs->ShowNotice({ prepared.error().text, NoticeIcon::Critical }, [] { });
+        m_face.dialogs->ShowNotice({ prepared.error().text, NoticeIcon::Critical }, [] {});
     m_instance.Receive([this](const std::string& text, auto done) { ReceiveText(text, std::move(done)); });
     m_instance.ReceiveAdded([this](const std::string& path) {
         m_face.window->FlashCaption();

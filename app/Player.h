@@ -2,9 +2,9 @@
 
 #include "app/Associations.h"
 #include "app/KeyMap.h"
-#include "app/OwnSettings.h"
 #include "app/ListEditor.h"
 #include "app/Memory.h"
+#include "app/OwnSettings.h"
 #include "app/PlayTools.h"
 #include "app/Sequencer.h"
 #include "app/SingleInstance.h"

@@ -148,14 +148,17 @@ bool WindowKeys::ListKeyPressed(const QKeyEvent& event)
 
 bool WindowKeys::eventFilter(QObject* watched, QEvent* event)
 {
+    const auto type = event->type();
+    if (type != QEvent::ShortcutOverride && type != QEvent::KeyPress && type != QEvent::KeyRelease)
+        return false;
     auto* const key = static_cast<QKeyEvent*>(event);
-    if (event->type() == QEvent::KeyPress && TakesCard(*key)) {
+    if (type == QEvent::KeyPress && TakesCard(*key)) {
         emit m_parts.list.CardTaken();
         return true;
     }
     if (watched == &m_parts.list)
-        return event->type() == QEvent::KeyPress && ListKeyPressed(*key);
-    switch (event->type()) {
+        return type == QEvent::KeyPress && ListKeyPressed(*key);
+    switch (type) {
     case QEvent::ShortcutOverride:
         // Asked of the part that has the focus, and then of the window around it, before a shortcut is looked for.
         if (!FocusUsesKey(*key))

@@ -119,7 +119,8 @@ private:
             m_report.cover = CoverHint{ facts.width, facts.height };
         if (facts.attachedPicture)
             return false;
-        m_report.streams.push_back({ IntegerOfText(stream.number).value_or(0), facts.displayAspect, false, facts.interlaced });
+        m_report.streams.push_back(
+            { IntegerOfText(stream.number).value_or(0), facts.displayAspect, false, facts.interlaced });
         m_report.text.append("  Stream #0.").append(stream.number).append(stream.tags);
         m_report.text.append(video ? ": Video: " : ": Audio: ").append(facts.text).append("\n");
         return true;

@@ -35,8 +35,8 @@ inline bool IsInUse(const std::string& name)
     return SystemObject(OpenMutexA(SYNCHRONIZE, FALSE, ("Global\\" + name).c_str())) != nullptr;
 }
 
-/// SetNamedPipeHandleState, behind a variable for a test of its success: Windows refuses the call for an anonymous pipe,
-/// which is what lets a run go on.
+/// SetNamedPipeHandleState, behind a variable for a test of its success: Windows refuses the call for an anonymous
+/// pipe, which is what lets a run go on.
 extern decltype(&::SetNamedPipeHandleState) SetPipeState;
 
 } // namespace zentaro::platform

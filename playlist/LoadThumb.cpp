@@ -101,7 +101,7 @@ void LoadThumb::Finish()
         m_outcome = AddOutcome::Duplicate;
     if (m_outcome == AddOutcome::Added)
         m_entry = m_playlist.Append({ m_request.title, m_request.path, m_inspection.thumbnail, m_inspection.mediaInfo,
-                                         0, m_inspection.facts, m_inspection.isPictureKept },
+                                        0, m_inspection.facts, m_inspection.isPictureKept },
             DetailText(m_inspection.facts));
     if (m_outcome != AddOutcome::Refused) {
         if (m_request.playNow)

@@ -53,7 +53,6 @@ BOOL WINAPI Accept(HANDLE, LPDWORD, LPDWORD, LPDWORD)
 
 class WindowsRunner : public testing::Test {
 protected:
-
     Result<void> Run(const ToolCommand& command, std::int32_t priority = 2, const std::string& workDir = "")
     {
         return ExecuteAndCapture(command, folder / "log", 0, false, priority, workDir, context);
