@@ -89,6 +89,8 @@ frmMain::frmMain(Player& player, VideoFrame* video, const QString& programFolder
     m_areas->Order();
 }
 
+frmMain::~frmMain() = default;
+
 void frmMain::MakeList()
 {
     m_list->SetImageWidth(64);

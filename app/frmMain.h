@@ -6,6 +6,8 @@
 #include "playlist/AddQueue.h"
 #include "shell/Skin.h"
 
+#include <memory>
+
 class QMimeData;
 
 namespace zentaro {
@@ -28,6 +30,8 @@ class frmMain : public WindowFrame, public WindowFace {
 public:
     /// `programFolder`: with a trailing separator. The window takes the video frame over.
     frmMain(Player& player, VideoFrame* video, const QString& programFolder);
+
+    ~frmMain() override;
 
     PlayerTimers& Timers() { return m_timers; }
     Skin& Pictures() { return m_skin; }
@@ -83,8 +87,8 @@ private:
     ContentPane* m_content;
     ControlPanel* m_controls;
     FullScreenBar* m_bar;
-    WindowMenus* m_menus;
-    WindowNotes* m_notes;
+    std::unique_ptr<WindowMenus> m_menus;
+    std::unique_ptr<WindowNotes> m_notes;
     FocusAreas* m_areas = nullptr;
     MenuStrip* m_strip = nullptr;
     QTimer m_progressDelay;

@@ -1,5 +1,6 @@
 #include "platform/Process.h"
 
+#include <QCoreApplication>
 #include <QSocketNotifier>
 
 #include <array>
@@ -82,7 +83,7 @@ void OnQuitRequest(std::function<void()> onQuit)
 {
     if (pipe2(g_pipe.data(), O_CLOEXEC | O_NONBLOCK) != 0)
         return;
-    auto* const notifier = new QSocketNotifier(g_pipe[0], QSocketNotifier::Read);
+    auto* const notifier = new QSocketNotifier(g_pipe[0], QSocketNotifier::Read, QCoreApplication::instance());
     QObject::connect(notifier, &QSocketNotifier::activated, notifier, [notifier, quit = std::move(onQuit)] {
         notifier->setEnabled(false);
         quit();
