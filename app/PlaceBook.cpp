@@ -117,12 +117,13 @@ PlaceBook PlaceBook::Parse(std::string_view text)
         place.audioDelay = RoundHalfEven(NumberAt(row, 7));
         place.subtitleDelay = RoundHalfEven(NumberAt(row, 8));
         place.turn = static_cast<std::uint64_t>(std::clamp(NumberAt(row, 9), 0.0, 1e15));
-        if (place.IsEmpty() || book.IsNeverRemembered(row[1]))
+        if (place.IsEmpty())
             continue;
         book.m_places[row[1]] = place;
         book.m_turn = std::max(book.m_turn, place.turn);
         book.DropOldest();
     }
+    std::erase_if(book.m_places, [&](const auto& place) { return book.IsNeverRemembered(place.first); });
     return book;
 }
 

@@ -73,8 +73,6 @@ std::string PathOfAddress(std::string_view address, char separator)
         rest.remove_prefix(std::string_view("localhost").size());
     if (!rest.starts_with('/'))
         return {};
-    if (separator == '\\' && HasDrive(rest.substr(1)))
-        rest.remove_prefix(1);
     auto path = PercentDecoded(rest.substr(0, rest.find_first_of("?#")));
     std::replace(path.begin(), path.end(), '/', separator);
     return path;
@@ -210,13 +208,23 @@ private:
     std::string PathOf(std::string_view name, bool isEncoded) const
     {
         if (LowerAscii(name.substr(0, kFileAddress.size())) == kFileAddress)
-            return PathOfAddress(name, m_separator);
+            return FromDrive(PathOfAddress(name, m_separator));
         if (name.empty() || HasScheme(name))
             return {};
         auto path = isEncoded ? PercentDecoded(name) : std::string(name);
         if (isEncoded || m_separator == '\\')
             std::replace(path.begin(), path.end(), '/', m_separator);
+        path = FromDrive(std::move(path));
         return IsAbsolute(path, m_separator) ? path : InFolder(m_folder, path, m_separator);
+    }
+
+    /// In addresses a separator stands before the drive.
+    std::string FromDrive(std::string path) const
+    {
+        const auto begin = path.find_first_not_of(m_separator);
+        const bool isDrive =
+            m_separator == '\\' && begin != std::string::npos && HasDrive(std::string_view(path).substr(begin));
+        return isDrive ? path.substr(begin) : path;
     }
 
     const std::string& m_folder;
@@ -242,6 +250,9 @@ std::string ShortestPath(const std::string& path, const std::string& folder, cha
             relative.append("..") += separator;
     }
     relative += path.substr(common);
+    // The folder itself, and what would be taken for a place of its own.
+    if (relative.empty() || IsAbsolute(relative, separator))
+        relative = std::string(".") + separator + relative;
     return relative.size() < path.size() ? relative : path;
 }
 

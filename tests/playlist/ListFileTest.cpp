@@ -52,6 +52,12 @@ TEST(ListFile, ReadsWithTheSeparatorOfWindows)
         ParseListFile("D:\\a.avi\nsub/b.avi\nfile:///E:/c%20d.avi\n\\e.avi\n", ListFormat::M3u, "C:\\lists\\", '\\');
     EXPECT_EQ(
         Paths(files), (std::vector<std::string>{ "D:\\a.avi", "C:\\lists\\sub\\b.avi", "E:\\c d.avi", "\\e.avi" }));
+    // What is no UTF-8 is written as an address.
+    const std::vector<ListedEntry> entries{ { "C:\\lists\\\xFF.avi", "", 0 }, { "C:\\lists\\", "", 0 } };
+    for (const auto format : { ListFormat::M3u, ListFormat::Xspf }) {
+        const auto text = FormatListFile(entries, format, "C:\\lists\\", '\\');
+        EXPECT_EQ(ParseListFile(text, format, "C:\\lists\\", '\\').entries, entries) << text;
+    }
 }
 
 TEST(ListFile, GivesBackWhatItHasWritten)
