@@ -120,7 +120,7 @@ public:
         if (path.empty() || path.find('\0') != std::string::npos || m_files.entries.size() >= kMostListed)
             ++m_files.unreadable;
         else
-            m_files.entries.push_back({ std::move(path), std::move(title), length });
+            m_files.entries.push_back({ std::move(path), std::move(title), length > 0 ? length : 0 });
     }
 
     void ReadM3u(std::string_view text)
