@@ -22,7 +22,7 @@
 #include "platform/RemovableDiscs.h"
 #include "platform/Window.h"
 #include "playback/VideoFrame.h"
-#include "playback/VlcEngine.h"
+#include "playback/VlcEngines.h"
 #include "shell/Caption.h"
 #include "shell/QtText.h"
 #include "shell/Style.h"

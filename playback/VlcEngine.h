@@ -1,71 +1,78 @@
 #pragma once
 
 #include "playback/Engine.h"
-#include "playback/VlcItem.h"
-#include "playback/VlcLog.h"
+#include "playback/VlcItems.h"
 
-#include <chrono>
-#include <future>
-#include <memory>
-#include <optional>
 #include <string>
+#include <vector>
+
+struct libvlc_track_description_t;
 
 namespace zentaro {
 
-class VideoFrame;
-class VlcEngine;
-
-/// Makes engines that play through libVLC 3. UI thread only.
-class VlcEngines final : public EngineFactory {
+/// Plays one item. Each start of it has a player of the library of its own, and no stop is waited for. UI thread only.
+class VlcEngine final : public Engine {
 public:
-    /// `logPath`: the file for the library's messages.
-    VlcEngines(VideoFrame& frame, const std::string& logPath);
-    /// A moment is left to the items that are ending, no more.
-    ~VlcEngines() override;
+    explicit VlcEngine(VlcItems& items);
+    ~VlcEngine() override;
 
-    Result<void> Prepare() override;
-    void MakeReady(const MediaLocation& location, const EngineOptions& options) override;
-    void Forget() override;
-    std::unique_ptr<Engine> Create() override;
-    void SetSubtitleScale(int percent) override { m_subtitleScale = percent; }
+    void SetVolume(int percent) override;
+    void SetMute(bool muted) override;
+    std::vector<EngineTrack> AudioTracks() override;
+    int AudioTrack() override;
+    void SetAudioTrack(int id) override;
+    int AudioDelay() override;
+    void SetAudioDelay(int milliseconds) override;
+    int SubtitleDelay() override;
+    void SetSubtitleDelay(int milliseconds) override;
+    void NextFrame() override;
+    std::vector<EngineTrack> SubtitleTracks() override;
+    int SubtitleTrack() override;
+    void SetSubtitleTrack(int id) override;
+    bool AddSubtitleFile(const std::string& path) override;
+    std::string AspectRatio() override;
+    void SetAspectRatio(const std::string& ratio) override;
+    std::string Deinterlacing() override;
+    void SetDeinterlacing(const std::string& filter) override;
+    double Length() override;
+    double Time() override;
+    double Position() override;
+    void SetPosition(double position) override;
+    int State() override;
+    double Rate() override;
+    void SetRate(double rate) override;
+    bool HasVideoOutput() override;
+    bool TakeSnapshot(const std::string& file) override;
+    void Add(const MediaLocation& location, const EngineOptions& options) override;
+    void Play() override;
+    void SetPause(bool paused) override;
+    void TogglePause() override;
+    void Stop() override;
+    void Navigate(DiscKey key) override;
+    std::vector<DiscPart> Titles() override;
+    int Title() override;
+    void SetTitle(int index) override;
+    std::vector<DiscPart> Chapters() override;
+    int Chapter() override;
+    void SetChapter(int index) override;
+    int ItemCount() override;
 
 private:
-    friend class VlcEngine;
-    using Instance = std::shared_ptr<libvlc_instance_t>;
+    std::vector<EngineTrack> Tracks(libvlc_track_description_t* (*describe)(libvlc_media_player_t*)) const;
+    bool Open();
+    void Close();
 
-    /// An engine's own place, which late calls look at: null while no engine has the item, or no longer.
-    using Owner = std::shared_ptr<VlcEngine*>;
-    struct OpenItem {
-        std::shared_ptr<libvlc_instance_t> instance = {};
-        std::unique_ptr<VlcItem> item = {};
-        Owner owner = {};
-    };
-    /// One that is made ready for an engine to come.
-    struct ReadyItem {
-        MediaLocation location;
-        EngineOptions options;
-        OpenItem open;
-    };
-
-    /// `isReady`: the item stays paused and unseen. Without an item where the library makes none.
-    OpenItem OpenNew(const MediaLocation& location, const EngineOptions& options, Owner owner, bool isReady);
-    /// The item that was made ready, if it is that one. Any other is forgotten.
-    OpenItem TakeReady(const MediaLocation& location, const EngineOptions& options);
-    VlcLibrary NewLibrary();
-    void End(std::unique_ptr<VlcItem> item);
-    void WaitForEndings();
-    /// False for a while after the device could not be opened: each try costs time and fills the log.
-    bool MayTrySound();
-
-    VideoFrame& m_frame;
-    std::shared_ptr<VlcLog> m_log;
-    std::shared_ptr<VlcEndings> m_endings;
-    /// Holds the library's plug-in list in memory for the whole run; an instance beside it costs about a millisecond.
-    std::shared_future<Instance> m_base;
-    int m_subtitleScale = 100; // percent
-    bool m_plainOutput = false;
-    std::chrono::steady_clock::time_point m_silentUntil;
-    std::optional<ReadyItem> m_ready;
+    VlcItems& m_items;
+    MediaLocation m_location;
+    EngineOptions m_options;
+    VlcItems::Open m_open;
+    libvlc_media_player_t* m_player = nullptr; // the item's; null while it is stopped
+    bool m_isAdded = false;
+    bool m_pauseWaits = false;     // until it plays
+    bool m_isLeavingPause = false; // it was made ready, and does not play yet, but was told to
+    std::string m_deinterlacing = kDeinterlaceAuto;
+    int m_volume = 100;
+    bool m_muted = false;
 };
 
 } // namespace zentaro

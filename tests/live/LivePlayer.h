@@ -1,7 +1,7 @@
 #pragma once
 
 #include "playback/VideoFrame.h"
-#include "playback/VlcEngine.h"
+#include "playback/VlcEngines.h"
 #include "tests/desktop/Wait.h"
 #include "tests/platform/WorkingFolder.h"
 #include "tests/world/World.h"

@@ -1,0 +1,181 @@
+#include "playback/VlcItems.h"
+
+#include "platform/EngineLibrary.h"
+#include "platform/Process.h"
+#include "platform/Window.h"
+#include "playback/VideoFrame.h"
+
+#include <QCoreApplication>
+#include <vlc/vlc.h>
+
+#include <utility>
+#include <vector>
+
+namespace zentaro {
+
+namespace {
+
+constexpr auto kSoundPause = std::chrono::seconds(30);
+/// What an item before may take to end: it holds the sound device, or the drive. Nearly all need less.
+constexpr auto kEndingWait = std::chrono::milliseconds(50);
+constexpr auto kLastWait = std::chrono::seconds(1);
+
+std::shared_ptr<libvlc_instance_t> StartLibrary(const std::vector<std::string>& arguments)
+{
+    std::vector<const char*> texts;
+    for (const auto& argument : arguments)
+        texts.push_back(argument.c_str());
+    auto* const instance = libvlc_new(static_cast<int>(texts.size()), texts.data());
+    if (instance == nullptr)
+        return {};
+    return { instance, &libvlc_release };
+}
+
+// --quiet silences the decoders, which write past the log. No scripts: they would only look for covers on the network.
+// The screen saver is held off by the player, on every output and not beyond the end of an item.
+std::vector<std::string> CommonArguments(bool plainOutput)
+{
+    std::vector<std::string> arguments = { "--quiet", "--no-video-title-show", "--no-osd", "--no-snapshot-preview",
+        "--no-lua", "--no-interact", "--no-disable-screensaver" };
+    // The embedded player chooses its output by itself; taking OpenGL away leaves the plain one.
+    if (plainOutput)
+        arguments.insert(arguments.end(), { "--gl=none", "--gles2=none" });
+    return arguments;
+}
+
+/// Engine threads, where the library may not be called.
+void TellLater(std::weak_ptr<std::function<void()>> heard)
+{
+    const auto tell = [heard = std::move(heard)] {
+        if (const auto hear = heard.lock(); hear && *hear)
+            (*hear)();
+    };
+    QMetaObject::invokeMethod(QCoreApplication::instance(), tell, Qt::QueuedConnection);
+}
+
+} // namespace
+
+VlcItems::VlcItems(VideoFrame& frame, const std::string& logPath)
+    : m_frame(frame)
+    , m_log(std::make_shared<VlcLog>(logPath))
+    , m_endings(std::make_shared<VlcEndings>())
+{
+}
+
+VlcItems::~VlcItems()
+{
+    Forget();
+    m_endings->Wait(kLastWait);
+    if (m_base.valid())
+        m_base.wait();
+}
+
+Result<void> VlcItems::Prepare()
+{
+    if (m_base.valid())
+        return {};
+    if (auto loaded = platform::LoadEngineLibrary(); !loaded)
+        return loaded;
+    m_plainOutput = !platform::HasGraphicsCard();
+    // Finding the plug-ins takes longest at a start; the window comes up meanwhile.
+    m_base = std::async(std::launch::async, [plain = m_plainOutput] {
+        platform::SilenceSoundLibrary();
+        return StartLibrary(CommonArguments(plain));
+    }).share();
+    return {};
+}
+
+bool VlcItems::IsPrepared()
+{
+    return Prepare() && m_base.get() != nullptr;
+}
+
+void VlcItems::MakeReady(const MediaLocation& location, const EngineOptions& options)
+{
+    Forget();
+    if (!Prepare())
+        return;
+    auto open = New(location, options, true);
+    if (!open.item)
+        return;
+    libvlc_media_player_play(open.Player());
+    m_ready = { location, options, std::move(open) };
+}
+
+void VlcItems::Forget()
+{
+    if (m_ready)
+        End(std::move(m_ready->open));
+    m_ready.reset();
+}
+
+VlcItems::Open VlcItems::Take(const MediaLocation& location, const EngineOptions& options)
+{
+    if (m_ready && m_ready->location == location && m_ready->options == options) {
+        auto open = std::move(m_ready->open);
+        m_ready.reset();
+        open.item->ShowSurface();
+        return open;
+    }
+    Forget();
+    return New(location, options, false);
+}
+
+VlcItems::Open VlcItems::New(const MediaLocation& location, const EngineOptions& options, bool isReady)
+{
+    m_endings->Wait(kEndingWait);
+    auto library = NewLibrary();
+    auto* const instance = library.instance.get();
+    if (instance == nullptr)
+        return {};
+    auto* const media = location.isLocation ? libvlc_media_new_location(instance, location.text.c_str())
+                                            : libvlc_media_new_path(instance, location.text.c_str());
+    if (media == nullptr)
+        return {};
+    for (const auto& option : options)
+        libvlc_media_add_option(media, option.c_str());
+    // No card decodes either, and asking for one makes the card's library complain on the terminal. The player would
+    // forget this one; the item keeps it.
+    if (m_plainOutput)
+        libvlc_media_add_option(media, ":avcodec-hw=none");
+    if (isReady)
+        libvlc_media_add_option(media, ":start-paused");
+    const auto onPlaying = std::make_shared<std::function<void()>>();
+    Open open{ library.instance, nullptr, onPlaying, isReady };
+    open.item = std::make_unique<VlcItem>(std::move(library), media, m_frame.AddSurface(!isReady),
+        [heard = std::weak_ptr(onPlaying)] { TellLater(heard); });
+    auto* const player = open.Player();
+    if (player == nullptr)
+        return {};
+    if (!MayTrySound())
+        libvlc_audio_output_set(player, "adummy");
+    return open;
+}
+
+VlcLibrary VlcItems::NewLibrary()
+{
+    m_base.wait();
+    auto arguments = CommonArguments(m_plainOutput);
+    arguments.push_back("--sub-text-scale=" + std::to_string(m_subtitleScale));
+    VlcLibrary library{ m_log, StartLibrary(arguments) };
+    if (!library.instance)
+        library.instance = m_base.get();
+    m_log->Attach(library.instance.get());
+    return library;
+}
+
+void VlcItems::End(Open open)
+{
+    VlcItem::End(std::move(open.item), m_endings);
+}
+
+bool VlcItems::MayTrySound()
+{
+    const auto now = std::chrono::steady_clock::now();
+    // An item that has not ended yet can hold the device.
+    if (m_log->TakeSoundFailure() && !m_endings->AreAny())
+        m_silentUntil = now + kSoundPause;
+    return now >= m_silentUntil;
+}
+
+} // namespace zentaro
