@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
@@ -7,6 +9,9 @@
 namespace zentaro {
 
 class Player;
+
+/// The names of keys that a command can be given by, such as "Ctrl+Shift+T".
+template <std::size_t Count> using Keys = std::array<std::string_view, Count>;
 
 /// Where the focus must be for a command's keys to work.
 enum class KeyPlace {
@@ -30,7 +35,7 @@ struct Command {
     bool (*isChecked)(const Player& player) = nullptr;
     /// What ends it, for commands that last as long as they are held; null for all others.
     void (*release)(Player& player) = nullptr;
-    /// The key does it again and again while it is held.
+    /// Its key does it again and again while it is held.
     bool repeats = false;
     /// The command of the same effect whose key tooltips name; empty: its own.
     std::string_view shownKeyOf = {};
@@ -38,6 +43,13 @@ struct Command {
     /// What a list of all commands calls it where its caption does not do by itself; "-": it is not in the list.
     std::string_view name = {};
 };
+
+/// One whose key does it again and again while it is held.
+constexpr Command Repeated(std::string_view id, std::string_view caption, std::span<const std::string_view> keys,
+    void (*run)(Player&, int), bool (*isAvailable)(const Player&) = nullptr)
+{
+    return { .id = id, .caption = caption, .keys = keys, .run = run, .isAvailable = isAvailable, .repeats = true };
+}
 
 /// In the order in which a list of them is to be read.
 std::span<const Command> AllCommands();

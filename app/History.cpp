@@ -69,25 +69,20 @@ void History::AddNewest(const std::string& path, const std::string& title)
 
 void History::Replace(const Files& files)
 {
-    const auto fileAt = [&files](int slot) {
-        const auto at = static_cast<std::size_t>(slot);
-        return at < files.size() ? files[at] : std::pair<std::string, std::string>();
-    };
-    for (int slot = 0; slot < kHistorySlots; ++slot)
-        Fill(slot, fileAt(slot).second, fileAt(slot).first);
+    auto slots = files;
+    slots.resize(kHistorySlots);
+    for (int slot = 0; const auto& [path, title] : slots)
+        Fill(slot++, title, path);
     if (files.empty()) {
         Fill(0, kNoHistory, {});
         m_menus.SmartMenuXP1.SetEnabled(HistoryKey(0), false);
         m_menus.frmMenu.SetEnabled("mnuRecent", 0, false);
     }
-    m_background([this, files] {
+    m_background([this, slots = std::move(slots)] {
         const std::lock_guard storing(m_storing);
         m_store.BeginBatch();
-        for (int slot = 0; slot < kHistorySlots; ++slot) {
-            const auto at = static_cast<std::size_t>(slot);
-            const auto file = at < files.size() ? files[at] : std::pair<std::string, std::string>();
-            Write(slot, file.first, file.second);
-        }
+        for (int slot = 0; const auto& [path, title] : slots)
+            Write(slot++, path, title);
         IgnoreFailure(m_store.CommitBatch());
         return [] {};
     });

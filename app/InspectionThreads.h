@@ -1,9 +1,8 @@
 #pragma once
 
 #include "app/Background.h"
-#include "inspect/Inspection.h"
+#include "app/InspectionJobs.h"
 #include "playlist/AddQueue.h"
-#include "playlist/KnownFiles.h"
 
 #include <functional>
 #include <memory>
@@ -45,18 +44,15 @@ public:
     void CancelAll();
 
 private:
-    struct Job;
-    class Jobs;
-
-    std::shared_ptr<Job> MakeJob(const std::string& path);
+    std::shared_ptr<InspectionJob> MakeJob(const std::string& path);
 
     SharedContext m_context;
     std::string m_workingFolder;
     Post m_post;
     std::shared_ptr<KnownFiles> m_known;
-    std::shared_ptr<Job> m_expected;
+    std::shared_ptr<InspectionJob> m_expected;
     /// Shared with the threads, which may outlive this.
-    std::shared_ptr<Jobs> m_jobs;
+    std::shared_ptr<InspectionJobs> m_jobs;
     /// Results that are posted after the end find it gone.
     std::shared_ptr<InspectionThreads*> m_alive;
     int m_started = 0;

@@ -10,8 +10,6 @@ namespace zentaro {
 
 namespace {
 
-template <std::size_t Count> using Keys = std::array<std::string_view, Count>;
-
 constexpr Keys<1> kAltDown{ "Alt+Down" }, kAltReturn{ "Alt+Return" }, kAltUp{ "Alt+Up" }, kCtrlA{ "Ctrl+A" },
     kCtrlJ{ "Ctrl+J" }, kCtrlN{ "Ctrl+N" }, kBackspace{ "Backspace" }, kCtrlShiftT{ "Ctrl+Shift+T" },
     kCtrlShiftS{ "Ctrl+Shift+S" }, kCtrlZ{ "Ctrl+Z" }, kF3{ "F3" };
@@ -49,6 +47,17 @@ template <ListSort By> void Sort(Player& player, int)
     player.Editing().Sort(By);
 }
 
+template <Choice Kind> bool Has(const Player& player)
+{
+    return player.Choices().Has(Kind);
+}
+
+template <Choice Kind> void Switch(Player& player, int)
+{
+    player.Choices().Set(Kind, !player.Choices().Has(Kind));
+    player.Face().window->StateChanged();
+}
+
 constexpr std::array kCommands{
     Command{ "PlayNext", "Play &Next", kCtrlN, [](Player& player, int) { player.Editing().PlayNext(); }, IsAnyChosen },
     Command{ "ShowInFolder", "Show in &Folder", {},
@@ -69,8 +78,8 @@ constexpr std::array kCommands{
         [](const Player& player) { return player.Entries().Edits().CanRedo(); } },
     Command{ "SelectAll", "Select &All", kCtrlA,
         [](Player& player, int) { player.Entries().List().MarkOnly(0, player.Entries().Count()); }, HasEntries },
-    Command{ "MoveEntryUp", "Move U&p", kAltUp, MoveBy<-1>, IsAnyChosen, nullptr, nullptr, true },
-    Command{ "MoveEntryDown", "Move &Down", kAltDown, MoveBy<1>, IsAnyChosen, nullptr, nullptr, true },
+    Repeated("MoveEntryUp", "Move U&p", kAltUp, MoveBy<-1>, IsAnyChosen),
+    Repeated("MoveEntryDown", "Move &Down", kAltDown, MoveBy<1>, IsAnyChosen),
     Command{ "SortByName", "Sort by &Name", {}, Sort<ListSort::Name>, HasEntries },
     Command{ "SortByLength", "Sort by &Length", {}, Sort<ListSort::Length>, HasEntries },
     Command{ "SortByDate", "Sort by &Date", {}, Sort<ListSort::Date>, HasEntries },
@@ -87,14 +96,14 @@ constexpr std::array kCommands{
         [](const Player& player) { return player.Remembering().LastPlace() > 0; } },
     Command{ "StartOver", "Start &Over", {}, [](Player& player, int) { player.Remembering().StartOver(); },
         [](const Player& player) { return player.State().mediaControlsEnabled; } },
-    Command{ "Remember", "&Remember Lists and Places", {},
-        [](Player& player, int) { player.Remembering().SetRemembering(!player.Remembering().IsRemembering()); },
-        nullptr, [](const Player& player) { return player.Remembering().IsRemembering(); } },
-    Command{ "RememberRemovable", "Also of &Discs That Are Taken Out", {},
-        [](Player& player, int) {
-            player.Remembering().SetRemembersRemovable(!player.Remembering().RemembersRemovable());
-        },
-        nullptr, [](const Player& player) { return player.Remembering().RemembersRemovable(); } },
+    Command{ .id = "Remember",
+        .caption = "&Remember Lists and Places",
+        .run = [](Player& player, int) { player.Remembering().SetRemembering(!player.Remembering().IsRemembering()); },
+        .isChecked = [](const Player& player) { return player.Remembering().IsRemembering(); } },
+    Command{ .id = "RememberRemovable",
+        .caption = "Also of &Discs That Are Taken Out",
+        .run = Switch<Choice::RemembersRemovable>,
+        .isChecked = Has<Choice::RemembersRemovable> },
     Command{ "NeverRemember", "&Nothing in This Folder", {},
         [](Player& player, int) {
             if (const auto entry = player.Entries().SelectedEntry())
@@ -106,16 +115,19 @@ constexpr std::array kCommands{
             const auto entry = player.Entries().SelectedEntry();
             return entry && player.Remembering().IsFolderForgotten(entry->FullPath);
         } },
-    Command{ "CompactList", "&Low Rows", {},
-        [](Player& player, int) { player.Remembering().SetListCompact(!player.Remembering().IsListCompact()); },
-        nullptr, [](const Player& player) { return player.Remembering().IsListCompact(); } },
-    Command{ "FamiliarWays", "&Ways as in Other Players", {},
-        [](Player& player, int) {
-            const bool on = !player.Ways().isFamiliar;
-            player.Remembering().SetFamiliar(on);
-            player.Face().window->ShowNote(Words(on ? "Ways: Familiar" : "Ways: Zentaro's own"));
-        },
-        nullptr, [](const Player& player) { return player.Ways().isFamiliar; } },
+    Command{ .id = "CompactList",
+        .caption = "&Low Rows",
+        .run = Switch<Choice::LowRows>,
+        .isChecked = Has<Choice::LowRows> },
+    Command{ .id = "FamiliarWays",
+        .caption = "&Ways as in Other Players",
+        .run =
+            [](Player& player, int) {
+                const bool on = !player.Ways().isFamiliar;
+                player.SetFamiliarWays(on);
+                player.Face().window->ShowNote(Words(on ? "Ways: Familiar" : "Ways: Zentaro's own"));
+            },
+        .isChecked = [](const Player& player) { return player.Ways().isFamiliar; } },
     Command{ "ClearHistory", "Clear &Recent Files", {}, [](Player& player, int) { player.ClearHistory(); } },
     Command{ "ForgetEntry", "&Forget This Entry", {},
         [](Player& player, int) {

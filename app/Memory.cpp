@@ -1,7 +1,5 @@
 #include "app/Memory.h"
 
-#include "app/StateText.h"
-#include "base/Numbers.h"
 #include "base/Paths.h"
 #include "base/Words.h"
 #include "platform/Files.h"
@@ -12,13 +10,9 @@ namespace zentaro {
 
 namespace {
 
-using namespace std::chrono_literals;
-
-constexpr auto kDelay = 2s; // of a change until it is written: with the writing itself, less than five are lost
 constexpr const char* kListFile = "LastList.state";
 constexpr const char* kPlacesFile = "Places.state";
 constexpr const char* kPresentFile = "Present.state";
-constexpr std::string_view kHeader = "Zentaro present 1";
 constexpr std::size_t kLongest = 64 << 20; // bytes
 // A film that is begun anew keeps its old place for a minute: it may have been a mistake.
 constexpr double kSecondThought = 60'000; // ms
@@ -28,64 +22,24 @@ std::string PlaceText(double time)
     return DurationText(time / 1000);
 }
 
-std::string Format(const Present& present)
-{
-    StateWriter writer(kHeader);
-    writer.Row("now").Field(present.path).Number(present.time).Number(present.length);
-    writer.Row("volume").Number(present.volume);
-    writer.Row("list").Number(present.selected).Number(present.position);
-    writer.Row("remember").Number(present.isRemembering ? 1 : 0).Number(present.remembersRemovable ? 1 : 0);
-    writer.Row("ways").Number(present.isFamiliar ? 1 : 0).Number(present.isListCompact ? 1 : 0);
-    return writer.Take();
-}
-
-Present ParsePresent(std::string_view text)
-{
-    Present present;
-    for (const auto& row : ReadState(text, kHeader)) {
-        if (row[0] == "now") {
-            present.path = TextAt(row, 1);
-            present.time = std::max(0.0, NumberAt(row, 2));
-            present.length = std::max(0.0, NumberAt(row, 3));
-        } else if (row[0] == "volume") {
-            present.volume = std::clamp(RoundHalfEven(NumberAt(row, 1)), 0, 100);
-        } else if (row[0] == "list") {
-            present.selected = RoundHalfEven(NumberAt(row, 1));
-            present.position = RoundHalfEven(NumberAt(row, 2));
-        } else if (row[0] == "ways") {
-            present.isFamiliar = NumberAt(row, 1) != 0;
-            present.isListCompact = NumberAt(row, 2) != 0;
-        } else if (row[0] == "remember") {
-            present.isRemembering = NumberAt(row, 1) != 0;
-            present.remembersRemovable = NumberAt(row, 2) != 0;
-        }
-    }
-    return present;
-}
-
 } // namespace
 
 Memory::Memory(Needs needs, Rooms rooms)
     : m_needs(std::move(needs))
     , m_rooms(rooms)
+    , m_files({ m_needs.after, m_needs.runInBackground }, [this] { return TakeDirt(); })
     , m_isAlive(std::make_shared<bool>(true))
 {
-}
-
-void Memory::LoadChoices()
-{
-    m_present = m_shown.present =
-        ParsePresent(platform::ReadTextFile(m_needs.folder + kPresentFile, kLongest).value_or(""));
-    ApplyWays();
 }
 
 void Memory::Load()
 {
     const auto read = [](const std::string& path) { return platform::ReadTextFile(path, kLongest).value_or(""); };
+    m_present = m_shown.present = Present::Parse(read(m_needs.folder + kPresentFile));
     m_places = PlaceBook::Parse(read(m_needs.folder + kPlacesFile));
     m_places.SetTime(m_present.path, m_present.time, m_present.length);
     m_isLoaded = true;
-    if (m_present.isRemembering)
+    if (IsRemembering())
         m_rooms.transport.SetVolume(m_present.volume);
     m_needs.runInBackground([this, read, path = m_needs.folder + kListFile, alive = std::weak_ptr(m_isAlive)] {
         auto list = std::make_shared<RememberedList>(ParseList(read(path)));
@@ -106,8 +60,8 @@ void Memory::Load()
 
 bool Memory::MayKeep(const std::string& path) const
 {
-    return m_present.isRemembering && !m_places.IsNeverRemembered(path)
-        && (m_present.remembersRemovable || !m_needs.isRemovable(path));
+    return IsRemembering() && !m_places.IsNeverRemembered(path)
+        && (m_rooms.choices.Has(Choice::RemembersRemovable) || !m_needs.isRemovable(path));
 }
 
 void Memory::Look()
@@ -128,7 +82,8 @@ void Memory::Look()
         m_present.position = entries.Order().Position();
     }
     m_dirt.present = m_dirt.present || m_present != m_shown.present;
-    Schedule();
+    if (m_dirt.IsAny())
+        m_files.WriteSoon();
 }
 
 void Memory::Tick()
@@ -234,7 +189,7 @@ void Memory::ShowSeenFrom(int first)
 
 std::string Memory::LastTime() const
 {
-    if (!m_present.isRemembering || m_last.IsEmpty())
+    if (!IsRemembering() || m_last.IsEmpty())
         return {};
     const auto count = m_last.entries.size();
     auto text = count == 1 ? Words("Last time: 1 file") : Words("Last time: %1 files", { std::to_string(count) });
@@ -248,7 +203,7 @@ std::string Memory::LastTime() const
 
 void Memory::BringBack()
 {
-    if (!m_present.isRemembering || m_last.IsEmpty())
+    if (!IsRemembering() || m_last.IsEmpty())
         return;
     const auto present = m_present;
     const auto last = std::exchange(m_last, {});
@@ -275,39 +230,11 @@ void Memory::StartOver()
     m_rooms.transport.Seek(0);
 }
 
-void Memory::ApplyWays()
-{
-    m_rooms.settings.SetWays({ m_present.isFamiliar });
-    m_rooms.library.TakeAllMedia(m_rooms.settings.ChosenWays().TakesAllMedia());
-    m_rooms.transport.LetEngineEndItems(m_rooms.settings.ChosenWays().EngineEndsItems());
-}
-
-void Memory::SetFamiliar(bool on)
-{
-    m_present.isFamiliar = on;
-    ApplyWays();
-    Look();
-    m_rooms.face.window->StateChanged();
-}
-
-void Memory::SetListCompact(bool on)
-{
-    m_present.isListCompact = on;
-    Look();
-    m_rooms.face.window->StateChanged();
-}
-
 void Memory::SetRemembering(bool on)
 {
     if (!on)
         ForgetAll();
-    m_present.isRemembering = on;
-    Look();
-}
-
-void Memory::SetRemembersRemovable(bool on)
-{
-    m_present.remembersRemovable = on;
+    m_rooms.choices.Set(Choice::Remembers, on);
     Look();
 }
 
@@ -333,7 +260,7 @@ void Memory::ForgetAll()
     ShowSeenFrom(0);
     Look();
     m_dirt = { .noList = true, .places = true, .present = true };
-    Schedule();
+    m_files.WriteSoon();
     m_rooms.face.window->StateChanged();
 }
 
@@ -353,20 +280,9 @@ void Memory::ForgetFolderOf(const std::string& path, bool never)
     Look();
 }
 
-void Memory::Schedule()
+std::vector<StateFiles::File> Memory::TakeDirt()
 {
-    if (m_isScheduled || !m_dirt.IsAny())
-        return;
-    m_isScheduled = true;
-    m_needs.after(kDelay, [this, alive = std::weak_ptr(m_isAlive)] {
-        if (!alive.expired())
-            Write();
-    });
-}
-
-std::vector<std::pair<std::string, std::function<std::string()>>> Memory::TakeDirt()
-{
-    std::vector<std::pair<std::string, std::function<std::string()>>> texts;
+    std::vector<StateFiles::File> texts;
     if (m_dirt.noList) {
         texts.push_back({ m_needs.folder + kListFile, [] { return FormatList({}); } });
     } else if (m_dirt.list) {
@@ -377,26 +293,10 @@ std::vector<std::pair<std::string, std::function<std::string()>>> Memory::TakeDi
     if (m_dirt.places)
         texts.push_back({ m_needs.folder + kPlacesFile, [places = m_places] { return places.Format(); } });
     if (m_dirt.present)
-        texts.push_back({ m_needs.folder + kPresentFile, [present = m_present] { return Format(present); } });
+        texts.push_back({ m_needs.folder + kPresentFile, [present = m_present] { return present.Format(); } });
     m_shown.present = m_present;
     m_dirt = {};
     return texts;
-}
-
-void Memory::Write()
-{
-    const auto texts = TakeDirt();
-    m_needs.runInBackground([this, texts, alive = std::weak_ptr(m_isAlive)] {
-        for (const auto& [path, text] : texts)
-            IgnoreFailure(platform::ReplaceTextFile(path, text()));
-        // Only now the next: two that write at once could end in the wrong order.
-        return [this, alive] {
-            if (alive.expired())
-                return;
-            m_isScheduled = false;
-            Schedule();
-        };
-    });
 }
 
 void Memory::SaveNow()
@@ -404,8 +304,7 @@ void Memory::SaveNow()
     if (!m_isLoaded)
         return;
     Look();
-    for (const auto& [path, text] : TakeDirt())
-        IgnoreFailure(platform::ReplaceTextFile(path, text()));
+    m_files.WriteNow();
 }
 
 } // namespace zentaro

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "app/ListMemory.h"
+#include "app/OwnChoices.h"
 #include "app/PlaceBook.h"
 #include "app/PlayerFace.h"
+#include "app/Present.h"
 #include "app/Sequencer.h"
+#include "app/StateFiles.h"
 
 #include <chrono>
 #include <cstdint>
@@ -15,21 +18,6 @@
 #include <vector>
 
 namespace zentaro {
-
-/// What was in hand when the player was used last.
-struct Present {
-    std::string path; ///< of what was played last
-    double time = 0;  ///< ms
-    double length = 0;
-    int volume = 100;
-    int selected = -1;
-    int position = -1; ///< in the play order
-    bool isRemembering = true;
-    bool remembersRemovable = false;
-    bool isFamiliar = false;
-    bool isListCompact = false;
-    bool operator==(const Present&) const = default;
-};
 
 /// Remembers over the end of the player, and over its death, what was in the list and how far each film was seen. It
 /// offers that, and does nothing by itself but to bring the volume back. What it keeps lies in files of its own.
@@ -44,6 +32,7 @@ public:
         std::function<bool(const std::string& path)> isRemovable = [](const std::string&) { return false; };
     };
     struct Rooms {
+        OwnChoices& choices;
         SettingsStore& settings;
         Transport& transport;
         Library& library;
@@ -52,8 +41,6 @@ public:
     };
     Memory(Needs needs, Rooms rooms);
 
-    /// Reads what the user has chosen; nothing is kept yet.
-    void LoadChoices();
     /// Reads what was kept; from now on it is kept up to date. The list comes beside the window.
     void Load();
     /// The player may have changed: what is new will be kept within a few seconds.
@@ -77,16 +64,9 @@ public:
     void GoToLastPlace();
     void StartOver();
 
-    /// The rows are low, so that more of them are in sight.
-    bool IsListCompact() const { return m_present.isListCompact; }
-    void SetListCompact(bool on);
-    /// Which ways the user knows.
-    void SetFamiliar(bool on);
-    bool IsRemembering() const { return m_present.isRemembering; }
+    bool IsRemembering() const { return m_rooms.choices.Has(Choice::Remembers); }
     /// Off: everything is forgotten, too.
     void SetRemembering(bool on);
-    bool RemembersRemovable() const { return m_present.remembersRemovable; }
-    void SetRemembersRemovable(bool on);
     void Forget(const std::string& path);
     void ForgetAll();
     bool IsFolderForgotten(const std::string& path) const { return m_places.IsNeverRemembered(path); }
@@ -100,14 +80,10 @@ private:
     };
     bool MayKeep(const std::string& path) const;
     void Begin(Engine& engine);
-    void ApplyWays();
     void KeepPlace(Engine& engine);
     void KeepTracks(Engine& engine);
     void ShowSeenFrom(int first);
-    void Schedule();
-    void Write();
-    /// The texts that are to be written, by the names of their files.
-    std::vector<std::pair<std::string, std::function<std::string()>>> TakeDirt();
+    std::vector<StateFiles::File> TakeDirt();
 
     /// The item that is loaded.
     struct Item {
@@ -116,7 +92,6 @@ private:
         double oldest = 0;             // ms: what plays before it does not count yet
         int audio = Place::kNotChosen; // the tracks it began with
         int subtitle = Place::kNotChosen;
-        bool isBegun = false;
     };
     /// What the files and rows show already.
     struct Shown {
@@ -128,6 +103,7 @@ private:
 
     Needs m_needs;
     Rooms m_rooms;
+    StateFiles m_files;
     PlaceBook m_places;
     RememberedList m_last;
     Present m_present;
@@ -136,7 +112,6 @@ private:
     Shown m_shown;
     std::optional<double> m_goTo; // ms, as soon as the item plays
     bool m_isLoaded = false;
-    bool m_isScheduled = false;
     std::shared_ptr<bool> m_isAlive;
 };
 

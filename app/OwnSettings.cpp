@@ -1,5 +1,6 @@
 #include "app/OwnSettings.h"
 
+#include "app/StateText.h"
 #include "platform/Files.h"
 
 #include <charconv>
@@ -21,32 +22,6 @@ std::optional<int> WholeNumber(std::string_view text)
     int number = 0;
     const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
     return failure == std::errc() && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
-}
-
-/// A line holds no line break.
-std::string ToLine(std::string_view text)
-{
-    std::string line;
-    for (const char c : text) {
-        if (c == '\\' || c == '\n' || c == '\r')
-            line += '\\';
-        line += c == '\n' ? 'n' : c == '\r' ? 'r' : c;
-    }
-    return line;
-}
-
-std::string FromLine(std::string_view line)
-{
-    std::string text;
-    for (std::size_t i = 0; i < line.size(); ++i) {
-        if (line[i] != '\\' || i + 1 == line.size()) {
-            text += line[i];
-            continue;
-        }
-        const char c = line[++i];
-        text += c == 'n' ? '\n' : c == 'r' ? '\r' : c;
-    }
-    return text;
 }
 
 struct Content {
@@ -75,7 +50,7 @@ std::optional<Content> Parse(std::string_view text)
         const auto mark = line.find('=');
         if (mark == line.npos || mark == 0)
             return std::nullopt;
-        content.texts[std::string(line.substr(0, mark))] = FromLine(line.substr(mark + 1));
+        content.texts[std::string(line.substr(0, mark))] = Unescaped(line.substr(mark + 1));
     }
     return std::nullopt;
 }
@@ -104,7 +79,7 @@ Result<void> OwnSettings::Save()
         return Error{ 0, m_path + " cannot be replaced" };
     std::string text = std::string(kMark) + std::to_string(kVersion) + '\n';
     for (const auto& [key, value] : m_texts)
-        text += key + '=' + ToLine(value) + '\n';
+        text += key + '=' + Escaped(value) + '\n';
     auto written = platform::ReplaceTextFile(m_path, text + std::string(kEnd) + '\n');
     m_isChanged = !written;
     return written;

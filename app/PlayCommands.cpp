@@ -9,8 +9,6 @@ namespace zentaro {
 
 namespace {
 
-template <std::size_t Count> using Keys = std::array<std::string_view, Count>;
-
 constexpr Keys<1> kB{ "B" }, kCtrlE{ "Ctrl+E" }, kCtrlMinus{ "Ctrl+-" }, kCtrlPlus{ "Ctrl++" },
     kCtrlShiftDown{ "Ctrl+Shift+Down" }, kCtrlShiftUp{ "Ctrl+Shift+Up" }, kCtrlT{ "Ctrl+T" }, kG{ "G" }, kH{ "H" },
     kK{ "K" }, kMinus{ "-" }, kPeriod{ "." }, kPlus{ "+" }, kR{ "R" }, kShiftH{ "Shift+H" }, kShiftK{ "Shift+K" };
@@ -45,28 +43,25 @@ template <void (PlayTools::*Act)()> void Do(Player& player, int)
 }
 
 constexpr std::array kCommands{
-    Command{ "FasterALittle", "A Little &Faster", kCtrlShiftUp, StepRate<1>, IsLoaded, nullptr, nullptr, true },
-    Command{ "SlowerALittle", "A Little &Slower", kCtrlShiftDown, StepRate<-1>, IsLoaded, nullptr, nullptr, true },
-    Command{ "NextFrame", "Next Pi&cture", kPeriod, Do<&PlayTools::NextFrame>, HasVideo, nullptr, nullptr, true },
+    Repeated("FasterALittle", "A Little &Faster", kCtrlShiftUp, StepRate<1>, IsLoaded),
+    Repeated("SlowerALittle", "A Little &Slower", kCtrlShiftDown, StepRate<-1>, IsLoaded),
+    Repeated("NextFrame", "Next Pi&cture", kPeriod, Do<&PlayTools::NextFrame>, HasVideo),
     Command{ "MarkLoop", "Again and Again from Here, to Here", kB, Do<&PlayTools::MarkLoop>, IsLoaded },
     Command{ "JumpToTime", "&Go to a Time...", kG, Do<&PlayTools::AskForTime>, IsLoaded },
-    Command{ "SubtitlesLater", "Subtitles Later", kH, Change<&PlayTools::ShiftSubtitles, kShift>, HasVideo, nullptr,
-        nullptr, true },
-    Command{ "SubtitlesEarlier", "Subtitles Earlier", kShiftH, Change<&PlayTools::ShiftSubtitles, -kShift>, HasVideo,
-        nullptr, nullptr, true },
+    Repeated("SubtitlesLater", "Subtitles Later", kH, Change<&PlayTools::ShiftSubtitles, kShift>, HasVideo),
+    Repeated("SubtitlesEarlier", "Subtitles Earlier", kShiftH, Change<&PlayTools::ShiftSubtitles, -kShift>, HasVideo),
     Command{ "LargerSubtitles", "Larger Subtitles", kCtrlPlus, Change<&PlayTools::ScaleSubtitles, kLetters>, HasVideo },
     Command{
         "SmallerSubtitles", "Smaller Subtitles", kCtrlMinus, Change<&PlayTools::ScaleSubtitles, -kLetters>, HasVideo },
-    Command{
-        "SoundLater", "Sound Later", kK, Change<&PlayTools::ShiftSound, kShift>, IsLoaded, nullptr, nullptr, true },
-    Command{ "SoundEarlier", "Sound Earlier", kShiftK, Change<&PlayTools::ShiftSound, -kShift>, IsLoaded, nullptr,
-        nullptr, true },
-    Command{ "MoreThanFullVolume", "Louder Than the File", kPlus, Change<&PlayTools::Boost, kBoost>, IsLoaded, nullptr,
-        nullptr, true },
-    Command{ "BackToFullVolume", "Back towards the Full Volume", kMinus, Change<&PlayTools::Boost, -kBoost>, IsLoaded,
-        nullptr, nullptr, true },
-    Command{ "ShowRemaining", "Show the Time That Is Left", kR, Do<&PlayTools::ToggleRemaining>, nullptr,
-        [](const Player& player) { return player.Tools().ShowsRemaining(); } },
+    Repeated("SoundLater", "Sound Later", kK, Change<&PlayTools::ShiftSound, kShift>, IsLoaded),
+    Repeated("SoundEarlier", "Sound Earlier", kShiftK, Change<&PlayTools::ShiftSound, -kShift>, IsLoaded),
+    Repeated("MoreThanFullVolume", "Louder Than the File", kPlus, Change<&PlayTools::Boost, kBoost>, IsLoaded),
+    Repeated("BackToFullVolume", "Back towards the Full Volume", kMinus, Change<&PlayTools::Boost, -kBoost>, IsLoaded),
+    Command{ .id = "ShowRemaining",
+        .caption = "Show the Time That Is Left",
+        .keys = kR,
+        .run = Do<&PlayTools::ToggleRemaining>,
+        .isChecked = [](const Player& player) { return player.Tools().ShowsRemaining(); } },
     Command{ "StopAfterThis", "Stop After This &One", kCtrlE,
         [](Player& player, int) {
             const bool stops = !player.Sequence().StopsAfterThis();
@@ -74,8 +69,11 @@ constexpr std::array kCommands{
             player.Face().window->ShowNote(Words(stops ? "Stops after this one" : "Goes on after this one"));
         },
         IsLoaded, [](const Player& player) { return player.Sequence().StopsAfterThis(); } },
-    Command{ "SleepTimer", "Stop by the Cloc&k", kCtrlT, Do<&PlayTools::NextSleepTime>, nullptr,
-        [](const Player& player) { return player.Tools().SleepTime() > 0; } },
+    Command{ .id = "SleepTimer",
+        .caption = "Stop by the Cloc&k",
+        .keys = kCtrlT,
+        .run = Do<&PlayTools::NextSleepTime>,
+        .isChecked = [](const Player& player) { return player.Tools().SleepTime() > 0; } },
 };
 
 } // namespace

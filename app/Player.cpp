@@ -24,6 +24,7 @@ constexpr const char* kNotKept = "Config.cfg cannot be read at the moment: the s
 Player::Player(PlayerWorld world)
     : m_world(std::move(world))
     , m_keys(m_world.own)
+    , m_choices(m_world.own)
     , m_settings(m_world.settingsFolder, m_world.separator)
     , m_transport(
           m_world.engines, [this](bool fullScreen) { m_face.window->SetFullScreen(fullScreen); }, *this)
@@ -35,7 +36,7 @@ Player::Player(PlayerWorld world)
     , m_editor({ m_settings, m_transport, m_library, m_menus, m_face, [this] { m_memory.Look(); } })
     , m_memory(
           { m_world.settingsFolder, m_world.separator, m_world.after, m_world.runInBackground, m_world.isRemovable },
-          { m_settings, m_transport, m_library, m_sequencer, m_face })
+          { m_choices, m_settings, m_transport, m_library, m_sequencer, m_face })
     , m_tools({ m_world.engines, m_transport, m_library, m_sequencer, m_memory, m_face, m_world.after })
     , m_instance(m_world.handOver, m_world.store, m_world.separator)
     , m_associations(m_world.associations, m_world.associationStore, m_world.separator)
@@ -66,7 +67,7 @@ bool Player::Load(const std::string& commandLine, PlayerFace face)
     m_sequencer.SetPlayMode(Settings().PlayMode);
     m_sequencer.SetRepeatMode(Settings().RepeatMode);
     m_sequencer.DoAfter(0);
-    m_memory.LoadChoices();
+    ApplyWays();
     if (!m_instance.BecomePlayer(
             ReadCommandLine(commandLine, m_world.fileExists), Settings().UseNewPlayer != 0, Ways().TakesAllMedia()))
         return false;
@@ -94,6 +95,20 @@ void Player::LoadConfigurations()
 {
     m_settings.LoadConfigurations(m_face.window->Extent());
     m_window.SetLoadedOptions();
+}
+
+void Player::ApplyWays()
+{
+    m_settings.SetWays({ m_choices.Has(Choice::FamiliarWays) });
+    m_library.TakeAllMedia(Ways().TakesAllMedia());
+    m_transport.LetEngineEndItems(Ways().EngineEndsItems());
+}
+
+void Player::SetFamiliarWays(bool on)
+{
+    m_choices.Set(Choice::FamiliarWays, on);
+    ApplyWays();
+    m_face.window->StateChanged();
 }
 
 void Player::OpenStartupFile()

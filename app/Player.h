@@ -4,6 +4,7 @@
 #include "app/KeyMap.h"
 #include "app/ListEditor.h"
 #include "app/Memory.h"
+#include "app/OwnChoices.h"
 #include "app/OwnSettings.h"
 #include "app/PlayTools.h"
 #include "app/Sequencer.h"
@@ -79,6 +80,8 @@ public:
     /// A text has come from a later start; `done` is called when its file is open or refused.
     void ReceiveText(const std::string& text, platform::HandOverDone done);
 
+    /// Which ways the user knows.
+    void SetFamiliarWays(bool on);
     const zentaro::Ways& Ways() const { return m_settings.ChosenWays(); }
     void ClearHistory() { m_history.Clear(); }
     const PlayerSettings& Settings() const { return m_settings.Settings(); }
@@ -98,12 +101,15 @@ public:
     WindowControl& Window() { return m_window; }
     KeyMap& Keys() { return m_keys; }
     OwnSettings& Own() { return m_world.own; }
+    OwnChoices& Choices() { return m_choices; }
+    const OwnChoices& Choices() const { return m_choices; }
     Menus& BothMenus() { return m_menus; }
     Associations& Types() { return m_associations; }
     const PlayerFace& Face() const { return m_face; }
 
 private:
     void LoadConfigurations();
+    void ApplyWays();
     void OpenStartupFile();
     void StartIsOver();
 
@@ -127,6 +133,7 @@ private:
     PlayerFace m_face;
     Menus m_menus;
     KeyMap m_keys;
+    OwnChoices m_choices;
     SettingsStore m_settings;
     Transport m_transport;
     Library m_library;
@@ -139,8 +146,8 @@ private:
     PlayTools m_tools;
     SingleInstance m_instance;
     Associations m_associations;
-    bool m_starting = true;
-    bool m_wasAdding = false; // the window's geometry is not recorded until the start is over
+    bool m_starting = true; // the window's geometry is not recorded until the start is over
+    bool m_wasAdding = false;
 };
 
 } // namespace zentaro

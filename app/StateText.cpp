@@ -12,20 +12,6 @@ namespace {
 
 constexpr std::string_view kEnd = "end\n";
 
-std::string Unescaped(std::string_view field)
-{
-    std::string text;
-    for (std::size_t i = 0; i < field.size(); ++i) {
-        if (field[i] != '\\' || i + 1 == field.size()) {
-            text += field[i];
-            continue;
-        }
-        const char next = field[++i];
-        text += next == 't' ? '\t' : next == 'n' ? '\n' : next == 'r' ? '\r' : next;
-    }
-    return text;
-}
-
 std::vector<std::string> Fields(std::string_view line)
 {
     std::vector<std::string> fields;
@@ -40,6 +26,31 @@ std::vector<std::string> Fields(std::string_view line)
 
 } // namespace
 
+std::string Escaped(std::string_view text)
+{
+    std::string escaped;
+    for (const char c : text) {
+        if (c == '\\' || c == '\t' || c == '\n' || c == '\r')
+            escaped += '\\';
+        escaped += c == '\t' ? 't' : c == '\n' ? 'n' : c == '\r' ? 'r' : c;
+    }
+    return escaped;
+}
+
+std::string Unescaped(std::string_view field)
+{
+    std::string text;
+    for (std::size_t i = 0; i < field.size(); ++i) {
+        if (field[i] != '\\' || i + 1 == field.size()) {
+            text += field[i];
+            continue;
+        }
+        const char next = field[++i];
+        text += next == 't' ? '\t' : next == 'n' ? '\n' : next == 'r' ? '\r' : next;
+    }
+    return text;
+}
+
 StateWriter::StateWriter(std::string_view header)
     : m_text(header)
 {
@@ -53,12 +64,7 @@ StateWriter& StateWriter::Row(std::string_view word)
 
 StateWriter& StateWriter::Field(std::string_view text)
 {
-    m_text += '\t';
-    for (const char c : text) {
-        if (c == '\\' || c == '\t' || c == '\n' || c == '\r')
-            m_text += '\\';
-        m_text += c == '\t' ? 't' : c == '\n' ? 'n' : c == '\r' ? 'r' : c;
-    }
+    m_text.append("\t").append(Escaped(text));
     return *this;
 }
 

@@ -6,6 +6,10 @@
 
 namespace zentaro {
 
+/// As part of a line: a backslash marks what would end the line or a field of it.
+std::string Escaped(std::string_view text);
+std::string Unescaped(std::string_view escaped);
+
 /// Rows of fields, as the player's own state is kept: a line each, fields between tabs.
 class StateWriter {
 public:

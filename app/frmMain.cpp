@@ -5,6 +5,7 @@
 #include "app/ContentPane.h"
 #include "app/ControlPanel.h"
 #include "app/FocusAreas.h"
+#include "app/ListHand.h"
 #include "app/ListMenu.h"
 #include "app/Player.h"
 #include "app/VideoHand.h"
@@ -26,28 +27,21 @@
 #include "shell/SkinButton.h"
 #include "shell/Style.h"
 
+#include <QContextMenuEvent>
 #include <QGuiApplication>
 #include <QHelpEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QToolTip>
 
-#include <chrono>
+#include <algorithm>
 #include <utility>
 
 namespace zentaro {
 
 namespace {
 
-using namespace std::chrono_literals;
-
 constexpr double kTwipsPerPixel = 15;
-// The list's rows, in pixels.
-constexpr int kRow = 80;
-constexpr int kPadding = 8;
-constexpr int kCompactRow = 46;
-constexpr int kCompactPadding = 4;
-constexpr auto kProgressDelay = 700ms;
 
 } // namespace
 
@@ -62,6 +56,7 @@ frmMain::frmMain(Player& player, VideoFrame* video, const QString& programFolder
     , m_bar(new FullScreenBar(
           m_skin, [this] { return m_controls->ButtonStates(); }, this))
     , m_menus(new WindowMenus(player, *this))
+    , m_listHand(std::make_unique<ListHand>(player, *m_list, *m_menus))
     , m_notes(new WindowNotes(player, *video, *m_content))
     , m_caption(kProgramName)
 {
@@ -78,10 +73,6 @@ frmMain::frmMain(Player& player, VideoFrame* video, const QString& programFolder
     connect(this, &WindowFrame::FillsScreenChanged, this, &frmMain::FillsScreenNow);
     connect(this, &WindowFrame::NormalSizeChanged, this,
         [this](int width, int height) { m_player.WindowResized(width, height); });
-    m_progressDelay.setSingleShot(true);
-    m_progressDelay.setInterval(kProgressDelay);
-    connect(&m_progressDelay, &QTimer::timeout, this, [this] { m_list->ShowAddProgress(m_progress); });
-    MakeList();
     MakeMenus();
     m_areas = new FocusAreas({ *this, *m_video, *m_list, *m_content, *m_controls, *m_bar });
     PlaceParts();
@@ -90,28 +81,6 @@ frmMain::frmMain(Player& player, VideoFrame* video, const QString& programFolder
 }
 
 frmMain::~frmMain() = default;
-
-void frmMain::MakeList()
-{
-    m_list->SetImageWidth(64);
-    m_list->SetImageHeight(64);
-    m_list->SetItemHeight(80);
-    m_list->setObjectName("FancyList1");
-    connect(m_list, &FancyList::Click, this, [this] { m_player.Sequence().ListClicked(); });
-    connect(m_list, &FancyList::DblClick, this, [this] { m_player.Sequence().ListDoubleClicked(); });
-    connect(m_list, &FancyList::MouseDown, this, [this](Qt::MouseButton button, Qt::KeyboardModifiers, int x, int y) {
-        if (button != Qt::RightButton)
-            return;
-        m_player.Sequence().ListRightPressed(m_list->Layout().RowAt(y));
-        m_menus->Popup("mnuPlayListmenu", m_list->mapToGlobal(QPoint(x, y)));
-    });
-    connect(m_list, &FancyList::CancelAdding, this, [this] { m_player.Files().CancelAdding(); });
-    connect(m_list, &FancyList::CardTaken, this, [this] { RunCommand(m_player, "BringBack"); });
-    connect(m_list, &FancyList::RowsDragged, this, [this](int to) { m_player.Editing().MoveTo(to); });
-    connect(m_list, &FancyList::MenuAsked, this, [this](const QPoint& at) { m_menus->PopupListMenu(at); });
-    connect(m_list, &FancyList::OLEDragDrop, this,
-        [this](const QMimeData* dropped) { m_player.Files().DropOnList(DroppedPaths(*dropped)); });
-}
 
 void frmMain::MakeMenus()
 {
@@ -168,6 +137,35 @@ void frmMain::FlashCaption()
     platform::FlashWindowOnce(winId());
 }
 
+void frmMain::Do(WindowAction action)
+{
+    switch (action) {
+    case WindowAction::Minimize:
+        return showMinimized();
+    case WindowAction::ToggleMaximized:
+        return ToggleMaximized();
+    case WindowAction::ContextMenu:
+        return ShowMenuOfFocus();
+    case WindowAction::OpenMenuStrip:
+        return m_strip->OpenFirst();
+    case WindowAction::NextArea:
+        return m_areas->Step(1);
+    case WindowAction::PreviousArea:
+        return m_areas->Step(-1);
+    }
+}
+
+void frmMain::ShowMenuOfFocus()
+{
+    if (!m_list->hasFocus()) {
+        const auto& over = m_video->isVisible() ? static_cast<QWidget&>(*m_video) : *this;
+        return ShowVideoMenu(*this, m_player, over.mapToGlobal(over.rect().center()), true);
+    }
+    const auto row = m_list->Layout().RowRect(std::max(m_list->SelectedItem(), 0));
+    const auto at = QPoint(row.left + 40, std::clamp(row.bottom, 0, m_list->height()));
+    m_menus->Popup("mnuPlayListmenu", m_list->mapToGlobal(at), true);
+}
+
 void frmMain::FocusVideo()
 {
     m_video->setFocus();
@@ -212,8 +210,7 @@ void frmMain::StateChanged()
     // A messenger reads the settings, too, and is to stay unseen.
     if (isVisible())
         m_menus->ShowTray(m_player.Window().HasTrayIcon());
-    ShowAddProgress();
-    ShowList();
+    m_listHand->Show();
     m_notes->ShowState(FillsScreen() && !m_bar->isVisible());
     m_timers.Follow();
     m_bar->update();
@@ -226,34 +223,6 @@ void frmMain::ShowCaption()
     // Qt takes a lone "[*]" for its mark of changed documents.
     if (std::exchange(m_caption, caption) != caption)
         setWindowTitle(QString(caption).replace("[*]", "[*][*]"));
-}
-
-void frmMain::ShowList()
-{
-    m_list->SetCard(ToQString(m_player.Remembering().LastTime()));
-    if (const auto revision = m_player.Entries().Revision(); std::exchange(m_toldRevision, revision) != revision)
-        m_list->SetFoot(ToQString(SummaryText(m_player.Entries())));
-    const bool isCompact = m_player.Remembering().IsListCompact();
-    if (std::exchange(m_isCompact, isCompact) == isCompact)
-        return;
-    m_list->SetPadding(isCompact ? kCompactPadding : kPadding);
-    const int side = (isCompact ? kCompactRow : kRow) - 2 * m_list->Padding();
-    m_list->SetImageWidth(side);
-    m_list->SetImageHeight(side);
-    m_list->SetItemHeight(isCompact ? kCompactRow : kRow);
-}
-
-void frmMain::ShowAddProgress()
-{
-    const auto progress = m_player.Files().Adding();
-    if (std::exchange(m_progress, progress) == progress)
-        return;
-    platform::ShowProgress(winId(), progress.current, progress.total);
-    // One file is opened in a moment; the line comes only when that moment grows long.
-    if (progress.total == 1)
-        m_progressDelay.start();
-    else
-        m_list->ShowAddProgress(progress);
 }
 
 void frmMain::PlaceParts()
@@ -332,6 +301,22 @@ void frmMain::wheelEvent(QWheelEvent* event)
     // What the controls of full screen leave over belongs to the video around them.
     if (FillsScreen())
         m_notes->TurnVolume(event->angleDelta().y());
+}
+
+void frmMain::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard)
+        ShowMenuOfFocus();
+}
+
+bool frmMain::focusNextPrevChild(bool next)
+{
+    // In full screen the controls are out of sight until they are asked for.
+    if (FillsScreen() && !m_bar->isVisible()) {
+        m_areas->Step(next ? 1 : -1);
+        return true;
+    }
+    return WindowFrame::focusNextPrevChild(next);
 }
 
 void frmMain::changeEvent(QEvent* event)

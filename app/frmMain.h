@@ -3,12 +3,9 @@
 #include "app/PlayerFace.h"
 #include "app/PlayerTimers.h"
 #include "app/WindowFrame.h"
-#include "playlist/AddQueue.h"
 #include "shell/Skin.h"
 
 #include <memory>
-
-class QMimeData;
 
 namespace zentaro {
 
@@ -17,6 +14,7 @@ class ControlPanel;
 class FancyList;
 class FocusAreas;
 class FullScreenBar;
+class ListHand;
 class MenuStrip;
 class Player;
 class VideoFrame;
@@ -68,14 +66,11 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void MakeList();
     void MakeMenus();
     void PlaceParts();
     void FillsScreenNow(bool fills);
     void ShowMenuOfFocus();
     void ShowCaption();
-    void ShowAddProgress();
-    void ShowList();
     void ShowTip(bool isOnCaption, const QPoint& at);
 
     Player& m_player;
@@ -88,13 +83,10 @@ private:
     ControlPanel* m_controls;
     FullScreenBar* m_bar;
     std::unique_ptr<WindowMenus> m_menus;
+    std::unique_ptr<ListHand> m_listHand;
     std::unique_ptr<WindowNotes> m_notes;
     FocusAreas* m_areas = nullptr;
     MenuStrip* m_strip = nullptr;
-    QTimer m_progressDelay;
-    AddProgress m_progress;
-    std::uint64_t m_toldRevision = 0;
-    bool m_isCompact = false;
     QString m_caption;
     PlaylistDock m_dock = PlaylistDock::Hidden;
     bool m_isTopmost = false;

@@ -112,6 +112,7 @@ std::optional<Inspection> UnpackInspection(std::string_view packed, const FileSt
     inspection.ok = true;
     unpacker.Get(inspection.mediaInfo);
     unpacker.Get(inspection.pictureFile);
+    inspection.isPictureKept = !inspection.pictureFile.empty();
     unpacker.Get(inspection.facts.duration);
     unpacker.Get(inspection.facts.width);
     unpacker.Get(inspection.facts.height);

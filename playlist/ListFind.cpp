@@ -1,5 +1,7 @@
 #include "playlist/ListFind.h"
 
+#include "playlist/ListText.h"
+
 #include <algorithm>
 #include <cstdint>
 
@@ -12,27 +14,6 @@ constexpr std::string_view kPlainLatin = "aaaaaa.ceeeeiiii.nooooo.ouuuuy..aaaaaa
                                          "aaaaaaccccccccddddeeeeeeeeeegggggggghhhhiiiiiiiiii..jjkkklllllll"
                                          "lllnnnnnn...oooooo..rrrrrrssssssssttttttuuuuuuuuuuuuwwyyyzzzzzzs";
 constexpr std::uint32_t kLatin = 0xC0;
-
-struct Letter {
-    std::uint32_t code = 0;
-    std::size_t length = 1; // bytes
-};
-
-/// The next character; a byte that belongs to none stands for itself.
-Letter TakeLetter(std::string_view text)
-{
-    const auto lead = static_cast<unsigned char>(text[0]);
-    const std::size_t length = lead < 0xC2 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : lead < 0xF5 ? 4 : 1;
-    if (length == 1 || length > text.size())
-        return { lead < 0x80 ? std::uint32_t{ lead } : 0xFFFDU, 1 };
-    std::uint32_t code = lead & (0xFFU >> (length + 1));
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((static_cast<unsigned char>(text[i]) & 0xC0) != 0x80)
-            return { 0xFFFD, 1 };
-        code = (code << 6) | (static_cast<unsigned char>(text[i]) & 0x3F);
-    }
-    return { code, length };
-}
 
 std::uint32_t Folded(std::uint32_t code)
 {
@@ -68,7 +49,7 @@ std::string Folded(std::string_view text, std::vector<std::size_t>* places = nul
     std::string folded;
     folded.reserve(text.size());
     for (std::size_t at = 0; at < text.size();) {
-        const auto letter = TakeLetter(text.substr(at));
+        const auto letter = FirstLetter(text.substr(at));
         Append(folded, Folded(letter.code));
         if (places != nullptr)
             places->resize(folded.size(), at);

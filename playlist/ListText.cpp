@@ -89,24 +89,34 @@ std::string LowerAscii(std::string_view text)
     return lower;
 }
 
+Letter FirstLetter(std::string_view text)
+{
+    constexpr Letter none{ 0xFFFD, 1 };
+    const auto lead = static_cast<unsigned char>(text[0]);
+    if (lead < 0x80)
+        return { lead, 1 };
+    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
+    if (lead < 0xC2 || lead > 0xF4 || length > text.size())
+        return none;
+    std::uint32_t code = lead & (0xFFU >> (length + 1));
+    for (std::size_t i = 1; i < length; ++i) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        if ((byte & 0xC0) != 0x80)
+            return none;
+        code = (code << 6) | (byte & 0x3F);
+    }
+    constexpr std::array<std::uint32_t, 5> least{ 0, 0, 0x80, 0x800, 0x10000 };
+    const bool isCharacter = code >= least[length] && code <= 0x10FFFF && (code < 0xD800 || code >= 0xE000);
+    return isCharacter ? Letter{ code, length } : none;
+}
+
 bool IsUtf8(std::string_view text)
 {
-    for (std::size_t i = 0; i < text.size();) {
-        const auto lead = static_cast<unsigned char>(text[i]);
-        const std::size_t length = lead < 0x80 ? 1 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-        if ((lead >= 0x80 && lead < 0xC2) || lead > 0xF4 || i + length > text.size())
+    while (!text.empty()) {
+        const auto letter = FirstLetter(text);
+        if (letter.code == 0xFFFD && letter.length == 1)
             return false;
-        std::uint32_t code = length == 1 ? lead : lead & (0xFFU >> (length + 1));
-        for (std::size_t k = 1; k < length; ++k) {
-            const auto byte = static_cast<unsigned char>(text[i + k]);
-            if ((byte & 0xC0) != 0x80)
-                return false;
-            code = (code << 6) | (byte & 0x3F);
-        }
-        constexpr std::array<std::uint32_t, 5> least{ 0, 0, 0x80, 0x800, 0x10000 };
-        if (code < least[length] || code > 0x10FFFF || (code >= 0xD800 && code < 0xE000))
-            return false;
-        i += length;
+        text.remove_prefix(letter.length);
     }
     return true;
 }

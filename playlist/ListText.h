@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -8,6 +10,13 @@ namespace zentaro {
 /// Letters of ASCII in small.
 std::string LowerAscii(std::string_view text);
 
+/// A character in UTF-8.
+struct Letter {
+    std::uint32_t code = 0;
+    std::size_t length = 1; ///< bytes
+};
+/// The first one of a text that is not empty; a byte that belongs to none stands for itself, as U+FFFD.
+Letter FirstLetter(std::string_view text);
 bool IsUtf8(std::string_view text);
 /// Every byte is a character.
 std::string FromLatin1(std::string_view text);

@@ -127,9 +127,8 @@ void LoadThumb::TakePicture(Inspection inspection)
 
 void LoadThumb::PlayLastEntry()
 {
-    int row = m_playlist.Count() - 1;
-    for (int i = 0; m_host.PlaysListedInPlace() && i < m_playlist.Count(); ++i)
-        row = m_playlist.PathAt(i) == m_request.path ? i : row;
+    const auto listed = m_host.PlaysListedInPlace() ? m_playlist.IndexOfPath(m_request.path) : std::nullopt;
+    const int row = listed.value_or(m_playlist.Count() - 1);
     m_playlist.List().SetSelectedItem(row);
     m_host.PlayItem(row, m_request.playFlag);
 }

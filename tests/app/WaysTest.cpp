@@ -9,7 +9,7 @@ protected:
     Player& StartFamiliar(int count, std::int32_t playMode, std::int32_t repeatMode)
     {
         auto& player = StartWithEntries(0, playMode, repeatMode);
-        player.Remembering().SetFamiliar(true);
+        player.SetFamiliarWays(true);
         for (int i = 0; i < count; ++i)
             Add(std::string("/") + static_cast<char>('a' + i) + ".avi", i == 0);
         return player;
@@ -107,7 +107,7 @@ TEST_F(WaysTest, only_the_engine_ends_an_item)
 TEST_F(WaysTest, recent_files_stand_newest_first_once_and_can_be_cleared)
 {
     Store([](PlayerSettings& settings) { settings.KeepHistory = 1; });
-    Start().Remembering().SetFamiliar(true);
+    Start().SetFamiliarWays(true);
     Add("/b.avi", true);
     Add("/a.avi", true);
     Run("Previous");

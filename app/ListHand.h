@@ -1,0 +1,37 @@
+#pragma once
+
+#include "playlist/AddQueue.h"
+
+#include <QTimer>
+
+#include <cstdint>
+
+namespace zentaro {
+
+class FancyList;
+class Player;
+class WindowMenus;
+
+/// The list's widget in the player's hands: it shows the entries and passes on what is done with them.
+class ListHand {
+public:
+    ListHand(Player& player, FancyList& list, WindowMenus& menus);
+
+    /// The player's state may be new.
+    void Show();
+
+private:
+    void PassOn();
+    void ShowRowHeight(bool isCompact);
+    void ShowAddProgress();
+
+    Player& m_player;
+    FancyList& m_list;
+    WindowMenus& m_menus;
+    QTimer m_progressDelay;
+    AddProgress m_progress;
+    std::uint64_t m_toldRevision = 0;
+    bool m_isCompact = false;
+};
+
+} // namespace zentaro

@@ -1,0 +1,39 @@
+#include "app/OwnChoices.h"
+
+#include "app/OwnSettings.h"
+
+#include <string_view>
+
+namespace zentaro {
+
+namespace {
+
+std::string_view KeyOf(Choice choice)
+{
+    switch (choice) {
+    case Choice::Remembers:
+        return "choice.remembers";
+    case Choice::RemembersRemovable:
+        return "choice.remembersRemovable";
+    case Choice::LowRows:
+        return "choice.lowRows";
+    case Choice::FamiliarWays:
+        return "choice.familiarWays";
+    }
+    return {};
+}
+
+} // namespace
+
+bool OwnChoices::Has(Choice choice) const
+{
+    return m_settings.Number(KeyOf(choice), choice == Choice::Remembers ? 1 : 0, 0, 1) != 0;
+}
+
+void OwnChoices::Set(Choice choice, bool on)
+{
+    m_settings.Set(KeyOf(choice), on ? "1" : "0");
+    IgnoreFailure(m_settings.Save());
+}
+
+} // namespace zentaro
