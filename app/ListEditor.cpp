@@ -1,6 +1,7 @@
 #include "app/ListEditor.h"
 
 #include "base/Words.h"
+
 #include <algorithm>
 #include <numeric>
 #include <string>

@@ -146,12 +146,13 @@ std::string PlayTools::TimeText() const
 {
     const auto& state = m_rooms.transport.State();
     const auto* const engine = m_rooms.transport.LoadedEngine();
-    const bool isTime = !state.timeText.empty() && state.timeText[0] >= '0' && state.timeText[0] <= '9';
-    if (!m_showsRemaining || !isTime || engine == nullptr || state.length <= 0)
+    // Before it plays and after, a word can stand there.
+    const bool isTime = engine != nullptr && state.length > 0
+        && state.timeText == TimeLabelText(std::max(state.elapsed, 0.0), state.length);
+    if (!m_showsRemaining || !isTime)
         return state.timeText;
-    const auto total = state.timeText.find(" / ");
     const double left = std::max(0.0, state.length - state.elapsed);
-    return total == std::string::npos ? state.timeText : "-" + TimeOf(left) + state.timeText.substr(total);
+    return "-" + TimeOf(left) + " / " + zentaro::TimeText(RoundHalfEven(state.length / 1000));
 }
 
 void PlayTools::ToggleRemaining()

@@ -200,6 +200,8 @@ TEST_F(Controls, TheBarOfFullScreenComesWithThePointerAndRestsWithIt)
     Screen().Press("Escape");
     EXPECT_TRUE(WaitUntil([&] { return player.Place() == before; }));
     EXPECT_FALSE(ShowsBar(player));
+    // The buttons have gone with the bar and come back with it.
+    EXPECT_TRUE(WaitUntil([&] { return MeanOf(Screen().Grab(player.Video())).value() < 40; })) << "not stopped";
     EXPECT_CLOSES_CLEANLY(player);
 }
 
