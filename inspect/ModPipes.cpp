@@ -203,6 +203,13 @@ Result<void> ExecuteAndCapture(const ToolCommand& command, const std::string& lo
     std::ofstream log(logFile, std::ios::binary | std::ios::app);
     if (!Capture(**child, log, convertMode, context, command.limit))
         return Error{ kToolHangs, "The tool does not end." };
+    if (!log) {
+        // What kept it from being written is forgotten by now; a further try says it again.
+        log.clear();
+        errno = 0;
+        log.put('\n').flush();
+        return FileError(errno);
+    }
     errno = 0;
     log.close();
     return log ? Result<void>() : FileError(errno);

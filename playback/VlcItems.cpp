@@ -17,7 +17,7 @@ namespace {
 
 constexpr auto kSoundPause = std::chrono::seconds(30);
 /// What an item before may take to end: it holds the sound device, or the drive. Nearly all need less.
-constexpr auto kEndingWait = std::chrono::milliseconds(50);
+constexpr auto kEndingWait = std::chrono::milliseconds(30);
 constexpr auto kLastWait = std::chrono::seconds(1);
 
 std::shared_ptr<libvlc_instance_t> StartLibrary(const std::vector<std::string>& arguments)
