@@ -19,13 +19,13 @@ constexpr int kLongStep = 30000; // ms
 constexpr int kVolumeStep = 5;   // percent
 
 constexpr Keys<1> kCtrlPageDown{ "Ctrl+PgDown" }, kCtrlPageUp{ "Ctrl+PgUp" };
-constexpr Keys<1> kCtrlD{ "Ctrl+D" }, kCtrlF{ "Ctrl+F" }, kCtrlL{ "Ctrl+L" }, kCtrlLeft{ "Ctrl+Left" },
-    kCtrlM{ "Ctrl+M" }, kCtrlO{ "Ctrl+O" }, kCtrlP{ "Ctrl+P" }, kCtrlR{ "Ctrl+R" }, kCtrlReturn{ "Ctrl+Return" },
-    kCtrlRight{ "Ctrl+Right" }, kCtrlS{ "Ctrl+S" }, kCtrlShiftM{ "Ctrl+Shift+M" }, kCtrlShiftP{ "Ctrl+Shift+P" },
-    kDown{ "Down" }, kEscape{ "Esc" }, kF1{ "F1" }, kF6{ "F6" }, kF10{ "F10" }, kLeft{ "Left" }, kM{ "M" },
-    kPageDown{ "PgDown" }, kPageUp{ "PgUp" }, kRight{ "Right" }, kS{ "S" }, kShiftF6{ "Shift+F6" },
-    kShiftF10{ "Shift+F10" }, kShiftLeft{ "Shift+Left" }, kShiftRight{ "Shift+Right" }, kSpace{ "Space" }, kT{ "T" },
-    kUp{ "Up" };
+constexpr Keys<1> kCtrlD{ "Ctrl+D" }, kCtrlF7{ "Ctrl+F7" }, kCtrlF8{ "Ctrl+F8" }, kCtrlF{ "Ctrl+F" },
+    kCtrlL{ "Ctrl+L" }, kCtrlLeft{ "Ctrl+Left" }, kCtrlM{ "Ctrl+M" }, kCtrlO{ "Ctrl+O" }, kCtrlP{ "Ctrl+P" },
+    kCtrlR{ "Ctrl+R" }, kCtrlReturn{ "Ctrl+Return" }, kCtrlRight{ "Ctrl+Right" }, kCtrlS{ "Ctrl+S" },
+    kCtrlShiftM{ "Ctrl+Shift+M" }, kCtrlShiftP{ "Ctrl+Shift+P" }, kDown{ "Down" }, kEscape{ "Esc" }, kF1{ "F1" },
+    kF6{ "F6" }, kF10{ "F10" }, kLeft{ "Left" }, kM{ "M" }, kPageDown{ "PgDown" }, kPageUp{ "PgUp" }, kRight{ "Right" },
+    kS{ "S" }, kShiftF6{ "Shift+F6" }, kShiftF10{ "Shift+F10" }, kShiftLeft{ "Shift+Left" },
+    kShiftRight{ "Shift+Right" }, kSpace{ "Space" }, kT{ "T" }, kUp{ "Up" };
 constexpr Keys<2> kEnter{ "Return", "Enter" }, kExit{ "Ctrl+X", "Ctrl+Q" }, kF{ "F", "F11" }, kFaster{ "Ctrl+Up", "]" },
     kSlower{ "Ctrl+Down", "[" };
 // The first one is the key of the menu's item; these have none of its own.
@@ -271,6 +271,8 @@ constexpr std::array kCommands{
         .keys = kCtrlShiftM,
         .run = Ask<WindowAction::ToggleMaximized>,
         .name = "Maximize or Restore" },
+    Command{ "MoveWindow", "Move the Window by the Arrows", kCtrlF7, Ask<WindowAction::Move> },
+    Command{ "ResizeWindow", "Resize the Window by the Arrows", kCtrlF8, Ask<WindowAction::Resize> },
 
     // The classic tree's, which leave the command tree's items as they are.
     Command{ .id = "AddFiles",

@@ -4,15 +4,20 @@
 
 #include <QSplitter>
 
+class QMouseEvent;
+
 namespace zentaro {
 
-/// The video and the list beside it, with a splitter between them.
+class VideoFrame;
+
+/// The video and the list beside it, with a splitter between them. The splitter is narrow; it can be taken hold of on
+/// the video's edge, too, where nothing else is pressed.
 class ContentPane : public QSplitter {
     Q_OBJECT
 
 public:
     /// Takes both over.
-    ContentPane(QWidget& video, QWidget& list, QWidget* parent);
+    ContentPane(VideoFrame& video, QWidget& list, QWidget* parent);
 
     /// Takes this place and puts the list where it is docked; while the window is filled with the video, and where
     /// there is no room for both, there is no list.
@@ -22,12 +27,18 @@ public:
 
 protected:
     QSplitterHandle* createHandle() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QWidget& m_video;
+    bool IsInReach(const QMouseEvent& event) const;
+    /// Passes it on to the splitter.
+    bool Grip(const QMouseEvent& event);
+
+    VideoFrame& m_video;
     QWidget& m_list;
     PlaylistDock m_splitFor = PlaylistDock::Hidden; // the docking that the splitter stands for
     bool m_isSplitByHand = false;
+    bool m_isGripped = false; // on the video's edge
 };
 
 } // namespace zentaro

@@ -159,7 +159,7 @@ void ControlPanel::PlaceOnWindow(const WindowLayout& layout)
     PlaceSliders(m_window, layout);
     m_rate->setGeometry(ToQt(layout.RateLabel()));
     for (const auto& [button, widget] : m_buttons)
-        Place(widget, m_window, layout.ButtonRect(button));
+        Place(widget, m_window, layout.PressRect(button));
 }
 
 void ControlPanel::PlaceOnBar(FullScreenBar& bar, int width)

@@ -126,9 +126,12 @@ void Dialogs::AskForListName(std::function<void(std::string)> chosen)
 {
     auto* const dialog = new QFileDialog(&m_window, ToQString(Words("Save List As")));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setNameFilters({ "M3U list (*.m3u8 *.m3u)", "PLS list (*.pls)", "XSPF list (*.xspf)" });
+    const auto kind = [](const char* name, const char* patterns) {
+        return ToQString(Words("%1 list", { name })) + patterns;
+    };
+    dialog->setNameFilters({ kind("M3U", " (*.m3u8 *.m3u)"), kind("PLS", " (*.pls)"), kind("XSPF", " (*.xspf)") });
     const auto suffix = [dialog](const QString& filter) {
-        dialog->setDefaultSuffix(filter.startsWith("PLS") ? "pls" : filter.startsWith("XSPF") ? "xspf" : "m3u8");
+        dialog->setDefaultSuffix(filter.contains("*.pls") ? "pls" : filter.contains("*.xspf") ? "xspf" : "m3u8");
     };
     QObject::connect(dialog, &QFileDialog::filterSelected, dialog, suffix);
     suffix({});
@@ -185,8 +188,8 @@ void Dialogs::AskForTime(const std::string& present, std::function<void(std::str
 {
     auto* const dialog = new QInputDialog(&m_window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowTitle("Go to a Time");
-    dialog->setLabelText("Hours, minutes and seconds, such as 1:02:30");
+    dialog->setWindowTitle(ToQString(Words("Go to a Time")));
+    dialog->setLabelText(ToQString(Words("Hours, minutes and seconds, such as 1:02:30")));
     dialog->setTextValue(ToQString(present).section(" / ", 0, 0));
     QObject::connect(dialog, &QDialog::finished, &m_window, [dialog, chosen = std::move(chosen)](int result) {
         chosen(result == QDialog::Accepted ? ToText(dialog->textValue()) : std::string());
@@ -199,7 +202,7 @@ void Dialogs::ShowFolderOf(const std::string& path)
     const auto name = FileNamePart(path, platform::PathSeparator());
     const auto folder = path.substr(0, path.size() - name.size());
     if (!platform::OpenDocument(folder))
-        Say("There is no program that shows the folder:\r\n" + folder);
+        Say(Words("There is no program that shows the folder:") + "\r\n" + folder);
 }
 
 void Dialogs::ShowOptions()

@@ -20,14 +20,14 @@ class OwnTexts : public QTranslator {
 public:
     using QTranslator::QTranslator;
 
-    QString translate(const char* context, const char* text, const char*, int) const override
+    QString translate(const char* context, const char* text, const char*, int count) const override
     {
         const bool isOurs = QByteArrayView(context).startsWith("zentaro::");
-        return isOurs ? QTranslator::translate(kContext, text) : QString();
+        return isOurs ? QTranslator::translate(kContext, text, nullptr, count) : QString();
     }
-    std::string Find(std::string_view english) const
+    std::string Find(std::string_view english, std::optional<int> count) const
     {
-        return ToText(QTranslator::translate(kContext, std::string(english).c_str()));
+        return ToText(QTranslator::translate(kContext, std::string(english).c_str(), nullptr, count.value_or(-1)));
     }
 };
 
@@ -61,7 +61,7 @@ std::string SpeakLanguage(QCoreApplication& application, const std::string& chos
     if (toolkit->load("qtbase_" + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(toolkit);
     QCoreApplication::installTranslator(own);
-    SetTranslator([own](std::string_view english) { return own->Find(english); });
+    SetTranslator([own](std::string_view english, std::optional<int> count) { return own->Find(english, count); });
     return ToText(language);
 }
 

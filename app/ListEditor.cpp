@@ -49,8 +49,7 @@ void ListEditor::OfferUndo(int removed)
 {
     if (removed == 0)
         return;
-    const auto text =
-        removed == 1 ? Words("Removed one entry") : Words("Removed %1 entries", { std::to_string(removed) });
+    const auto text = CountedWords(removed, "Removed one entry", "Removed %n entries");
     m_rooms.face.window->ShowOffer(text, "UndoListEdit");
 }
 
@@ -105,7 +104,7 @@ void ListEditor::PlayNext()
     if (PlayMode() == kPlayShuffle)
         Entries().Order().PutNext(next);
     m_rooms.face.window->ShowNote(moved == 1 ? Words("Plays next: %1", { list.Item(next.front()).Text })
-                                             : Words("%1 entries play next", { std::to_string(moved) }));
+                                             : CountedWords(moved, "", "%n entries play next"));
 }
 
 void ListEditor::Undo()

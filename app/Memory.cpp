@@ -191,8 +191,8 @@ std::string Memory::LastTime() const
 {
     if (!IsRemembering() || m_last.IsEmpty())
         return {};
-    const auto count = m_last.entries.size();
-    auto text = count == 1 ? Words("Last time: 1 file") : Words("Last time: %1 files", { std::to_string(count) });
+    auto text =
+        CountedWords(static_cast<long long>(m_last.entries.size()), "Last time: %n file", "Last time: %n files");
     const auto played =
         std::ranges::find_if(m_last.entries, [&](const auto& entry) { return entry.entry.FullPath == m_present.path; });
     if (played == m_last.entries.end())

@@ -168,7 +168,7 @@ void PlayTools::NextSleepTime()
     m_sleep = std::make_shared<int>(m_sleepTime);
     if (m_sleepTime == 0)
         return Note(Words("Plays on, whatever the clock says"));
-    Note(Words("Stops in %1 minutes", { std::to_string(m_sleepTime) }));
+    Note(CountedWords(m_sleepTime, "Stops in %n minute", "Stops in %n minutes"));
     m_rooms.after(std::chrono::minutes(m_sleepTime), [this, sleep = std::weak_ptr(m_sleep)] {
         if (sleep.expired())
             return;

@@ -18,6 +18,8 @@ enum class WindowAction {
     OpenMenuStrip,
     NextArea, ///< the focus goes to the next part of the window
     PreviousArea,
+    Move, ///< by the arrows, until Enter
+    Resize,
 };
 
 /// The main window, as the player knows it.

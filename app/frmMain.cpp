@@ -152,6 +152,10 @@ void frmMain::Do(WindowAction action)
         return m_areas->Step(1);
     case WindowAction::PreviousArea:
         return m_areas->Step(-1);
+    case WindowAction::Move:
+    case WindowAction::Resize:
+        if (!FillsScreen() && !isMaximized())
+            platform::GrabByKeys(winId(), action == WindowAction::Resize);
     }
 }
 

@@ -172,8 +172,8 @@ int main(int argc, char** argv)
     OwnSettings own(WithTrailingSeparator(platform::SettingsFolder(), separator) + "Own.cfg");
     own.Load();
     const auto display = ReadDisplay(own);
-    if (display.scale != 100)
-        qputenv("QT_SCALE_FACTOR", QByteArray::number(display.scale / 100.0));
+    if (const auto scale = ScaleOf(display); scale > 1)
+        qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
     // Qt takes words of its own from the command line; all of ours belong to the file.
     int ownArgument = 1;
     QApplication application(ownArgument, argv);
@@ -183,7 +183,8 @@ int main(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
     const auto programFolder = WithTrailingSeparator(platform::ExecutableFolder(), separator);
     SpeakLanguage(application, display.language, ToQString(programFolder + "languages" + separator));
-    style::Apply(application, { display.highContrast, display.lessMotion });
+    const bool isAllChosen = display.highContrast && display.lessMotion;
+    style::Apply(application, NeedsOf(display, isAllChosen ? platform::Wishes() : platform::SystemWishes()));
     const auto workingFolder = MakeFolderOfThisRun();
     const auto store = platform::StringStore::Open();
     const auto historyStore = platform::StringStore::Open();

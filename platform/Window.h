@@ -42,6 +42,9 @@ void ShowProgress(NativeWindow window, int done, int total);
 /// Keeps the (shown) window above all others, or no longer. Its place, size and focus stay.
 void SetTopmost(NativeWindow window, bool topmost);
 
+/// From now on the arrows move the window or its edges, until Enter or Esc: the system does it.
+void GrabByKeys(NativeWindow window, bool resizes);
+
 /// Draws the user's attention to the window once; it is not brought to the front.
 void FlashWindowOnce(NativeWindow window);
 

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <sys/socket.h>
@@ -36,8 +37,9 @@ xcb_atom_t AtomOf(xcb_connection_t* connection, const char* name)
     return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
 }
 
-/// Asks the window manager; where there is none, or no display, nobody is asked.
-void RequestState(NativeWindow window, std::uint32_t action, const char* state)
+/// Asks the window manager with up to five values, of which some are names; where there is none, or no display, nobody
+/// is asked.
+void Request(NativeWindow window, const char* what, const std::function<void(xcb_connection_t*, std::uint32_t*)>& fill)
 {
     if (window == 0)
         return;
@@ -53,15 +55,22 @@ void RequestState(NativeWindow window, std::uint32_t action, const char* state)
     message.response_type = XCB_CLIENT_MESSAGE;
     message.format = 32;
     message.window = id;
-    message.type = AtomOf(connection.get(), "_NET_WM_STATE");
-    message.data.data32[0] = action;
-    message.data.data32[1] = AtomOf(connection.get(), state);
-    message.data.data32[3] = kFromApplication;
+    message.type = AtomOf(connection.get(), what);
+    fill(connection.get(), message.data.data32);
     const auto cookie = xcb_send_event_checked(connection.get(), 0, geometry->root,
         XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
         reinterpret_cast<const char*>(&message));
     // Waiting for the check keeps the connection open until the message has gone out.
     const Reply<xcb_generic_error_t> error(xcb_request_check(connection.get(), cookie));
+}
+
+void RequestState(NativeWindow window, std::uint32_t action, const char* state)
+{
+    Request(window, "_NET_WM_STATE", [&](xcb_connection_t* connection, std::uint32_t* values) {
+        values[0] = action;
+        values[1] = AtomOf(connection, state);
+        values[3] = kFromApplication;
+    });
 }
 
 std::string Variable(const char* name)
@@ -136,6 +145,17 @@ void SetTopmost(NativeWindow window, bool topmost)
 void FlashWindowOnce(NativeWindow window)
 {
     RequestState(window, kAddState, "_NET_WM_STATE_DEMANDS_ATTENTION");
+}
+
+void GrabByKeys(NativeWindow window, bool resizes)
+{
+    // Values of the window manager protocol's _NET_WM_MOVERESIZE message.
+    constexpr std::uint32_t kSizeByKeys = 9;
+    constexpr std::uint32_t kMoveByKeys = 10;
+    Request(window, "_NET_WM_MOVERESIZE", [&](xcb_connection_t*, std::uint32_t* values) {
+        values[2] = resizes ? kSizeByKeys : kMoveByKeys;
+        values[4] = kFromApplication;
+    });
 }
 
 bool HasGraphicsCard()

@@ -243,6 +243,11 @@ void FlashWindowOnce(NativeWindow window)
 }
 
 // Direct3D brings a software renderer of its own and chooses by itself.
+void GrabByKeys(NativeWindow window, bool resizes)
+{
+    PostMessageW(HandleOf(window), WM_SYSCOMMAND, resizes ? SC_SIZE : SC_MOVE, 0);
+}
+
 bool HasGraphicsCard()
 {
     return true;

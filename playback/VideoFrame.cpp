@@ -44,10 +44,10 @@ void PaintIdleMark(QPainter& painter, const QRectF& stage)
     glow.setColorAt(1, QColor(0x0B, 0x0C, 0x0F));
     painter.fillRect(stage, glow);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(QColor(0x45, 0x4B, 0x56), 2));
+    painter.setPen(QPen(QColor(0x70, 0x78, 0x85), 2));
     painter.drawEllipse(middle, kMarkRadius, kMarkRadius);
-    painter.setPen(QPen(QColor(0x5A, 0x61, 0x6C), 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setBrush(QColor(0x5A, 0x61, 0x6C));
+    painter.setPen(QPen(QColor(0x70, 0x78, 0x85), 3, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(QColor(0x70, 0x78, 0x85));
     const QPolygonF triangle{ { -5.5, -10 }, { 11, 0 }, { -5.5, 10 } };
     painter.drawPolygon(triangle.translated(middle));
 }
@@ -277,9 +277,11 @@ void VideoFrame::KeepBelow()
         m_surface->lower();
 }
 
-void VideoFrame::ShowPointer(bool shown)
+void VideoFrame::ShowPointerAs(Qt::CursorShape shape)
 {
-    m_pointer = shown ? Qt::ArrowCursor : Qt::BlankCursor;
+    if (m_pointer == shape)
+        return;
+    m_pointer = shape;
     // Windows of their own take none from a widget without one.
     for (auto* const part : std::initializer_list<QWidget*>{ this, m_logo, m_surface }) {
         if (part != nullptr)

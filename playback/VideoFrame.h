@@ -95,7 +95,8 @@ public:
     void Forget(const VideoSurface& surface);
     void ShowAudioLogo(bool shown);
     /// Whether the pointer is seen over the video.
-    void ShowPointer(bool shown);
+    void ShowPointer(bool shown) { ShowPointerAs(shown ? Qt::ArrowCursor : Qt::BlankCursor); }
+    void ShowPointerAs(Qt::CursorShape shape);
 
 signals:
     /// The mark that stands on the empty stage was clicked.

@@ -13,7 +13,7 @@ class QPainter;
 namespace zentaro {
 
 /// The one warm light: progress, focus, the mark of the entry being played.
-inline constexpr QRgb kWarmLight = 0xFFFFB020;
+inline QRgb kWarmLight = 0xFFFFB020;
 
 enum class ScrollBarLook { Normal, Over, Press };
 

@@ -1,6 +1,7 @@
 #include "playlist/FoundFiles.h"
 
 #include "base/Paths.h"
+#include "base/Words.h"
 #include "platform/Files.h"
 #include "playlist/ListFile.h"
 #include "playlist/MediaTypes.h"
@@ -71,8 +72,8 @@ std::string MissingText(const FoundFiles& found)
 {
     if (found.unreadable == 0)
         return {};
-    return std::to_string(found.unreadable) + " of " + std::to_string(found.listed)
-        + (found.listed == 1 ? " entry" : " entries") + " could not be found";
+    return CountedWords(found.listed, "%1 of %n entry could not be found", "%1 of %n entries could not be found",
+        { std::to_string(found.unreadable) });
 }
 
 } // namespace zentaro

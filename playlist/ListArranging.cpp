@@ -1,6 +1,7 @@
 #include "playlist/ListArranging.h"
 
 #include "base/Paths.h"
+#include "base/Words.h"
 #include "playlist/DroppedFiles.h"
 #include "playlist/LoadThumb.h"
 
@@ -62,7 +63,7 @@ std::string SummaryText(const Playlist& playlist)
     double length = 0;
     for (int row = 0; row < playlist.Count(); ++row)
         length += std::max(0.0, playlist.FactsAt(row).duration);
-    const auto count = playlist.Count() == 1 ? std::string("1 file") : std::to_string(playlist.Count()) + " files";
+    const auto count = CountedWords(playlist.Count(), "%n file", "%n files");
     return length > 0 ? count + " \u00B7 " + DurationText(length) : count;
 }
 

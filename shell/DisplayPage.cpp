@@ -45,13 +45,16 @@ DisplayPage::DisplayPage(const DisplayChoices& choices, std::function<void(const
     form->setVerticalSpacing(12);
     form->addRow(tr("&Language:"), language);
     form->addRow(tr("Si&ze of everything:"), scale);
+    AddWish(*form, tr("&Contrast:"), tr("Usual"), tr("High"), &DisplayChoices::highContrast);
+    AddWish(*form, tr("&Motion:"), tr("Usual"), tr("Less"), &DisplayChoices::lessMotion);
     auto* const all = new QVBoxLayout(this);
     all->setContentsMargins(20, 16, 20, 12);
     all->setSpacing(9);
     all->addLayout(form);
     all->addSpacing(9);
-    AddFlag(tr("Hi&gh contrast"), &DisplayChoices::highContrast);
-    AddFlag(tr("Less &motion"), &DisplayChoices::lessMotion);
+    auto* const fingers = new QCheckBox(tr("Larger controls, for &fingers"));
+    fingers->setChecked(choices.forFingers);
+    all->addWidget(fingers);
     all->addSpacing(9);
     auto* const note = SecondText(tr("What is chosen here counts from the next start on."));
     note->setWordWrap(true);
@@ -65,17 +68,24 @@ DisplayPage::DisplayPage(const DisplayChoices& choices, std::function<void(const
         m_choices.scale = scale->currentData().toInt();
         emit Changed();
     });
-}
-
-void DisplayPage::AddFlag(const QString& text, bool DisplayChoices::*field)
-{
-    auto* const box = new QCheckBox(text);
-    box->setChecked(m_choices.*field);
-    connect(box, &QCheckBox::toggled, this, [this, field](bool on) {
-        m_choices.*field = on;
+    connect(fingers, &QCheckBox::toggled, this, [this](bool on) {
+        m_choices.forFingers = on;
         emit Changed();
     });
-    layout()->addWidget(box);
+}
+
+void DisplayPage::AddWish(QFormLayout& form, const QString& text, const QString& no, const QString& yes,
+    std::optional<bool> DisplayChoices::*field)
+{
+    auto* const box = new QComboBox;
+    box->addItems({ tr("As the system"), no, yes });
+    const auto& chosen = m_choices.*field;
+    box->setCurrentIndex(chosen ? 1 + *chosen : 0);
+    connect(box, &QComboBox::currentIndexChanged, this, [this, field](int row) {
+        m_choices.*field = row > 0 ? std::optional(row > 1) : std::nullopt;
+        emit Changed();
+    });
+    form.addRow(text, box);
 }
 
 void DisplayPage::Commit()

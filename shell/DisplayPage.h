@@ -3,16 +3,20 @@
 #include "shell/OptionsPage.h"
 
 #include <functional>
+#include <optional>
 #include <string>
+
+class QFormLayout;
 
 namespace zentaro {
 
 /// How the window is shown to those who need it otherwise. All of it counts from the next start on.
 struct DisplayChoices {
-    std::string language; ///< "de"; empty: the system's
-    int scale = 100;      ///< percent
-    bool highContrast = false;
-    bool lessMotion = false;
+    std::string language;             ///< "de"; empty: the system's
+    int scale = 100;                  ///< percent
+    std::optional<bool> highContrast; ///< nothing: as the system has it; so in the next
+    std::optional<bool> lessMotion;
+    bool forFingers = false; ///< nothing that is pressed is smaller than 32 pixels
     bool operator==(const DisplayChoices&) const = default;
 };
 
@@ -27,7 +31,8 @@ public:
     void Commit() override;
 
 private:
-    void AddFlag(const QString& text, bool DisplayChoices::*field);
+    void AddWish(QFormLayout& form, const QString& text, const QString& no, const QString& yes,
+        std::optional<bool> DisplayChoices::*field);
 
     DisplayChoices m_choices;
     DisplayChoices m_taken;

@@ -28,16 +28,20 @@ public:
     }
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
-        if (option.state & QStyle::State_Selected)
+        const bool isSelected = option.state & QStyle::State_Selected;
+        const auto colour = [&](const QColor& usual) {
+            return isSelected && style::HasHighContrast() ? style::kSelected : usual;
+        };
+        if (isSelected)
             painter->fillRect(option.rect, style::kSelection);
-        if ((option.state & QStyle::State_Selected) && option.widget->hasFocus())
+        if (isSelected && option.widget->hasFocus())
             painter->fillRect(option.rect.left(), option.rect.top(), 3, option.rect.height(), style::kLight);
         const auto place = option.rect.adjusted(kEdge, 0, -kEdge, 0);
         const auto keys = index.data(kKeys).toString();
         painter->setFont(option.font);
-        painter->setPen(style::kSecondText);
+        painter->setPen(colour(style::kSecondText));
         painter->drawText(place, Qt::AlignVCenter | Qt::AlignRight, keys);
-        painter->setPen(index.flags().testFlag(Qt::ItemIsEnabled) ? style::kText : style::kSecondText);
+        painter->setPen(colour(index.flags().testFlag(Qt::ItemIsEnabled) ? style::kText : style::kSecondText));
         const int room = place.width() - option.fontMetrics.horizontalAdvance(keys) - kEdge;
         const auto name = index.data(Qt::DisplayRole).toString();
         painter->drawText(

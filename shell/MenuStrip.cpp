@@ -43,7 +43,7 @@ void MenuStrip::paintEvent(QPaintEvent*)
             painter.setBrush(isOpen ? style::kSelection : style::kRaisedHigh);
             painter.drawRoundedRect(place, kCornerRadius, kCornerRadius);
         }
-        painter.setPen(isOpen ? style::kLight : style::kText);
+        painter.setPen(!isOpen ? style::kText : style::HasHighContrast() ? style::kSelected : style::kLight);
         painter.drawText(place, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine, action->text());
     }
 }

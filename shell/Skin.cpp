@@ -34,11 +34,23 @@ QImage WithHighContrast(const QImage& picture)
     constexpr int kBlackBelow = 0x48;
     constexpr int kGain = 3;
     const auto stretch = [](int part) { return std::clamp((part - kBlackBelow) * kGain, 0, 255); };
+    // From the background to the text: on a user's light background the signs are dark.
+    const auto between = [](int from, int to, int share) { return from + (to - from) * share / 255; };
+    const auto from = style::kBase.rgb();
+    const auto to = style::kText.rgb();
+    const bool isOurs = from == qRgb(0, 0, 0) && to == qRgb(255, 255, 255);
     auto result = picture.convertToFormat(QImage::Format_ARGB32);
     for (int y = 0; y < result.height(); ++y) {
         auto* const line = reinterpret_cast<QRgb*>(result.scanLine(y));
-        for (int x = 0; x < result.width(); ++x)
-            line[x] = qRgba(stretch(qRed(line[x])), stretch(qGreen(line[x])), stretch(qBlue(line[x])), qAlpha(line[x]));
+        for (int x = 0; x < result.width(); ++x) {
+            const auto pixel = qRgb(stretch(qRed(line[x])), stretch(qGreen(line[x])), stretch(qBlue(line[x])));
+            const int share = std::max({ qRed(pixel), qGreen(pixel), qBlue(pixel) });
+            const auto drawn = isOurs
+                ? pixel
+                : qRgb(between(qRed(from), qRed(to), share), between(qGreen(from), qGreen(to), share),
+                    between(qBlue(from), qBlue(to), share));
+            line[x] = (drawn & RGB_MASK) | (line[x] & ~RGB_MASK);
+        }
     }
     result.convertTo(picture.format());
     return result;

@@ -1,5 +1,6 @@
 #include "shell/Style.h"
 
+#include "playlist/FancyListPainter.h"
 #include "shell/WidgetStyle.h"
 
 #include <QApplication>
@@ -14,18 +15,32 @@ QColor listBase{ 0x1B, 0x1E, 0x24 };
 bool hasHighContrast = false;
 bool hasLessMotion = false;
 
+void TakeColours(const Colours& colours)
+{
+    kBase = kBaseLight = kRaised = kRaisedHigh = listBase = colours.background;
+    kText = kSecondText = colours.text;
+    kTrack = kFaintText = colours.faint;
+    kLight = kLightHigh = kLightDeep = colours.accent;
+    kAlarm = colours.text;
+    kSelection = colours.selection;
+    kSelected = colours.selected;
+    kHairline = colours.text;
+    kWarmLight = colours.accent.rgb();
+}
+
 void TakeHighContrast()
 {
     kBase = kBaseLight = listBase = QColor(0, 0, 0);
     kRaised = QColor(0x14, 0x14, 0x14);
     kRaisedHigh = QColor(0x2A, 0x2A, 0x2A);
     kTrack = QColor(0x80, 0x80, 0x80);
-    kText = kSecondText = QColor(0xFF, 0xFF, 0xFF);
+    kText = kSecondText = kSelected = QColor(0xFF, 0xFF, 0xFF);
     kFaintText = QColor(0xA8, 0xA8, 0xA8);
     kLight = kLightHigh = kLightDeep = QColor(0xFF, 0xD0, 0x30);
     kAlarm = QColor(0xFF, 0x70, 0x70);
     kSelection = QColor(0x00, 0x4A, 0x9F);
     kHairline = QColor(0xFF, 0xFF, 0xFF, 0xB0);
+    kWarmLight = kLight.rgb();
 }
 
 QFont TextFont()
@@ -50,7 +65,7 @@ QPalette MakePalette()
     palette.setColor(QPalette::ToolTipBase, kRaised);
     palette.setColor(QPalette::ToolTipText, kText);
     palette.setColor(QPalette::Highlight, kSelection);
-    palette.setColor(QPalette::HighlightedText, kText);
+    palette.setColor(QPalette::HighlightedText, kSelected);
     palette.setColor(QPalette::Link, kLight);
     for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText })
         palette.setColor(QPalette::Disabled, role, kFaintText);
@@ -71,7 +86,7 @@ void Apply(QApplication& application, const Needs& needs)
 {
     hasHighContrast = needs.highContrast;
     if (needs.highContrast)
-        TakeHighContrast();
+        needs.colours ? TakeColours(*needs.colours) : TakeHighContrast();
     hasLessMotion = needs.lessMotion;
     const auto palette = MakePalette();
     QApplication::setStyle(new WidgetStyle);

@@ -3,6 +3,8 @@
 #include <QColor>
 #include <QFont>
 
+#include <optional>
+
 class QApplication;
 
 /// The look that everything in the program shares.
@@ -23,13 +25,25 @@ inline QColor kLightHigh{ 0xFF, 0xC6, 0x5C };
 inline QColor kLightDeep{ 0xD9, 0x8E, 0x0A };
 inline QColor kAlarm{ 0xE5, 0x48, 0x4D };
 inline QColor kSelection{ 0x3D, 0x43, 0x4F };
+inline QColor kSelected = kText; // on the selection
 /// Over whatever it is drawn on.
 inline QColor kHairline{ 0xFF, 0xFF, 0xFF, 0x14 };
 
+/// Colours of the user's own for all programs.
+struct Colours {
+    QColor background;
+    QColor text;
+    QColor selection;
+    QColor selected;
+    QColor accent;
+    QColor faint;
+};
+
 /// What some users need otherwise.
 struct Needs {
-    bool highContrast = false; ///< light on black, lines instead of shades
-    bool lessMotion = false;   ///< what changes does so at once
+    bool highContrast = false;                     ///< light on black, lines instead of shades
+    bool lessMotion = false;                       ///< what changes does so at once
+    std::optional<Colours> colours = std::nullopt; ///< of the high contrast, instead of ours
 };
 
 /// Style, palette and font of the whole program.

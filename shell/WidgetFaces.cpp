@@ -119,10 +119,12 @@ void DrawMenuItem(QPainter& painter, const QStyleOptionMenuItem& item, bool show
     const int mnemonics = showMnemonics ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
     const auto text = item.rect.adjusted(kMenuText, 0, -kMenuRight, 0);
     painter.setFont(item.font);
-    painter.setPen(TextColor(item));
+    painter.setPen(isSelected ? style::kSelected : TextColor(item));
     painter.drawText(text, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | mnemonics, parts[0]);
     if (parts.size() > 1) {
-        painter.setPen(IsEnabled(item) ? style::kSecondText : style::kFaintText);
+        painter.setPen(isSelected && style::HasHighContrast() ? style::kSelected
+                : IsEnabled(item)                             ? style::kSecondText
+                                                              : style::kFaintText);
         painter.drawText(text.adjusted(0, 0, 14, 0), Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, parts[1]);
     }
     if (item.menuItemType == QStyleOptionMenuItem::SubMenu) {

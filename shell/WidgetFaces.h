@@ -35,7 +35,9 @@ inline QColor TextColor(const QStyleOption& option)
 
 inline QColor White(double alpha)
 {
-    return QColor::fromRgbF(1, 1, 1, static_cast<float>(alpha));
+    auto colour = style::HasHighContrast() ? style::kText : QColor(Qt::white);
+    colour.setAlphaF(static_cast<float>(style::HasHighContrast() ? std::min(1.0, 4 * alpha) : alpha));
+    return colour;
 }
 
 inline QColor Warm(double alpha)

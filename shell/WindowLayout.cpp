@@ -64,6 +64,21 @@ Rect WindowLayout::ButtonRect(Button button) const
     return {};
 }
 
+Rect WindowLayout::PressRect(Button button) const
+{
+    auto rect = ButtonRect(button);
+    if (rect.width <= 0)
+        return rect;
+    // The buttons of the title bar stand close: those at the ends grow outwards.
+    if (button == Button::Minimize)
+        rect.left = m_width - 78;
+    else if (button == Button::Maximize)
+        rect.left = m_width - 54;
+    rect.width = std::max(rect.width, kLeastPress);
+    rect.height = std::max(rect.height, kLeastPress);
+    return rect;
+}
+
 WindowLayout::Edges WindowLayout::EdgesAt(int x, int y) const
 {
     if (!Rect{ 0, 0, m_width, m_height }.Contains(x, y))
@@ -104,7 +119,7 @@ void BarLayout::Place(Fold fold)
     m_buttons[static_cast<std::size_t>(Button::FullScreen)] = { right, 0, 30, kHeight };
     m_number = fold < Fold::Number ? placeLeftwards(kBarGap, 18, 30, 20) : Rect();
     m_slider = fold < Fold::Slider ? placeLeftwards(fold < Fold::Number ? 8 : kBarGap, 16, kBarSlider, 24) : Rect();
-    const auto sound = placeLeftwards(fold < Fold::Slider ? 7 : kBarGap, 0, 23, kHeight);
+    const auto sound = placeLeftwards(fold < Fold::Slider ? 6 : kBarGap - 1, 0, 24, kHeight);
     for (const auto button : { Button::SoundOn, Button::SoundOff })
         m_buttons[static_cast<std::size_t>(button)] = sound;
     m_time = { buttons, 17, kBarTime, 22 };

@@ -43,6 +43,7 @@ public:
     static constexpr int kFirstHeight = 515;
     static constexpr int kPanelHeight = 147; // the bottom control panel
     static constexpr int kResizeBorder = 8;
+    static constexpr int kLeastPress = 24; // what takes a press, each way; also in the bar and at the splitter
 
     WindowLayout(int width, int height)
         : m_width(width)
@@ -51,9 +52,11 @@ public:
     }
 
     Rect TitleBar() const { return { 0, 0, m_width, 31 }; }
-    /// Where a button is drawn and takes the pointer. The two sound buttons share one place; the push-button face of
-    /// the dialogs has none here.
+    /// Where a button is drawn. The two sound buttons share one place; the push-button face of the dialogs has none
+    /// here.
     Rect ButtonRect(Button button) const;
+    /// Where it takes a press: at least `kLeastPress` in both directions.
+    Rect PressRect(Button button) const;
     Rect Icon() const { return { 3, 3, 24, 24 }; }
     Rect Caption() const { return { 32, 3, m_width - 110, 24 }; }
     Rect MenuStrip() const { return { 15, 31, m_width - 15, 26 }; }
@@ -95,7 +98,7 @@ public:
 
     explicit BarLayout(int width);
 
-    /// What takes the pointer; empty for a button that the bar does not have.
+    /// What takes a press; empty for a button that the bar does not have.
     Rect ButtonRect(Button button) const;
     /// The button's picture, where `middle` of its height, 0 to 1, lies in the middle of the bar: in their pictures the
     /// signs stand at different heights.
@@ -122,7 +125,8 @@ private:
 
 /// How the video and the list beside it share the room along the line on which they lie.
 struct PaneShare {
-    static constexpr int kSplitter = 6; // px, between the two
+    static constexpr int kSplitter = 6;                                  // px, between the two
+    static constexpr int kReach = WindowLayout::kLeastPress - kSplitter; // px of the video, that take hold of it, too
 
     int list = 0;    ///< px, the list's usual share; 0: there is no room for one
     int minimum = 0; ///< px, below which the splitter makes neither of them

@@ -20,16 +20,28 @@
         <translation>%1 kann nicht abgespielt werden</translation>
     </message>
     <message>
-        <source>%1 entries play next</source>
-        <translation>%1 Einträge folgen als Nächste</translation>
+        <source>%1 list</source>
+        <translation>%1-Liste</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <translation>%1 von %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 of %n entries could not be found</source>
+        <translation><numerusform>%1 von %n Eintrag wurde nicht gefunden</numerusform><numerusform>%1 von %n Einträgen wurden nicht gefunden</numerusform></translation>
+    </message>
     <message>
         <source>%1, playing</source>
         <translation>%1, läuft</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries play next</source>
+        <translation><numerusform>%n Eintrag folgt als Nächster</numerusform><numerusform>%n Einträge folgen als Nächste</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation><numerusform>%n Datei</numerusform><numerusform>%n Dateien</numerusform></translation>
     </message>
     <message>
         <source>30 Seconds Back</source>
@@ -308,6 +320,10 @@
         <translation>Fortlaufend</translation>
     </message>
     <message>
+        <source>&amp;Contrast:</source>
+        <translation>&amp;Kontrast:</translation>
+    </message>
+    <message>
         <source>Decrease Speed</source>
         <translation>Langsamer</translation>
     </message>
@@ -472,6 +488,10 @@
         <translation>Vollbild ein oder aus</translation>
     </message>
     <message>
+        <source>Go to a Time</source>
+        <translation>Zu einer Zeit springen</translation>
+    </message>
+    <message>
         <source>&amp;Go to a Time...</source>
         <translation>&amp;Zu einer Zeit...</translation>
     </message>
@@ -512,8 +532,12 @@
         <translation>Hilfethemen</translation>
     </message>
     <message>
-        <source>Hi&amp;gh contrast</source>
-        <translation>&amp;Hoher Kontrast</translation>
+        <source>High</source>
+        <translation>Hoch</translation>
+    </message>
+    <message>
+        <source>Hours, minutes and seconds, such as 1:02:30</source>
+        <translation>Stunden, Minuten und Sekunden, etwa 1:02:30</translation>
     </message>
     <message>
         <source>Icon in the tra&amp;y</source>
@@ -544,16 +568,16 @@
         <translation>Sp&amp;rache:</translation>
     </message>
     <message>
+        <source>Larger controls, for &amp;fingers</source>
+        <translation>Größere Bedienelemente, für &amp;Finger</translation>
+    </message>
+    <message>
         <source>Larger Subtitles</source>
         <translation>Größere Untertitel</translation>
     </message>
-    <message>
-        <source>Last time: %1 files</source>
-        <translation>Letztes Mal: %1 Dateien</translation>
-    </message>
-    <message>
-        <source>Last time: 1 file</source>
-        <translation>Letztes Mal: eine Datei</translation>
+    <message numerus="yes">
+        <source>Last time: %n files</source>
+        <translation><numerusform>Letztes Mal: %n Datei</numerusform><numerusform>Letztes Mal: %n Dateien</numerusform></translation>
     </message>
     <message>
         <source>&amp;Launch Files in Fullscreen.</source>
@@ -572,8 +596,8 @@
         <translation>Links</translation>
     </message>
     <message>
-        <source>Less &amp;motion</source>
-        <translation>Weniger Be&amp;wegung</translation>
+        <source>Less</source>
+        <translation>Weniger</translation>
     </message>
     <message>
         <source>Let go to play</source>
@@ -676,12 +700,20 @@
         <translation>&amp;Mehr</translation>
     </message>
     <message>
+        <source>&amp;Motion:</source>
+        <translation>Be&amp;wegung:</translation>
+    </message>
+    <message>
         <source>Move &amp;Down</source>
         <translation>Nach &amp;unten</translation>
     </message>
     <message>
         <source>Move Down</source>
         <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Move the Window by the Arrows</source>
+        <translation>Fenster mit den Pfeiltasten verschieben</translation>
     </message>
     <message>
         <source>Move U&amp;p</source>
@@ -1039,13 +1071,9 @@
         <source>Remove the Selected Entry</source>
         <translation>Gewählten Eintrag entfernen</translation>
     </message>
-    <message>
-        <source>Removed %1 entries</source>
-        <translation>%1 Einträge entfernt</translation>
-    </message>
-    <message>
-        <source>Removed one entry</source>
-        <translation>Ein Eintrag entfernt</translation>
+    <message numerus="yes">
+        <source>Removed %n entries</source>
+        <translation><numerusform>Ein Eintrag entfernt</numerusform><numerusform>%n Einträge entfernt</numerusform></translation>
     </message>
     <message>
         <source>&amp;Repeat All</source>
@@ -1074,6 +1102,10 @@
     <message>
         <source>Reset Speed</source>
         <translation>Normales Tempo</translation>
+    </message>
+    <message>
+        <source>Resize the Window by the Arrows</source>
+        <translation>Fenstergröße mit den Pfeiltasten ändern</translation>
     </message>
     <message>
         <source>Restart the Computer</source>
@@ -1287,9 +1319,9 @@
         <source>Stops after this one</source>
         <translation>Hält nach diesem an</translation>
     </message>
-    <message>
-        <source>Stops in %1 minutes</source>
-        <translation>Hält in %1 Minuten an</translation>
+    <message numerus="yes">
+        <source>Stops in %n minutes</source>
+        <translation><numerusform>Hält in %n Minute an</numerusform><numerusform>Hält in %n Minuten an</numerusform></translation>
     </message>
     <message>
         <source>&amp;Subtitles</source>
@@ -1388,6 +1420,10 @@
         <translation>Kein Browser zeigt diese Seite:</translation>
     </message>
     <message>
+        <source>There is no program that shows the folder:</source>
+        <translation>Es gibt kein Programm, das den Ordner zeigt:</translation>
+    </message>
+    <message>
         <source>There is no program that shows the help:</source>
         <translation>Kein Programm zeigt die Hilfe:</translation>
     </message>
@@ -1438,6 +1474,10 @@
     <message>
         <source>&amp;Use new player for each media file played.</source>
         <translation>&amp;Für jede Datei einen neuen Player öffnen.</translation>
+    </message>
+    <message>
+        <source>Usual</source>
+        <translation>Üblich</translation>
     </message>
     <message>
         <source>Version %1</source>

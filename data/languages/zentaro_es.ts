@@ -20,16 +20,28 @@
         <translation>%1 no se puede reproducir</translation>
     </message>
     <message>
-        <source>%1 entries play next</source>
-        <translation>%1 elementos a continuación</translation>
+        <source>%1 list</source>
+        <translation>Lista %1</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <translation>%1 de %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 of %n entries could not be found</source>
+        <translation><numerusform>No se encontró %1 de %n entrada</numerusform><numerusform>No se encontraron %1 de %n entradas</numerusform></translation>
+    </message>
     <message>
         <source>%1, playing</source>
         <translation>%1, en reproducción</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries play next</source>
+        <translation><numerusform>A continuación sigue %n entrada</numerusform><numerusform>A continuación siguen %n entradas</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation><numerusform>%n archivo</numerusform><numerusform>%n archivos</numerusform></translation>
     </message>
     <message>
         <source>30 Seconds Back</source>
@@ -69,7 +81,7 @@
     </message>
     <message>
         <source>A file's name cannot hold any of / \ : * ? " &lt; &gt; |</source>
-        <translation>Un nombre de archivo no puede contener / \ : * ? " &lt; &gt; |</translation>
+        <translation>Un nombre de archivo no puede contener ninguno de estos: / \ : * ? " &lt; &gt; |</translation>
     </message>
     <message>
         <source>A Little &amp;Faster</source>
@@ -308,6 +320,10 @@
         <translation>Continuo</translation>
     </message>
     <message>
+        <source>&amp;Contrast:</source>
+        <translation>&amp;Contraste:</translation>
+    </message>
+    <message>
         <source>Decrease Speed</source>
         <translation>Más lento</translation>
     </message>
@@ -472,6 +488,10 @@
         <translation>Activar o quitar pantalla completa</translation>
     </message>
     <message>
+        <source>Go to a Time</source>
+        <translation>Ir a un tiempo</translation>
+    </message>
+    <message>
         <source>&amp;Go to a Time...</source>
         <translation>&amp;Ir a un momento...</translation>
     </message>
@@ -512,8 +532,12 @@
         <translation>Temas de ayuda</translation>
     </message>
     <message>
-        <source>Hi&amp;gh contrast</source>
-        <translation>Alto &amp;contraste</translation>
+        <source>High</source>
+        <translation>Alto</translation>
+    </message>
+    <message>
+        <source>Hours, minutes and seconds, such as 1:02:30</source>
+        <translation>Horas, minutos y segundos, por ejemplo 1:02:30</translation>
     </message>
     <message>
         <source>Icon in the tra&amp;y</source>
@@ -544,16 +568,16 @@
         <translation>I&amp;dioma:</translation>
     </message>
     <message>
+        <source>Larger controls, for &amp;fingers</source>
+        <translation>Controles más &amp;grandes, para los dedos</translation>
+    </message>
+    <message>
         <source>Larger Subtitles</source>
         <translation>Subtítulos más grandes</translation>
     </message>
-    <message>
-        <source>Last time: %1 files</source>
-        <translation>La última vez: %1 archivos</translation>
-    </message>
-    <message>
-        <source>Last time: 1 file</source>
-        <translation>La última vez: un archivo</translation>
+    <message numerus="yes">
+        <source>Last time: %n files</source>
+        <translation><numerusform>La última vez: %n archivo</numerusform><numerusform>La última vez: %n archivos</numerusform></translation>
     </message>
     <message>
         <source>&amp;Launch Files in Fullscreen.</source>
@@ -572,8 +596,8 @@
         <translation>Izquierda</translation>
     </message>
     <message>
-        <source>Less &amp;motion</source>
-        <translation>M&amp;enos movimiento</translation>
+        <source>Less</source>
+        <translation>Menos</translation>
     </message>
     <message>
         <source>Let go to play</source>
@@ -676,12 +700,20 @@
         <translation>&amp;Más</translation>
     </message>
     <message>
+        <source>&amp;Motion:</source>
+        <translation>Mo&amp;vimiento:</translation>
+    </message>
+    <message>
         <source>Move &amp;Down</source>
         <translation>&amp;Bajar</translation>
     </message>
     <message>
         <source>Move Down</source>
         <translation>Bajar</translation>
+    </message>
+    <message>
+        <source>Move the Window by the Arrows</source>
+        <translation>Mover la ventana con las flechas</translation>
     </message>
     <message>
         <source>Move U&amp;p</source>
@@ -1039,13 +1071,9 @@
         <source>Remove the Selected Entry</source>
         <translation>Quitar el elemento elegido</translation>
     </message>
-    <message>
-        <source>Removed %1 entries</source>
-        <translation>%1 elementos quitados</translation>
-    </message>
-    <message>
-        <source>Removed one entry</source>
-        <translation>Un elemento quitado</translation>
+    <message numerus="yes">
+        <source>Removed %n entries</source>
+        <translation><numerusform>Se quitó una entrada</numerusform><numerusform>Se quitaron %n entradas</numerusform></translation>
     </message>
     <message>
         <source>&amp;Repeat All</source>
@@ -1074,6 +1102,10 @@
     <message>
         <source>Reset Speed</source>
         <translation>Velocidad normal</translation>
+    </message>
+    <message>
+        <source>Resize the Window by the Arrows</source>
+        <translation>Cambiar el tamaño de la ventana con las flechas</translation>
     </message>
     <message>
         <source>Restart the Computer</source>
@@ -1287,9 +1319,9 @@
         <source>Stops after this one</source>
         <translation>Se detiene después de este</translation>
     </message>
-    <message>
-        <source>Stops in %1 minutes</source>
-        <translation>Se detiene en %1 minutos</translation>
+    <message numerus="yes">
+        <source>Stops in %n minutes</source>
+        <translation><numerusform>Se detiene en %n minuto</numerusform><numerusform>Se detiene en %n minutos</numerusform></translation>
     </message>
     <message>
         <source>&amp;Subtitles</source>
@@ -1388,6 +1420,10 @@
         <translation>No hay navegador para esta página:</translation>
     </message>
     <message>
+        <source>There is no program that shows the folder:</source>
+        <translation>No hay ningún programa que muestre la carpeta:</translation>
+    </message>
+    <message>
         <source>There is no program that shows the help:</source>
         <translation>No hay programa que muestre la ayuda:</translation>
     </message>
@@ -1438,6 +1474,10 @@
     <message>
         <source>&amp;Use new player for each media file played.</source>
         <translation>&amp;Usar un reproductor nuevo para cada archivo.</translation>
+    </message>
+    <message>
+        <source>Usual</source>
+        <translation>Habitual</translation>
     </message>
     <message>
         <source>Version %1</source>

@@ -20,16 +20,28 @@
         <translation>%1 ne peut pas être lu</translation>
     </message>
     <message>
-        <source>%1 entries play next</source>
-        <translation>%1 éléments ensuite</translation>
+        <source>%1 list</source>
+        <translation>Liste %1</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <translation>%1 sur %2</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 of %n entries could not be found</source>
+        <translation><numerusform>%1 entrée sur %n est introuvable</numerusform><numerusform>%1 entrées sur %n sont introuvables</numerusform></translation>
+    </message>
     <message>
         <source>%1, playing</source>
         <translation>%1, en lecture</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries play next</source>
+        <translation><numerusform>%n entrée suivra</numerusform><numerusform>%n entrées suivront</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation><numerusform>%n fichier</numerusform><numerusform>%n fichiers</numerusform></translation>
     </message>
     <message>
         <source>30 Seconds Back</source>
@@ -69,7 +81,7 @@
     </message>
     <message>
         <source>A file's name cannot hold any of / \ : * ? " &lt; &gt; |</source>
-        <translation>Un nom de fichier ne peut contenir / \ : * ? " &lt; &gt; |</translation>
+        <translation>Un nom de fichier ne peut contenir aucun de ces caractères : / \ : * ? " &lt; &gt; |</translation>
     </message>
     <message>
         <source>A Little &amp;Faster</source>
@@ -308,6 +320,10 @@
         <translation>Continu</translation>
     </message>
     <message>
+        <source>&amp;Contrast:</source>
+        <translation>&amp;Contraste :</translation>
+    </message>
+    <message>
         <source>Decrease Speed</source>
         <translation>Ralentir</translation>
     </message>
@@ -472,6 +488,10 @@
         <translation>Plein écran : activer ou quitter</translation>
     </message>
     <message>
+        <source>Go to a Time</source>
+        <translation>Aller à un instant</translation>
+    </message>
+    <message>
         <source>&amp;Go to a Time...</source>
         <translation>&amp;Aller à un moment...</translation>
     </message>
@@ -512,8 +532,12 @@
         <translation>Rubriques d’aide</translation>
     </message>
     <message>
-        <source>Hi&amp;gh contrast</source>
-        <translation>Contraste éle&amp;vé</translation>
+        <source>High</source>
+        <translation>Élevé</translation>
+    </message>
+    <message>
+        <source>Hours, minutes and seconds, such as 1:02:30</source>
+        <translation>Heures, minutes et secondes, par exemple 1:02:30</translation>
     </message>
     <message>
         <source>Icon in the tra&amp;y</source>
@@ -544,16 +568,16 @@
         <translation>Lan&amp;gue :</translation>
     </message>
     <message>
+        <source>Larger controls, for &amp;fingers</source>
+        <translation>Commandes plus grandes, pour les &amp;doigts</translation>
+    </message>
+    <message>
         <source>Larger Subtitles</source>
         <translation>Sous-titres plus grands</translation>
     </message>
-    <message>
-        <source>Last time: %1 files</source>
-        <translation>La dernière fois : %1 fichiers</translation>
-    </message>
-    <message>
-        <source>Last time: 1 file</source>
-        <translation>La dernière fois : un fichier</translation>
+    <message numerus="yes">
+        <source>Last time: %n files</source>
+        <translation><numerusform>La dernière fois : %n fichier</numerusform><numerusform>La dernière fois : %n fichiers</numerusform></translation>
     </message>
     <message>
         <source>&amp;Launch Files in Fullscreen.</source>
@@ -572,8 +596,8 @@
         <translation>À gauche</translation>
     </message>
     <message>
-        <source>Less &amp;motion</source>
-        <translation>&amp;Moins de mouvement</translation>
+        <source>Less</source>
+        <translation>Réduit</translation>
     </message>
     <message>
         <source>Let go to play</source>
@@ -676,12 +700,20 @@
         <translation>Pl&amp;us</translation>
     </message>
     <message>
+        <source>&amp;Motion:</source>
+        <translation>&amp;Mouvement :</translation>
+    </message>
+    <message>
         <source>Move &amp;Down</source>
         <translation>&amp;Descendre</translation>
     </message>
     <message>
         <source>Move Down</source>
         <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Move the Window by the Arrows</source>
+        <translation>Déplacer la fenêtre avec les flèches</translation>
     </message>
     <message>
         <source>Move U&amp;p</source>
@@ -1039,13 +1071,9 @@
         <source>Remove the Selected Entry</source>
         <translation>Retirer l’élément choisi</translation>
     </message>
-    <message>
-        <source>Removed %1 entries</source>
-        <translation>%1 éléments retirés</translation>
-    </message>
-    <message>
-        <source>Removed one entry</source>
-        <translation>Un élément retiré</translation>
+    <message numerus="yes">
+        <source>Removed %n entries</source>
+        <translation><numerusform>Une entrée retirée</numerusform><numerusform>%n entrées retirées</numerusform></translation>
     </message>
     <message>
         <source>&amp;Repeat All</source>
@@ -1074,6 +1102,10 @@
     <message>
         <source>Reset Speed</source>
         <translation>Vitesse normale</translation>
+    </message>
+    <message>
+        <source>Resize the Window by the Arrows</source>
+        <translation>Redimensionner la fenêtre avec les flèches</translation>
     </message>
     <message>
         <source>Restart the Computer</source>
@@ -1287,9 +1319,9 @@
         <source>Stops after this one</source>
         <translation>Arrêt après celui-ci</translation>
     </message>
-    <message>
-        <source>Stops in %1 minutes</source>
-        <translation>Arrêt dans %1 minutes</translation>
+    <message numerus="yes">
+        <source>Stops in %n minutes</source>
+        <translation><numerusform>S’arrête dans %n minute</numerusform><numerusform>S’arrête dans %n minutes</numerusform></translation>
     </message>
     <message>
         <source>&amp;Subtitles</source>
@@ -1388,6 +1420,10 @@
         <translation>Aucun navigateur pour cette page :</translation>
     </message>
     <message>
+        <source>There is no program that shows the folder:</source>
+        <translation>Aucun programme n’affiche le dossier :</translation>
+    </message>
+    <message>
         <source>There is no program that shows the help:</source>
         <translation>Aucun programme pour afficher l’aide :</translation>
     </message>
@@ -1438,6 +1474,10 @@
     <message>
         <source>&amp;Use new player for each media file played.</source>
         <translation>&amp;Utiliser un nouveau lecteur pour chaque fichier.</translation>
+    </message>
+    <message>
+        <source>Usual</source>
+        <translation>Habituel</translation>
     </message>
     <message>
         <source>Version %1</source>

@@ -20,16 +20,28 @@
         <translation>%1 は再生できません</translation>
     </message>
     <message>
-        <source>%1 entries play next</source>
-        <translation>次に %1 件を再生</translation>
+        <source>%1 list</source>
+        <translation>%1 リスト</translation>
     </message>
     <message>
         <source>%1 of %2</source>
         <translation>%2 中 %1</translation>
     </message>
+    <message numerus="yes">
+        <source>%1 of %n entries could not be found</source>
+        <translation><numerusform>%n 件中 %1 件の項目が見つかりませんでした</numerusform></translation>
+    </message>
     <message>
         <source>%1, playing</source>
         <translation>%1、再生中</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n entries play next</source>
+        <translation><numerusform>次に %n 件の項目を再生します</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files</source>
+        <translation><numerusform>%n 個のファイル</numerusform></translation>
     </message>
     <message>
         <source>30 Seconds Back</source>
@@ -69,7 +81,7 @@
     </message>
     <message>
         <source>A file's name cannot hold any of / \ : * ? " &lt; &gt; |</source>
-        <translation>ファイル名には / \ : * ? " &lt; &gt; | を使えません</translation>
+        <translation>ファイル名に次の文字は使えません: / \ : * ? " &lt; &gt; |</translation>
     </message>
     <message>
         <source>A Little &amp;Faster</source>
@@ -308,6 +320,10 @@
         <translation>連続</translation>
     </message>
     <message>
+        <source>&amp;Contrast:</source>
+        <translation>コントラスト(&amp;C):</translation>
+    </message>
+    <message>
         <source>Decrease Speed</source>
         <translation>速度を下げる</translation>
     </message>
@@ -472,6 +488,10 @@
         <translation>全画面の切り替え</translation>
     </message>
     <message>
+        <source>Go to a Time</source>
+        <translation>時間を指定して移動</translation>
+    </message>
+    <message>
         <source>&amp;Go to a Time...</source>
         <translation>指定の時間へ(&amp;G)...</translation>
     </message>
@@ -512,8 +532,12 @@
         <translation>ヘルプ トピック</translation>
     </message>
     <message>
-        <source>Hi&amp;gh contrast</source>
-        <translation>ハイコントラスト(&amp;G)</translation>
+        <source>High</source>
+        <translation>高</translation>
+    </message>
+    <message>
+        <source>Hours, minutes and seconds, such as 1:02:30</source>
+        <translation>時:分:秒(例 1:02:30)</translation>
     </message>
     <message>
         <source>Icon in the tra&amp;y</source>
@@ -544,16 +568,16 @@
         <translation>言語(&amp;L):</translation>
     </message>
     <message>
+        <source>Larger controls, for &amp;fingers</source>
+        <translation>指で操作しやすい大きさにする(&amp;F)</translation>
+    </message>
+    <message>
         <source>Larger Subtitles</source>
         <translation>字幕を大きく</translation>
     </message>
-    <message>
-        <source>Last time: %1 files</source>
-        <translation>前回: %1 ファイル</translation>
-    </message>
-    <message>
-        <source>Last time: 1 file</source>
-        <translation>前回: 1 ファイル</translation>
+    <message numerus="yes">
+        <source>Last time: %n files</source>
+        <translation><numerusform>前回: %n 個のファイル</numerusform></translation>
     </message>
     <message>
         <source>&amp;Launch Files in Fullscreen.</source>
@@ -572,8 +596,8 @@
         <translation>左</translation>
     </message>
     <message>
-        <source>Less &amp;motion</source>
-        <translation>動きを減らす(&amp;M)</translation>
+        <source>Less</source>
+        <translation>少なめ</translation>
     </message>
     <message>
         <source>Let go to play</source>
@@ -676,12 +700,20 @@
         <translation>その他(&amp;M)</translation>
     </message>
     <message>
+        <source>&amp;Motion:</source>
+        <translation>動き(&amp;M):</translation>
+    </message>
+    <message>
         <source>Move &amp;Down</source>
         <translation>下へ(&amp;D)</translation>
     </message>
     <message>
         <source>Move Down</source>
         <translation>下へ</translation>
+    </message>
+    <message>
+        <source>Move the Window by the Arrows</source>
+        <translation>矢印キーでウィンドウを移動</translation>
     </message>
     <message>
         <source>Move U&amp;p</source>
@@ -1039,13 +1071,9 @@
         <source>Remove the Selected Entry</source>
         <translation>選択した項目を削除</translation>
     </message>
-    <message>
-        <source>Removed %1 entries</source>
-        <translation>%1 件削除しました</translation>
-    </message>
-    <message>
-        <source>Removed one entry</source>
-        <translation>1 件削除しました</translation>
+    <message numerus="yes">
+        <source>Removed %n entries</source>
+        <translation><numerusform>%n 件の項目を取り除きました</numerusform></translation>
     </message>
     <message>
         <source>&amp;Repeat All</source>
@@ -1074,6 +1102,10 @@
     <message>
         <source>Reset Speed</source>
         <translation>標準の速度</translation>
+    </message>
+    <message>
+        <source>Resize the Window by the Arrows</source>
+        <translation>矢印キーでウィンドウのサイズを変更</translation>
     </message>
     <message>
         <source>Restart the Computer</source>
@@ -1287,9 +1319,9 @@
         <source>Stops after this one</source>
         <translation>この項目の後で停止します</translation>
     </message>
-    <message>
-        <source>Stops in %1 minutes</source>
-        <translation>%1 分後に停止します</translation>
+    <message numerus="yes">
+        <source>Stops in %n minutes</source>
+        <translation><numerusform>%n 分後に停止します</numerusform></translation>
     </message>
     <message>
         <source>&amp;Subtitles</source>
@@ -1388,6 +1420,10 @@
         <translation>このページを表示するブラウザーがありません:</translation>
     </message>
     <message>
+        <source>There is no program that shows the folder:</source>
+        <translation>フォルダーを開くプログラムがありません:</translation>
+    </message>
+    <message>
         <source>There is no program that shows the help:</source>
         <translation>ヘルプを表示するプログラムがありません:</translation>
     </message>
@@ -1438,6 +1474,10 @@
     <message>
         <source>&amp;Use new player for each media file played.</source>
         <translation>ファイルごとに新しいプレーヤーを使う(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Usual</source>
+        <translation>標準</translation>
     </message>
     <message>
         <source>Version %1</source>

@@ -188,6 +188,23 @@ TEST_F(Everyone, HasATextForWhateverACommandIsCalled)
     }
 }
 
+TEST_F(Everyone, HearsCountsAsTheLanguageHasThem)
+{
+    const auto files = [](int count) { return CountedWords(count, "%n file", "%n files"); };
+    const auto in = [&](const char* language) {
+        SetTranslator(nullptr);
+        SpeakLanguage(*QCoreApplication::instance(), language, m_programFolder + "languages/");
+        return files(0) + ", " + files(1) + ", " + files(2);
+    };
+    EXPECT_EQ(in("en"), "0 files, 1 file, 2 files");
+    EXPECT_EQ(in("de"), "0 Dateien, 1 Datei, 2 Dateien");
+    EXPECT_EQ(in("fr"), "0 fichier, 1 fichier, 2 fichiers");
+    EXPECT_EQ(in("ja"), "0 個のファイル, 1 個のファイル, 2 個のファイル");
+    // A name from right to left takes nothing of the sentence along.
+    SetTranslator(nullptr);
+    EXPECT_EQ(Words("%1 at %2", { "שלום", "0:20" }), "\u2068שלום\u2069 at 0:20");
+}
+
 TEST_F(Everyone, SeesTextsAndSigns)
 {
     ExpectContrast();

@@ -117,7 +117,7 @@ TEST_F(OwnFile, TheTimeIsToldInWordsWheneverAnotherPlaceIsChosen)
     player.Transporting().Seek(0.5);
     EXPECT_NE(player.State().seeks, before);
     EXPECT_EQ(PlaceText(player.State()), "45:02 of 1:30:05");
-    SetTranslator([](std::string_view english) { return english == "%1 of %2" ? "%2: %1" : ""; });
+    SetTranslator([](std::string_view english, auto) { return english == "%1 of %2" ? "%2: %1" : ""; });
     EXPECT_EQ(PlaceText(player.State()), "1:30:05: 45:02");
     SetTranslator(nullptr);
     Run("TellTime");

@@ -13,12 +13,28 @@ using Edges = WindowLayout::Edges;
 
 namespace {
 
+Rect PressOf(const WindowLayout& layout, Button button)
+{
+    const auto press = layout.PressRect(button);
+    const auto drawn = layout.ButtonRect(button);
+    EXPECT_EQ(SharedArea(press, drawn), drawn.width * drawn.height);
+    return press;
+}
+
+Rect PressOf(const BarLayout& layout, Button button)
+{
+    return layout.ButtonRect(button);
+}
+
 template <class Layout> void ExpectControlsApart(const Layout& layout, std::vector<Rect> parts, const Rect& area)
 {
     for (std::size_t i = 0; i < kButtonCount; ++i) {
         const auto button = static_cast<Button>(i);
-        if (button != Button::SoundOff && layout.ButtonRect(button).width > 0)
-            parts.push_back(layout.ButtonRect(button));
+        const auto press = PressOf(layout, button);
+        if (button == Button::SoundOff || press.width <= 0)
+            continue;
+        EXPECT_GE(std::min(press.width, press.height), WindowLayout::kLeastPress) << i;
+        parts.push_back(press);
     }
     for (const auto& part : parts) {
         EXPECT_GT(part.width * part.height, 0);
