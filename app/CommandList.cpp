@@ -3,6 +3,7 @@
 #include "app/Commands.h"
 #include "app/Player.h"
 #include "base/Words.h"
+#include "shell/HelpTopic.h"
 #include "shell/KeyedRows.h"
 #include "shell/QtText.h"
 
@@ -28,6 +29,7 @@ CommandList::CommandList(Player& player, Skin& skin, QWidget* owner)
     , m_rows(new KeyedRows(this))
 {
     setObjectName("CommandList");
+    SetHelpTopic(*this, "keys");
     m_words->setPlaceholderText(tr("Type what it does, or its key"));
     m_words->setAccessibleName(tr("Find a Command"));
     m_words->installEventFilter(this);

@@ -5,6 +5,7 @@
 #include "base/Words.h"
 #include "shell/DigitLabel.h"
 #include "shell/FullScreenBar.h"
+#include "shell/HelpTopic.h"
 #include "shell/MenuText.h"
 #include "shell/QtGeometry.h"
 #include "shell/QtText.h"
@@ -62,6 +63,10 @@ ControlPanel::ControlPanel(Player& player, QWidget* window)
              { Button::Snapshot, "Snapshot" }, { Button::PlayList, "PlayList" }, { Button::Dvd, "Dvd" },
              { Button::SoundOn, "Mute" }, { Button::Open, "OpenFile" } })
         MakeButton(button, command);
+    for (const auto& [button, widget] : m_buttons)
+        SetHelpTopic(*widget, button == Button::Dvd ? "dvd" : "controls");
+    for (auto* const slider : std::initializer_list<QWidget*>{ m_seek, m_volume })
+        SetHelpTopic(*slider, "controls");
 }
 
 SkinButton* ControlPanel::MakeButton(Button button, std::string_view command)

@@ -11,6 +11,7 @@
 #include "platform/AssociationShell.h"
 #include "platform/Files.h"
 #include "playlist/OpenFiles.h"
+#include "shell/HelpTopic.h"
 #include "shell/KeysPage.h"
 #include "shell/MessageDialog.h"
 #include "shell/QtText.h"
@@ -20,6 +21,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QShortcut>
 
 #include <utility>
 
@@ -91,10 +93,11 @@ QStringList QtFilters(const std::string& filter)
 
 } // namespace
 
-Dialogs::Dialogs(frmMain& window, Player& player, std::string programFolder)
+Dialogs::Dialogs(frmMain& window, Player& player, std::string programFolder, std::string language)
     : m_window(window)
     , m_player(player)
     , m_programFolder(std::move(programFolder))
+    , m_language(std::move(language))
 {
 }
 
@@ -180,6 +183,9 @@ void Dialogs::Open(QDialog* dialog)
     m_dialog = dialog;
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(dialog, &QDialog::finished, &m_window, [this] { m_player.Window().DialogClosed(); });
+    for (const auto& key : m_player.Keys().KeysOf("HelpTopics"))
+        QObject::connect(new QShortcut(QKeySequence(ToQString(key)), dialog), &QShortcut::activated, &m_window,
+            [this] { ShowHelp(); });
     dialog->setModal(true);
     dialog->show();
 }
@@ -218,10 +224,12 @@ void Dialogs::ShowOptions()
 
 void Dialogs::OpenOptions(const std::vector<AssociationChoice>& choices)
 {
+    auto* const keys = new KeysPage(ChoicesOf(m_player.Keys()), m_window.Pictures());
+    SetHelpTopic(*keys, "keys");
     auto* const options = new frmSettings(PagesOf(m_player.Settings()), Rows(choices), m_window.Pictures(), &m_window,
-        { new KeysPage(ChoicesOf(m_player.Keys()), m_window.Pictures()),
-            new DisplayPage(ReadDisplay(m_player.Own()),
-                [this](const DisplayChoices& chosen) { KeepDisplay(m_player.Own(), chosen); }) });
+        { keys, new DisplayPage(ReadDisplay(m_player.Own()), [this](const DisplayChoices& chosen) {
+             KeepDisplay(m_player.Own(), chosen);
+         }) });
     QObject::connect(options, &frmSettings::Commit, &m_window,
         [this](const SettingsPages& shown, const SettingsPages& chosen) { m_player.CommitOptions(shown, chosen); });
     Open(options);
@@ -233,7 +241,9 @@ void Dialogs::ShowAbout()
         return;
     auto* const about = new frmAbout(m_window.Pictures(), &m_window);
     QObject::connect(about, &frmAbout::LinkChosen, &m_window, [this](const QString& address) {
-        OpenPage(ToText(address), Words("There is no browser that shows this page:") + "\r\n");
+        const auto page = ToText(address);
+        Open(page, Words("There is no browser that shows this page:"),
+            [page] { return bool(platform::OpenDocument(page)); });
     });
     Open(about);
 }
@@ -256,21 +266,24 @@ void Dialogs::ShowCommandList()
 
 void Dialogs::ShowHelp()
 {
-    const auto help = m_programFolder + platform::HelpFile();
+    const auto topic = HelpTopicOf(QApplication::focusWidget());
+    auto help = m_programFolder + platform::HelpFile(topic, m_language);
+    if (!platform::PathExists(help))
+        help = m_programFolder + platform::HelpFile(topic, "en");
     if (platform::PathExists(help))
-        OpenPage(help, Words("There is no program that shows the help:") + "\r\n");
+        Open(help, Words("There is no program that shows the help:"),
+            [help, topic] { return bool(platform::OpenHelp(help, topic)); });
     else
         Say(Words("The help is missing. It should be here:") + "\r\n" + help);
 }
 
-void Dialogs::OpenPage(const std::string& page, const std::string& complaint)
+void Dialogs::Open(const std::string& what, const std::string& complaint, std::function<bool()> open)
 {
     const auto onWindowThread = [this](std::function<void()> work) {
         QMetaObject::invokeMethod(&m_window, std::move(work), Qt::QueuedConnection);
     };
-    RunInBackground(onWindowThread, [this, page, complaint] {
-        const bool isOpen = bool(platform::OpenDocument(page));
-        return [this, text = complaint + page, isOpen] {
+    RunInBackground(onWindowThread, [this, text = complaint + "\r\n" + what, open = std::move(open)] {
+        return [this, text, isOpen = open()] {
             if (!isOpen)
                 Say(text);
         };

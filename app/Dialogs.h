@@ -22,7 +22,8 @@ class frmMain;
 class Dialogs : public DialogFace {
 public:
     /// `programFolder`: with a trailing separator. All three live as long as the process.
-    Dialogs(frmMain& window, Player& player, std::string programFolder);
+    /// `language`: of the help, as "de".
+    Dialogs(frmMain& window, Player& player, std::string programFolder, std::string language);
 
     void ShowNotice(const Notice& notice, std::function<void()> closed) override;
     void AskForFiles(const std::string& title, const std::string& filter,
@@ -37,8 +38,8 @@ public:
     void ShowHelp() override;
 
 private:
-    /// A file or a web address; shows `complaint` with it in a box where nothing opens it.
-    void OpenPage(const std::string& page, const std::string& complaint);
+    /// `open` runs beside the window; where it fails a box shows `complaint` and what was to be opened.
+    void Open(const std::string& what, const std::string& complaint, std::function<bool()> open);
     void Say(const std::string& text);
     void OpenOptions(const std::vector<AssociationChoice>& choices);
     /// True when there is a dialog already: it comes forward.
@@ -50,6 +51,7 @@ private:
     frmMain& m_window;
     Player& m_player;
     std::string m_programFolder;
+    std::string m_language;
     QPointer<QDialog> m_dialog;
     bool m_isAwaited = false; // the options come when the types of files are read
     QString m_lastFolder;

@@ -5,6 +5,7 @@
 #include "app/WindowMenus.h"
 #include "platform/Window.h"
 #include "playlist/FancyList.h"
+#include "shell/HelpTopic.h"
 #include "shell/QtText.h"
 
 #include <chrono>
@@ -31,6 +32,7 @@ ListHand::ListHand(Player& player, FancyList& list, WindowMenus& menus)
     , m_menus(menus)
 {
     m_list.setObjectName("FancyList1");
+    SetHelpTopic(m_list, "playlist");
     ShowRowHeight(false);
     m_progressDelay.setSingleShot(true);
     m_progressDelay.setInterval(kProgressDelay);

@@ -1,6 +1,7 @@
 #include "app/SplitHandle.h"
 
 #include "base/Numbers.h"
+#include "shell/HelpTopic.h"
 #include "shell/Style.h"
 
 #include <QKeyEvent>
@@ -21,6 +22,7 @@ SplitHandle::SplitHandle(Qt::Orientation orientation, QSplitter* parent)
     SliderAccessible::Install();
     setObjectName("Splitter");
     setAccessibleName(tr("Divider between video and playlist"));
+    SetHelpTopic(*this, "playlist");
     setFocusPolicy(Qt::TabFocus);
 }
 

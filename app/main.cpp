@@ -182,7 +182,7 @@ int main(int argc, char** argv)
     QApplication::setDesktopFileName("zentaro");
     QApplication::setQuitOnLastWindowClosed(false);
     const auto programFolder = WithTrailingSeparator(platform::ExecutableFolder(), separator);
-    SpeakLanguage(application, display.language, ToQString(programFolder + "languages" + separator));
+    const auto language = SpeakLanguage(application, display.language, ToQString(programFolder + "languages" + separator));
     const bool isAllChosen = display.highContrast && display.lessMotion;
     style::Apply(application, NeedsOf(display, isAllChosen ? platform::Wishes() : platform::SystemWishes()));
     const auto workingFolder = MakeFolderOfThisRun();
@@ -257,7 +257,7 @@ int main(int argc, char** argv)
         player.Files().InspectionCompleted(ticket, std::move(result));
     };
     frmMain window(player, video, ToQString(programFolder));
-    Dialogs dialogs(window, player, programFolder);
+    Dialogs dialogs(window, player, programFolder, language);
 
     MediaRemote remote(player, RemoteWindow(window, workingFolder));
     if (!player.Load(commandLine, { &window, &dialogs }))

@@ -49,8 +49,12 @@ public:
 /// absolute path with the quotes that a desktop entry asks for.
 std::string ShortProgramPath();
 
-/// Where the help begins, below the program folder: one file on Windows, pages for the browser elsewhere.
-std::string HelpFile();
+/// Where the help on a topic lies, below the program folder: pages for the browser, but on Windows one file for the
+/// whole English help. `topic`: a page's name, "index" for the first one; `language` as of SpeakLanguage.
+std::string HelpFile(const std::string& topic, const std::string& language);
+
+/// Opens that file, with its path, at the topic. Fails as OpenDocument.
+Result<void> OpenHelp(const std::string& path, const std::string& topic);
 
 /// Opens a file (an absolute path) or a web address in the program that the user has chosen for it. Fails when the
 /// system knows no such program; on Linux its tools take up to some seconds to find that out.

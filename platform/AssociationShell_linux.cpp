@@ -294,9 +294,14 @@ std::string ShortProgramPath()
     return ExecQuoted(fs::read_symlink("/proc/self/exe", ignored).string());
 }
 
-std::string HelpFile()
+std::string HelpFile(const std::string& topic, const std::string& language)
 {
-    return "help/index.html";
+    return "help/" + language + "/" + topic + ".html";
+}
+
+Result<void> OpenHelp(const std::string& path, const std::string&)
+{
+    return OpenDocument(path);
 }
 
 Result<void> OpenDocument(const std::string& target)

@@ -142,22 +142,39 @@ std::string ShortProgramPath()
     return path.find(' ') == std::string::npos ? path : '"' + path + '"';
 }
 
-std::string HelpFile()
-{
-    return "Help.chm";
-}
+namespace {
 
-Result<void> OpenDocument(const std::string& target)
+Result<void> Open(const std::string& target, const char* parameters)
 {
     // Some extensions of the shell ask for it in the thread that they are called from.
     const auto prepared = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED | COINIT_DISABLE_OLE1DDE);
-    const auto code =
-        reinterpret_cast<std::intptr_t>(ShellExecuteA(nullptr, "open", target.c_str(), nullptr, "C:\\", SW_SHOWNORMAL));
+    const auto code = reinterpret_cast<std::intptr_t>(
+        ShellExecuteA(nullptr, "open", target.c_str(), parameters, "C:\\", SW_SHOWNORMAL));
     if (SUCCEEDED(prepared))
         CoUninitialize();
     if (code <= kLastError)
         return Error{ static_cast<std::int32_t>(code), "No program opens " + target };
     return {};
+}
+
+} // namespace
+
+std::string HelpFile(const std::string& topic, const std::string& language)
+{
+    return language == "en" ? "Help.chm" : "help\\" + language + '\\' + topic + ".html";
+}
+
+Result<void> OpenHelp(const std::string& path, const std::string& topic)
+{
+    if (topic == "index" || !path.ends_with(".chm"))
+        return OpenDocument(path);
+    const auto page = '"' + path + "::/" + topic + ".html\"";
+    return Open("hh.exe", page.c_str());
+}
+
+Result<void> OpenDocument(const std::string& target)
+{
+    return Open(target, nullptr);
 }
 
 Picture IconInFile(const std::string& file, std::int32_t index)

@@ -2,6 +2,7 @@
 
 #include "shell/Style.h"
 
+#include <QApplication>
 #include <QMenu>
 #include <QPainter>
 
@@ -11,6 +12,8 @@ namespace {
 
 constexpr int kItemHeight = 20;     // px
 constexpr double kCornerRadius = 4; // px
+constexpr int kGap = 6;             // px
+constexpr int kSmallestText = 10;   // px
 
 } // namespace
 
@@ -27,6 +30,30 @@ MenuStrip::MenuStrip(QWidget* parent)
 void MenuStrip::OpenFirst()
 {
     setActiveAction(actions().value(0));
+}
+
+void MenuStrip::Fit()
+{
+    auto text = QApplication::font();
+    const auto take = [&](int gap) {
+        m_gap = gap;
+        setFont(text);
+        // The gap alone would not have them measured anew.
+        QEvent change(QEvent::FontChange);
+        changeEvent(&change);
+        return sizeHint().width() <= width();
+    };
+    bool fits = take(kGap) || take(0);
+    for (int size = text.pixelSize() - 1; !fits && size >= kSmallestText; --size) {
+        text.setPixelSize(size);
+        fits = take(0);
+    }
+}
+
+void MenuStrip::resizeEvent(QResizeEvent* event)
+{
+    Fit();
+    QMenuBar::resizeEvent(event);
 }
 
 void MenuStrip::paintEvent(QPaintEvent*)

@@ -1,5 +1,6 @@
 #include "shell/WidgetStyle.h"
 
+#include "shell/MenuStrip.h"
 #include "shell/WidgetFaces.h"
 #include "shell/WidgetIcons.h"
 
@@ -48,6 +49,10 @@ int WidgetStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, con
         return 1;
     case PM_MenuVMargin:
         return 4;
+    case PM_MenuBarItemSpacing: {
+        const auto* const strip = qobject_cast<const MenuStrip*>(widget);
+        return strip != nullptr ? strip->Gap() : QProxyStyle::pixelMetric(metric, option, widget);
+    }
     case PM_HeaderMargin:
         return 8;
     case PM_ToolTipLabelFrameWidth:

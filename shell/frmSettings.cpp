@@ -3,6 +3,7 @@
 #include "base/Paths.h"
 #include "base/Words.h"
 #include "platform/Files.h"
+#include "shell/HelpTopic.h"
 #include "shell/MessageDialog.h"
 #include "shell/QtText.h"
 #include "shell/Style.h"
@@ -56,6 +57,7 @@ frmSettings::frmSettings(const SettingsPages& pages, const std::vector<FileTypeR
     , m_tabs(new SkinTabs(skin, this))
 {
     setObjectName("frmSettings");
+    SetHelpTopic(*this, "options");
     const auto size = Fitting({ kWidth, kHeight });
     m_isNarrow = size.width() < kWidth;
     m_tabs->addTab(new SkinScroll(MakePlayerPage(), m_tabs), tr("&Player"));
@@ -156,6 +158,7 @@ void frmSettings::AddColumns(QBoxLayout& layout, QBoxLayout* left, int leftShare
 QWidget* frmSettings::MakeAssociationsPage(const std::vector<FileTypeRow>& rows)
 {
     auto* const page = new QWidget;
+    SetHelpTopic(*page, "types");
     m_types = new QListWidget;
     m_types->setAccessibleName(tr("File types"));
     m_types->setIconSize({ 20, 20 });

@@ -19,6 +19,7 @@
 #include <QImage>
 #include <QLabel>
 #include <QMenu>
+#include <QMenuBar>
 #include <QTabWidget>
 
 #include <cmath>
@@ -184,6 +185,23 @@ TEST_F(Everyone, HasATextForWhateverACommandIsCalled)
             expectKnown(ListedName(command));
         for (const CommandTree tree; const auto& item : tree.Items())
             expectKnown(item.caption);
+        SetTranslator(nullptr);
+    }
+}
+
+TEST_F(Everyone, FindsAllMenusInTheSmallestWindow)
+{
+    for (const auto* const language : { "en", "de", "fr", "es", "ja" }) {
+        SpeakLanguage(*QCoreApplication::instance(), language, m_programFolder + "languages/");
+        // Its captions are made with the window.
+        frmMain window(m_player, new VideoFrame(m_programFolder + "Audio.JPG", nullptr), m_programFolder);
+        window.resize(WindowLayout::kMinimumWidth, WindowLayout::kMinimumHeight);
+        window.show();
+        QApplication::processEvents();
+        const auto* const strip = window.findChild<QMenuBar*>();
+        const auto last = strip->actionGeometry(strip->actions().last());
+        EXPECT_LE(last.right(), strip->width()) << language;
+        EXPECT_GE(last.width(), 20) << language;
         SetTranslator(nullptr);
     }
 }

@@ -122,7 +122,16 @@ TEST_F(Dialogs, HelpAndTheWebPageOpenInTheBrowserAndWhatIsMissingIsSaid)
     auto player = ShowWithBrowser();
     Screen().Activate(player.window);
     Screen().Press("F1");
-    EXPECT_TRUE(WasOpened("/program/help/index.html"));
+    EXPECT_TRUE(WasOpened("/program/help/en/index.html"));
+    // What has the focus has its page.
+    Screen().Press("F6 F1");
+    EXPECT_TRUE(WasOpened("/program/help/en/playlist.html"));
+    Screen().Press("ctrl+shift+p");
+    EXPECT_TRUE(player.WaitForDialogs(1));
+    Screen().Press("F1");
+    EXPECT_TRUE(WasOpened("/program/help/en/keys.html"));
+    Screen().Press("Escape");
+    EXPECT_TRUE(player.WaitForDialogs(0));
     // No browser is found, or the help is not there.
     WriteWholeFile(InHome("bin/xdg-open"), "#!/bin/sh\nexit 3\n");
     Screen().Press("F1");
