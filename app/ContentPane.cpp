@@ -1,26 +1,67 @@
 #include "app/ContentPane.h"
 
+#include "app/OwnSettings.h"
 #include "app/SplitHandle.h"
 #include "playback/VideoFrame.h"
 
 #include <QCoreApplication>
 #include <QMouseEvent>
 
+#include <algorithm>
+#include <chrono>
+#include <string>
 #include <utility>
 
 namespace zentaro {
 
-ContentPane::ContentPane(VideoFrame& video, QWidget& list, QWidget* parent)
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr int kWhole = 1000; // shares are kept in parts of it
+
+std::string KeyOfShare(PlaylistDock dock)
+{
+    return "list.share." + std::to_string(static_cast<int>(dock));
+}
+
+} // namespace
+
+ContentPane::ContentPane(VideoFrame& video, QWidget& list, OwnSettings& settings, QWidget* parent)
     : QSplitter(parent)
     , m_video(video)
     , m_list(list)
+    , m_settings(settings)
 {
     setChildrenCollapsible(false);
     setHandleWidth(PaneShare::kSplitter);
     for (auto* const pane : std::initializer_list<QWidget*>{ &m_video, &m_list })
         addWidget(pane);
     m_video.installEventFilter(this);
-    connect(this, &QSplitter::splitterMoved, this, [this] { m_isSplitByHand = true; });
+    connect(this, &QSplitter::splitterMoved, this, &ContentPane::SplitterMoved);
+    m_saveDelay.setSingleShot(true);
+    m_saveDelay.setInterval(500ms);
+    connect(&m_saveDelay, &QTimer::timeout, this, [this] { IgnoreFailure(m_settings.Save()); });
+}
+
+void ContentPane::SplitterMoved()
+{
+    m_isSplitByHand = true;
+    const int size = orientation() == Qt::Vertical ? m_list.height() : m_list.width();
+    m_settings.Set(KeyOfShare(m_splitFor), std::to_string(size * kWhole / std::max(Room(), 1)));
+    m_saveDelay.start();
+}
+
+int ContentPane::Room() const
+{
+    return orientation() == Qt::Vertical ? height() : width();
+}
+
+int ContentPane::ListShare(const PaneShare& share) const
+{
+    const int kept = m_settings.Number(KeyOfShare(m_splitFor), 0, 1, kWhole - 1);
+    const int most = Room() - PaneShare::kSplitter - share.minimum;
+    return kept > 0 && most >= share.minimum ? std::clamp(Room() * kept / kWhole, share.minimum, most) : share.list;
 }
 
 QSplitterHandle* ContentPane::createHandle()
@@ -95,7 +136,7 @@ void ContentPane::Arrange(PlaylistDock dock, bool isFilled, const QRect& place)
     }
     const bool isShared = !isFilled && dock < PlaylistDock::Whole;
     const bool isStacked = orientation() == Qt::Vertical;
-    const auto room = isStacked ? place.height() : place.width();
+    const int room = isStacked ? place.height() : place.width();
     const auto share = isShared ? SharePanes(room) : PaneShare();
     // Panes that need more than there is would stick out over the controls.
     for (auto* const pane : std::initializer_list<QWidget*>{ &m_video, &m_list })
@@ -103,11 +144,12 @@ void ContentPane::Arrange(PlaylistDock dock, bool isFilled, const QRect& place)
     m_list.setVisible(!isFilled && dock != PlaylistDock::Hidden && (!isShared || share.list > 0));
     m_video.setVisible(isFilled || dock != PlaylistDock::Whole);
     setGeometry(place);
-    // The list has its usual share until the splitter is moved.
+    // The list has its usual share, or the one that was chosen before, until the splitter is moved.
     if (!isShared || m_isSplitByHand)
         return;
     const bool isListFirst = indexOf(&m_list) == 0;
-    setSizes(isListFirst ? QList{ share.list, room - share.list } : QList{ room - share.list, share.list });
+    const int list = ListShare(share);
+    setSizes(isListFirst ? QList{ list, room - list } : QList{ room - list, list });
 }
 
 } // namespace zentaro

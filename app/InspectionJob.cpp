@@ -89,6 +89,11 @@ Inspection Refusal(std::string reason)
     return inspection;
 }
 
+Picture PictureOf(const Inspection& recalled, const InspectionContext& shared)
+{
+    return recalled.isPictureKept ? shared.decodeBytes(recalled.pictureFile) : shared.defaultAudioPicture;
+}
+
 Inspection InspectionJob::Inspect(const std::function<void(Inspection)>& reportRead)
 {
     if (givesWay)
@@ -141,8 +146,7 @@ std::optional<Inspection> InspectionJob::Recall(const InspectionContext& shared)
     auto inspection = known ? known->Recall(path) : std::nullopt;
     if (!inspection)
         return std::nullopt;
-    inspection->thumbnail =
-        inspection->isPictureKept ? shared.decodeBytes(inspection->pictureFile) : shared.defaultAudioPicture;
+    inspection->thumbnail = PictureOf(*inspection, shared);
     inspection->pictureFile.clear();
     return inspection->thumbnail ? std::move(inspection) : std::nullopt;
 }

@@ -16,6 +16,9 @@ namespace zentaro {
 /// A file that is refused without having been read.
 Inspection Refusal(std::string reason);
 
+/// The thumbnail of a file that was seen before.
+Picture PictureOf(const Inspection& recalled, const InspectionContext& shared);
+
 /// One inspection. Its thread and the window's thread share it.
 struct InspectionJob {
     int ticket = 0; ///< 0: it is not asked for yet, but will be

@@ -97,7 +97,7 @@ void InspectionThreads::FindPictures(std::vector<PictureOrder> orders)
         const auto shared = context();
         for (const auto& order : orders) {
             const auto inspection = known ? known->Recall(order.path) : std::nullopt;
-            found.push_back({ order.id, inspection ? shared->decodeBytes(inspection->pictureFile) : Picture() });
+            found.push_back({ order.id, inspection ? PictureOf(*inspection, *shared) : Picture() });
         }
         return [alive, found = std::move(found)] {
             if (*alive != nullptr && (*alive)->onPicturesFound)

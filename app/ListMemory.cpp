@@ -20,6 +20,7 @@ RememberedList::Entry ReadEntry(const std::vector<std::string>& row)
     entry.FullPath = TextAt(row, 1);
     entry.Title = TextAt(row, 2);
     entry.MediaInfo = TextAt(row, 4);
+    entry.IsThumbnailKept = true; // if what is known of files still has it
     entry.Facts.duration = NumberAt(row, 5);
     entry.Facts.width = RoundHalfEven(NumberAt(row, 6));
     entry.Facts.height = RoundHalfEven(NumberAt(row, 7));

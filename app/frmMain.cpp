@@ -51,7 +51,7 @@ frmMain::frmMain(Player& player, VideoFrame* video, const QString& programFolder
     , m_programFolder(programFolder)
     , m_video(video)
     , m_list(new FancyList(player.Entries().List()))
-    , m_content(new ContentPane(*video, *m_list, this))
+    , m_content(new ContentPane(*video, *m_list, player.Own(), this))
     , m_controls(new ControlPanel(player, this))
     , m_bar(new FullScreenBar(
           m_skin, [this] { return m_controls->ButtonStates(); }, this))

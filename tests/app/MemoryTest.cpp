@@ -55,6 +55,7 @@ TEST_F(MemoryTest, a_killed_player_offers_its_list_and_where_the_film_was)
     EXPECT_EQ(world.player->State().volume, 40);
     Run("BringBack");
     EXPECT_EQ(Rows(), "/a.avi /b.avi /c.avi ");
+    EXPECT_TRUE(world.player->Entries().IsThumbnailKept(2)) << "nobody would look for it";
     EXPECT_EQ(LastPlayed(), "/b.avi");
     EXPECT_EQ(world.player->Entries().Order().Position(), 1);
     PlayTo(0);

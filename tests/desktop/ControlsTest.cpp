@@ -142,6 +142,25 @@ TEST_F(Controls, TheListLiesWhereTheSettingSaysAndHides)
     }
 }
 
+TEST_F(Controls, TheSplitterIsWhereItWasPut)
+{
+    StoreSettings([](PlayerSettings& settings) { settings.PlaylistPosition = 0; });
+    auto player = StartAndShow({ Clips::Make("clip.mp4") });
+    EXPECT_TRUE(player.PictureMoves());
+    const auto before = player.Video();
+    Screen().Hold(before.left - 3, before.top + 40);
+    for (int x = 0; x <= 30; x += 10)
+        Screen().MoveTo(before.left - 3 + x, before.top + 40);
+    EXPECT_TRUE(WaitUntil([&] { return player.Video().left >= before.left + 25; }));
+    Screen().Release();
+    const auto moved = player.Video();
+    std::this_thread::sleep_for(1s); // a drag is kept when it rests
+    EXPECT_CLOSES_CLEANLY(player);
+    player = StartAndShow({ Clips::Make("clip.mp4") });
+    EXPECT_TRUE(WaitUntil([&] { return std::abs(player.Video().left - moved.left) < 3; }));
+    EXPECT_CLOSES_CLEANLY(player);
+}
+
 TEST_F(Controls, ASnapshotIsAPictureInTheFolderOfItsFile)
 {
     StoreSettings([&](PlayerSettings& settings) {
