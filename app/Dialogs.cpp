@@ -15,6 +15,7 @@
 #include "shell/KeysPage.h"
 #include "shell/MessageDialog.h"
 #include "shell/QtText.h"
+#include "shell/WaysPage.h"
 #include "shell/frmAbout.h"
 #include "shell/frmSettings.h"
 
@@ -79,6 +80,21 @@ KeyChoices ChoicesOf(KeyMap& map)
     };
     choices.take = [&map](const KeyTable& keys) { map.Take(keys); };
     return choices;
+}
+
+WayChoices ChosenWays(const Player& player)
+{
+    const auto has = [&](Choice choice) { return player.Choices().Has(choice); };
+    return { has(Choice::FamiliarWays), has(Choice::Remembers), has(Choice::RemembersRemovable), has(Choice::LowRows) };
+}
+
+void TakeWays(Player& player, const WayChoices& chosen)
+{
+    if (chosen.remembers != player.Remembering().IsRemembering())
+        player.Remembering().SetRemembering(chosen.remembers);
+    player.Choices().Set(Choice::RemembersRemovable, chosen.remembersRemovable);
+    player.Choices().Set(Choice::LowRows, chosen.lowRows);
+    player.SetFamiliarWays(chosen.familiar);
 }
 
 /// From "name|patterns" pairs to what Qt wants: "name (patterns)", with blanks between the patterns.
@@ -227,9 +243,9 @@ void Dialogs::OpenOptions(const std::vector<AssociationChoice>& choices)
     auto* const keys = new KeysPage(ChoicesOf(m_player.Keys()), m_window.Pictures());
     SetHelpTopic(*keys, "keys");
     auto* const options = new frmSettings(PagesOf(m_player.Settings()), Rows(choices), m_window.Pictures(), &m_window,
-        { keys, new DisplayPage(ReadDisplay(m_player.Own()), [this](const DisplayChoices& chosen) {
-             KeepDisplay(m_player.Own(), chosen);
-         }) });
+        { keys, new WaysPage(ChosenWays(m_player), [this](const WayChoices& chosen) { TakeWays(m_player, chosen); }),
+            new DisplayPage(ReadDisplay(m_player.Own()),
+                [this](const DisplayChoices& chosen) { KeepDisplay(m_player.Own(), chosen); }) });
     QObject::connect(options, &frmSettings::Commit, &m_window,
         [this](const SettingsPages& shown, const SettingsPages& chosen) { m_player.CommitOptions(shown, chosen); });
     Open(options);

@@ -128,6 +128,12 @@ constexpr std::array kCommands{
                 player.Face().window->ShowNote(Words(on ? "Ways: Familiar" : "Ways: Zentaro's own"));
             },
         .isChecked = [](const Player& player) { return player.Ways().isFamiliar; } },
+    Command{ .id = "ShowFailures",
+        .caption = "&Show",
+        .run = [](Player& player,
+                   int) { player.Face().dialogs->ShowNotice(GatherNotices(player.Files().Failures()), [] {}); },
+        .isAvailable = [](const Player& player) { return !player.Files().Failures().empty(); },
+        .name = "Show What Could Not Be Opened" },
     Command{ "ClearHistory", "Clear &Recent Files", {}, [](Player& player, int) { player.ClearHistory(); } },
     Command{ "ForgetEntry", "&Forget This Entry", {},
         [](Player& player, int) {

@@ -3,6 +3,7 @@
 #include "app/Commands.h"
 #include "app/Player.h"
 #include "app/WindowMenus.h"
+#include "base/Words.h"
 #include "platform/Window.h"
 #include "playlist/FancyList.h"
 #include "shell/HelpTopic.h"
@@ -52,7 +53,7 @@ void ListHand::PassOn()
         m_menus.Popup("mnuPlayListmenu", m_list.mapToGlobal(QPoint(x, y)));
     });
     on(&FancyList::CancelAdding, [this] { m_player.Files().CancelAdding(); });
-    on(&FancyList::CardTaken, [this] { RunCommand(m_player, "BringBack"); });
+    on(&FancyList::CardTaken, [this] { TakeCard(); });
     on(&FancyList::RowsDragged, [this](int to) { m_player.Editing().MoveTo(to); });
     on(&FancyList::MenuAsked, [this](const QPoint& at) { m_menus.PopupListMenu(at); });
     on(&FancyList::OLEDragDrop,
@@ -63,12 +64,37 @@ void ListHand::Show()
 {
     ShowAddProgress();
     const auto& entries = std::as_const(m_player).Entries();
-    m_list.SetCard(entries.Count() == 0 ? ToQString(m_player.Remembering().LastTime()) : QString());
+    m_list.SetCard(Card());
+    // It is offered once; whoever has found the way without it needs it no more.
+    if (entries.Count() > 0 && OffersWays())
+        m_player.Choices().Set(Choice::KnowsOfWays, true);
     if (std::exchange(m_toldRevision, entries.Revision()) != entries.Revision())
         m_list.SetFoot(ToQString(SummaryText(entries)));
     const bool isCompact = m_player.Choices().Has(Choice::LowRows);
     if (std::exchange(m_isCompact, isCompact) != isCompact)
         ShowRowHeight(isCompact);
+}
+
+bool ListHand::OffersWays() const
+{
+    return !m_player.Choices().Has(Choice::KnowsOfWays) && !m_player.Ways().isFamiliar;
+}
+
+QString ListHand::Card() const
+{
+    if (m_player.Entries().Count() > 0)
+        return {};
+    if (const auto last = m_player.Remembering().LastTime(); !last.empty())
+        return ToQString(last);
+    return OffersWays() ? ToQString(Words("Used to other players? Take their ways")) : QString();
+}
+
+void ListHand::TakeCard()
+{
+    if (!m_player.Remembering().LastTime().empty())
+        return RunCommand(m_player, "BringBack");
+    m_player.Choices().Set(Choice::KnowsOfWays, true);
+    RunCommand(m_player, "FamiliarWays");
 }
 
 void ListHand::ShowRowHeight(bool isCompact)

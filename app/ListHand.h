@@ -2,6 +2,7 @@
 
 #include "playlist/AddQueue.h"
 
+#include <QString>
 #include <QTimer>
 
 #include <cstdint>
@@ -22,6 +23,9 @@ public:
 
 private:
     void PassOn();
+    bool OffersWays() const;
+    QString Card() const;
+    void TakeCard();
     void ShowRowHeight(bool isCompact);
     void ShowAddProgress();
 

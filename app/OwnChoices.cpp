@@ -19,6 +19,8 @@ std::string_view KeyOf(Choice choice)
         return "choice.lowRows";
     case Choice::FamiliarWays:
         return "choice.familiarWays";
+    case Choice::KnowsOfWays:
+        return "choice.knowsOfWays";
     }
     return {};
 }

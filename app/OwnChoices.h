@@ -10,6 +10,7 @@ enum class Choice {
     RemembersRemovable, ///< also those of discs that are taken out
     LowRows,            ///< more of the list's rows are in sight
     FamiliarWays,       ///< as Ways::isFamiliar
+    KnowsOfWays,        ///< the choice was offered
 };
 
 /// These choices, each kept as soon as it is made.

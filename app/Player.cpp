@@ -4,6 +4,7 @@
 #include "app/ListFiles.h"
 #include "app/Snapshots.h"
 #include "base/Paths.h"
+#include "base/Words.h"
 #include "playlist/ListFile.h"
 #include "playlist/MediaTypes.h"
 
@@ -295,6 +296,12 @@ void Player::ThumbnailChanged()
 void Player::FilesFound(const FoundFiles& found)
 {
     TakeFound(*this, found);
+}
+
+void Player::ShowFailures(int failed, int total)
+{
+    m_face.window->ShowOffer(
+        Words("%1 of %2 could not be opened", { std::to_string(failed), std::to_string(total) }), "ShowFailures");
 }
 
 void Player::AddProgressChanged()

@@ -88,6 +88,7 @@ public:
     Transport& Transporting() { return m_transport; }
     const TransportState& State() const { return m_transport.State(); }
     Library& Files() { return m_library; }
+    const Library& Files() const { return m_library; }
     Playlist& Entries() { return m_library.Entries(); }
     const Playlist& Entries() const { return m_library.Entries(); }
     Sequencer& Sequence() { return m_sequencer; }
@@ -120,6 +121,8 @@ private:
     void ShowNotice(const Notice& notice, std::function<void()> closed) override;
     void PlayItem(int index, bool playFlag) override { m_sequencer.PlayChosen(index, playFlag); }
     bool PlaysListedInPlace() const override { return Ways().ListedPlaysInPlace(); }
+    bool GathersFailures() const override { return Ways().FailuresAreGathered(); }
+    void ShowFailures(int failed, int total) override;
     std::int32_t PlayMode() const override { return Settings().PlayMode; }
     void EntryAdded() override;
     void AddProgressChanged() override;

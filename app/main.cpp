@@ -182,7 +182,8 @@ int main(int argc, char** argv)
     QApplication::setDesktopFileName("zentaro");
     QApplication::setQuitOnLastWindowClosed(false);
     const auto programFolder = WithTrailingSeparator(platform::ExecutableFolder(), separator);
-    const auto language = SpeakLanguage(application, display.language, ToQString(programFolder + "languages" + separator));
+    const auto language =
+        SpeakLanguage(application, display.language, ToQString(programFolder + "languages" + separator));
     const bool isAllChosen = display.highContrast && display.lessMotion;
     style::Apply(application, NeedsOf(display, isAllChosen ? platform::Wishes() : platform::SystemWishes()));
     const auto workingFolder = MakeFolderOfThisRun();

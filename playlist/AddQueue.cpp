@@ -36,11 +36,19 @@ AddQueue::~AddQueue()
     Close();
 }
 
-void AddQueue::Add(std::vector<AddRequest> requests, AddTurn turn)
+void AddQueue::Add(std::vector<AddRequest> requests, AddTurn turn, const std::vector<std::string>& skipped)
 {
-    if (m_closed || requests.empty())
+    const bool tellsSkipped = m_host.GathersFailures() && !skipped.empty();
+    if (m_closed || (requests.empty() && !tellsSkipped))
         return;
     auto& batch = BatchFor(turn);
+    batch.size += static_cast<int>(requests.size());
+    if (tellsSkipped) {
+        batch.size += static_cast<int>(skipped.size());
+        batch.failed += static_cast<int>(skipped.size());
+        for (const auto& path : skipped)
+            batch.gathered.push_back(CannotOpenNotice(path, Words("It is of no type that is known to play.")));
+    }
     for (auto& request : requests)
         batch.jobs.push_back({ std::move(request), ++m_lastTicket });
     Advance();
@@ -274,6 +282,7 @@ void AddQueue::TakeFirst(Batch& batch)
     }
     batch.inHand.reset(
         new InHand{ LoadThumb(m_playlist, m_inspected, m_host, std::move(job.request), std::move(job.inspection)) });
+    batch.failed += batch.inHand->file.Outcome() == AddOutcome::Refused ? 1 : 0;
     if (!ShowNextBox(batch))
         Finish(batch);
 }
@@ -285,7 +294,7 @@ bool AddQueue::ShowNextBox(Batch& batch)
         const auto& notice = inHand.file.Boxes()[inHand.shown++];
         // Nobody waits for a box: what it says is decided.
         inHand.file.TellDecision();
-        if (batch.boxes >= kBoxesAsTheyCome) {
+        if (batch.boxes >= kBoxesAsTheyCome || (batch.size > 1 && m_host.GathersFailures())) {
             batch.gathered.push_back(notice);
             continue;
         }
@@ -336,12 +345,23 @@ void AddQueue::EndOldBatches()
             ++at;
             continue;
         }
-        if (!at->gathered.empty())
-            m_host.ShowNotice(GatherNotices(at->gathered), [] {});
+        TellGathered(*at);
         at = m_batches.erase(at);
     }
     if (m_batches.empty())
         m_taken = 0;
+}
+
+void AddQueue::TellGathered(Batch& batch)
+{
+    if (batch.gathered.empty())
+        return;
+    if (batch.failed == 0 || !m_host.GathersFailures()) {
+        m_host.ShowNotice(GatherNotices(batch.gathered), [] {});
+        return;
+    }
+    m_failures = std::move(batch.gathered);
+    m_host.ShowFailures(batch.failed, batch.size);
 }
 
 void AddQueue::ReportProgress()

@@ -87,7 +87,9 @@ public:
     AddQueue(const AddQueue&) = delete;
     AddQueue& operator=(const AddQueue&) = delete;
 
-    void Add(std::vector<AddRequest> requests, AddTurn turn = AddTurn::AfterOthers);
+    /// `skipped`: files that came with them and are no media; told of only where the host gathers failures.
+    void Add(std::vector<AddRequest> requests, AddTurn turn = AddTurn::AfterOthers,
+        const std::vector<std::string>& skipped = {});
     /// The answer to InspectionRunner::Recall.
     void Recalled(std::vector<RecalledFile> files);
     /// What is known of a running inspection's file before its picture is made; Completed() follows. A file that is to
@@ -101,6 +103,8 @@ public:
     void Close();
 
     AddProgress Progress() const;
+    /// What could not be added when the host was last told of it.
+    const std::vector<Notice>& Failures() const { return m_failures; }
 
 private:
     struct Job {
@@ -130,6 +134,8 @@ private:
         std::shared_ptr<InHand> inHand = {};
         int boxes = 0;
         std::vector<Notice> gathered = {};
+        int size = 0;   // of all its files
+        int failed = 0; // that could not be opened
 
         bool IsOver() const { return jobs.empty() && !inHand; }
     };
@@ -148,6 +154,7 @@ private:
     bool ShowNextBox(Batch& batch);
     void BoxClosed(Batch& batch);
     void Finish(Batch& batch);
+    void TellGathered(Batch& batch);
     void DropJobs(Batch& batch);
     void EndOldBatches();
     void ReportProgress();
@@ -165,6 +172,7 @@ private:
     int m_waitedFor = 0;
     int m_taken = 0;
     AddProgress m_reported;
+    std::vector<Notice> m_failures;
     bool m_closed = false;
 };
 

@@ -136,8 +136,8 @@ bool NaturalLess(std::string_view a, std::string_view b)
     return wholeA < wholeB;
 }
 
-std::vector<std::string> DroppedMediaFiles(
-    const std::vector<std::string>& paths, char separator, const GoOn& goOn, bool takesAll)
+std::vector<std::string> DroppedMediaFiles(const std::vector<std::string>& paths, char separator, const GoOn& goOn,
+    bool takesAll, std::vector<std::string>* skipped)
 {
     std::vector<std::string> files;
     FolderReader reader(separator, goOn, takesAll);
@@ -148,6 +148,8 @@ std::vector<std::string> DroppedMediaFiles(
                 break;
         } else if (IsMediaFile(path, separator, takesAll)) {
             files.push_back(TidyPath(path));
+        } else if (skipped != nullptr) {
+            skipped->push_back(path);
         }
     }
     return files;

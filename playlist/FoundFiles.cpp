@@ -64,7 +64,7 @@ FoundFiles FindFiles(const std::vector<std::string>& paths, char separator, cons
         else
             names.push_back(path);
     }
-    found.media = DroppedMediaFiles(names, separator, goOn, takesAll);
+    found.media = DroppedMediaFiles(names, separator, goOn, takesAll, &found.skipped);
     return found;
 }
 

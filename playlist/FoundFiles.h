@@ -10,6 +10,7 @@ namespace zentaro {
 /// What names stand for that were dropped, chosen or handed over.
 struct FoundFiles {
     std::vector<std::string> media;
+    std::vector<std::string> skipped;   ///< names of files that are no media
     std::vector<std::string> subtitles; ///< for what plays
     int listed = 0;                     ///< entries of the lists among the names
     int unreadable = 0;                 ///< of these, the ones behind which there is no file that plays

@@ -119,7 +119,7 @@ void Library::DropOnList(const std::vector<std::string>& paths)
 {
     auto& drop = m_drops.emplace_back();
     FindMedia(paths, [this, &drop](const FoundFiles& found) {
-        drop = { true, found.media };
+        drop = { true, found };
         AddReadDrops();
     });
 }
@@ -127,13 +127,14 @@ void Library::DropOnList(const std::vector<std::string>& paths)
 void Library::AddReadDrops()
 {
     for (; !m_drops.empty() && m_drops.front().isRead; m_drops.pop_front())
-        m_adding.Add(AddRequests(m_drops.front().files, m_separator, false));
+        m_adding.Add(AddRequests(m_drops.front().found.media, m_separator, false), AddTurn::AfterOthers,
+            m_drops.front().found.skipped);
 }
 
 void Library::DropOnVideo(const std::vector<std::string>& paths)
 {
     FindMedia(paths, [this](const FoundFiles& found) {
-        m_adding.Add(AddRequests(found.media, m_separator, true), AddTurn::AtOnce);
+        m_adding.Add(AddRequests(found.media, m_separator, true), AddTurn::AtOnce, found.skipped);
     });
 }
 

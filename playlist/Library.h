@@ -67,6 +67,8 @@ public:
     void PicturesFound(std::vector<FoundPicture> pictures);
     /// The entries have changed, or another one plays.
     void UpdatePictures() { m_pictures.EntriesChanged(); }
+    /// Gathered, when LibraryHost::ShowFailures was called last.
+    const std::vector<Notice>& Failures() const { return m_adding.Failures(); }
     void CancelAdding() { m_adding.Cancel(); }
     AddProgress Adding() const { return m_adding.Progress(); }
     /// Nothing is added any more, and nobody is asked.
@@ -76,7 +78,7 @@ private:
     /// Files dropped on the list; they are added in the order of the drops, each when its folders are read.
     struct Drop {
         bool isRead = false;
-        std::vector<std::string> files = {};
+        FoundFiles found = {};
     };
 
     void Ask(bool playFirst, bool selectsFirst, std::function<void()> then);

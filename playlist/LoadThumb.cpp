@@ -15,11 +15,6 @@ Notice DuplicateNotice(const AddRequest& request)
     return { Words("\"%1\" is already in your playlist", { request.title }), NoticeIcon::Information, "Media Player" };
 }
 
-Notice CannotOpenNotice(const AddRequest& request, const std::string& reason)
-{
-    return { Words("Cannot open file <%1>", { request.path }) + "\r\n" + reason };
-}
-
 std::string TwoDigits(int value)
 {
     return (value < 10 ? "0" : "") + std::to_string(value);
@@ -42,6 +37,11 @@ std::string FileSizeText(std::int64_t bytes)
 }
 
 } // namespace
+
+Notice CannotOpenNotice(const std::string& path, const std::string& reason)
+{
+    return { Words("Cannot open file <%1>", { path }) + "\r\n" + reason };
+}
 
 std::string DurationText(double length)
 {
@@ -84,7 +84,7 @@ LoadThumb::LoadThumb(
     m_boxes = m_inspection.notices;
     if (!m_inspection.ok) {
         m_outcome = AddOutcome::Refused;
-        m_boxes.push_back(CannotOpenNotice(m_request, m_inspection.errorText));
+        m_boxes.push_back(CannotOpenNotice(m_request.path, m_inspection.errorText));
     }
 }
 

@@ -53,6 +53,9 @@ struct AddRequest {
     std::function<void(AddOutcome)> onDecided = {};
 };
 
+/// For a file that could not be read.
+Notice CannotOpenNotice(const std::string& path, const std::string& reason);
+
 /// What adding needs from the player.
 class AddHost {
 public:
@@ -63,6 +66,10 @@ public:
     virtual std::int32_t PlayMode() const = 0;
     /// A file that is listed plays where it stands, and nobody is told so.
     virtual bool PlaysListedInPlace() const { return false; }
+    /// What could not be added, of more files than one, is gathered instead of shown in a row of boxes.
+    virtual bool GathersFailures() const { return false; }
+    /// That is to be told now; AddQueue::Failures() says what it is.
+    virtual void ShowFailures(int /*failed*/, int /*total*/) { }
     /// A new entry stands in the list and the order: menus can be brought in line.
     virtual void EntryAdded() = 0;
     /// An entry that stands in the list has got another picture.
@@ -77,6 +84,7 @@ public:
 
     /// The boxes to be shown, one after the other, before Finish().
     const std::vector<Notice>& Boxes() const { return m_boxes; }
+    AddOutcome Outcome() const { return m_outcome; }
     /// Tells whoever waits for the outcome, once.
     void TellDecision();
     /// Adds and plays. A duplicate adds nothing, but plays the last entry of the list all the same.

@@ -1583,5 +1583,53 @@
         <source>Zentaro</source>
         <translation>Zentaro</translation>
     </message>
+    <message>
+        <source>&amp;Ways</source>
+        <translation>&amp;Verhalten</translation>
+    </message>
+    <message>
+        <source>&amp;Zentaro's own ways</source>
+        <translation>&amp;Zentaros eigene Art</translation>
+    </message>
+    <message>
+        <source>Ways &amp;familiar from other players</source>
+        <translation>Wie von anderen Playern ge&amp;wohnt</translation>
+    </message>
+    <message>
+        <source>With these, Play goes on from a pause, Next and Previous follow the shuffled order, a click in the list does not change what follows, all known types of files are taken, and the last list comes back by itself. The help names the rest.</source>
+        <translation>Damit setzt Wiedergabe nach einer Pause fort, Nächster und Voriger folgen der gemischten Reihenfolge, ein Klick in der Liste ändert nicht, was folgt, alle bekannten Dateitypen werden angenommen, und die letzte Liste kommt von selbst zurück. Die Hilfe nennt den Rest.</translation>
+    </message>
+    <message>
+        <source>&amp;Remember lists and places</source>
+        <translation>Listen und Stellen me&amp;rken</translation>
+    </message>
+    <message>
+        <source>Also of &amp;discs that are taken out</source>
+        <translation>Auch von herausnehmbaren &amp;Datenträgern</translation>
+    </message>
+    <message>
+        <source>&amp;Low rows in the list</source>
+        <translation>&amp;Niedrige Zeilen in der Liste</translation>
+    </message>
+    <message>
+        <source>Used to other players? Take their ways</source>
+        <translation>Andere Player gewohnt? Deren Art übernehmen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 could not be opened</source>
+        <translation>%1 von %2 konnten nicht geöffnet werden</translation>
+    </message>
+    <message>
+        <source>It is of no type that is known to play.</source>
+        <translation>Es ist kein Typ, der sich abspielen lässt.</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Zeigen</translation>
+    </message>
+    <message>
+        <source>Show What Could Not Be Opened</source>
+        <translation>Zeigen, was sich nicht öffnen ließ</translation>
+    </message>
 </context>
 </TS>

@@ -1583,5 +1583,53 @@
         <source>Zentaro</source>
         <translation>Zentaro</translation>
     </message>
+    <message>
+        <source>&amp;Ways</source>
+        <translation>&amp;Modos</translation>
+    </message>
+    <message>
+        <source>&amp;Zentaro's own ways</source>
+        <translation>La manera de &amp;Zentaro</translation>
+    </message>
+    <message>
+        <source>Ways &amp;familiar from other players</source>
+        <translation>Como en &amp;otros reproductores</translation>
+    </message>
+    <message>
+        <source>With these, Play goes on from a pause, Next and Previous follow the shuffled order, a click in the list does not change what follows, all known types of files are taken, and the last list comes back by itself. The help names the rest.</source>
+        <translation>Así, Reproducir continúa tras una pausa, Siguiente y Anterior siguen el orden aleatorio, un clic en la lista no cambia lo que sigue, se aceptan todos los tipos de archivo conocidos y la última lista vuelve por sí sola. La ayuda explica el resto.</translation>
+    </message>
+    <message>
+        <source>&amp;Remember lists and places</source>
+        <translation>&amp;Recordar listas y posiciones</translation>
+    </message>
+    <message>
+        <source>Also of &amp;discs that are taken out</source>
+        <translation>También de los &amp;discos extraíbles</translation>
+    </message>
+    <message>
+        <source>&amp;Low rows in the list</source>
+        <translation>&amp;Filas bajas en la lista</translation>
+    </message>
+    <message>
+        <source>Used to other players? Take their ways</source>
+        <translation>¿Acostumbrado a otros reproductores? Usar su manera</translation>
+    </message>
+    <message>
+        <source>%1 of %2 could not be opened</source>
+        <translation>No se pudieron abrir %1 de %2</translation>
+    </message>
+    <message>
+        <source>It is of no type that is known to play.</source>
+        <translation>No es de un tipo que se pueda reproducir.</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Mostrar</translation>
+    </message>
+    <message>
+        <source>Show What Could Not Be Opened</source>
+        <translation>Mostrar lo que no se pudo abrir</translation>
+    </message>
 </context>
 </TS>

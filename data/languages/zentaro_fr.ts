@@ -1583,5 +1583,53 @@
         <source>Zentaro</source>
         <translation>Zentaro</translation>
     </message>
+    <message>
+        <source>&amp;Ways</source>
+        <translation>&amp;Habitudes</translation>
+    </message>
+    <message>
+        <source>&amp;Zentaro's own ways</source>
+        <translation>La manière de &amp;Zentaro</translation>
+    </message>
+    <message>
+        <source>Ways &amp;familiar from other players</source>
+        <translation>Comme dans les &amp;autres lecteurs</translation>
+    </message>
+    <message>
+        <source>With these, Play goes on from a pause, Next and Previous follow the shuffled order, a click in the list does not change what follows, all known types of files are taken, and the last list comes back by itself. The help names the rest.</source>
+        <translation>Ainsi, Lecture reprend après une pause, Suivant et Précédent suivent l'ordre aléatoire, un clic dans la liste ne change pas la suite, tous les types de fichiers connus sont acceptés et la dernière liste revient d'elle-même. L'aide indique le reste.</translation>
+    </message>
+    <message>
+        <source>&amp;Remember lists and places</source>
+        <translation>Mémo&amp;riser les listes et les positions</translation>
+    </message>
+    <message>
+        <source>Also of &amp;discs that are taken out</source>
+        <translation>Aussi pour les &amp;disques amovibles</translation>
+    </message>
+    <message>
+        <source>&amp;Low rows in the list</source>
+        <translation>&amp;Lignes basses dans la liste</translation>
+    </message>
+    <message>
+        <source>Used to other players? Take their ways</source>
+        <translation>Habitué à d'autres lecteurs ? Adopter leur manière</translation>
+    </message>
+    <message>
+        <source>%1 of %2 could not be opened</source>
+        <translation>%1 sur %2 n'ont pas pu être ouverts</translation>
+    </message>
+    <message>
+        <source>It is of no type that is known to play.</source>
+        <translation>Ce type de fichier ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>&amp;Afficher</translation>
+    </message>
+    <message>
+        <source>Show What Could Not Be Opened</source>
+        <translation>Afficher ce qui n'a pas pu être ouvert</translation>
+    </message>
 </context>
 </TS>

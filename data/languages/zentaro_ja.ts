@@ -1583,5 +1583,53 @@
         <source>Zentaro</source>
         <translation>Zentaro</translation>
     </message>
+    <message>
+        <source>&amp;Ways</source>
+        <translation>操作の流儀(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Zentaro's own ways</source>
+        <translation>&amp;Zentaro 独自の動作</translation>
+    </message>
+    <message>
+        <source>Ways &amp;familiar from other players</source>
+        <translation>他のプレーヤーと同じ動作(&amp;F)</translation>
+    </message>
+    <message>
+        <source>With these, Play goes on from a pause, Next and Previous follow the shuffled order, a click in the list does not change what follows, all known types of files are taken, and the last list comes back by itself. The help names the rest.</source>
+        <translation>再生は一時停止した位置から続き、「次へ」と「前へ」はシャッフルの順に従い、リストのクリックは続きを変えず、再生できる種類のファイルはすべて受け付け、前回のリストは自動で戻ります。その他はヘルプをご覧ください。</translation>
+    </message>
+    <message>
+        <source>&amp;Remember lists and places</source>
+        <translation>リストと再生位置を覚える(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Also of &amp;discs that are taken out</source>
+        <translation>取り外せるディスクのものも(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Low rows in the list</source>
+        <translation>リストの行を低くする(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Used to other players? Take their ways</source>
+        <translation>他のプレーヤーに慣れていますか？同じ動作にする</translation>
+    </message>
+    <message>
+        <source>%1 of %2 could not be opened</source>
+        <translation>%2 個のうち %1 個を開けませんでした</translation>
+    </message>
+    <message>
+        <source>It is of no type that is known to play.</source>
+        <translation>再生できる種類のファイルではありません。</translation>
+    </message>
+    <message>
+        <source>&amp;Show</source>
+        <translation>表示(&amp;S)</translation>
+    </message>
+    <message>
+        <source>Show What Could Not Be Opened</source>
+        <translation>開けなかったものを表示</translation>
+    </message>
 </context>
 </TS>

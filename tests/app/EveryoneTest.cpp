@@ -9,6 +9,7 @@
 #include "shell/MenuText.h"
 #include "shell/MessageDialog.h"
 #include "shell/Style.h"
+#include "shell/WaysPage.h"
 #include "shell/frmAbout.h"
 #include "shell/frmSettings.h"
 #include "tests/app/PlayerFixture.h"
@@ -53,7 +54,7 @@ protected:
         }
         auto& skin = m_window.Pictures();
         frmSettings options({}, std::vector<FileTypeRow>(24, { "x", {} }), skin, nullptr,
-            { new KeysPage(keys, skin), new DisplayPage({}, [](auto&) {}) });
+            { new KeysPage(keys, skin), new WaysPage({}, [](auto&) {}), new DisplayPage({}, [](auto&) {}) });
         auto* const tabs = options.findChild<QTabWidget*>();
         for (int page = 0; page < tabs->count(); ++page) {
             tabs->setCurrentIndex(page);
