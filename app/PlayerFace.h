@@ -41,6 +41,8 @@ public:
     virtual void ShowWindow() = 0;
     virtual void CloseWindow() = 0;
     virtual void SetWindowSize(int width, int height) = 0; ///< logical pixels
+    /// Shows a film of that size, in pixels of the screen, as it is.
+    virtual void FitFilm(int width, int height) = 0;
     virtual void SetWindowPosition(int left, int top) = 0; ///< twips
     virtual void SetFullScreen(bool fullScreen) = 0;
     virtual void FlashCaption() = 0;

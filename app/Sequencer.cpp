@@ -29,6 +29,8 @@ void Sequencer::PlayItem(std::int16_t index, bool fullScreen)
         DiscSession::ItemOf(*entry), { path, DiscSession::IsDiscLocation(path) }, m_rooms.settings.ItemOptions(path));
     transport.Play();
     m_rooms.window.ShowCaption();
+    if (Known().WindowFitsFilm() && entry->Facts.width > 0 && entry->Facts.height > 0)
+        m_rooms.face.window->FitFilm(entry->Facts.width, entry->Facts.height);
     if (!Known().HistoryIsTidy())
         m_rooms.history.AddToHistory(path, Entries().List().SelectedText());
     else if (m_rooms.settings.Settings().KeepHistory != 0)

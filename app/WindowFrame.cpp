@@ -99,6 +99,16 @@ void WindowFrame::TakeSize(int width, int height)
     resize((isVisible() ? wanted.boundedTo(screen()->availableSize()) : wanted).expandedTo(minimumSize()));
 }
 
+void WindowFrame::FitTo(const QSize& shown, int width, int height)
+{
+    if (isMaximized() || m_fullScreen || shown.isEmpty())
+        return;
+    const auto scale = devicePixelRatio();
+    const Extent film{ qRound(width / scale), qRound(height / scale) };
+    setGeometry(zentaro::ToQt(
+        FitFilm(FromQt(geometry()), { shown.width(), shown.height() }, film, FromQt(screen()->availableGeometry()))));
+}
+
 void WindowFrame::TakePlace(int left, int top)
 {
     if (isMaximized() || m_fullScreen)

@@ -111,6 +111,12 @@ double frmMain::WindowTop() const
     return NormalGeometry().top() * kTwipsPerPixel;
 }
 
+void frmMain::FitFilm(int width, int height)
+{
+    if (m_video->isVisible())
+        FitTo(m_video->size(), width, height);
+}
+
 void frmMain::SetWindowPosition(int left, int top)
 {
     TakePlace(qRound(left / kTwipsPerPixel), qRound(top / kTwipsPerPixel));

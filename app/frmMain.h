@@ -45,6 +45,7 @@ public:
     void ShowWindow() override;
     void CloseWindow() override { close(); }
     void SetWindowSize(int width, int height) override { TakeSize(width, height); }
+    void FitFilm(int width, int height) override;
     void SetWindowPosition(int left, int top) override;
     void SetFullScreen(bool fullScreen) override { FillScreen(fullScreen); }
     void FlashCaption() override;

@@ -34,6 +34,8 @@ struct Ways {
     bool ListedPlaysInPlace() const { return isFamiliar; }
     /// An item ends when the engine says so; ours ends when its clock shows the full length, half a second early.
     bool EngineEndsItems() const { return isFamiliar; }
+    /// The window takes the size of a film that starts; ours stays as it is.
+    bool WindowFitsFilm() const { return isFamiliar; }
     /// What could not be added, of more files than one, is told in one note; ours says nothing of what is no media, and
     /// shows boxes for the rest.
     bool FailuresAreGathered() const { return isFamiliar; }

@@ -209,4 +209,20 @@ Rect MoveOntoScreen(Rect window, std::span<const Rect> screens)
     return window;
 }
 
+Rect FitFilm(const Rect& window, const Extent& shown, const Extent& film, const Rect& screen)
+{
+    if (film.width <= 0 || film.height <= 0)
+        return window;
+    const int across = window.width - shown.width;
+    const int down = window.height - shown.height;
+    const double room = std::min({ 1.0, static_cast<double>(screen.width - across) / film.width,
+        static_cast<double>(screen.height - down) / film.height });
+    Rect fitted;
+    fitted.width = std::max(RoundHalfEven(film.width * room) + across, WindowLayout::kMinimumWidth);
+    fitted.height = std::max(RoundHalfEven(film.height * room) + down, WindowLayout::kMinimumHeight);
+    fitted.left = window.left + (window.width - fitted.width) / 2;
+    fitted.top = window.top + (window.height - fitted.height) / 2;
+    return MoveOntoScreen(fitted, std::span(&screen, 1));
+}
+
 } // namespace zentaro

@@ -123,6 +123,12 @@ private:
     Rect m_number;
 };
 
+/// In pixels.
+struct Extent {
+    int width = 0;
+    int height = 0;
+};
+
 /// How the video and the list beside it share the room along the line on which they lie.
 struct PaneShare {
     static constexpr int kSplitter = 6;                                  // px, between the two
@@ -140,5 +146,9 @@ const Rect& ScreenOf(const Rect& window, std::span<const Rect> screens);
 /// The window's rectangle, moved so that all of it lies on the screen that it shares most with, else on the first. Its
 /// size stays, unless it is larger than that screen.
 Rect MoveOntoScreen(Rect window, std::span<const Rect> screens);
+
+/// The window in which a film of that size is shown as it is, around the same middle: with what it has around a film of
+/// size `shown` now. On a screen with less room the film is smaller, in its shape.
+Rect FitFilm(const Rect& window, const Extent& shown, const Extent& film, const Rect& screen);
 
 } // namespace zentaro

@@ -88,6 +88,9 @@ TEST_F(WaysTest, files_of_all_types_and_listed_ones_are_taken_without_a_word)
     player.Files().DropOnList({ (folder / "song.flac").string(), (folder / "note.txt").string() });
     world.Settle();
     EXPECT_EQ(player.Entries().Count(), 3);
+    EXPECT_EQ(world.window.offers.back(), "1 of 2 could not be opened: ShowFailures");
+    Run("ShowFailures");
+    EXPECT_NE(world.dialogs.boxes.back().find("note.txt"), std::string::npos);
     world.receive("/later.avi *Add", [] {});
     world.Settle();
     EXPECT_EQ(player.Entries().Count(), 4);

@@ -72,6 +72,12 @@ TEST(WindowLayout, all_of_a_window_comes_onto_the_screen_that_has_most_of_it)
     const std::array<Rect, 2> screens{ Rect{ 0, 0, 1920, 1080 }, Rect{ -1280, 0, 1280, 1024 } };
     const Rect onSecond{ -1200, 100, 388, 515 };
     EXPECT_EQ(MoveOntoScreen(onSecond, screens), onSecond);
+    EXPECT_EQ(
+        FitFilm({ 100, 100, 400, 500 }, { 300, 200 }, { 640, 360 }, { 0, 0, 1920, 1080 }), (Rect{ 0, 20, 740, 660 }))
+        << "what lies around the film stays";
+    const auto large = FitFilm({ 100, 100, 400, 500 }, { 300, 200 }, { 3840, 2160 }, { 0, 0, 1920, 1080 });
+    EXPECT_EQ(large.height, 1080);
+    EXPECT_EQ(large.width, 780 * 16 / 9 + 100 + 1);
     EXPECT_EQ(MoveOntoScreen({ 1800, 900, 388, 515 }, screens), (Rect{ 1532, 565, 388, 515 }));
     EXPECT_EQ(MoveOntoScreen({ -190, -100, 388, 515 }, screens), (Rect{ 0, 0, 388, 515 }));
     EXPECT_EQ(MoveOntoScreen({ -200, 100, 388, 515 }, screens), (Rect{ -388, 100, 388, 515 }));

@@ -29,6 +29,7 @@ public:
     void ShowWindow() override { log << "show "; }
     void CloseWindow() override { ++closes; }
     void SetWindowSize(int width, int height) override { log << "size " << width << "x" << height << " "; }
+    void FitFilm(int width, int height) override { log << "fit " << width << "x" << height << " "; }
     void SetWindowPosition(int x, int y) override { log << "at " << x << "," << y << " "; }
     void SetFullScreen(bool fullScreen) override { isFullScreen = fullScreen; }
     void FlashCaption() override { log << "flash "; }
@@ -184,6 +185,8 @@ public:
         : folder(std::move(settingsFolder))
         , m_engines(realEngines != nullptr ? *realEngines : engines)
     {
+        if (startsFamiliar)
+            own.Set("choice.familiarWays", "1");
     }
 
     /// A player that was not there before; nothing of the one before but what it has stored.
@@ -226,6 +229,7 @@ public:
         }
     }
 
+    static inline bool startsFamiliar = false; ///< with the ways of other players
     std::string folder;
     OwnSettings own{ folder + "Own.cfg" };
     FakeWindow window;
