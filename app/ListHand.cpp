@@ -85,8 +85,9 @@ QString ListHand::Card() const
     if (m_player.Entries().Count() > 0)
         return {};
     if (const auto last = m_player.Remembering().LastTime(); !last.empty())
-        return ToQString(last);
-    return OffersWays() ? ToQString(Words("Used to other players? Take their ways")) : QString();
+        return ToQString(last + "\n" + Words("Click or press Enter to bring it back"));
+    return OffersWays() ? ToQString(Words("Used to other players? Click or press Enter to take their ways"))
+                        : QString();
 }
 
 void ListHand::TakeCard()

@@ -30,10 +30,10 @@ ListCard::ListCard(QWidget* parent)
 
 void ListCard::Show(const QString& text, const QRect& area)
 {
-    setText(text.isEmpty() ? QString() : text + "\n" + QObject::tr("Click or press Enter to bring it back"));
+    setText(text);
     const int width = std::min(kWidest, area.width() - 2 * kMargin);
     const QRect room(0, 0, width - 2 * kPadding, area.height());
-    const int height = fontMetrics().boundingRect(room, kTextFlags, this->text()).height() + 2 * kPadding;
+    const int height = fontMetrics().boundingRect(room, kTextFlags, text).height() + 2 * kPadding;
     setGeometry(area.center().x() - width / 2, std::max(kMargin, area.center().y() - height - kMargin), width, height);
     setVisible(!text.isEmpty() && width > 2 * kPadding && height + kMargin < area.height());
 }

@@ -5,7 +5,7 @@
 
 namespace zentaro {
 
-/// An offer in the middle of the empty list: what there is, and that a click or Enter brings it.
+/// An offer in the middle of the empty list: what a click or Enter does.
 class ListCard : public QAbstractButton {
 public:
     explicit ListCard(QWidget* parent);

@@ -1612,8 +1612,8 @@
         <translation>&amp;Niedrige Zeilen in der Liste</translation>
     </message>
     <message>
-        <source>Used to other players? Take their ways</source>
-        <translation>Andere Player gewohnt? Deren Art übernehmen</translation>
+        <source>Used to other players? Click or press Enter to take their ways</source>
+        <translation>Andere Player gewohnt? Klicken oder Eingabe drücken, um deren Art zu übernehmen</translation>
     </message>
     <message>
         <source>%1 of %2 could not be opened</source>

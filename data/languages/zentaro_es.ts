@@ -1612,8 +1612,8 @@
         <translation>&amp;Filas bajas en la lista</translation>
     </message>
     <message>
-        <source>Used to other players? Take their ways</source>
-        <translation>¿Acostumbrado a otros reproductores? Usar su manera</translation>
+        <source>Used to other players? Click or press Enter to take their ways</source>
+        <translation>¿Acostumbrado a otros reproductores? Haga clic o pulse Intro para usar su manera</translation>
     </message>
     <message>
         <source>%1 of %2 could not be opened</source>

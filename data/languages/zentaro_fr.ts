@@ -1612,8 +1612,8 @@
         <translation>&amp;Lignes basses dans la liste</translation>
     </message>
     <message>
-        <source>Used to other players? Take their ways</source>
-        <translation>Habitué à d'autres lecteurs ? Adopter leur manière</translation>
+        <source>Used to other players? Click or press Enter to take their ways</source>
+        <translation>Habitué à d'autres lecteurs ? Cliquez ou appuyez sur Entrée pour adopter leur manière</translation>
     </message>
     <message>
         <source>%1 of %2 could not be opened</source>

@@ -1612,8 +1612,8 @@
         <translation>リストの行を低くする(&amp;L)</translation>
     </message>
     <message>
-        <source>Used to other players? Take their ways</source>
-        <translation>他のプレーヤーに慣れていますか？同じ動作にする</translation>
+        <source>Used to other players? Click or press Enter to take their ways</source>
+        <translation>他のプレーヤーに慣れていますか？クリックまたは Enter で同じ動作にします</translation>
     </message>
     <message>
         <source>%1 of %2 could not be opened</source>
