@@ -12,6 +12,17 @@ std::string_view TextAfterProgramName(std::string_view commandLine)
     return start == std::string_view::npos ? std::string_view() : commandLine.substr(start);
 }
 
+std::string WithWholePath(const std::string& text, const std::function<std::string(const std::string&)>& absolute)
+{
+    auto plain = text;
+    std::erase(plain, '"');
+    constexpr std::string_view add = " *Add";
+    const std::string end(plain.ends_with(add) ? add : std::string_view());
+    plain.resize(plain.size() - end.size());
+    const auto whole = absolute(plain);
+    return whole == plain ? text : whole + end;
+}
+
 std::string JoinArguments(
     std::vector<std::string> arguments, const std::function<std::string(const std::string&)>& absolute)
 {

@@ -72,6 +72,15 @@ Result<void> TakeName(const std::string& from, const std::string& to)
     return SystemError("Cannot replace " + to, GetLastError());
 }
 
+std::string WholeWhenThere(const std::string& path)
+{
+    if (path.empty() || IsAbsolutePath(path) || !PathExists(path))
+        return path;
+    std::string whole(32768, '\0');
+    const DWORD size = GetFullPathNameA(path.c_str(), static_cast<DWORD>(whole.size()), whole.data(), nullptr);
+    return size == 0 || size >= whole.size() ? path : whole.substr(0, size);
+}
+
 std::string ShellFolder(const std::string& name, const std::string& fallback)
 {
     const auto folder = StringStore::Open()->Read(StringStore::Root::CurrentUser,
@@ -182,7 +191,8 @@ std::string PicturesFolder()
 
 std::string CommandLineText(const std::vector<std::string>&)
 {
-    return std::string(TextAfterProgramName(GetCommandLineA()));
+    // A player that runs already has another current folder.
+    return WithWholePath(std::string(TextAfterProgramName(GetCommandLineA())), &WholeWhenThere);
 }
 
 } // namespace zentaro::platform
