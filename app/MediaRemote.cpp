@@ -71,6 +71,11 @@ platform::MediaStatus MediaRemote::Status()
     status.track = m_track;
     status.artwork = m_artwork;
     status.tracks = m_tracks;
+    for (int slot = 0; slot < kHistorySlots; ++slot) {
+        const auto& played = *m_player.BothMenus().SmartMenuXP1.Find(HistoryKey(slot));
+        if (!played.tag.empty())
+            status.recent.push_back({ 0, played.caption, played.tag });
+    }
     status.readAt = std::chrono::steady_clock::now();
     if (status.playback != MediaPlayback::Stopped) {
         auto& engine = *m_player.Transporting().Host().VLCPlayer();

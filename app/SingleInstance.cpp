@@ -67,8 +67,7 @@ void SingleInstance::Publish()
     m_ends = std::move(*ends);
     IgnoreFailure(m_store.Write(kRoot, HandOverKey(), "txtHwnd", m_ends->CommandHandle()));
     IgnoreFailure(m_store.Write(kRoot, HandOverKey(), "txtHwnd1", m_ends->ProbeHandle()));
-    if (!m_ends->AddHandle().empty())
-        IgnoreFailure(m_store.Write(kRoot, HandOverKey(), kAddHandle, m_ends->AddHandle()));
+    IgnoreFailure(m_store.Write(kRoot, HandOverKey(), kAddHandle, m_ends->AddHandle()));
 }
 
 void SingleInstance::Receive(std::function<void(std::string text, platform::HandOverDone done)> onText)

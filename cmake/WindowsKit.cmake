@@ -65,6 +65,11 @@ add_library(zentaro_libvlc INTERFACE)
 target_include_directories(zentaro_libvlc SYSTEM INTERFACE "${kit}/include")
 target_link_libraries(zentaro_libvlc INTERFACE "${kit}/libvlc.a")
 
+# Headers alone, taken out of a folder whose others are of this system.
+file(COPY /usr/include/nlohmann DESTINATION "${kit}/include")
+add_library(nlohmann_json::nlohmann_json INTERFACE IMPORTED GLOBAL)
+target_include_directories(nlohmann_json::nlohmann_json SYSTEM INTERFACE "${kit}/include")
+
 # zentaro_windows_folder(target): lays beside the executables what they load and run, without what is for debuggers.
 function(zentaro_windows_folder target)
   set(files)

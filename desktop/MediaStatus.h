@@ -34,7 +34,8 @@ struct MediaStatus {
     double length = 0;   ///< ms; 0 while unknown
     double position = 0; ///< ms, at the moment `readAt`
     std::chrono::steady_clock::time_point readAt;
-    MediaTracks tracks; ///< null: none
+    MediaTracks tracks;             ///< null: none
+    std::vector<MediaTrack> recent; ///< the recently played files, with no numbers
 };
 
 /// What the desktop wants of the player.

@@ -2,7 +2,15 @@
 
 #include "desktop/MprisRules.h"
 
+#include <algorithm>
+
 namespace zentaro::desktop {
+
+namespace {
+
+const std::string kClasses = "Software\\Classes\\";
+
+} // namespace
 
 std::optional<MediaCommand::Kind> KindOfAppCommand(int number)
 {
@@ -30,25 +38,60 @@ TaskbarLook TaskbarLookOf(const MediaStatus& status)
     return { status.playback == MediaPlayback::Playing, CanPlay(status), CanStep(status) };
 }
 
+std::vector<JumpListItem> JumpListOf(const std::vector<MediaTrack>& recent, const std::vector<std::string>& removed)
+{
+    constexpr std::size_t longestTip = 1000; // bytes; the system refuses links with longer ones
+    std::vector<JumpListItem> items;
+    for (const auto& file : recent) {
+        JumpListItem item{ '"' + file.path + '"', file.title, file.path };
+        if (item.tip.size() > longestTip)
+            item.tip = item.title.size() > longestTip ? std::string() : item.title;
+        if (std::ranges::find(items, item) == items.end()
+            && std::ranges::find(removed, item.arguments) == removed.end())
+            items.push_back(std::move(item));
+    }
+    return items;
+}
+
 std::string OpenWithKey(const std::string& extension)
 {
-    return "Software\\Classes\\" + extension + "\\OpenWithProgids";
+    return kClasses + extension + "\\OpenWithProgids";
+}
+
+std::vector<std::string> DropTargetKeys()
+{
+    return { kClasses + "CLSID\\" + kOpenClass, kClasses + "CLSID\\" + kAddClass };
+}
+
+std::vector<std::string> DropTargetKeys(const std::string& type)
+{
+    const auto shell = kClasses + type + "\\shell\\";
+    return { shell + "open\\DropTarget", shell + "Add To Playlist\\DropTarget" };
 }
 
 std::vector<RegistryText> RegistrationOf(
-    const std::string& program, const std::vector<std::pair<std::string, std::string>>& extensions)
+    const std::string& folder, const std::vector<std::pair<std::string, std::string>>& extensions)
 {
+    const auto program = '"' + folder + "zentaro.exe\"";
     const std::string application = kApplicationKey;
     const std::string capabilities = kCapabilitiesKey;
     std::vector<RegistryText> texts = { { application, "FriendlyAppName", "Zentaro" },
-        { application + "\\shell\\open\\command", "", '"' + program + "\" \"%1\"" },
-        { application + "\\DefaultIcon", "", '"' + program + "\",0" }, { capabilities, "ApplicationName", "Zentaro" },
+        { application + "\\shell\\open\\command", "", program + " \"%1\"" },
+        { application + "\\shell\\open\\DropTarget", "CLSID", kOpenClass },
+        { application + "\\DefaultIcon", "", program + ",0" }, { capabilities, "ApplicationName", "Zentaro" },
         { capabilities, "ApplicationDescription", "Plays films and music" },
         { kRegisteredKey, kRegisteredName, capabilities } };
+    for (const auto& key : DropTargetKeys()) {
+        texts.push_back({ key, "", "Zentaro" });
+        texts.push_back({ key + "\\LocalServer32", "", '"' + folder + "zentaro-add.exe\"" });
+    }
     for (const auto& [extension, type] : extensions) {
         texts.push_back({ application + "\\SupportedTypes", extension, "" });
         texts.push_back({ capabilities + "\\FileAssociations", extension, type });
         texts.push_back({ OpenWithKey(extension), type, "" });
+        const auto keys = DropTargetKeys(type);
+        texts.push_back({ keys[0], "CLSID", kOpenClass });
+        texts.push_back({ keys[1], "CLSID", kAddClass });
     }
     return texts;
 }

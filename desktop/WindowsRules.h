@@ -21,6 +21,17 @@ struct TaskbarLook {
 };
 TaskbarLook TaskbarLookOf(const MediaStatus& status);
 
+/// A file at the program's taskbar button: what the program is started with to play it, and what is shown of it.
+struct JumpListItem {
+    std::string arguments;
+    std::string title;
+    std::string tip;
+    bool operator==(const JumpListItem&) const = default;
+};
+/// The files that were played, each once, without those that the user has taken off the list, which go by their
+/// arguments.
+std::vector<JumpListItem> JumpListOf(const std::vector<MediaTrack>& recent, const std::vector<std::string>& removed);
+
 /// One text of the registry below HKEY_CURRENT_USER.
 struct RegistryText {
     std::string key;
@@ -30,10 +41,20 @@ struct RegistryText {
 };
 
 /// What makes the system offer a program for types of files, beside what the types themselves say: as one to open them
-/// with, and among the default programs. `program`: the executable's path; `extensions` with their dots, each with its
-/// type's name.
+/// with, and among the default programs. `folder`: that of the executables, with a trailing separator; `extensions`
+/// with their dots, each with its type's name.
+///
+/// The commands of a type are started once for each selected file. So each command has a drop target beside it, which
+/// Explorer prefers: one call of "zentaro-add.exe" for the whole selection.
 std::vector<RegistryText> RegistrationOf(
-    const std::string& program, const std::vector<std::pair<std::string, std::string>>& extensions);
+    const std::string& folder, const std::vector<std::pair<std::string, std::string>>& extensions);
+
+/// The names under which the system knows these drop targets.
+inline constexpr const char* kOpenClass = "{5654b695-d101-4a37-a963-b7e0dfcb034c}";
+inline constexpr const char* kAddClass = "{a1ce86e9-8c37-4ea6-b00f-e9efb6fa7c64}";
+/// The keys, below HKEY_CURRENT_USER, that hold nothing but them: of all types, and of one type by its name.
+std::vector<std::string> DropTargetKeys();
+std::vector<std::string> DropTargetKeys(const std::string& type);
 
 /// Keys that hold nothing but a registration, and the value that names it: what goes with the last type.
 inline constexpr const char* kApplicationKey = "Software\\Classes\\Applications\\zentaro.exe";

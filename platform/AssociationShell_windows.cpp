@@ -1,6 +1,7 @@
 #include "platform/AssociationShell.h"
 
 #include "desktop/WindowsRules.h"
+#include "platform/Files.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -33,19 +34,24 @@ public:
         std::vector<std::pair<std::string, std::string>> ours;
         for (const auto& type : types) {
             const auto name = "Zentaro" + type.extension;
-            if (type.isOurs)
+            if (type.isOurs) {
                 ours.emplace_back(type.extension, name);
-            else
-                RemoveValue(desktop::OpenWithKey(type.extension), name);
+                continue;
+            }
+            RemoveValue(desktop::OpenWithKey(type.extension), name);
+            for (const auto& key : desktop::DropTargetKeys(name))
+                RegDeleteTreeA(HKEY_CURRENT_USER, key.c_str());
         }
         // What was registered for types that are given back goes, too.
         for (const auto* const key : { desktop::kApplicationKey, desktop::kCapabilitiesKey })
             RegDeleteTreeA(HKEY_CURRENT_USER, key);
         if (ours.empty()) {
             RegDeleteKeyValueA(HKEY_CURRENT_USER, desktop::kRegisteredKey, desktop::kRegisteredName);
+            for (const auto& key : desktop::DropTargetKeys())
+                RegDeleteTreeA(HKEY_CURRENT_USER, key.c_str());
             return true;
         }
-        for (const auto& [key, name, text] : desktop::RegistrationOf(ProgramPath(), ours))
+        for (const auto& [key, name, text] : desktop::RegistrationOf(ExecutableFolder() + '\\', ours))
             RegSetKeyValueA(HKEY_CURRENT_USER, key.c_str(), name.c_str(), REG_SZ, text.c_str(),
                 static_cast<DWORD>(text.size() + 1));
         return true;

@@ -50,7 +50,7 @@ public:
     /// Waits at most `wait` for the process's end. Where output can be waited for too (Linux), output that can be read
     /// ends the wait early.
     virtual bool HasEnded(std::chrono::milliseconds wait) = 0;
-    /// It has ended with another code than 0. Known of what ShellStart has started detached on Linux.
+    /// It has ended with a code that tells of a failure. Known of what ShellStart has started detached.
     virtual bool HasFailed() const { return false; }
     /// Linux: the process and all that it started and that stayed in its group, within 20 ms whatever they do with
     /// signals. Windows: the process, with exit code 0.

@@ -205,6 +205,13 @@ public:
         // A document that a running program took over has no process of its own to wait for.
         return !m_process.Get() || HasProcessEnded(m_process.Get(), wait);
     }
+    bool HasFailed() const override
+    {
+        // A player ends with the number that the system holds for a process that runs.
+        DWORD code = 0;
+        return m_process.Get() && HasProcessEnded(m_process.Get(), {}) && ::GetExitCodeProcess(m_process.Get(), &code)
+            && code != 0 && code != STILL_ACTIVE;
+    }
     void Terminate() override { ::TerminateProcess(m_process.Get(), 0); }
 
 private:

@@ -29,7 +29,7 @@ using HandOverDone = std::function<void()>;
 /// opened, and its sender is answered when its own `done` is called.
 ///
 /// Linux: sockets of this user in the runtime folder, served by Qt's event loop.
-/// Windows: two hidden edit windows that receive WM_SETTEXT. The window procedure waits for `done` by handling
+/// Windows: three hidden edit windows that receive WM_SETTEXT. The window procedure waits for `done` by handling
 /// messages, so a text that comes meanwhile is handed on from within, and a sender is answered only after those that
 /// came later and still wait. No sender waits longer than the limit for that.
 ///
@@ -41,12 +41,11 @@ public:
 
     virtual std::string CommandHandle() const = 0;
     virtual std::string ProbeHandle() const = 0;
-    /// Empty on Windows, where files are added by the command line of a start.
-    virtual std::string AddHandle() const { return {}; }
+    virtual std::string AddHandle() const = 0;
     /// From now on texts are delivered, on this thread, by its event loop. Earlier ones have waited.
     virtual void Deliver(std::function<void(std::string text, HandOverDone done)> onCommand) = 0;
     /// The same for the paths that are to be added.
-    virtual void DeliverAdded(std::function<void(std::string path, HandOverDone done)> /*onPath*/) { }
+    virtual void DeliverAdded(std::function<void(std::string path, HandOverDone done)> onPath) = 0;
 
     /// All ends, ready to be connected to.
     static Result<std::unique_ptr<HandOverEnds>> Listen();

@@ -35,6 +35,8 @@ std::string HandleOf(HWND window)
     return std::to_string(reinterpret_cast<std::uintptr_t>(window));
 }
 
+constexpr const char* kPlayer = "zentaro.exe";
+
 /// The name of the program that a process runs, without its folder: an installed player and a copy know each other.
 std::string ProgramName(HANDLE process)
 {
@@ -55,7 +57,9 @@ bool IsOurProgram(HWND window)
         return false;
     const auto name = ProgramName(process);
     CloseHandle(process);
-    return !name.empty() && lstrcmpiA(name.c_str(), ProgramName(GetCurrentProcess()).c_str()) == 0;
+    // What calls a player is one itself, or a tool that lies beside it.
+    const auto isNamed = [&](const std::string& other) { return lstrcmpiA(name.c_str(), other.c_str()) == 0; };
+    return !name.empty() && (isNamed(kPlayer) || isNamed(ProgramName(GetCurrentProcess())));
 }
 
 /// Whether the window is one of a player's ends. The number of one that is gone may be given to any other window, which
@@ -97,10 +101,12 @@ void WaitForAnswer(TextInHand& text, Clock::time_point end)
     }
 }
 
-/// Two text boxes that are never shown. The first one's window procedure is preceded by ours, so that a text is handed
-/// on while its sender still waits.
+/// Text boxes that are never shown. The window procedure of all but the one for probes is preceded by ours, so that a
+/// text is handed on while its sender still waits.
 class TextBoxes : public HandOverEnds {
 public:
+    using Handler = std::function<void(std::string, HandOverDone)>;
+
     explicit TextBoxes(HandOverLimits limits)
         : m_limits(limits)
     {
@@ -109,7 +115,7 @@ public:
     {
         for (const auto& text : m_waiting)
             text->answer = text->answer.value_or(kDropped);
-        for (const HWND box : { m_command, m_probe }) {
+        for (const HWND box : { m_command.box, m_added.box, m_probe }) {
             if (box)
                 DestroyWindow(box);
         }
@@ -117,30 +123,42 @@ public:
 
     Result<void> Create()
     {
-        m_command = CreateBox();
         m_probe = CreateBox();
-        if (!m_command || !m_probe)
-            return SystemError("Cannot make a text box", GetLastError());
-        SetWindowLongPtrA(m_command, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-        m_boxProcedure = reinterpret_cast<WNDPROC>(
-            SetWindowLongPtrA(m_command, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(OnMessage)));
+        for (auto* const end : { &m_command, &m_added }) {
+            end->box = CreateBox();
+            if (!end->box || !m_probe)
+                return SystemError("Cannot make a text box", GetLastError());
+            SetWindowLongPtrA(end->box, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+            m_boxProcedure = reinterpret_cast<WNDPROC>(
+                SetWindowLongPtrA(end->box, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(OnMessage)));
+        }
         return {};
     }
 
-    std::string CommandHandle() const override { return HandleOf(m_command); }
+    std::string CommandHandle() const override { return HandleOf(m_command.box); }
     std::string ProbeHandle() const override { return HandleOf(m_probe); }
+    std::string AddHandle() const override { return HandleOf(m_added.box); }
 
-    void Deliver(std::function<void(std::string, HandOverDone)> onCommand) override
+    void Deliver(Handler onCommand) override { DeliverTo(m_command, std::move(onCommand)); }
+    void DeliverAdded(Handler onPath) override { DeliverTo(m_added, std::move(onPath)); }
+
+private:
+    struct End {
+        HWND box = nullptr;
+        Handler handler = {};
+        std::vector<std::pair<std::string, HandOverDone>> early = {};
+    };
+
+    void DeliverTo(End& end, Handler handler)
     {
-        m_handler = std::move(onCommand);
+        end.handler = std::move(handler);
         const std::weak_ptr<int> self = m_life;
-        for (auto& [text, done] : std::exchange(m_early, {})) {
+        for (auto& [text, done] : std::exchange(end.early, {})) {
             if (!self.expired())
-                HandOn(std::move(text), std::move(done));
+                HandOn(end, std::move(text), std::move(done));
         }
     }
 
-private:
     static HWND CreateBox()
     {
         // Below the message root: such windows are found by their handle alone and need no screen.
@@ -156,10 +174,11 @@ private:
         // The handler takes the text in place of the box, which so is empty again at once; measuring a long line would
         // take the box seconds.
         const char* text = reinterpret_cast<const char*>(second);
-        return text && *text != '\0' ? self->OnText(text) : kOpened;
+        auto& end = box == self->m_added.box ? self->m_added : self->m_command;
+        return text && *text != '\0' ? self->OnText(end, text) : kOpened;
     }
 
-    LRESULT OnText(std::string text)
+    LRESULT OnText(End& receiver, std::string text)
     {
         const auto end = Clock::now() + m_limits.opening;
         const auto inHand = std::make_shared<TextInHand>();
@@ -167,7 +186,7 @@ private:
             inHand->answer = kTakenOver;
         m_waiting.push_back(inHand);
         const std::weak_ptr<int> self = m_life;
-        HandOn(std::move(text), [inHand] { inHand->answer = inHand->answer.value_or(kOpened); });
+        HandOn(receiver, std::move(text), [inHand] { inHand->answer = inHand->answer.value_or(kOpened); });
         WaitForAnswer(*inHand, end);
         // The player may have ended meanwhile, and this object with it.
         if (!self.expired())
@@ -175,22 +194,21 @@ private:
         return inHand->answer.value_or(kTakenOver);
     }
 
-    void HandOn(std::string text, HandOverDone done)
+    static void HandOn(End& end, std::string text, HandOverDone done)
     {
-        if (!m_handler) {
-            m_early.emplace_back(std::move(text), std::move(done));
+        if (!end.handler) {
+            end.early.emplace_back(std::move(text), std::move(done));
             return;
         }
-        const auto handler = m_handler; // the call may end the player, and this object with it
+        const auto handler = end.handler; // the call may end the player, and this object with it
         handler(std::move(text), std::move(done));
     }
 
     HandOverLimits m_limits;
-    HWND m_command = nullptr;
+    End m_command;
+    End m_added;
     HWND m_probe = nullptr;
     WNDPROC m_boxProcedure = nullptr;
-    std::function<void(std::string, HandOverDone)> m_handler;
-    std::vector<std::pair<std::string, HandOverDone>> m_early;
     std::vector<std::shared_ptr<TextInHand>> m_waiting;
     std::shared_ptr<int> m_life = std::make_shared<int>();
 };

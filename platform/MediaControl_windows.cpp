@@ -1,6 +1,7 @@
 #include "platform/MediaControl.h"
 
 #include "desktop/WindowsRules.h"
+#include "platform/JumpList_windows.h"
 
 #include <array>
 #include <cmath>
@@ -14,7 +15,6 @@
 #include <windows.h>
 
 #include <commctrl.h>
-#include <shlobj.h>
 #include <shobjidl.h>
 
 namespace zentaro::platform {
@@ -112,8 +112,8 @@ public:
 
     void Publish(MediaStatus status) override
     {
-        if (status.track.id != m_status.track.id && !status.track.path.empty())
-            Remember(status.track.path);
+        if (status.recent != m_status.recent)
+            ShowJumpList(status.recent);
         m_status = std::move(status);
         HoldKeys(m_status.playback != MediaPlayback::Stopped);
         ShowButtons();
@@ -189,14 +189,6 @@ private:
         auto buttons = Buttons();
         if (m_taskbar)
             m_taskbar->ThumbBarUpdateButtons(m_window, buttons.size(), buttons.data());
-    }
-
-    /// The system makes the jump list of it.
-    static void Remember(const std::string& path)
-    {
-        std::array<wchar_t, 32'768> name{};
-        if (MultiByteToWideChar(CP_UTF8, 0, path.c_str(), -1, name.data(), static_cast<int>(name.size())) > 0)
-            SHAddToRecentDocs(SHARD_PATHW, name.data());
     }
 
     std::function<void(MediaCommand)> m_onCommand;

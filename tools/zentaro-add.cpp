@@ -1,17 +1,19 @@
 // Adds files to the playlist of the running player, or of one that it starts: zentaro-add FILE...
 #include "app/SingleInstance.h"
+#include "platform/ChildProcess.h"
+#include "platform/FileSelections.h"
 #include "platform/Files.h"
 #include "platform/HandOver.h"
 #include "platform/StringStore.h"
+#include "playlist/DroppedFiles.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <filesystem>
-#include <spawn.h>
+#include <memory>
 #include <string>
-#include <sys/wait.h>
 #include <thread>
-#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -23,6 +25,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr auto kStartTime = 30s; // for a player to come up
 constexpr auto kLook = 50ms;
+constexpr std::int32_t kShown = 1;
 
 int Fail(const std::string& text)
 {
@@ -34,8 +37,11 @@ std::vector<std::string> PathsOf(int count, char** arguments)
 {
     std::vector<std::string> paths;
     std::error_code ignored;
-    for (int i = 1; i < count; ++i)
-        paths.push_back(std::filesystem::absolute(arguments[i], ignored).string());
+    for (int i = 1; i < count; ++i) {
+        const std::string name = arguments[i];
+        const auto path = std::filesystem::absolute(std::u8string(name.begin(), name.end()), ignored).u8string();
+        paths.emplace_back(path.begin(), path.end());
+    }
     return paths;
 }
 
@@ -47,57 +53,37 @@ std::string RunningPlayer()
     return platform::IsHandOverAlive(handle) ? handle : std::string();
 }
 
-/// The process number; 0 when nothing was started. It lives on without us.
-pid_t StartPlayer()
+/// Null when nothing was started. It lives on without us.
+std::unique_ptr<platform::StartedProcess> StartPlayer(const std::vector<std::string>& arguments)
 {
-    auto program = platform::ExecutableFolder() + "/zentaro";
-    char* const arguments[] = { program.data(), nullptr };
-    posix_spawnattr_t attributes;
-    pid_t player = 0;
-    posix_spawnattr_init(&attributes);
-    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
-    if (posix_spawn(&player, program.c_str(), nullptr, &attributes, arguments, environ) != 0)
-        player = 0;
-    posix_spawnattr_destroy(&attributes);
-    return player;
+    const auto folder = platform::ExecutableFolder();
+    return platform::ShellStart({ folder + platform::PathSeparator() + "zentaro", arguments, folder, kShown, true });
 }
 
-/// True when the process is over and has said that it failed. One that found another player ends in peace.
-bool HasFailed(pid_t player)
+/// The handle of a player other than `before`; empty when none comes up. `mayEnd`: the process that was started may
+/// find the other one and leave it what it was given.
+std::string NewPlayer(const std::string& before, platform::StartedProcess* started, bool mayEnd)
 {
-    int status = 0;
-    return waitpid(player, &status, WNOHANG) == player && status != 0;
-}
-
-/// The handle of a player other than the one that does not answer; empty when none comes up.
-std::string NewPlayer(const std::string& silent)
-{
-    const auto started = StartPlayer();
     const auto end = Clock::now() + kStartTime;
-    while (started > 0 && Clock::now() < end) {
-        if (const auto handle = RunningPlayer(); !handle.empty() && handle != silent)
+    while (started != nullptr && Clock::now() < end) {
+        if (const auto handle = RunningPlayer(); !handle.empty() && handle != before)
             return handle;
-        if (HasFailed(started))
+        if (started->HasFailed())
             break;
+        if (mayEnd && started->HasEnded(0ms))
+            return RunningPlayer();
         std::this_thread::sleep_for(kLook);
     }
     return {};
 }
 
-} // namespace
-
-int main(int count, char** arguments)
+/// `handle`: the player to begin with, if any.
+int Add(const std::vector<std::string>& paths, std::string handle)
 {
-    const auto paths = PathsOf(count, arguments);
-    if (paths.empty())
-        return Fail("zentaro-add FILE...: adds the files to the playlist");
-    // Files of two calls at once do not mix, and only one of them starts a player.
-    const auto lock = platform::HandOverLock::Take(2 * kStartTime, "add");
-    auto handle = RunningPlayer();
     std::string silent;
     for (std::size_t next = 0; next < paths.size();) {
         if (handle.empty())
-            handle = NewPlayer(silent);
+            handle = NewPlayer(silent, StartPlayer({}).get(), false);
         if (handle.empty())
             return Fail("No player took " + paths[next] + ".");
         if (platform::SendHandOverText(handle, paths[next]) != platform::HandOverOutcome::Silent) {
@@ -110,4 +96,33 @@ int main(int count, char** arguments)
         silent = std::exchange(handle, {});
     }
     return 0;
+}
+
+/// The first file goes the way of a double click, whatever is decided there; the others follow it.
+int PlayAndAdd(std::vector<std::string> paths)
+{
+    const auto before = RunningPlayer();
+    const auto started = StartPlayer({ paths.front() });
+    paths.erase(paths.begin());
+    return Add(paths, paths.empty() ? std::string() : NewPlayer(before, started.get(), true));
+}
+
+} // namespace
+
+int main(int count, char** arguments)
+{
+    auto paths = PathsOf(count, arguments);
+    bool plays = false;
+    if (count == 2 && std::string(arguments[1]) == platform::kSelectionComes) {
+        auto selection = platform::TakeSelection().value_or(platform::FileSelection());
+        plays = selection.plays;
+        paths = std::move(selection.paths);
+        // A file manager names first the one that was clicked.
+        std::stable_sort(paths.begin(), paths.end(), &NaturalLess);
+    }
+    if (paths.empty())
+        return Fail("zentaro-add FILE...: adds the files to the playlist");
+    // Files of two calls at once do not mix, and only one of them starts a player.
+    const auto lock = platform::HandOverLock::Take(2 * kStartTime, "add");
+    return plays ? PlayAndAdd(std::move(paths)) : Add(paths, RunningPlayer());
 }

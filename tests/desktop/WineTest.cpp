@@ -1,7 +1,8 @@
+#include "app/ListMemory.h"
+#include "desktop/WindowsRules.h"
 #include "tests/desktop/PlayerDesk.h"
 
 #include <algorithm>
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 
@@ -10,12 +11,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The player ends with what the system holds for a process that runs, of which eight bits are seen here. Wine kills by
-/// itself what has threads that do not end at once.
-bool IsUsualEnd(std::optional<int> code)
-{
-    return code == (259 & 0xFF) || code == 128 + SIGKILL;
-}
+/// The player ends with what the system holds for a process that runs, of which eight bits are seen here.
+constexpr int kUsualEnd = 259 & 0xFF;
 
 std::string Variable(const char* name)
 {
@@ -114,7 +111,7 @@ TEST_F(OnWine, plays_the_film_of_the_command_line_and_keeps_what_is_to_be_kept)
     EXPECT_EQ(player.AnswerDialog(), "Zentaro"); // its ffmpeg knows no AV1: no thumbnail
     EXPECT_TRUE(Moves(VideoOf(player)));
     EXPECT_TRUE(player.WaitForTitle("av1.mkv"));
-    EXPECT_TRUE(IsUsualEnd(player.Close()));
+    EXPECT_EQ(player.Close(), kUsualEnd);
     const auto config = ReadWholeFile(ConfigPath());
     EXPECT_EQ(std::count(config.begin(), config.end(), '\n'), std::count(config.begin(), config.end(), '\r'));
     EXPECT_NE(Registry("HKCU\\Software\\Quorvane\\Zentaro").find("av1.mkv"), std::string::npos);
@@ -170,7 +167,7 @@ TEST_F(OnWine, every_control_does_its_work)
     player.Click(Button::Maximize);
     EXPECT_TRUE(WaitUntil([&] { return player.Place().width > place.width; }));
     player.Click(Button::Close);
-    EXPECT_TRUE(IsUsualEnd(player.process.WaitForEnd()));
+    EXPECT_EQ(player.process.WaitForEnd(), kUsualEnd);
 }
 
 TEST_F(OnWine, the_list_lies_where_the_settings_say)
@@ -185,7 +182,7 @@ TEST_F(OnWine, the_list_lies_where_the_settings_say)
         const Rect last{ all.Right() - first.width, all.Bottom() - first.height, first.width, first.height };
         EXPECT_TRUE(Moves(dock % 2 == 0 ? last : first)) << dock;
         EXPECT_TRUE(Moves(dock % 2 == 0 ? first : last, false)) << dock;
-        EXPECT_TRUE(IsUsualEnd(player.Close()));
+        EXPECT_EQ(player.Close(), kUsualEnd);
     }
 }
 
@@ -211,7 +208,7 @@ TEST_F(OnWine, options_are_chosen_by_keyboard_and_types_taken_and_given_back)
         }
         ASSERT_TRUE(player.WaitForDialogs(0));
         EXPECT_NE(StoredSettings().AlwaysOnTop, 0);
-        EXPECT_TRUE(IsUsualEnd(player.Close()));
+        EXPECT_EQ(player.Close(), kUsualEnd);
     }
     StoreSettings([](auto&) {});
     auto player = ShowPlayer();
@@ -225,7 +222,7 @@ TEST_F(OnWine, later_starts_hand_their_files_over)
     ASSERT_TRUE(player.WaitForTitle("film.mkv"));
     fs::create_directory(InHome("späte Filme"));
     const auto second = CopyOf(Film(), "späte Filme/zweiter.mkv");
-    EXPECT_TRUE(IsUsualEnd(StartPlayer({ second }).WaitForEnd()));
+    EXPECT_EQ(StartPlayer({ second }).WaitForEnd(), kUsualEnd);
     EXPECT_TRUE(player.WaitForTitle("zweiter.mkv"));
     player.process.Kill();
     // Nobody is there any more: of many starts one becomes the player, the others find it.
@@ -240,17 +237,54 @@ TEST_F(OnWine, later_starts_hand_their_files_over)
     ASSERT_NE(last, starts.end());
     auto heir = Show(std::move(*last));
     EXPECT_TRUE(heir.WaitForTitle("zweiter.mkv"));
-    EXPECT_TRUE(IsUsualEnd(heir.Close()));
+    EXPECT_EQ(heir.Close(), kUsualEnd);
+}
+
+TEST_F(OnWine, a_selection_goes_to_one_player_in_natural_order)
+{
+    constexpr std::size_t kMkv = 3;
+    StoreSettings([&](auto& settings) { settings.Associations[kMkv] = 1; });
+    auto player = ShowPlayer();
+    const std::string classes = "Software\\Classes\\CLSID\\";
+    // Wine looks for classes of the machine alone.
+    const auto select = [&](const char* name, std::vector<std::string> files) {
+        const auto key = classes + name;
+        EXPECT_TRUE(WaitUntil([&] { return Registry("HKCU\\" + key).find("zentaro-add.exe") != std::string::npos; }));
+        Windows({ "reg", "copy", "HKCU\\" + key, "HKLM\\" + key, "/s", "/f" }).WaitForEnd();
+        std::transform(files.begin(), files.end(), files.begin(), [](const auto& file) { return Named(file); });
+        files.insert(files.begin(), { Helper("selector.exe"), name });
+        EXPECT_EQ(Windows(files).WaitForEnd(), 0);
+    };
+    std::vector<std::string> files;
+    for (int i = 15; i > 0; --i)
+        files.push_back(CopyOf(Film(), "part " + std::to_string(i) + ".mkv"));
+    std::rotate(files.begin(), files.begin() + 4, files.end());
+    select(desktop::kAddClass, files);
+    select(desktop::kOpenClass, { CopyOf(Film(), "film 10.mkv"), CopyOf(Film(), "film 9.mkv") });
+    EXPECT_TRUE(player.WaitForTitle("film 9.mkv"));
+    EXPECT_TRUE(Moves(VideoOf(player)));
+    std::vector<std::string> added;
+    EXPECT_TRUE(WaitUntil([&] {
+        added.clear();
+        for (const auto& entry : ParseList(ReadWholeFile(InHome("program/LastList.state"))).entries)
+            added.push_back(entry.entry.Title);
+        return added.size() == files.size() + 2;
+    }));
+    // The two that were opened came after the others, or before one of them that was still looked at.
+    std::erase_if(added, [](const auto& title) { return title == "film 9.mkv" || title == "film 10.mkv"; });
+    for (std::size_t i = 0; i < added.size(); ++i)
+        EXPECT_EQ(added[i], "part " + std::to_string(i + 1) + ".mkv");
+    EXPECT_EQ(player.Close(), kUsualEnd);
 }
 
 TEST_F(OnWine, closes_while_opening_and_after_a_failure_and_when_all_was_played)
 {
-    EXPECT_TRUE(IsUsualEnd(ShowPlayer({ Film() }).Close()));
+    EXPECT_EQ(ShowPlayer({ Film() }).Close(), kUsualEnd);
     WriteWholeFile(InHome("no film.avi"), "nothing");
     {
         auto player = ShowPlayer({ InHome("no film.avi") });
         EXPECT_EQ(player.AnswerDialog(), "Zentaro");
-        EXPECT_TRUE(IsUsualEnd(player.Close()));
+        EXPECT_EQ(player.Close(), kUsualEnd);
     }
     StoreSettings([](auto& settings) {
         settings.PlaylistPosition = 4;
@@ -260,7 +294,7 @@ TEST_F(OnWine, closes_while_opening_and_after_a_failure_and_when_all_was_played)
     auto player = ShowPlayer({ Clip("short.mkv", "-c:v libtheora -c:a libvorbis", 6) });
     Screen().Activate(player.window);
     Screen().Press("alt+p Up Right Up Return"); // "Shutdown the Computer" ends the program alone
-    EXPECT_TRUE(IsUsualEnd(player.process.WaitForEnd()));
+    EXPECT_EQ(player.process.WaitForEnd(), kUsualEnd);
 }
 
 TEST_F(OnWine, takes_drops_and_shows_its_menu_at_the_tray_icon)
@@ -289,9 +323,9 @@ TEST_F(OnWine, says_what_is_missing)
     auto player = ShowPlayer();
     ASSERT_TRUE(player.WaitForDialogs(1));
     EXPECT_TRUE(player.AnswerDialog());
-    EXPECT_TRUE(IsUsualEnd(StartPlayer({ Film() }).WaitForEnd()));
+    EXPECT_EQ(StartPlayer({ Film() }).WaitForEnd(), kUsualEnd);
     EXPECT_TRUE(player.AnswerDialog());
-    EXPECT_TRUE(IsUsualEnd(player.Close()));
+    EXPECT_EQ(player.Close(), kUsualEnd);
 }
 
 } // namespace

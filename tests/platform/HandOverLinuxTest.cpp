@@ -55,21 +55,6 @@ TEST_F(HandOverOnLinux, a_full_queue_is_given_up_too_and_what_a_killed_player_le
         EXPECT_NE(stat(AddressOf(handle).sun_path, &facts), 0) << handle;
 }
 
-TEST_F(HandOverOnLinux, paths_to_be_added_have_an_end_of_their_own)
-{
-    Listen();
-    opensAtOnce = true;
-    ends->Deliver([](const std::string&, const HandOverDone&) { ADD_FAILURE() << "the wrong end"; });
-    ends->DeliverAdded(Keep());
-    auto sending = Send(ends->AddHandle(), "/a *Add.avi");
-    EXPECT_EQ(OutcomeOf(sending), Opened);
-    EXPECT_EQ(received, std::vector<std::string>{ "/a *Add.avi" });
-    const auto forStarts = HandOverLock::Take(0ms);
-    const auto forAdding = HandOverLock::Take(0ms, "add");
-    EXPECT_TRUE(forStarts && forAdding);
-    EXPECT_FALSE(HandOverLock::Take(0ms, "add"));
-}
-
 TEST_F(HandOverOnLinux, silent_senders_are_let_go_and_waiting_ones_make_room)
 {
     Listen();

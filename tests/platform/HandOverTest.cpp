@@ -40,6 +40,22 @@ std::unique_ptr<StartedProcess> StartPeer(std::vector<std::string> arguments, co
     return ShellStart({ program.empty() ? OwnProgram() : program, std::move(arguments), "", 0, false });
 }
 
+TEST_F(HandOverTest, paths_to_be_added_have_an_end_of_their_own)
+{
+    Listen();
+    opensAtOnce = true;
+    ends->Deliver([](const std::string&, const HandOverDone&) { ADD_FAILURE() << "the wrong end"; });
+    ends->DeliverAdded(Keep());
+    auto sending = Send(ends->AddHandle(), "/a *Add.avi");
+    EXPECT_EQ(OutcomeOf(sending), Opened);
+    EXPECT_EQ(received, std::vector<std::string>{ "/a *Add.avi" });
+    const auto forStarts = HandOverLock::Take(0ms);
+    const auto forAdding = HandOverLock::Take(0ms, "add");
+    EXPECT_TRUE(forStarts && forAdding);
+    // For the thread that holds it a lock may be free.
+    EXPECT_FALSE(std::async(std::launch::async, [] { return HandOverLock::Take(0ms, "add"); }).get());
+}
+
 TEST_F(HandOverTest, a_later_text_is_opened_while_an_earlier_one_waits)
 {
     Listen();

@@ -21,6 +21,10 @@ TEST(CommandLineRules, a_programs_own_name_is_cut_off_and_only_a_whole_file_name
         EXPECT_EQ(TextAfterProgramName(alone), "") << alone;
 
     const auto absolute = [](const std::string& path) { return "/here/" + path; };
+    EXPECT_EQ(WithWholePath("\"my clip.avi\" *Add", absolute), "/here/my clip.avi *Add");
+    EXPECT_EQ(WithWholePath("my clip.avi", absolute), "/here/my clip.avi");
+    const auto same = [](const std::string& path) { return path; };
+    EXPECT_EQ(WithWholePath("\"a.avi\" \"b.avi\"", same), "\"a.avi\" \"b.avi\"");
     EXPECT_EQ(JoinArguments({}, absolute), "");
     EXPECT_EQ(JoinArguments({ "my clip.avi" }, absolute), "/here/my clip.avi");
     EXPECT_EQ(JoinArguments({ "a.avi", "*Add" }, absolute), "/here/a.avi *Add");
@@ -147,15 +151,27 @@ TEST(WindowsRules, media_keys_and_the_buttons_at_the_taskbar)
     EXPECT_TRUE(TaskbarLookOf(status).showsPause && TaskbarLookOf(status).canStep);
 }
 
+TEST(WindowsRules, the_jump_list_names_each_file_once_and_none_that_was_taken_off_it)
+{
+    const std::vector<MediaTrack> recent = { { 0, "a.avi", "C:\\My Clips\\a.avi" }, { 0, "b.avi", "C:\\b.avi" },
+        { 0, "a.avi", "C:\\My Clips\\a.avi" }, { 0, "c.avi", "C:\\" + std::string(2000, 'c') } };
+    EXPECT_THAT(JumpListOf(recent, { "\"C:\\b.avi\"" }),
+        ElementsAre(JumpListItem{ R"("C:\My Clips\a.avi")", "a.avi", R"(C:\My Clips\a.avi)" },
+            JumpListItem{ "\"" + recent.back().path + "\"", "c.avi", "c.avi" }));
+}
+
 TEST(WindowsRules, a_registration_names_the_program_in_quotes_and_each_type_three_times)
 {
-    const auto texts = RegistrationOf("C:\\My Programs\\zentaro.exe", { { ".avi", "Zentaro.avi" } });
+    const auto texts = RegistrationOf("C:\\My Programs\\", { { ".avi", "Zentaro.avi" } });
     const auto has = [&](const RegistryText& text) { return std::ranges::find(texts, text) != texts.end(); };
     EXPECT_TRUE(has({ "Software\\Classes\\Applications\\zentaro.exe\\shell\\open\\command", "",
         R"("C:\My Programs\zentaro.exe" "%1")" }));
     EXPECT_TRUE(has({ "Software\\Classes\\Applications\\zentaro.exe\\SupportedTypes", ".avi", "" }));
     EXPECT_TRUE(has({ "Software\\Quorvane\\Zentaro\\Capabilities\\FileAssociations", ".avi", "Zentaro.avi" }));
     EXPECT_TRUE(has({ "Software\\Classes\\.avi\\OpenWithProgids", "Zentaro.avi", "" }));
+    EXPECT_TRUE(has({ "Software\\Classes\\Zentaro.avi\\shell\\Add To Playlist\\DropTarget", "CLSID", kAddClass }));
+    EXPECT_TRUE(has({ std::string("Software\\Classes\\CLSID\\") + kAddClass + "\\LocalServer32", "",
+        R"("C:\My Programs\zentaro-add.exe")" }));
     EXPECT_TRUE(has({ "Software\\RegisteredApplications", "Zentaro", "Software\\Quorvane\\Zentaro\\Capabilities" }));
 }
 

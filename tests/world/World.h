@@ -172,7 +172,9 @@ public:
     ~FakeEnds() override { m_handler = nullptr; }
     std::string CommandHandle() const override { return "4711"; }
     std::string ProbeHandle() const override { return "4712"; }
+    std::string AddHandle() const override { return "4713"; }
     void Deliver(Handler onCommand) override { m_handler = std::move(onCommand); }
+    void DeliverAdded(Handler) override { }
 
 private:
     Handler& m_handler;
