@@ -69,7 +69,8 @@ std::vector<AssociationChoice> Associations::ReadChoices()
     std::vector<AssociationChoice> choices;
     for (int i = 0; i < kAssociationCount; ++i) {
         const auto row = AssociationRowAt(i, m_separator);
-        choices.push_back({ row.listText, m_service.icons.loadPicture ? icons.OwnerIcon(row.extension) : Picture() });
+        choices.push_back({ row.listText, m_service.icons.loadPicture ? icons.OwnerIcon(row.extension) : Picture(),
+            m_modAssoc && m_modAssoc->IsDecidedElsewhere(i) });
     }
     return choices;
 }

@@ -24,7 +24,8 @@ struct AssociationService {
 /// A row of the options list.
 struct AssociationChoice {
     std::string listText;
-    Picture icon; ///< of the program that opens the type now
+    Picture icon;                    ///< of the program that opens the type now
+    bool isDecidedElsewhere = false; ///< as of ModAssoc
 };
 
 /// The types of files that this program is to open.

@@ -51,7 +51,7 @@ std::vector<FileTypeRow> Rows(const std::vector<AssociationChoice>& choices)
 {
     std::vector<FileTypeRow> rows;
     for (const auto& choice : choices)
-        rows.push_back({ TypeText(choice.listText), ToIcon(choice.icon) });
+        rows.push_back({ TypeText(choice.listText), ToIcon(choice.icon), choice.isDecidedElsewhere });
     return rows;
 }
 
@@ -248,6 +248,8 @@ void Dialogs::OpenOptions(const std::vector<AssociationChoice>& choices)
                 [this](const DisplayChoices& chosen) { KeepDisplay(m_player.Own(), chosen); }) });
     QObject::connect(options, &frmSettings::Commit, &m_window,
         [this](const SettingsPages& shown, const SettingsPages& chosen) { m_player.CommitOptions(shown, chosen); });
+    QObject::connect(
+        options, &frmSettings::DefaultProgramsAsked, &m_window, [this] { OpenPage(platform::DefaultProgramsPage()); });
     Open(options);
 }
 
@@ -256,11 +258,8 @@ void Dialogs::ShowAbout()
     if (IsOneOpen())
         return;
     auto* const about = new frmAbout(m_window.Pictures(), &m_window);
-    QObject::connect(about, &frmAbout::LinkChosen, &m_window, [this](const QString& address) {
-        const auto page = ToText(address);
-        Open(page, Words("There is no browser that shows this page:"),
-            [page] { return bool(platform::OpenDocument(page)); });
-    });
+    QObject::connect(
+        about, &frmAbout::LinkChosen, &m_window, [this](const QString& address) { OpenPage(ToText(address)); });
     Open(about);
 }
 
@@ -291,6 +290,12 @@ void Dialogs::ShowHelp()
             [help, topic] { return bool(platform::OpenHelp(help, topic)); });
     else
         Say(Words("The help is missing. It should be here:") + "\r\n" + help);
+}
+
+void Dialogs::OpenPage(const std::string& page)
+{
+    Open(page, Words("There is no browser that shows this page:"),
+        [page] { return bool(platform::OpenDocument(page)); });
 }
 
 void Dialogs::Open(const std::string& what, const std::string& complaint, std::function<bool()> open)

@@ -38,6 +38,7 @@ public:
     void ShowHelp() override;
 
 private:
+    void OpenPage(const std::string& page);
     /// `open` runs beside the window; where it fails a box shows `complaint` and what was to be opened.
     void Open(const std::string& what, const std::string& complaint, std::function<bool()> open);
     void Say(const std::string& text);

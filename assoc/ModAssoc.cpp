@@ -98,6 +98,13 @@ bool ModAssoc::RegisterVerb(const std::string& progId, const std::string& descri
         && Write(Root::ClassesRoot, progId + "\\DefaultIcon", "", icon.empty() ? m_programPath : icon);
 }
 
+bool ModAssoc::IsDecidedElsewhere(int index)
+{
+    const auto row = AssociationRowAt(index, m_separator);
+    const auto chosen = Read(Root::CurrentUser, FileExtsKey(row.extension) + "\\UserChoice", "ProgId");
+    return !chosen.empty() && chosen != row.progId && chosen != "Applications\\zentaro.exe";
+}
+
 std::int16_t ModAssoc::IsOurs(const std::string& extension, const std::string& progId)
 {
     return Read(Root::ClassesRoot, extension, "") == progId ? 1 : 0;

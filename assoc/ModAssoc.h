@@ -34,6 +34,10 @@ public:
     /// the store has not taken all of it.
     bool RegisterVerb(const std::string& progId, const std::string& description, const std::string& verb,
         const std::string& icon, const std::string& suffix);
+    /// A Windows user has given the type to another program in the system's own settings. That rules, whatever stands
+    /// in the store, and only the user can change it. 0 to 23.
+    bool IsDecidedElsewhere(int index);
+
     /// 1 or 0.
     std::int16_t IsOurs(const std::string& extension, const std::string& progId);
     void TakeExtension(const std::string& extension, const std::string& progId);

@@ -56,6 +56,10 @@ std::string HelpFile(const std::string& topic, const std::string& language);
 /// Opens that file, with its path, at the topic. Fails as OpenDocument.
 Result<void> OpenHelp(const std::string& path, const std::string& topic);
 
+/// The address of the page in the system's settings on which its user gives types of files to programs; empty where
+/// programs do that themselves.
+std::string DefaultProgramsPage();
+
 /// Opens a file (an absolute path) or a web address in the program that the user has chosen for it. Fails when the
 /// system knows no such program; on Linux its tools take up to some seconds to find that out.
 Result<void> OpenDocument(const std::string& target);

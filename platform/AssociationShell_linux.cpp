@@ -304,6 +304,11 @@ Result<void> OpenHelp(const std::string& path, const std::string&)
     return OpenDocument(path);
 }
 
+std::string DefaultProgramsPage()
+{
+    return {};
+}
+
 Result<void> OpenDocument(const std::string& target)
 {
     // Each desktop has a tool of its own; this one knows them all, and without it the common library's is tried.

@@ -178,6 +178,12 @@ Result<void> OpenHelp(const std::string& path, const std::string& topic)
     return Open("hh.exe", page.c_str());
 }
 
+std::string DefaultProgramsPage()
+{
+    // Before Windows 11 it opens without the part behind the question mark.
+    return std::string("ms-settings:defaultapps?registeredAppUser=") + desktop::kRegisteredName;
+}
+
 Result<void> OpenDocument(const std::string& target)
 {
     return Open(target, nullptr);

@@ -164,7 +164,7 @@ QWidget* frmSettings::MakeAssociationsPage(const std::vector<FileTypeRow>& rows)
     m_types->setIconSize({ 20, 20 });
     m_types->setUniformItemSizes(true);
     for (const auto& row : rows) {
-        auto* const item = new QListWidgetItem(row.icon, row.text, m_types);
+        auto* const item = new QListWidgetItem(row.icon, row.isDecidedElsewhere ? row.text + " *" : row.text, m_types);
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
     }
     std::vector<std::size_t> everything(rows.size());
@@ -194,7 +194,22 @@ QWidget* frmSettings::MakeAssociationsPage(const std::vector<FileTypeRow>& rows)
     auto* const note = SecondText(tr("A type that is no longer chosen goes back to the program that had it before."));
     note->setWordWrap(m_isNarrow);
     layout->addWidget(note);
+    if (std::ranges::any_of(rows, &FileTypeRow::isDecidedElsewhere))
+        AddDecidedElsewhere(*layout);
     return page;
+}
+
+void frmSettings::AddDecidedElsewhere(QBoxLayout& layout)
+{
+    auto* const note = SecondText(tr("* In the system's own settings it is another program, and they decide."));
+    note->setWordWrap(true);
+    auto* const open = new SkinPushButton(tr("&Default apps..."), Pictures(), nullptr);
+    open->setAutoDefault(false);
+    connect(open, &QPushButton::clicked, this, &frmSettings::DefaultProgramsAsked);
+    auto* const row = new QHBoxLayout;
+    row->addWidget(note, 1);
+    row->addWidget(open);
+    layout.addLayout(row);
 }
 
 QWidget* frmSettings::MakeSnapshotsPage()

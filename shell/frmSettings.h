@@ -20,7 +20,8 @@ namespace zentaro {
 /// A file type as the options list it.
 struct FileTypeRow {
     QString text;
-    QIcon icon; ///< of the program that opens the type now
+    QIcon icon;                      ///< of the program that opens the type now
+    bool isDecidedElsewhere = false; ///< whatever is chosen here
 };
 
 /// The options: pages for the player, the file types and the snapshots. It holds `SettingsPages` and gives them back;
@@ -37,6 +38,8 @@ public:
 signals:
     /// OK or Apply, with values that can be stored. `shown`: what the pages held at the opening or the commit before.
     void Commit(const SettingsPages& shown, const SettingsPages& chosen);
+    /// The page of the system's settings is wanted that decides about types of files.
+    void DefaultProgramsAsked();
 
 protected:
     void PaintBody(QPainter& painter) override;
@@ -51,6 +54,7 @@ private:
     QBoxLayout* MakeWindowOptions();
     QBoxLayout* MakeFileOptions();
     QWidget* MakeAssociationsPage(const std::vector<FileTypeRow>& rows);
+    void AddDecidedElsewhere(QBoxLayout& layout);
     QWidget* MakeSnapshotsPage();
     QBoxLayout* MakeButtons();
     void AddColumns(QBoxLayout& layout, QBoxLayout* left, int leftShare, QBoxLayout* right, int rightShare);

@@ -104,6 +104,14 @@
         <translation>Eine Zeit sieht so aus: 1:02:30</translation>
     </message>
     <message>
+        <source>* In the system&apos;s own settings it is another program, and they decide.</source>
+        <translation>* In den Einstellungen des Systems ist es ein anderes Programm, und sie entscheiden.</translation>
+    </message>
+    <message>
+        <source>&amp;Default apps...</source>
+        <translation>&amp;Standard-Apps...</translation>
+    </message>
+    <message>
         <source>A type that is no longer chosen goes back to the program that had it before.</source>
         <translation>Ein abgewählter Typ geht an das vorige Programm zurück.</translation>
     </message>

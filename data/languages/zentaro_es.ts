@@ -104,6 +104,14 @@
         <translation>Un tiempo se escribe así: 1:02:30</translation>
     </message>
     <message>
+        <source>* In the system&apos;s own settings it is another program, and they decide.</source>
+        <translation>* En la configuración del sistema es otro programa, y ella decide.</translation>
+    </message>
+    <message>
+        <source>&amp;Default apps...</source>
+        <translation>Apps pre&amp;determinadas...</translation>
+    </message>
+    <message>
         <source>A type that is no longer chosen goes back to the program that had it before.</source>
         <translation>Un tipo no elegido vuelve al programa anterior.</translation>
     </message>

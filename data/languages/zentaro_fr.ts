@@ -104,6 +104,14 @@
         <translation>Une heure s’écrit ainsi : 1:02:30</translation>
     </message>
     <message>
+        <source>* In the system&apos;s own settings it is another program, and they decide.</source>
+        <translation>* Dans les réglages du système, c&apos;est un autre programme, et ce sont eux qui décident.</translation>
+    </message>
+    <message>
+        <source>&amp;Default apps...</source>
+        <translation>Applis par &amp;défaut...</translation>
+    </message>
+    <message>
         <source>A type that is no longer chosen goes back to the program that had it before.</source>
         <translation>Un type décoché revient au programme précédent.</translation>
     </message>

@@ -104,6 +104,14 @@
         <translation>時間の書き方: 1:02:30</translation>
     </message>
     <message>
+        <source>* In the system&apos;s own settings it is another program, and they decide.</source>
+        <translation>* システムの設定では別のプログラムになっており、そちらが優先されます。</translation>
+    </message>
+    <message>
+        <source>&amp;Default apps...</source>
+        <translation>既定のアプリ(&amp;D)...</translation>
+    </message>
+    <message>
         <source>A type that is no longer chosen goes back to the program that had it before.</source>
         <translation>選択を外した種類は、以前のプログラムに戻ります。</translation>
     </message>

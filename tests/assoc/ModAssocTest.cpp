@@ -107,6 +107,18 @@ TEST_F(Associations, a_taken_type_has_two_verbs_and_an_icon_and_comes_back_with_
     EXPECT_EQ(Class("Zentaro.x\\DefaultIcon:"), "C:\\PROGRA~1\\Zentaro.exe");
 }
 
+TEST_F(Associations, a_choice_in_the_systems_settings_rules_unless_it_is_ours)
+{
+    auto& chosen = store.values["user:Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\FileExts\\.mkv\\"
+                                "UserChoice:ProgId"];
+    EXPECT_FALSE(types.IsDecidedElsewhere(kMkv));
+    for (const auto& [owner, isOthers] : { std::pair("OtherPlayer.mkv", true), std::pair("Zentaro.mkv", false),
+             std::pair("Applications\\zentaro.exe", false) }) {
+        chosen = owner;
+        EXPECT_EQ(types.IsDecidedElsewhere(kMkv), isOthers) << owner;
+    }
+}
+
 TEST_F(Associations, applying_again_writes_nothing_and_keeps_foreign_types)
 {
     AssociationFlags flags{};

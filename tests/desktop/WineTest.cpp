@@ -37,9 +37,11 @@ protected:
     {
         if (g_prefix.empty() || g_engine.empty())
             GTEST_SKIP() << "WINEPREFIX and ZENTARO_LIBVLC_WINDOWS name no Wine and no libVLC for Windows";
-        // Wine keeps to the display that its first program was started on.
+        // Wine keeps to the display that its first program was started on, and its services go with that program.
         static const auto ended = Process({ "WINEPREFIX=" + g_prefix, "wineserver", "-k" }).WaitForEnd();
-        static_cast<void>(ended);
+        static const auto session = Windows({ Helper("explorer.exe") });
+        EXPECT_TRUE(
+            ended && WaitUntil([] { return session.Output().find("here") != std::string::npos; }, 6 * kPatience));
     }
 
     /// As Windows calls a file of this system.
@@ -252,7 +254,7 @@ TEST_F(OnWine, a_selection_goes_to_one_player_in_natural_order)
         EXPECT_TRUE(WaitUntil([&] { return Registry("HKCU\\" + key).find("zentaro-add.exe") != std::string::npos; }));
         Windows({ "reg", "copy", "HKCU\\" + key, "HKLM\\" + key, "/s", "/f" }).WaitForEnd();
         std::transform(files.begin(), files.end(), files.begin(), [](const auto& file) { return Named(file); });
-        files.insert(files.begin(), { Helper("selector.exe"), name });
+        files.insert(files.begin(), { Helper("explorer.exe"), name });
         EXPECT_EQ(Windows(files).WaitForEnd(), 0);
     };
     std::vector<std::string> files;

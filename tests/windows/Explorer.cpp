@@ -1,5 +1,7 @@
-// Does what Explorer does with the files that are selected in it: gives them to a drop target, CLASS FILE...
+// Explorer's part. With CLASS FILE... it gives a selection of files to a drop target. Without arguments it is there, so
+// that programs may come and go without their desktop doing so.
 #include <array>
+#include <cstdio>
 #include <cstring>
 #include <string>
 #include <windows.h>
@@ -31,12 +33,16 @@ HGLOBAL MakeDrop(int count, char** paths)
     return memory;
 }
 
+HWND MakeWindow()
+{
+    return CreateWindowA("STATIC", "", 0, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+}
+
 /// The clipboard makes the object of it that a drop wants.
 IDataObject* MakeData(HGLOBAL drop)
 {
     IDataObject* data = nullptr;
-    const HWND window = CreateWindowA("STATIC", "", 0, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
-    if (!OpenClipboard(window))
+    if (!OpenClipboard(MakeWindow()))
         return nullptr;
     EmptyClipboard();
     SetClipboardData(CF_HDROP, drop);
@@ -49,6 +55,11 @@ IDataObject* MakeData(HGLOBAL drop)
 
 int main(int count, char** arguments)
 {
+    if (count == 1 && MakeWindow() != nullptr) {
+        std::puts("here");
+        std::fflush(stdout);
+        Sleep(INFINITE);
+    }
     CLSID id{};
     IDropTarget* target = nullptr;
     if (count < 3 || FAILED(OleInitialize(nullptr)) || FAILED(CLSIDFromString(Wide(arguments[1]).c_str(), &id)))
