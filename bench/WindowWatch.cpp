@@ -2,6 +2,7 @@
 //   window-watch up TIMES PLAYER             ms from the launch to a painted window, one per line
 //   window-watch resize SECONDS PLAYER CLIP  pictures that the engine dropped in a still window and in one that is
 //                                            resized all the time, after so many seconds each
+// What stands in ZENTARO_BENCH_SESSION is started on the display before, and says a word when it is there.
 #include "tests/desktop/Desktop.h"
 #include "tests/desktop/Wait.h"
 
@@ -142,6 +143,11 @@ int main(int argc, char** argv)
     }
     try {
         Desktop desktop(1600, 1000);
+        Process session;
+        if (const char* const command = std::getenv("ZENTARO_BENCH_SESSION")) {
+            session = Process(Words("DISPLAY=" + desktop.Name() + " " + command));
+            WaitUntil([&] { return !session.Output().empty(); }, 6 * kPatience);
+        }
         const int number = std::atoi(argv[2]);
         const std::vector<std::string> command(argv + 3, argv + argc);
         if (argv[1] == std::string("up"))

@@ -11,7 +11,8 @@ namespace zentaro::platform {
 
 /// How long the two sides of a hand-over wait for each other.
 struct HandOverLimits {
-    /// A sender that has not heard for so long that its text was taken over does without this receiver.
+    /// A sender that has not heard for so long that its text was taken over does without this receiver. On Windows
+    /// eight times as long while the receiver has not been running for a minute.
     std::chrono::milliseconds silence = std::chrono::seconds(5);
     /// A text that was taken over may take so long to be opened; then its sender ends without having seen it.
     std::chrono::milliseconds opening = std::chrono::seconds(10);

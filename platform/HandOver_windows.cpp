@@ -52,14 +52,32 @@ bool IsOurProgram(HWND window)
 {
     DWORD id = 0;
     GetWindowThreadProcessId(window, &id);
-    const HANDLE process = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id);
+    const SystemObject process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
     if (!process)
         return false;
-    const auto name = ProgramName(process);
-    CloseHandle(process);
+    const auto name = ProgramName(process.get());
     // What calls a player is one itself, or a tool that lies beside it.
     const auto isNamed = [&](const std::string& other) { return lstrcmpiA(name.c_str(), other.c_str()) == 0; };
     return !name.empty() && (isNamed(kPlayer) || isNamed(ProgramName(GetCurrentProcess())));
+}
+
+/// A player that was started a moment ago, beside others that start, comes to its messages late.
+bool IsStarting(HWND window)
+{
+    constexpr ULONGLONG kStartTime = 60 * 10'000'000ULL; // in steps of 100 ns
+    DWORD id = 0;
+    GetWindowThreadProcessId(window, &id);
+    const SystemObject process(OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, id));
+    FILETIME started{};
+    FILETIME now{};
+    FILETIME ignored{};
+    if (!process || !GetProcessTimes(process.get(), &started, &ignored, &ignored, &ignored))
+        return false;
+    GetSystemTimeAsFileTime(&now);
+    const auto number = [](const FILETIME& time) {
+        return static_cast<ULONGLONG>(time.dwHighDateTime) << 32 | time.dwLowDateTime;
+    };
+    return number(now) - number(started) < kStartTime;
 }
 
 /// Whether the window is one of a player's ends. The number of one that is gone may be given to any other window, which
@@ -263,8 +281,9 @@ HandOverOutcome SendHandOverTextWithin(const std::string& handle, const std::str
     DWORD_PTR answer = 0;
     // Asked first without the text: one that is stopped must not open it later, when its sender has long done so
     // itself.
-    if (!SendMessageTimeoutA(
-            window, WM_NULL, 0, 0, SMTO_ABORTIFHUNG, static_cast<UINT>(limits.silence.count()), &answer))
+    constexpr int kWhileStarting = 8; // times as patient
+    const auto silence = static_cast<UINT>(limits.silence.count() * (IsStarting(window) ? kWhileStarting : 1));
+    if (!SendMessageTimeoutA(window, WM_NULL, 0, 0, SMTO_NORMAL, silence, &answer))
         return HandOverOutcome::Silent;
     // A little longer than the receiver lets wait, so that it is the receiver who says that the time is over.
     const auto patience = static_cast<UINT>((limits.opening + std::chrono::seconds(1)).count());
