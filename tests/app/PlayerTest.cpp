@@ -22,6 +22,19 @@ TEST_F(PlayerTest, types_are_taken_once_the_start_is_over_or_when_it_ends)
     EXPECT_EQ(world.associations.ours, -1);
 }
 
+TEST_F(PlayerTest, a_missing_engine_is_said_once_and_all_else_works)
+{
+    world.engines.missing = "libVLC was not found";
+    Start("/clips/a.avi");
+    EXPECT_EQ(world.dialogs.boxes.size(), 1U);
+    EXPECT_NE(world.dialogs.boxes.at(0).find("libVLC was not found"), std::string::npos);
+    EXPECT_EQ(world.player->Entries().Count(), 1);
+    world.receive("/clips/b.avi", [] {});
+    world.Settle();
+    EXPECT_EQ(world.player->Entries().Count(), 2);
+    EXPECT_EQ(world.dialogs.boxes.size(), 1U);
+}
+
 TEST_F(PlayerTest, the_files_of_starts_play_in_fresh_engines_one_at_a_time)
 {
     Store([](PlayerSettings& settings) { settings.LaunchFullScreen = -1; });

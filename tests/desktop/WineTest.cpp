@@ -63,11 +63,11 @@ protected:
         return path;
     }
     static std::string Film() { return Clip("film.mkv", "-c:v libtheora -c:a libvorbis"); }
-    static Process Windows(std::vector<std::string> words)
+    static Process Windows(std::vector<std::string> words, const std::string& folder = ".")
     {
         words.insert(
             words.begin(), { "WINEPREFIX=" + g_prefix, "WINEDEBUG=-all", "WINEDLLOVERRIDES=mscoree,mshtml=", "wine" });
-        return Process(words);
+        return Process(words, folder);
     }
     Process StartPlayer(const std::vector<std::string>& files) const
     {
@@ -224,7 +224,7 @@ TEST_F(OnWine, later_starts_hand_their_files_over)
     ASSERT_TRUE(player.WaitForTitle("film.mkv"));
     fs::create_directory(InHome("späte Filme"));
     const auto second = CopyOf(Film(), "späte Filme/zweiter.mkv");
-    EXPECT_EQ(StartPlayer({ second }).WaitForEnd(), kUsualEnd);
+    EXPECT_EQ(StartPlayer({ second }).WaitForEnd(4 * kPatience), kUsualEnd);
     EXPECT_TRUE(player.WaitForTitle("zweiter.mkv"));
     player.process.Kill();
     // Nobody is there any more: of many starts one becomes the player, the others find it.
@@ -240,6 +240,31 @@ TEST_F(OnWine, later_starts_hand_their_files_over)
     auto heir = Show(std::move(*last));
     EXPECT_TRUE(heir.WaitForTitle("zweiter.mkv"));
     EXPECT_EQ(heir.Close(), kUsualEnd);
+}
+
+TEST_F(OnWine, files_with_paths_of_all_kinds_are_handed_over_and_play)
+{
+    auto player = ShowPlayer();
+    const std::string whole = "\\\\?\\"; // the system changes nothing of a path behind this
+    std::string deep;
+    for (int i = 0; i < 4; ++i)
+        deep += std::string(80, static_cast<char>('a' + i)) + '/';
+    CopyOf(Film(), "here/relative.mkv");
+    const std::pair<std::string, std::string> files[] = {
+        { "relative.mkv", "relative.mkv" },
+        { Named(CopyOf(Film(), "🎬 films/späte 🎬.mkv")), "späte 🎬.mkv" },
+        { whole + Named(CopyOf(Film(), "whole/plain.mkv")), "plain.mkv" },
+        { Named(CopyOf(Film(), deep + "deep.mkv")), "deep.mkv" },
+        { whole + Named(CopyOf(Film(), deep + "whole.mkv")), "whole.mkv" },
+        { whole + Named(CopyOf(Film(), "dots. /in dots.mkv")), "in dots.mkv" },
+    };
+    for (const auto& [path, name] : files) {
+        EXPECT_EQ(
+            Windows({ InHome("program/zentaro.exe"), path }, InHome("here")).WaitForEnd(4 * kPatience), kUsualEnd);
+        EXPECT_TRUE(player.WaitForTitle(name)) << path;
+        EXPECT_TRUE(Moves(VideoOf(player))) << path;
+    }
+    EXPECT_EQ(player.Close(), kUsualEnd);
 }
 
 TEST_F(OnWine, a_selection_goes_to_one_player_in_natural_order)

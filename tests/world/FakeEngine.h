@@ -83,8 +83,15 @@ private:
 
 class FakeEngines : public EngineFactory {
 public:
+    Result<void> Prepare() override
+    {
+        if (!missing.empty())
+            return Error{ 126, missing };
+        return {};
+    }
     std::unique_ptr<Engine> Create() override { return std::make_unique<FakeEngine>(trace); }
     EngineTrace trace;
+    std::string missing; ///< says that there is no engine
 };
 
 } // namespace zentaro
