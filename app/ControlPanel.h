@@ -41,6 +41,7 @@ public:
     /// What the buttons' pictures are drawn from.
     SkinButtons ButtonStates() const;
     SkinButton& At(Button button) const { return *m_buttons.at(button); }
+    SeekTrack& Seek() const { return *m_seek; }
     /// Whether the control uses this key itself while it has the focus.
     bool UsesKey(const QWidget* control, int key) const;
 

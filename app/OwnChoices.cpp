@@ -21,6 +21,8 @@ std::string_view KeyOf(Choice choice)
         return "choice.familiarWays";
     case Choice::KnowsOfWays:
         return "choice.knowsOfWays";
+    case Choice::Previews:
+        return "choice.previews";
     }
     return {};
 }
@@ -29,7 +31,8 @@ std::string_view KeyOf(Choice choice)
 
 bool OwnChoices::Has(Choice choice) const
 {
-    return m_settings.Number(KeyOf(choice), choice == Choice::Remembers ? 1 : 0, 0, 1) != 0;
+    const bool isFromBeginning = choice == Choice::Remembers || choice == Choice::Previews;
+    return m_settings.Number(KeyOf(choice), isFromBeginning ? 1 : 0, 0, 1) != 0;
 }
 
 void OwnChoices::Set(Choice choice, bool on)

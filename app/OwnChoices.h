@@ -11,6 +11,7 @@ enum class Choice {
     LowRows,            ///< more of the list's rows are in sight
     FamiliarWays,       ///< as Ways::isFamiliar
     KnowsOfWays,        ///< the choice was offered
+    Previews,           ///< pictures of the places under the pointer; from the beginning
 };
 
 /// These choices, each kept as soon as it is made.

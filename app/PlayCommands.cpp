@@ -69,6 +69,14 @@ constexpr std::array kCommands{
             player.Face().window->ShowNote(Words(stops ? "Stops after this one" : "Goes on after this one"));
         },
         IsLoaded, [](const Player& player) { return player.Sequence().StopsAfterThis(); } },
+    Command{ .id = "Previews",
+        .caption = "Pictures over the Seek Bar",
+        .run =
+            [](Player& player, int) {
+                player.Choices().Set(Choice::Previews, !player.Choices().Has(Choice::Previews));
+                player.Face().window->StateChanged();
+            },
+        .isChecked = [](const Player& player) { return player.Choices().Has(Choice::Previews); } },
     Command{ .id = "SleepTimer",
         .caption = "Stop by the Cloc&k",
         .keys = kCtrlT,

@@ -8,6 +8,7 @@
 #include "app/ListHand.h"
 #include "app/ListMenu.h"
 #include "app/Player.h"
+#include "app/TrackPreview.h"
 #include "app/VideoHand.h"
 #include "app/VideoMenu.h"
 #include "app/WindowKeys.h"
@@ -45,7 +46,7 @@ constexpr double kTwipsPerPixel = 15;
 
 } // namespace
 
-frmMain::frmMain(Player& player, VideoFrame* video, const QString& programFolder)
+frmMain::frmMain(Player& player, Previews& previews, VideoFrame* video, const QString& programFolder)
     : m_player(player)
     , m_timers(player, this)
     , m_programFolder(programFolder)
@@ -63,6 +64,7 @@ frmMain::frmMain(Player& player, VideoFrame* video, const QString& programFolder
     setObjectName("frmMain");
     setWindowTitle(kProgramName);
     setWindowIcon(QIcon(programFolder + "icons/zentaro.png"));
+    new TrackPreview(player, previews, m_controls->Seek(), this);
     new VideoHand(player, *m_video, *m_bar, *m_notes, *this);
     m_video->setFocusPolicy(Qt::StrongFocus);
     LetCoverVideo(*m_bar);

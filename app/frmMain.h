@@ -17,6 +17,7 @@ class FullScreenBar;
 class ListHand;
 class MenuStrip;
 class Player;
+class Previews;
 class VideoFrame;
 class WindowMenus;
 class WindowNotes;
@@ -27,7 +28,7 @@ class frmMain : public WindowFrame, public WindowFace {
 
 public:
     /// `programFolder`: with a trailing separator. The window takes the video frame over.
-    frmMain(Player& player, VideoFrame* video, const QString& programFolder);
+    frmMain(Player& player, Previews& previews, VideoFrame* video, const QString& programFolder);
 
     ~frmMain() override;
 

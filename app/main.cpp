@@ -6,6 +6,7 @@
 #include "app/Language.h"
 #include "app/MediaRemote.h"
 #include "app/Player.h"
+#include "app/PreviewThreads.h"
 #include "app/frmMain.h"
 #include "assoc/IconPicture.h"
 #include "base/Paths.h"
@@ -33,6 +34,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <random>
@@ -44,6 +46,7 @@ using namespace zentaro;
 
 constexpr auto kEngineDelay = std::chrono::milliseconds(100); // until the engine shows what it was told
 constexpr std::int64_t kKnownFilesLimit = 512 << 20;          // bytes
+constexpr std::int64_t kPreviewsLimit = 256 << 20;            // bytes
 constexpr auto kTidyDelay = std::chrono::seconds(5);          // a start has shown its first picture by then
 
 HandOverService RealHandOver()
@@ -205,14 +208,22 @@ int main(int argc, char** argv)
 
     auto* const video = new VideoFrame(ToQString(programFolder) + "Audio.JPG", nullptr);
     VlcEngines engines(*video, workingFolder.empty() ? std::string() : workingFolder + "engine.log");
-    const auto known = std::make_shared<KnownFiles>([separator] {
+    const auto openCache = [separator](const char* name, std::int64_t limit) {
         const auto folder = platform::CacheFolder();
-        return folder.empty() ? nullptr : platform::CacheStore::Open(folder + separator + "seen.db", kKnownFilesLimit);
-    });
-    InspectionThreads inspections(SharedInspectionBase(programFolder), workingFolder, onWindowThread, known);
+        return folder.empty() ? nullptr : platform::CacheStore::Open(folder + separator + name, limit);
+    };
+    const auto known = std::make_shared<KnownFiles>([openCache] { return openCache("seen.db", kKnownFilesLimit); });
+    const auto inspectionBase = SharedInspectionBase(programFolder);
+    InspectionThreads inspections(inspectionBase, workingFolder, onWindowThread, known);
+    PreviewThreads previewThreads(
+        { [inspectionBase] { return inspectionBase()->ffmpeg; }, std::not_fn(&platform::IsOnOtherMachine),
+            std::make_shared<KnownPreviews>([openCache] { return openCache("previews.db", kPreviewsLimit); }) },
+        onWindowThread);
+    Previews previews(previewThreads, &platform::IsOnRemovableDisc, after);
     DriveQueries drives(platform::Drives::Open(), onWindowThread);
     const bool isToldOfDiscs = drives.Watch();
     const auto endProcess = [&] {
+        previewThreads.Close();
         inspections.CancelAll();
         platform::RemoveFolder(workingFolder);
         sleepInhibitor.reset();
@@ -257,7 +268,7 @@ int main(int argc, char** argv)
     inspections.onCompleted = [&](int ticket, Inspection result) {
         player.Files().InspectionCompleted(ticket, std::move(result));
     };
-    frmMain window(player, video, ToQString(programFolder));
+    frmMain window(player, previews, video, ToQString(programFolder));
     Dialogs dialogs(window, player, programFolder, language);
 
     MediaRemote remote(player, RemoteWindow(window, workingFolder));

@@ -2,6 +2,7 @@
 // paints after them. The engine answers at once.
 #include "app/frmMain.h"
 #include "playback/VideoFrame.h"
+#include "tests/world/NoPreviews.h"
 #include "tests/world/World.h"
 
 #include <QApplication>
@@ -78,7 +79,8 @@ void BM_PositionTickWithItsWindow(benchmark::State& state)
     InstantEngines engines;
     World world(folder.path, &engines);
     auto& player = world.Make();
-    frmMain window(player, new VideoFrame({}, nullptr), QString::fromStdString(folder.path));
+    NoPreviews previews;
+    frmMain window(player, previews.none, new VideoFrame({}, nullptr), QString::fromStdString(folder.path));
     player.Load("", { &window, &world.dialogs });
     player.Files().LoadThumb("a", "/a.avi", false, true);
     world.Settle();

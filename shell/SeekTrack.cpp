@@ -3,10 +3,8 @@
 #include "shell/QtText.h"
 #include "shell/Style.h"
 
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QToolTip>
 
 #include <algorithm>
 #include <cmath>
@@ -41,9 +39,13 @@ SeekTrack::SeekTrack(QWidget* parent)
 void SeekTrack::Show(const Place& place)
 {
     const bool hasJumped = place.seeks != m_place.seeks && place.seeks > 0;
-    if (m_place.length != place.length || m_place.chapters != place.chapters)
+    const bool isOther = m_place.length != place.length || m_place.chapters != place.chapters
+        || m_place.mediaControlsEnabled != place.mediaControlsEnabled;
+    if (isOther)
         update();
     m_place = place;
+    if (isOther && m_pointer)
+        PointAt(*m_pointer);
     const auto before = m_bar.FillWidth();
     m_bar.SetProgress(place.progress * 100);
     if (m_bar.FillWidth() != before)
@@ -77,18 +79,22 @@ void SeekTrack::Choose(std::optional<double> position)
     emit PositionChosen(*position);
 }
 
-void SeekTrack::ShowTimeAt(const QPoint& global, double x)
+void SeekTrack::PointAt(double x)
 {
-    auto text = ToQString(m_bar.TimeUnder(x, m_place.length, m_place.mediaControlsEnabled));
-    if (text.isEmpty()) {
-        QToolTip::hideText();
-        return;
-    }
-    const auto chapter =
-        ChapterAt(m_place.chapters, ChapterMeant(x).value_or(TimeOf(x) / m_place.length) * m_place.length);
-    if (chapter >= 0 && !m_place.chapters[static_cast<std::size_t>(chapter)].name.empty())
-        text += '\n' + ToQString(m_place.chapters[static_cast<std::size_t>(chapter)].name);
-    QToolTip::showText(global, text, this);
+    const auto text = m_bar.TimeUnder(x, m_place.length, m_place.mediaControlsEnabled);
+    if (text.empty())
+        return PointNowhere();
+    m_pointer = x;
+    const auto time = ChapterMeant(x).value_or(std::max(TimeOf(x), 0.0) / m_place.length) * m_place.length;
+    const auto chapter = ChapterAt(m_place.chapters, time);
+    emit PointedAt(x, time, ToQString(text),
+        chapter >= 0 ? ToQString(m_place.chapters[static_cast<std::size_t>(chapter)].name) : QString());
+}
+
+void SeekTrack::PointNowhere()
+{
+    if (std::exchange(m_pointer, std::nullopt))
+        emit PointerLeft();
 }
 
 std::optional<double> SeekTrack::ChapterMeant(double x) const
@@ -109,14 +115,19 @@ void SeekTrack::FollowHand()
 
 bool SeekTrack::event(QEvent* event)
 {
-    if (event->type() != QEvent::ToolTip) {
-        const bool isHandled = QWidget::event(event);
-        FollowHand();
-        return isHandled;
-    }
-    const auto* const help = static_cast<QHelpEvent*>(event);
-    ShowTimeAt(help->globalPos(), help->pos().x());
-    return true;
+    const bool isHandled = QWidget::event(event);
+    FollowHand();
+    return isHandled;
+}
+
+void SeekTrack::leaveEvent(QEvent*)
+{
+    PointNowhere();
+}
+
+void SeekTrack::hideEvent(QHideEvent*)
+{
+    PointNowhere();
 }
 
 void SeekTrack::resizeEvent(QResizeEvent*)
@@ -137,7 +148,7 @@ void SeekTrack::mousePressEvent(QMouseEvent* event)
 void SeekTrack::mouseMoveEvent(QMouseEvent* event)
 {
     const auto x = event->position().x();
-    ShowTimeAt(event->globalPosition().toPoint(), x);
+    PointAt(x);
     if (event->buttons() == Qt::NoButton)
         return;
     const bool isLeft = event->buttons().testFlag(Qt::LeftButton);

@@ -41,10 +41,16 @@ public:
 signals:
     /// The engine is to go to this position, 0.0 to 1.0.
     void PositionChosen(double position);
+    /// The pointer is over a place that can be gone to: its x, its time in ms, and what there is to read of it.
+    void PointedAt(double x, double time, const QString& timeText, const QString& chapter);
+    /// It is over none any more.
+    void PointerLeft();
 
 protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -53,7 +59,8 @@ protected:
 private:
     void FollowHand();
     void Choose(std::optional<double> position);
-    void ShowTimeAt(const QPoint& global, double x);
+    void PointAt(double x);
+    void PointNowhere();
     /// At its start where a chapter begins so near that the hand must have meant it.
     std::optional<double> ChapterMeant(double x) const;
     double TimeOf(double x) const { return x / m_bar.TrackWidth() * m_place.length; }
@@ -63,7 +70,8 @@ private:
     Place m_place;
     bool m_isNear = false;
     Fade m_nearness{ *this, [this] { update(); } };
-    bool m_heldOnFill = false; // the button went down on the played part
+    bool m_heldOnFill = false;       // the button went down on the played part
+    std::optional<double> m_pointer; // its x, over a place that can be gone to
 };
 
 } // namespace zentaro

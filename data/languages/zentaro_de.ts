@@ -888,6 +888,10 @@
         <translation>Angehalten bei %1</translation>
     </message>
     <message>
+        <source>Pictures over the Seek Bar</source>
+        <translation>Bilder über dem Suchbalken</translation>
+    </message>
+    <message>
         <source>&amp;Play</source>
         <translation>&amp;Wiedergabe</translation>
     </message>

@@ -888,6 +888,10 @@
         <translation>En pausa en %1</translation>
     </message>
     <message>
+        <source>Pictures over the Seek Bar</source>
+        <translation>Imágenes sobre la barra de posición</translation>
+    </message>
+    <message>
         <source>&amp;Play</source>
         <translation>&amp;Reproducción</translation>
     </message>

@@ -888,6 +888,10 @@
         <translation>En pause à %1</translation>
     </message>
     <message>
+        <source>Pictures over the Seek Bar</source>
+        <translation>Images au-dessus de la barre de position</translation>
+    </message>
+    <message>
         <source>&amp;Play</source>
         <translation>&amp;Lecture</translation>
     </message>

@@ -888,6 +888,10 @@
         <translation>%1 で一時停止</translation>
     </message>
     <message>
+        <source>Pictures over the Seek Bar</source>
+        <translation>シークバーの上の画像</translation>
+    </message>
+    <message>
         <source>&amp;Play</source>
         <translation>再生(&amp;P)</translation>
     </message>

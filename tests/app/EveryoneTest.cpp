@@ -13,6 +13,7 @@
 #include "shell/frmAbout.h"
 #include "shell/frmSettings.h"
 #include "tests/app/PlayerFixture.h"
+#include "tests/world/NoPreviews.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -35,7 +36,7 @@ protected:
     explicit Everyone(const style::Needs& needs = {})
         : m_player((style::Apply(*qApp, needs), world.Make()))
         , m_programFolder(QApplication::applicationDirPath() + "/../bin/")
-        , m_window(m_player, new VideoFrame(m_programFolder + "Audio.JPG", nullptr), m_programFolder)
+        , m_window(m_player, m_previews.none, new VideoFrame(m_programFolder + "Audio.JPG", nullptr), m_programFolder)
     {
         m_player.Load("", { &m_window, &world.dialogs });
         world.Settle();
@@ -128,6 +129,7 @@ protected:
 
     Player& m_player;
     QString m_programFolder;
+    NoPreviews m_previews;
     frmMain m_window;
 };
 

@@ -1,5 +1,6 @@
 #include "inspect/ConsoleToolRunner.h"
 #include "inspect/DiskFiles.h"
+#include "inspect/PreviewPicture.h"
 #include "inspect/QtServices.h"
 #include "inspect/clsAVIDelay.h"
 #include "inspect/clsSource.h"
@@ -250,4 +251,31 @@ TEST_F(RealFiles, a_picture_is_saved_and_decoded_with_every_bit)
     EXPECT_EQ(std::vector(decoded.Pixels(), decoded.Pixels() + 6), pixels);
     EXPECT_FALSE(SavePictureFile({}, Path("empty")));
     EXPECT_TRUE(DecodePictureFile(Path("missing")).IsEmpty());
+}
+
+TEST_F(RealFiles, a_preview_has_the_films_shape_as_seen_and_its_time)
+{
+    const std::string film = " -f lavfi -i color=red:s=64x48:r=25:d=2 -f lavfi -i color=blue:s=64x48:r=25:d=2"
+                             " -filter_complex [0][1]concat,setsar=16/9 -c:v mpeg4 -g 1000 -sc_threshold 1000000000 ";
+    ASSERT_TRUE(Make("wide.mp4", film));
+    ASSERT_TRUE(Make("lying.mp4", " -f lavfi -i color=red:s=64x48:d=0.3 -c:v mpeg4 "));
+    ASSERT_TRUE(Make("upright.mp4", " -i lying.mp4 -c copy -metadata:s:v rotate=90 "));
+    ASSERT_TRUE(Make("sound.mp3", kSound));
+    const auto preview = [&](const std::string& name, double time, bool isExact) {
+        ToolContext tools;
+        return DecodePictureBytes(MakePreview(m_context.ffmpeg, { Path(name), time, isExact }, tools));
+    };
+    const auto key = preview("wide.mp4", 3000, false);
+    EXPECT_EQ(key.Width(), kPreviewWidth);
+    EXPECT_NEAR(key.Height(), kPreviewWidth * 27 / 64, 2);
+    EXPECT_EQ(CentreOf(key) & kColourBits, kRed) << "the key frame before it";
+    EXPECT_EQ(CentreOf(preview("wide.mp4", 3000, true)) & kColourBits, kBlue);
+    const auto upright = preview("upright.mp4", 0, false);
+    EXPECT_EQ(upright.Height(), kPreviewHeight);
+    EXPECT_EQ(upright.Width(), kPreviewHeight * 3 / 4);
+    EXPECT_TRUE(preview("sound.mp3", 0, false).IsEmpty());
+    EXPECT_TRUE(preview("not there.mp4", 0, true).IsEmpty());
+    ToolContext cancelled;
+    cancelled.CancelExecute = -1;
+    EXPECT_EQ(MakePreview(m_context.ffmpeg, { Path("wide.mp4"), 0, false }, cancelled), "");
 }

@@ -1,6 +1,7 @@
 #include "desktop/CommandLine.h"
 #include "desktop/FrameRules.h"
 #include "desktop/HandOverRules.h"
+#include "desktop/MountTable.h"
 #include "desktop/MprisRules.h"
 #include "desktop/WindowsRules.h"
 
@@ -12,6 +13,22 @@ namespace {
 
 using namespace std::chrono_literals;
 using testing::ElementsAre;
+
+TEST(MountTableRules, a_path_lies_where_the_longest_mount_says_and_that_may_be_another_machine)
+{
+    const std::string mounts = "22 1 8:1 / / rw,noatime shared:1 - ext4 /dev/sda1 rw\n"
+                               "40 22 0:35 / /mnt/my\\040films rw - nfs4 box:/films rw\n"
+                               "41 22 0:36 / /mnt/my\\040films/here rw shared:5 master:2 - fuseblk /dev/sdb1 rw\n"
+                               "42 22 0:37 / /run/user/1/gvfs rw - fuse.gvfsd-fuse gvfsd-fuse rw\n"
+                               "torn";
+    const auto isRemote = [&](const char* path) { return IsRemoteFileSystem(FileSystemOf(mounts, path)); };
+    EXPECT_EQ(FileSystemOf(mounts, "/home/a.mkv"), "ext4");
+    EXPECT_TRUE(isRemote("/mnt/my films/a.mkv"));
+    EXPECT_TRUE(isRemote("/run/user/1/gvfs/smb/a.mkv"));
+    EXPECT_FALSE(isRemote("/mnt/my films/here/a.mkv"));
+    EXPECT_FALSE(isRemote("/mnt/my films of old/a.mkv"));
+    EXPECT_EQ(FileSystemOf("", "/a"), "");
+}
 
 TEST(CommandLineRules, a_programs_own_name_is_cut_off_and_only_a_whole_file_name_made_absolute)
 {

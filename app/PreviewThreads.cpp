@@ -1,0 +1,135 @@
+#include "app/PreviewThreads.h"
+
+#include "inspect/ModPipes.h"
+#include "inspect/PreviewPicture.h"
+#include "platform/ChildProcess.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <utility>
+
+namespace zentaro {
+
+namespace {
+
+constexpr auto kLastMoment = std::chrono::milliseconds(100);
+
+PreviewBytes BytesOf(std::string picture)
+{
+    return picture.empty() ? nullptr : std::make_shared<const std::string>(std::move(picture));
+}
+
+} // namespace
+
+struct PreviewThreads::Run {
+    ToolContext tools;
+    bool isCancelled = false; // of the window's thread
+};
+
+struct PreviewThreads::Shared {
+    Needs needs;
+    Post post;
+    std::mutex tool; // held while it runs: one at a time
+    std::mutex mutex;
+    std::condition_variable changed;
+    int running = 0;
+    bool isOpen = true;
+
+    bool Begin()
+    {
+        const std::lock_guard lock(mutex);
+        running += isOpen ? 1 : 0;
+        return isOpen;
+    }
+    void End()
+    {
+        const std::lock_guard lock(mutex);
+        --running;
+        changed.notify_all();
+    }
+
+    std::string Picture(const std::string& path, const PreviewPlace& place, ToolContext& tools)
+    {
+        if (!needs.isNear(path))
+            return {};
+        const auto stamp = StampOf(path);
+        if (!stamp)
+            return {};
+        if (auto picture = needs.known->Recall(path, *stamp, place); !picture.empty())
+            return picture;
+        const std::lock_guard lock(tool);
+        if (tools.CancelExecute != 0)
+            return {};
+        auto picture = MakePreview(needs.ffmpeg(), { path, place.time, place.isExact }, tools);
+        if (!picture.empty())
+            needs.known->Remember(path, *stamp, place, picture);
+        return picture;
+    }
+};
+
+PreviewThreads::PreviewThreads(Needs needs, Post post)
+    : m_shared(std::make_shared<Shared>())
+{
+    m_shared->needs = std::move(needs);
+    m_shared->post = std::move(post);
+}
+
+PreviewThreads::~PreviewThreads()
+{
+    Close();
+}
+
+void PreviewThreads::Recall(
+    const std::string& path, const std::vector<PreviewPlace>& places, std::function<void(Made)> done)
+{
+    RunInBackground(m_shared->post, [shared = m_shared, path, places, done = std::move(done)] {
+        Made made;
+        const auto stamp = shared->needs.isNear(path) ? StampOf(path) : std::nullopt;
+        for (const auto& place : places) {
+            if (auto bytes = stamp ? BytesOf(shared->needs.known->Recall(path, *stamp, place)) : nullptr)
+                made.emplace_back(place, std::move(bytes));
+        }
+        return [shared, done, made = std::move(made)] {
+            if (shared->isOpen)
+                done(made);
+        };
+    });
+}
+
+void PreviewThreads::Make(
+    const std::string& path, const PreviewPlace& place, std::function<void(PreviewBytes picture)> done)
+{
+    m_run = std::make_shared<Run>();
+    RunInBackground(m_shared->post, [shared = m_shared, run = m_run, path, place, done = std::move(done)] {
+        platform::GiveWay();
+        PreviewBytes picture;
+        if (shared->Begin()) {
+            picture = BytesOf(shared->Picture(path, place, run->tools));
+            shared->End();
+        }
+        return [shared, run, done, picture] {
+            if (shared->isOpen && !run->isCancelled)
+                done(picture);
+        };
+    });
+}
+
+void PreviewThreads::Cancel()
+{
+    if (!m_run)
+        return;
+    m_run->isCancelled = true;
+    m_run->tools.CancelExecute = -1;
+    m_run = nullptr;
+}
+
+void PreviewThreads::Close()
+{
+    Cancel();
+    std::unique_lock lock(m_shared->mutex);
+    m_shared->isOpen = false;
+    m_shared->changed.wait_for(lock, kLastMoment, [this] { return m_shared->running == 0; });
+}
+
+} // namespace zentaro

@@ -1,0 +1,127 @@
+#include "app/Previews.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace zentaro {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kRest = 150ms; // after which the hand has stopped
+constexpr std::size_t kMostFilms = 12;
+
+} // namespace
+
+Previews::Previews(PreviewRunner& runner, std::function<bool(const std::string& path)> isSpared,
+    std::function<void(std::chrono::milliseconds, std::function<void()>)> after)
+    : m_runner(runner)
+    , m_isSpared(std::move(isSpared))
+    , m_after(std::move(after))
+{
+}
+
+void Previews::PointAt(const Film& film, double time, int among)
+{
+    if (film.path.empty() || film.length < 1)
+        return Leave();
+    if (Pointed() == nullptr || m_films.front().path != film.path)
+        GoTo(film);
+    m_films.front().plan.SetLength(film.length);
+    m_wish.time = time;
+    m_wish.among = among;
+    m_wish.rests = false;
+    m_after(kRest, [this, move = ++m_moves] {
+        if (!m_isPointing || move != m_moves)
+            return;
+        m_wish.rests = true;
+        GoOn();
+    });
+    CancelUnwanted();
+    GoOn();
+}
+
+void Previews::GoTo(const Film& film)
+{
+    m_isPointing = true;
+    m_wish.fills = !m_isSpared(film.path);
+    const auto known = std::ranges::find(m_films, film.path, &Known::path);
+    if (known != m_films.end())
+        m_films.splice(m_films.begin(), m_films, known);
+    else
+        m_films.push_front({ film.path, PreviewPlan(film.length) });
+    if (m_films.size() > kMostFilms)
+        m_films.pop_back();
+}
+
+void Previews::Leave()
+{
+    ++m_moves;
+    m_isPointing = false;
+    CancelUnwanted();
+}
+
+void Previews::CancelUnwanted()
+{
+    if (m_makingPath.empty())
+        return;
+    const auto* const film = Pointed();
+    if (film != nullptr && film->path == m_makingPath && film->plan.IsWanted(m_making, m_wish))
+        return;
+    m_runner.Cancel();
+    m_makingPath.clear();
+}
+
+void Previews::GoOn()
+{
+    auto* const film = Pointed();
+    if (film == nullptr)
+        return;
+    if (!film->isRecalled)
+        return Recall();
+    const auto next = m_makingPath.empty() ? film->plan.Next(m_wish) : std::nullopt;
+    if (!next)
+        return;
+    m_makingPath = film->path;
+    m_making = *next;
+    m_runner.Make(film->path, *next, [this](PreviewBytes picture) {
+        if (auto* const made = Find(m_makingPath))
+            made->plan.Made(m_making, std::move(picture));
+        m_makingPath.clear();
+        GoOn();
+        onNews();
+    });
+}
+
+void Previews::Recall()
+{
+    auto& film = m_films.front();
+    film.isRecalled = true;
+    m_runner.Recall(film.path, film.plan.Places(), [this, path = film.path](PreviewRunner::Made made) {
+        if (auto* const recalled = Find(path)) {
+            for (auto& [place, picture] : made)
+                recalled->plan.Made(place, std::move(picture));
+        }
+        GoOn();
+        onNews();
+    });
+}
+
+Previews::Known* Previews::Find(const std::string& path)
+{
+    const auto film = std::ranges::find(m_films, path, &Known::path);
+    return film != m_films.end() ? &*film : nullptr;
+}
+
+PreviewBytes Previews::Picture() const
+{
+    return m_isPointing ? m_films.front().plan.At(m_wish) : nullptr;
+}
+
+bool Previews::MayCome() const
+{
+    return m_isPointing && !m_films.front().plan.IsBarren();
+}
+
+} // namespace zentaro

@@ -1,0 +1,56 @@
+#include "app/TrackPreview.h"
+
+#include "app/Player.h"
+#include "playback/VideoFrame.h"
+#include "shell/PreviewBubble.h"
+#include "shell/SeekTrack.h"
+
+#include <utility>
+
+namespace zentaro {
+
+TrackPreview::TrackPreview(Player& player, Previews& previews, SeekTrack& track, QWidget* window)
+    : QObject(window)
+    , m_player(player)
+    , m_previews(previews)
+    , m_track(track)
+    , m_window(window)
+    , m_bubble(new PreviewBubble(window))
+{
+    LetCoverVideo(*m_bubble);
+    connect(&track, &SeekTrack::PointedAt, this, &TrackPreview::Point);
+    connect(&track, &SeekTrack::PointerLeft, this, &TrackPreview::Leave);
+    previews.onNews = [this] { ShowPicture(); };
+}
+
+Previews::Film TrackPreview::Film() const
+{
+    const auto& state = m_player.State();
+    const auto& item = m_player.Transporting().Item();
+    if (!state.hasVideoOutput || item.IsDisc() || !m_player.Choices().Has(Choice::Previews))
+        return {};
+    return { item.path, state.length };
+}
+
+void TrackPreview::Point(double x, double time, const QString& timeText, const QString& chapter)
+{
+    m_isPointing = true;
+    m_previews.PointAt(Film(), time);
+    ShowPicture();
+    m_bubble->Show(m_track.mapTo(m_window, QPoint(qRound(x), 0)), timeText, chapter);
+}
+
+void TrackPreview::Leave()
+{
+    m_isPointing = false;
+    m_previews.Leave();
+    m_bubble->hide();
+}
+
+void TrackPreview::ShowPicture()
+{
+    if (m_isPointing)
+        m_bubble->SetPicture(m_previews.Picture(), m_previews.MayCome());
+}
+
+} // namespace zentaro
