@@ -197,7 +197,8 @@ TEST_F(Everyone, FindsAllMenusInTheSmallestWindow)
     for (const auto* const language : { "en", "de", "fr", "es", "ja" }) {
         SpeakLanguage(*QCoreApplication::instance(), language, m_programFolder + "languages/");
         // Its captions are made with the window.
-        frmMain window(m_player, new VideoFrame(m_programFolder + "Audio.JPG", nullptr), m_programFolder);
+        frmMain window(
+            m_player, m_previews.none, new VideoFrame(m_programFolder + "Audio.JPG", nullptr), m_programFolder);
         window.resize(WindowLayout::kMinimumWidth, WindowLayout::kMinimumHeight);
         window.show();
         QApplication::processEvents();
