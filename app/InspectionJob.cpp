@@ -48,11 +48,10 @@ MediaFacts FactsOf(const clsSource& source, InspectionFiles& files)
 {
     MediaFacts facts;
     facts.duration = static_cast<double>(source.Duration());
-    for (const auto& stream : source.Streams()) {
-        if (stream.Width > 0 && stream.Height > 0) {
-            facts.width = stream.Width;
-            facts.height = stream.Height;
-            break;
+    for (std::size_t i = 0; i < source.Streams().size() && facts.width == 0; ++i) {
+        if (const auto size = source.SizeAsSeen(i); size.width > 0 && size.height > 0) {
+            facts.width = size.width;
+            facts.height = size.height;
         }
     }
     if (const auto file = files.Facts(source.fileName())) {
@@ -62,11 +61,12 @@ MediaFacts FactsOf(const clsSource& source, InspectionFiles& files)
     return facts;
 }
 
-Inspection ToInspection(const clsSource& source, InspectionFiles& files)
+/// `ok`: the file is known to be good.
+Inspection ToInspection(const clsSource& source, InspectionFiles& files, bool ok)
 {
     const auto& outcome = source.Outcome();
     Inspection inspection;
-    inspection.ok = outcome.succeeded;
+    inspection.ok = ok;
     inspection.thumbnail = outcome.lastPicture;
     inspection.pictureFile = outcome.lastPictureFile;
     inspection.mediaInfo = outcome.report;
@@ -121,16 +121,14 @@ Inspection InspectionJob::InspectAnew(
     ownContext.workingFolder = folder;
     const clsSource* inspected = nullptr;
     ownContext.reportRead = [&] {
-        auto good = ToInspection(*inspected, *shared.files);
-        good.ok = true;
-        reportRead(std::move(good));
+        reportRead(ToInspection(*inspected, *shared.files, true));
         // The film that plays now needs the machine more than its thumbnail.
         platform::GiveWay();
     };
     clsSource source(ownContext);
     inspected = &source;
     source.GetVideoInformation(path);
-    auto inspection = ToInspection(source, *shared.files);
+    auto inspection = ToInspection(source, *shared.files, source.Outcome().succeeded);
     // A stand-in for a picture that could not be made is not to be kept.
     const bool hasPicture =
         !inspection.pictureFile.empty() || (inspection.thumbnail && inspection.thumbnail == shared.defaultAudioPicture);

@@ -1,6 +1,7 @@
 #include "app/PreviewThreads.h"
 
 #include "inspect/ModPipes.h"
+#include "inspect/PictureSense.h"
 #include "inspect/PreviewPicture.h"
 #include "platform/ChildProcess.h"
 
@@ -13,6 +14,14 @@ namespace zentaro {
 
 namespace {
 
+/// Where a film is looked at, in this order, until a picture says something. A film with hardly any key frame is read
+/// up to exact places at last.
+constexpr struct {
+    double share;
+    bool isExact = false;
+} kLooks[] = { { 0.1 }, { 0.3 }, { 0.5 }, { 0.2 }, { 0.7 }, { 0.05 }, { 0.3, true }, { 0.6, true } };
+/// Stands for the picture that was chosen.
+constexpr PreviewPlace kTelling{ -1, false };
 constexpr auto kLastMoment = std::chrono::milliseconds(100);
 
 PreviewBytes BytesOf(std::string picture)
@@ -49,7 +58,7 @@ struct PreviewThreads::Shared {
         changed.notify_all();
     }
 
-    std::string Picture(const std::string& path, const PreviewPlace& place, ToolContext& tools)
+    std::string BytesAt(const std::string& path, const PreviewPlace& place, ToolContext& tools)
     {
         if (!needs.isNear(path))
             return {};
@@ -65,6 +74,35 @@ struct PreviewThreads::Shared {
         if (!picture.empty())
             needs.known->Remember(path, *stamp, place, picture);
         return picture;
+    }
+
+    Picture Telling(const std::string& path, double length, ToolContext& tools)
+    {
+        const auto stamp = StampOf(path);
+        if (!stamp || !needs.isNear(path))
+            return {};
+        if (auto known = needs.decode(needs.known->Recall(path, *stamp, kTelling)))
+            return known;
+        const auto places = PreviewPlan(length).Places();
+        std::string best;
+        Picture shown;
+        for (const auto& look : kLooks) {
+            auto place = places[static_cast<std::size_t>(look.share * static_cast<double>(places.size()))];
+            place.isExact = look.isExact;
+            auto bytes = BytesAt(path, place, tools);
+            auto picture = needs.decode(bytes);
+            if (tools.CancelExecute != 0)
+                return {};
+            if (!picture || (shown && ContrastOf(picture) <= ContrastOf(shown)))
+                continue;
+            best = std::move(bytes);
+            shown = std::move(picture);
+            if (SaysSomething(shown))
+                break;
+        }
+        if (shown)
+            needs.known->Remember(path, *stamp, kTelling, best);
+        return shown;
     }
 };
 
@@ -105,7 +143,7 @@ void PreviewThreads::Make(
         platform::GiveWay();
         PreviewBytes picture;
         if (shared->Begin()) {
-            picture = BytesOf(shared->Picture(path, place, run->tools));
+            picture = BytesOf(shared->BytesAt(path, place, run->tools));
             shared->End();
         }
         return [shared, run, done, picture] {
@@ -124,9 +162,28 @@ void PreviewThreads::Cancel()
     m_run = nullptr;
 }
 
+void PreviewThreads::FindTelling(const std::string& path, double length, std::function<void(Picture)> done)
+{
+    m_telling = std::make_shared<Run>();
+    RunInBackground(m_shared->post, [shared = m_shared, run = m_telling, path, length, done = std::move(done)] {
+        platform::GiveWay();
+        Picture picture;
+        if (shared->Begin()) {
+            picture = shared->Telling(path, length, run->tools);
+            shared->End();
+        }
+        return [shared, done, picture] {
+            if (shared->isOpen)
+                done(picture);
+        };
+    });
+}
+
 void PreviewThreads::Close()
 {
     Cancel();
+    if (m_telling)
+        m_telling->tools.CancelExecute = -1;
     std::unique_lock lock(m_shared->mutex);
     m_shared->isOpen = false;
     m_shared->changed.wait_for(lock, kLastMoment, [this] { return m_shared->running == 0; });

@@ -19,6 +19,7 @@ public:
         std::function<std::string()> ffmpeg;                 ///< the program: its path
         std::function<bool(const std::string& path)> isNear; ///< on a drive of this machine; others are left alone
         std::shared_ptr<KnownPreviews> known;
+        std::function<Picture(const std::string& bytes)> decode = [](const std::string&) { return Picture(); };
     };
     PreviewThreads(Needs needs, Post post);
     ~PreviewThreads() override;
@@ -28,6 +29,9 @@ public:
     void Make(
         const std::string& path, const PreviewPlace& place, std::function<void(PreviewBytes picture)> done) override;
     void Cancel() override;
+    /// Calls back with a picture by which a film of that length (ms) is recognised, as far as it has one; empty where
+    /// none can be made. Not ended by Cancel().
+    void FindTelling(const std::string& path, double length, std::function<void(Picture)> done);
     /// Ends everything, in a tenth of a second at most; nothing is called back afterwards.
     void Close();
 
@@ -38,6 +42,7 @@ private:
 
     std::shared_ptr<Shared> m_shared;
     std::shared_ptr<Run> m_run;
+    std::shared_ptr<Run> m_telling;
 };
 
 } // namespace zentaro

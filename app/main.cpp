@@ -217,7 +217,8 @@ int main(int argc, char** argv)
     InspectionThreads inspections(inspectionBase, workingFolder, onWindowThread, known);
     PreviewThreads previewThreads(
         { [inspectionBase] { return inspectionBase()->ffmpeg; }, std::not_fn(&platform::IsOnOtherMachine),
-            std::make_shared<KnownPreviews>([openCache] { return openCache("previews.db", kPreviewsLimit); }) },
+            std::make_shared<KnownPreviews>([openCache] { return openCache("previews.db", kPreviewsLimit); }),
+            &DecodePictureBytes },
         onWindowThread);
     Previews previews(previewThreads, &platform::IsOnRemovableDisc, after);
     DriveQueries drives(platform::Drives::Open(), onWindowThread);
@@ -267,6 +268,10 @@ int main(int argc, char** argv)
     inspections.onPicturesFound = [&](auto pictures) { player.Files().PicturesFound(std::move(pictures)); };
     inspections.onCompleted = [&](int ticket, Inspection result) {
         player.Files().InspectionCompleted(ticket, std::move(result));
+    };
+    player.Files().Better().order = [&](const BetterOrder& order) {
+        previewThreads.FindTelling(order.path, order.length,
+            [&player, id = order.id](Picture picture) { player.Files().Better().Found(id, std::move(picture)); });
     };
     frmMain window(player, previews, video, ToQString(programFolder));
     Dialogs dialogs(window, player, programFolder, language);

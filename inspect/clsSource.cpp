@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace zentaro {
@@ -252,6 +253,20 @@ void clsSource::MakeThumbnails()
                 { Words("Cannot render thumbnail for %1. The video codec may be unsupported.", { m_fileName }) });
         GivePicture(info, picture.IsEmpty() ? m_context.defaultVideoPicture : picture);
     }
+}
+
+ThumbnailSize clsSource::SizeAsSeen(std::size_t index) const
+{
+    ThumbnailSize size{ m_streams[index].Width, m_streams[index].Height };
+    if (index >= m_hints.size())
+        return size;
+    const double aspect = static_cast<double>(m_hints[index].displayAspect);
+    // What is told of square pixels is rounded, too.
+    if (aspect > 0 && std::abs(aspect * size.height - size.width) > 2)
+        size.width = RoundHalfEven(size.height * aspect);
+    if (m_hints[index].lying)
+        std::swap(size.width, size.height);
+    return size;
 }
 
 /// A file of sound alone shows its cover in the list when it has one.

@@ -5,6 +5,7 @@
 #include "inspect/Inspection.h"
 #include "inspect/MpegReport.h"
 #include "inspect/StreamInfo.h"
+#include "inspect/Thumbnail.h"
 #include "inspect/ToolDialect.h"
 
 #include <cstdint>
@@ -44,6 +45,8 @@ public:
     float Duration() const { return m_duration; }   // s
     float StartTime() const { return m_startTime; } // s
     const std::vector<zentaro::StreamInfo>& Streams() const { return m_streams; }
+    /// The size (px) in which the stream is to be seen: with square pixels, upright. Only for a stream of Streams().
+    ThumbnailSize SizeAsSeen(std::size_t index) const;
 
 private:
     bool Fail(std::string reason);

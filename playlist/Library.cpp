@@ -26,7 +26,12 @@ Library::Library(LibraryHost& host, InspectionRunner& inspections, RandomSource 
           m_playlist, [&inspections](std::vector<PictureOrder> orders) { inspections.FindPictures(std::move(orders)); })
     , m_isOpen(std::make_shared<std::atomic<bool>>(true))
 {
-    m_playlist.List().onRowsSeen = [this](int first, int last) { m_pictures.RowsInSight(first, last); };
+    m_playlist.List().onRowsSeen = [this](int first, int last) {
+        m_pictures.RowsInSight(first, last);
+        // Files that are still to come go first.
+        if (Adding().total == 0)
+            m_better.RowsInSight(first, last);
+    };
 }
 
 Library::~Library()
@@ -162,6 +167,13 @@ void Library::PicturesFound(std::vector<FoundPicture> pictures)
 {
     m_pictures.Found(std::move(pictures));
     m_host.ThumbnailChanged();
+}
+
+void Library::UpdatePictures()
+{
+    m_pictures.EntriesChanged();
+    if (Adding().total == 0)
+        m_better.GoOn();
 }
 
 void Library::InspectionCompleted(int ticket, Inspection inspection)

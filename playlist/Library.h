@@ -2,6 +2,7 @@
 
 #include "inspect/Inspection.h"
 #include "playlist/AddQueue.h"
+#include "playlist/BetterPictures.h"
 #include "playlist/FoundFiles.h"
 #include "playlist/OpenFiles.h"
 
@@ -66,9 +67,10 @@ public:
     void FilesRecalled(std::vector<RecalledFile> files) { m_adding.Recalled(std::move(files)); }
     void PicturesFound(std::vector<FoundPicture> pictures);
     /// The entries have changed, or another one plays.
-    void UpdatePictures() { m_pictures.EntriesChanged(); }
     /// Gathered, when LibraryHost::ShowFailures was called last.
     const std::vector<Notice>& Failures() const { return m_adding.Failures(); }
+    void UpdatePictures();
+    BetterPictures& Better() { return m_better; }
     void CancelAdding() { m_adding.Cancel(); }
     AddProgress Adding() const { return m_adding.Progress(); }
     /// Nothing is added any more, and nobody is asked.
@@ -97,6 +99,7 @@ private:
     InspectionState m_inspected;
     AddQueue m_adding;
     RowPictures m_pictures;
+    BetterPictures m_better{ m_playlist };
     std::list<Drop> m_drops;
     std::shared_ptr<std::atomic<bool>> m_isOpen; // what comes back from elsewhere finds it closed
 };
