@@ -35,6 +35,17 @@ std::string TidyPath(const std::string& path)
     }
 }
 
+std::string WholePath(const std::string& path)
+{
+    try {
+        // As UTF-8: what the library takes plain text for is not the same on every system.
+        const auto text = std::filesystem::absolute(std::u8string(path.begin(), path.end())).u8string();
+        return { text.begin(), text.end() };
+    } catch (const std::system_error&) {
+        return path;
+    }
+}
+
 std::string LowerExtension(std::string_view path, char separator)
 {
     auto name = FileNamePart(path, separator);

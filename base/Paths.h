@@ -23,6 +23,9 @@ std::string WithTrailingSeparator(std::string path, char separator);
 /// behind a link to a folder, and what names nothing, stays as it is.
 std::string TidyPath(const std::string& path);
 
+/// The path from the root on; itself where that cannot be told.
+std::string WholePath(const std::string& path);
+
 /// The text after the last dot of the file name, lower-cased (ASCII letters only); empty when there is none.
 std::string LowerExtension(std::string_view path, char separator);
 

@@ -1,5 +1,6 @@
 // Adds files to the playlist of the running player, or of one that it starts: zentaro-add FILE...
 #include "app/SingleInstance.h"
+#include "base/Paths.h"
 #include "platform/ChildProcess.h"
 #include "platform/FileSelections.h"
 #include "platform/Files.h"
@@ -10,7 +11,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <thread>
@@ -36,12 +36,8 @@ int Fail(const std::string& text)
 std::vector<std::string> PathsOf(int count, char** arguments)
 {
     std::vector<std::string> paths;
-    std::error_code ignored;
-    for (int i = 1; i < count; ++i) {
-        const std::string name = arguments[i];
-        const auto path = std::filesystem::absolute(std::u8string(name.begin(), name.end()), ignored).u8string();
-        paths.emplace_back(path.begin(), path.end());
-    }
+    for (int i = 1; i < count; ++i)
+        paths.push_back(WholePath(arguments[i]));
     return paths;
 }
 

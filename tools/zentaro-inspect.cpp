@@ -14,10 +14,8 @@
 
 #include <atomic>
 #include <csignal>
-#include <filesystem>
 #include <iostream>
 #include <string>
-#include <system_error>
 #include <vector>
 
 using namespace zentaro;
@@ -151,9 +149,7 @@ int Run(const Options& options)
         if (g_interrupted)
             return 1;
         // The tools are given whole paths: a name alone could be taken for an option or a protocol.
-        std::error_code problem;
-        const auto path = std::filesystem::absolute(file, problem);
-        allRead = Print(source, problem ? file : path.string(), options.json) && allRead;
+        allRead = Print(source, WholePath(file), options.json) && allRead;
     }
     return allRead ? 0 : 1;
 }

@@ -44,6 +44,7 @@ TEST(Paths, a_tidy_path_names_the_same_file_or_stays)
     const auto clip = (folder / "a" / "clip.avi").string();
     EXPECT_EQ(TidyPath((folder / "a" / "." / "b" / ".." / "clip.avi").string()), clip);
     EXPECT_EQ(TidyPath(clip), clip);
+    EXPECT_EQ(WholePath(clip + " späte 日本.avi"), clip + " späte 日本.avi");
     const auto missing = (folder / "a" / ".." / "none.avi").string();
     EXPECT_EQ(TidyPath(missing), missing);
     std::error_code error;
