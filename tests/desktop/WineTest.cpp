@@ -270,6 +270,9 @@ TEST_F(OnWine, files_with_paths_of_all_kinds_are_handed_over_and_play)
         EXPECT_TRUE(player.WaitForTitle(name)) << path;
         EXPECT_TRUE(Moves(VideoOf(player))) << path;
     }
+    auto inspection = Windows({ InHome("program/zentaro-inspect.exe"), files[1].first });
+    EXPECT_EQ(inspection.WaitForEnd(4 * kPatience), 0);
+    EXPECT_NE(inspection.Output().find("Theora"), std::string::npos) << inspection.Output();
     EXPECT_EQ(player.Close(), kUsualEnd);
 }
 
