@@ -46,9 +46,23 @@ Player::Player(PlayerWorld world)
 
 Player::~Player() = default;
 
+std::vector<std::string> Player::FurtherFiles() const
+{
+    // May be asked before the choice is applied.
+    const bool namesFiles = zentaro::Ways{ m_choices.Has(Choice::FamiliarWays) }.LineNamesFiles();
+    if (!namesFiles || m_world.files.empty())
+        return {};
+    return { m_world.files.begin() + 1, m_world.files.end() };
+}
+
+StartupRequest Player::RequestOf(const std::string& commandLine) const
+{
+    return ReadCommandLine(FurtherFiles().empty() ? commandLine : m_world.files.front(), m_world.fileExists);
+}
+
 void Player::Expect(const std::string& commandLine)
 {
-    const auto path = ReadCommandLine(commandLine, m_world.fileExists).StartupArgument;
+    const auto path = RequestOf(commandLine).StartupArgument;
     // Where a player is there already, this process is most likely its messenger.
     if (m_instance.IsPlayerThere())
         return;
@@ -69,9 +83,10 @@ bool Player::Load(const std::string& commandLine, PlayerFace face)
     m_sequencer.SetRepeatMode(Settings().RepeatMode);
     m_sequencer.DoAfter(0);
     ApplyWays();
-    if (!m_instance.BecomePlayer(
-            ReadCommandLine(commandLine, m_world.fileExists), Settings().UseNewPlayer != 0, Ways().TakesAllMedia()))
+    if (!m_instance.BecomePlayer(RequestOf(commandLine), Settings().UseNewPlayer != 0, Ways().TakesAllMedia())) {
+        m_instance.AddElsewhere(FurtherFiles());
         return false;
+    }
     const auto prepared = m_world.engines.Prepare();
     m_memory.Load();
     // The engine draws in the window before it is seen; one that gets its place later would not know of it.
@@ -124,6 +139,8 @@ void Player::OpenStartupFile()
         [this](AddOutcome outcome) {
             if (outcome != AddOutcome::Added)
                 m_world.engines.Forget();
+            if (const auto others = FurtherFiles(); !others.empty())
+                m_library.DropOnList(others);
             StartIsOver();
         });
     // The engine opens the file while it is inspected.

@@ -28,9 +28,10 @@ struct PlayerWorld {
     RandomSource random; ///< uniform in [0, 1)
     std::function<bool(const std::string& path)> fileExists;
     std::function<void()> endProcess;
-    OwnSettings& own;           ///< has been loaded
-    std::string settingsFolder; ///< with a trailing separator
-    char separator = '/';       ///< between the folders of a path
+    OwnSettings& own;               ///< has been loaded
+    std::vector<std::string> files; ///< as NamedFiles
+    std::string settingsFolder;     ///< with a trailing separator
+    char separator = '/';           ///< between the folders of a path
     DiscService discs;
     AssociationService associations = {};
     /// Calls back after that time, on this thread.
@@ -112,6 +113,9 @@ private:
     void LoadConfigurations();
     void ApplyWays();
     void OpenStartupFile();
+    /// The files behind the first one, of a line that names several.
+    std::vector<std::string> FurtherFiles() const;
+    StartupRequest RequestOf(const std::string& commandLine) const;
     void StartIsOver();
 
     void MediaControlsSet(bool enabled) override;

@@ -59,6 +59,15 @@ bool SingleInstance::BecomePlayer(StartupRequest request, bool useNewPlayer, boo
     }
 }
 
+void SingleInstance::AddElsewhere(const std::vector<std::string>& paths)
+{
+    const auto handle = paths.empty() ? std::string() : Read(kAddHandle, "");
+    for (const auto& path : paths) {
+        if (handle.empty() || m_service.send(handle, path) == platform::HandOverOutcome::Silent)
+            return m_service.tell("No player took " + path + ".");
+    }
+}
+
 void SingleInstance::Publish()
 {
     auto ends = m_service.listen();

@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace zentaro {
 
@@ -35,6 +36,8 @@ public:
     /// Decides what this process is. True when it is the player from now on: then later starts can reach it. False when
     /// it was a messenger and is to end at once.
     bool BecomePlayer(StartupRequest request, bool useNewPlayer, bool takesAllMedia = false);
+    /// Gives paths that are to be added to the player that runs.
+    void AddElsewhere(const std::vector<std::string>& paths);
     /// What this process was asked to open.
     const StartupRequest& Request() const { return m_request; }
     /// From now on texts of later starts arrive, those of before first. Each is answered through its `done`.

@@ -5,6 +5,8 @@
 #include "playlist/MediaTypes.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <system_error>
 
 namespace zentaro {
 
@@ -31,6 +33,20 @@ StartupRequest ReadCommandLine(
     const auto path = WithoutAdd(text);
     const auto tidy = TidyPath(path);
     return { tidy, tidy + text.substr(path.size()), !text.ends_with(kAddSuffix) };
+}
+
+std::vector<std::string> NamedFiles(const std::vector<std::string>& arguments)
+{
+    std::vector<std::string> files;
+    for (const auto& argument : arguments) {
+        std::error_code error;
+        const std::filesystem::path path(std::u8string(argument.begin(), argument.end()));
+        if (!std::filesystem::is_regular_file(path, error))
+            return {};
+        const auto whole = std::filesystem::absolute(path, error).u8string();
+        files.push_back(TidyPath({ whole.begin(), whole.end() }));
+    }
+    return files.size() > 1 ? files : std::vector<std::string>();
 }
 
 StartRole DecideRole(const StartupRequest& request, const PublishedHandles& handles, bool useNewPlayer,

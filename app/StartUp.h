@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace zentaro {
 
@@ -16,6 +17,9 @@ struct StartupRequest {
 /// to its name. The path of a file that is there is written the shortest way, so that it counts once.
 StartupRequest ReadCommandLine(
     const std::string& commandLine, const std::function<bool(const std::string&)>& fileExists);
+
+/// The files that the arguments of a start name, in full; none unless there are several, and all of them are files.
+std::vector<std::string> NamedFiles(const std::vector<std::string>& arguments);
 
 /// What the store says about a player that was started before.
 struct PublishedHandles {

@@ -245,6 +245,7 @@ int main(int argc, char** argv)
         .fileExists = &platform::PathExists,
         .endProcess = endProcess,
         .own = own,
+        .files = NamedFiles({ argv + 1, argv + argc }),
         .settingsFolder = WithTrailingSeparator(platform::SettingsFolder(), separator),
         .separator = separator,
         .discs = {

@@ -28,6 +28,8 @@ struct Ways {
     bool SpeedStays() const { return isFamiliar; }
     /// All files that the tools can read are taken; ours takes the 24 types.
     bool TakesAllMedia() const { return isFamiliar; }
+    /// Several files on the command line are several files, and the first one plays; ours takes the line for one name.
+    bool LineNamesFiles() const { return isFamiliar; }
     /// "*Add" behind a path that is handed over adds it; ours opens the text as it stands.
     bool AddIsObeyed() const { return isFamiliar; }
     /// A file that is listed already plays where it stands, and no box comes; ours says so and plays the last one.

@@ -97,6 +97,28 @@ TEST_F(WaysTest, files_of_all_types_and_listed_ones_are_taken_without_a_word)
     EXPECT_EQ(LastPlayed(), "/a.avi");
 }
 
+TEST_F(WaysTest, a_line_that_names_files_brings_them_all)
+{
+    std::vector<std::string> names;
+    for (const auto* name : { "b.avi", "a.avi" }) {
+        std::ofstream(folder / name) << "x";
+        names.push_back((folder / name).string());
+    }
+    EXPECT_EQ(NamedFiles({ names[0], (folder / "missing.avi").string() }), std::vector<std::string>());
+    EXPECT_EQ(NamedFiles({ names[0] }), std::vector<std::string>());
+    world.files = NamedFiles(names);
+    world.own.Set("choice.familiarWays", "1");
+    auto& player = Start(names[0] + " " + names[1]);
+    EXPECT_EQ(LastPlayed(), names[0]);
+    EXPECT_EQ(player.Entries().PathAt(1), names[1]);
+    // Beside a player that runs they go there.
+    world.alive = "probe";
+    world.store.values = { { HandOverKey() + ":txtHwnd", "command" }, { HandOverKey() + ":txtHwnd1", "probe" },
+        { HandOverKey() + ":AddHandle", "add" } };
+    EXPECT_FALSE(world.Load(names[0] + " " + names[1]));
+    EXPECT_EQ(world.sent, (std::vector<std::string>{ "command:" + names[0], "add:" + names[1] }));
+}
+
 TEST_F(WaysTest, only_the_engine_ends_an_item)
 {
     StartFamiliar(2, kPlayContinuous, kNoRepeat);

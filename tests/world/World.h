@@ -241,7 +241,8 @@ public:
     MemoryStore store;
     CountingPower power;
     FakeAssociations associations;
-    FakeEnds::Handler receive; ///< what a later start's text meets; null while no player listens
+    FakeEnds::Handler receive;      ///< what a later start's text meets; null while no player listens
+    std::vector<std::string> files; ///< of the command line
     std::vector<std::string> sent;
     std::deque<platform::HandOverOutcome> outcomes; ///< of the next texts that are sent; then Opened
     std::string alive;                              ///< the probe handle of another player
@@ -281,8 +282,8 @@ private:
             timers.push_back({ time, std::move(work) });
         };
         return { m_engines, inspections, store, store, store, power, HandOver(), [this] { return random(); },
-            [](const std::string& path) { return path != "/clips/missing.avi"; }, [this] { ended = true; }, own, folder,
-            '/', { [this] { ++driveQuestions, askForDrives(); }, [] { return Picture(); }, false, after },
+            [](const std::string& path) { return path != "/clips/missing.avi"; }, [this] { ended = true; }, own, files,
+            folder, '/', { [this] { ++driveQuestions, askForDrives(); }, [] { return Picture(); }, false, after },
             { &associations, "zentaro", "/program/", {} }, after,
             [this](auto work) { background.push_back(std::move(work)); }, [](auto work) { work()(); },
             [this](bool held) { isSleepHeldOff = held; },
