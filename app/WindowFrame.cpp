@@ -99,14 +99,14 @@ void WindowFrame::TakeSize(int width, int height)
     resize((isVisible() ? wanted.boundedTo(screen()->availableSize()) : wanted).expandedTo(minimumSize()));
 }
 
-void WindowFrame::FitTo(const QSize& shown, int width, int height)
+void WindowFrame::FitTo(const QWidget& part, int width, int height)
 {
-    if (isMaximized() || m_fullScreen || shown.isEmpty())
-        return;
     const auto scale = devicePixelRatio();
-    const Extent film{ qRound(width / scale), qRound(height / scale) };
-    setGeometry(zentaro::ToQt(
-        FitFilm(FromQt(geometry()), { shown.width(), shown.height() }, film, FromQt(screen()->availableGeometry()))));
+    const Extent wanted{ qRound(width / scale), qRound(height / scale) };
+    // Its neighbours take a share of whatever the window gains.
+    for (int pass = 0; pass < 3 && part.isVisible() && !isMaximized() && !m_fullScreen; ++pass)
+        setGeometry(zentaro::ToQt(FitFilm(
+            FromQt(geometry()), { part.width(), part.height() }, wanted, FromQt(screen()->availableGeometry()))));
 }
 
 void WindowFrame::TakePlace(int left, int top)

@@ -28,9 +28,8 @@ public:
     /// Logical pixels; nothing while it is maximised or fills the screen. The screen limits a shown window; before that
     /// PlaceFirst() does, which knows the screen of the place.
     void TakeSize(int width, int height);
-    /// Takes the size in which a film of that many pixels of the screen is shown as it is, where it is `shown` so large
-    /// now.
-    void FitTo(const QSize& shown, int width, int height);
+    /// Takes the size in which that part of the window has so many pixels of the screen.
+    void FitTo(const QWidget& part, int width, int height);
     void TakePlace(int left, int top);
     /// Before it is first shown: where it was put, else in the middle of the screen, and all of it on one screen.
     void PlaceFirst();

@@ -115,8 +115,7 @@ double frmMain::WindowTop() const
 
 void frmMain::FitFilm(int width, int height)
 {
-    if (m_video->isVisible())
-        FitTo(m_video->size(), width, height);
+    FitTo(*m_video, width, height);
 }
 
 void frmMain::SetWindowPosition(int left, int top)
