@@ -1,6 +1,7 @@
 #include "app/ControlPanel.h"
 
 #include "app/Commands.h"
+#include "app/PauseMark.h"
 #include "app/Player.h"
 #include "base/Words.h"
 #include "shell/DigitLabel.h"
@@ -41,6 +42,7 @@ ControlPanel::ControlPanel(Player& player, QWidget* window)
     , m_volumeNumber(new DigitLabel(window))
     , m_seek(new SeekTrack(window))
     , m_volume(new VolumeKnob(window))
+    , m_pauseMark(new PauseMark(window))
 {
     m_time->setObjectName("lblTime");
     m_rate->setObjectName("lblRate");
@@ -141,6 +143,8 @@ void ControlPanel::Show()
     m_seek->Show({ state.mediaControlsEnabled, state.progress, state.length, state.chapters, state.seeks,
         state.mediaControlsEnabled ? ToQString(PlaceText(state)) : QString() });
     m_volume->Show(state.volume);
+    m_pauseMark->Show(state.isPaused && state.mediaControlsEnabled);
+    PlaceClose();
 }
 
 void ControlPanel::Place(QWidget* control, QWidget* home, const Rect& rect)
@@ -165,6 +169,16 @@ void ControlPanel::PlaceOnWindow(const WindowLayout& layout)
     m_rate->setGeometry(ToQt(layout.RateLabel()));
     for (const auto& [button, widget] : m_buttons)
         Place(widget, m_window, layout.PressRect(button));
+    m_closePlace = At(Button::Close).geometry();
+    PlaceClose();
+    Place(m_pauseMark, m_window, layout.Icon());
+}
+
+void ControlPanel::PlaceClose()
+{
+    // The corner of a maximised window is met without aiming.
+    const QRect corner(m_window->width() - 1, 0, 1, 1);
+    At(Button::Close).setGeometry(m_window->isMaximized() ? m_closePlace.united(corner) : m_closePlace);
 }
 
 void ControlPanel::PlaceOnBar(FullScreenBar& bar, int width)

@@ -4,6 +4,7 @@
 #include "shell/WindowLayout.h"
 
 #include <QObject>
+#include <QRect>
 #include <QString>
 
 #include <map>
@@ -15,6 +16,7 @@ class QWidget;
 namespace zentaro {
 
 class FullScreenBar;
+class PauseMark;
 class Player;
 struct Command;
 class SeekTrack;
@@ -56,6 +58,7 @@ private:
     void MakeTitleButtons();
     void MakeSliders();
     void Place(QWidget* control, QWidget* home, const Rect& rect);
+    void PlaceClose();
     template <typename Layout> void PlaceSliders(QWidget* home, const Layout& layout);
 
     Player& m_player;
@@ -67,6 +70,8 @@ private:
     QLabel* m_volumeNumber;
     SeekTrack* m_seek;
     VolumeKnob* m_volume;
+    PauseMark* m_pauseMark;
+    QRect m_closePlace; // while the window is not maximised
 };
 
 } // namespace zentaro

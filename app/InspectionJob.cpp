@@ -48,6 +48,8 @@ MediaFacts FactsOf(const clsSource& source, InspectionFiles& files)
 {
     MediaFacts facts;
     facts.duration = static_cast<double>(source.Duration());
+    facts.artist = source.Tags().artist;
+    facts.album = source.Tags().album;
     for (std::size_t i = 0; i < source.Streams().size() && facts.width == 0; ++i) {
         if (const auto size = source.SizeAsSeen(i); size.width > 0 && size.height > 0) {
             facts.width = size.width;

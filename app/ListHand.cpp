@@ -38,6 +38,10 @@ ListHand::ListHand(Player& player, FancyList& list, WindowMenus& menus)
     m_progressDelay.setSingleShot(true);
     m_progressDelay.setInterval(kProgressDelay);
     QObject::connect(&m_progressDelay, &QTimer::timeout, &m_list, [this] { m_list.ShowAddProgress(m_progress); });
+    m_list.describe = [this](int row) {
+        const auto entry = std::as_const(m_player).Entries().EntryAt(row);
+        return entry ? ToQString(DetailText(entry->Facts) + "\n" + entry->MediaInfo).remove('\r').trimmed() : QString();
+    };
     PassOn();
 }
 
@@ -63,6 +67,7 @@ void ListHand::PassOn()
 void ListHand::Show()
 {
     ShowAddProgress();
+    m_list.SetPaused(m_player.State().isPaused);
     const auto& entries = std::as_const(m_player).Entries();
     m_list.SetCard(Card());
     // It is offered once; whoever has found the way without it needs it no more.

@@ -26,12 +26,14 @@ void Previews::PointAt(const Film& film, double time, int among)
 {
     if (film.path.empty() || film.length < 1)
         return Leave();
-    if (Pointed() == nullptr || m_films.front().path != film.path)
+    const bool isOther = Pointed() == nullptr || m_films.front().path != film.path || m_wish.among != among;
+    if (isOther)
         GoTo(film);
     m_films.front().plan.SetLength(film.length);
     m_wish.time = time;
     m_wish.among = among;
-    m_wish.rests = false;
+    // On a thumbnail it is enough that the hand has come to stay.
+    m_wish.rests = m_wish.rests && among > 0 && !isOther;
     m_after(kRest, [this, move = ++m_moves] {
         if (!m_isPointing || move != m_moves)
             return;

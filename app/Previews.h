@@ -50,7 +50,7 @@ public:
     PreviewBytes Picture() const;
     /// A picture is there or can come.
     bool MayCome() const;
-    /// Called when Picture() may be another.
+    /// Called when Picture() may be another; whoever points sets it.
     std::function<void()> onNews = [] {};
 
 private:

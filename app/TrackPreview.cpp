@@ -1,7 +1,9 @@
 #include "app/TrackPreview.h"
 
 #include "app/Player.h"
+#include "app/ThumbScrub.h"
 #include "playback/VideoFrame.h"
+#include "playlist/FancyList.h"
 #include "shell/PreviewBubble.h"
 #include "shell/SeekTrack.h"
 
@@ -20,7 +22,6 @@ TrackPreview::TrackPreview(Player& player, Previews& previews, SeekTrack& track,
     LetCoverVideo(*m_bubble);
     connect(&track, &SeekTrack::PointedAt, this, &TrackPreview::Point);
     connect(&track, &SeekTrack::PointerLeft, this, &TrackPreview::Leave);
-    previews.onNews = [this] { ShowPicture(); };
 }
 
 Previews::Film TrackPreview::Film() const
@@ -35,9 +36,16 @@ Previews::Film TrackPreview::Film() const
 void TrackPreview::Point(double x, double time, const QString& timeText, const QString& chapter)
 {
     m_isPointing = true;
+    m_previews.onNews = [this] { ShowPicture(); };
     m_previews.PointAt(Film(), time);
     ShowPicture();
     m_bubble->Show(m_track.mapTo(m_window, QPoint(qRound(x), 0)), timeText, chapter);
+}
+
+void LetPointerLook(Player& player, Previews& previews, SeekTrack& track, FancyList& list)
+{
+    new TrackPreview(player, previews, track, list.window());
+    new ThumbScrub(player, previews, list);
 }
 
 void TrackPreview::Leave()

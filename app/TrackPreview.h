@@ -8,6 +8,7 @@ class QWidget;
 
 namespace zentaro {
 
+class FancyList;
 class Player;
 class PreviewBubble;
 class SeekTrack;
@@ -33,5 +34,8 @@ private:
     PreviewBubble* m_bubble;
     bool m_isPointing = false;
 };
+
+/// The pointer looks into films, on the track and on the thumbnails of the list. All live as long as their window.
+void LetPointerLook(Player& player, Previews& previews, SeekTrack& track, FancyList& list);
 
 } // namespace zentaro

@@ -64,7 +64,7 @@ frmMain::frmMain(Player& player, Previews& previews, VideoFrame* video, const QS
     setObjectName("frmMain");
     setWindowTitle(kProgramName);
     setWindowIcon(QIcon(programFolder + "icons/zentaro.png"));
-    new TrackPreview(player, previews, m_controls->Seek(), this);
+    LetPointerLook(player, previews, m_controls->Seek(), *m_list);
     new VideoHand(player, *m_video, *m_bar, *m_notes, *this);
     m_video->setFocusPolicy(Qt::StrongFocus);
     LetCoverVideo(*m_bar);

@@ -146,15 +146,17 @@ ClassicReport ToClassicReport(std::string_view log, std::string_view commandText
         return report;
     AppendLine(report.text, InputLine(*line, rest, inputName));
 
-    for (line = NextLine(rest); line && !line->starts_with(kDurationMark);)
-        line = NextLine(rest);
+    for (line = NextLine(rest); line && !line->starts_with(kDurationMark); line = NextLine(rest))
+        ReadTagLine(*line, report.tags);
     if (!line)
         return report;
     AppendLine(report.text, DurationLine(*line));
 
     StreamLineReader streams(report);
-    while ((line = NextLine(rest)))
+    while ((line = NextLine(rest))) {
         streams.Read(*line);
+        ReadTagLine(*line, report.tags);
+    }
     return report;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "inspect/MediaTags.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -28,6 +30,7 @@ struct ClassicReport {
     bool classicTool = false;        // the tool itself is of that time
     std::vector<StreamHint> streams; // one for each audio and video line of the text
     std::optional<CoverHint> cover;  // the first one
+    MediaTags tags;
 };
 
 /// Turns the captured output of any ffmpeg since 2007 into the classic form. Goes by the structure of the report, so

@@ -141,6 +141,7 @@ bool clsSource::ReadStreams(const std::string& log, const ToolCommand& command)
     m_startTime = parsed.startTime;
     m_classicTool = classic.classicTool;
     m_cover = classic.cover;
+    m_tags = classic.tags;
     if (parsed.error.empty())
         PruneVideoStreams(parsed.streams);
     for (auto& stream : parsed.streams) {

@@ -41,6 +41,7 @@ public:
     const std::string& fileName() const { return m_fileName; }
     std::int32_t StreamCount() const { return static_cast<std::int32_t>(m_streams.size()); }
     const std::string& TimeStamp() const { return m_timeStamp; }
+    const MediaTags& Tags() const { return m_tags; }
     bool IsAVI() const { return m_isAvi; }
     float Duration() const { return m_duration; }   // s
     float StartTime() const { return m_startTime; } // s
@@ -70,6 +71,7 @@ private:
     InspectionOutcome m_outcome;
     std::string m_fileName;
     std::string m_timeStamp;
+    MediaTags m_tags;
     float m_duration = 0;
     float m_startTime = 0;
     bool m_isAvi = false;

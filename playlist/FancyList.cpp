@@ -156,7 +156,7 @@ bool FancyList::event(QEvent* event)
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
-    QToolTip::showText(help->globalPos(), CutTitleAt(help->pos()), this);
+    QToolTip::showText(help->globalPos(), TipAt(help->pos()), this);
     return true;
 }
 
@@ -233,7 +233,34 @@ void FancyList::mouseMoveEvent(QMouseEvent* event)
     }
     SetScrollBarLook(IsOnScrollBar(event->pos()) ? ScrollBarLook::Over : ScrollBarLook::Normal);
     SetHover(m_layout.RowAt(event->pos().y()));
+    PointAtThumb(event->buttons() == Qt::NoButton ? event->pos() : QPoint(-1, -1));
     emit MouseMove(event->buttons(), event->modifiers(), event->pos().x(), event->pos().y());
+}
+
+void FancyList::PointAtThumb(const QPoint& at)
+{
+    const int row = m_layout.RowAt(at.y());
+    const auto box = row != FancyListItems::kNone ? m_layout.ImageRect(row) : ListRect();
+    const bool isOn =
+        m_layout.Thumbnails() && at.x() >= box.left && at.x() < box.right && at.y() >= box.top && at.y() < box.bottom;
+    if (isOn)
+        emit ThumbPointed(row, static_cast<double>(at.x() - box.left) / box.Width());
+    else
+        emit ThumbLeft();
+}
+
+void FancyList::SetScrub(int row, const Picture& picture, double share)
+{
+    m_look.scrubRow = row;
+    m_look.scrubPicture = picture;
+    m_look.scrubShare = share;
+    update();
+}
+
+void FancyList::SetPaused(bool isPaused)
+{
+    if (std::exchange(m_look.isPaused, isPaused) != isPaused)
+        update();
 }
 
 void FancyList::SetHover(int row)
@@ -253,6 +280,7 @@ void FancyList::contextMenuEvent(QContextMenuEvent* event)
 void FancyList::leaveEvent(QEvent*)
 {
     SetHover(FancyListItems::kNone);
+    emit ThumbLeft();
     if (m_thumbGrip < 0)
         SetScrollBarLook(ScrollBarLook::Normal);
 }
@@ -307,6 +335,8 @@ void FancyList::ListChanged()
         emit FindOutdated();
     const int before = std::exchange(m_toldCount, Count());
     if (before != Count())
+        emit ThumbLeft();
+    if (before != Count())
         FancyListAccessible::TellRowsChanged(*this);
     if ((before == 0) != (Count() == 0))
         PlaceSurface();
@@ -324,13 +354,18 @@ void FancyList::PlaceSurface()
     m_card->Show(Count() == 0 ? m_cardText : QString(), { 0, 0, width(), height() - line });
 }
 
-// The title in full, as plain text, when its row is too narrow for it.
-QString FancyList::CutTitleAt(const QPoint& at) const
+// The title in full when its row is too narrow for it, and what is told of the row; as plain text.
+QString FancyList::TipAt(const QPoint& at) const
 {
     const int row = m_layout.RowAt(at.y());
-    if (row == FancyListItems::kNone)
+    // Whoever looks into a film wants to see its picture.
+    if (row == FancyListItems::kNone || (row == m_look.scrubRow && at.x() < m_layout.TextRect(row).left))
         return {};
     const auto title = QString::fromStdString(m_items.Item(row).Text).left(kLongestTip);
+    const auto more = describe && at.x() >= m_layout.TextRect(row).left ? describe(row) : QString();
+    if (!more.isEmpty())
+        return "<p><b>" + title.toHtmlEscaped() + "</b></p><p style='white-space:pre'>"
+            + more.left(kLongestTip).toHtmlEscaped() + "</p>";
     if (QFontMetrics(m_look.font).horizontalAdvance(title) <= m_layout.TextRect(row).Width())
         return {};
     return "<p>" + title.toHtmlEscaped() + "</p>";

@@ -13,6 +13,7 @@
 #include <QMimeData>
 #include <QWidget>
 
+#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -83,6 +84,14 @@ public:
     /// A key has moved the selection; with Shift the rows on its way are marked.
     void SelectionMovedByKey(bool shift) { m_marks.SelectionMoved(shift); }
 
+    /// Whether the row being played waits.
+    void SetPaused(bool isPaused);
+    /// What is told of a row where the pointer rests, below its title; lines.
+    std::function<QString(int row)> describe;
+    /// A picture from the film of a row stands in the place of its thumbnail; a row that is none ends it. `share`:
+    /// where in the film, 0 to 1.
+    void SetScrub(int row, const Picture& picture, double share);
+
     /// What the list offers in place of its entries while it has none; empty for nothing.
     void SetCard(const QString& text);
     /// Enter takes the offer.
@@ -97,6 +106,10 @@ signals:
     /// The chosen rows were dragged to stand before the row `to`.
     void RowsDragged(int to);
     void CardTaken();
+    /// The pointer is on a row's thumbnail, this share of it from its left edge.
+    void ThumbPointed(int row, double share);
+    /// It is on none any more, or rows have moved.
+    void ThumbLeft();
     /// The menu key was pressed; `at` is a place on the screen.
     void MenuAsked(const QPoint& at);
     /// Rows were added, taken out or arranged anew while only some are shown.
@@ -132,7 +145,8 @@ private:
     void RepaintRequested() override { update(); }
     void ListChanged() override;
     void PlaceSurface();
-    QString CutTitleAt(const QPoint& at) const;
+    QString TipAt(const QPoint& at) const;
+    void PointAtThumb(const QPoint& at);
     bool IsOnScrollBar(const QPoint& at) const;
     bool GrabScrollBar(const QPoint& at);
     void Press(const QMouseEvent& event);

@@ -2,6 +2,7 @@
 
 #include "base/Numbers.h"
 #include "playlist/ListFind.h"
+#include "playlist/PauseSign.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -148,7 +149,10 @@ void FancyListPainter::PaintRow(int row)
     if (!selected)
         m_painter.fillRect(0, area.bottom() + 1, area.width(), 1, m_look.palette.color(QPalette::Button));
     m_painter.fillRect(area, background);
-    if (!item.Pic.IsEmpty() && m_layout.Thumbnails())
+    const bool isScrubbed = row == m_look.scrubRow && m_look.scrubPicture && m_layout.Thumbnails();
+    if (isScrubbed)
+        PaintScrub(m_layout.ImageRect(row));
+    else if (!item.Pic.IsEmpty() && m_layout.Thumbnails())
         RenderThumb(item.Pic, m_layout.ImageRect(row));
     if (item.Seen > 0 && m_layout.Thumbnails())
         PaintSeen(item.Seen, m_layout.ImageRect(row));
@@ -203,6 +207,14 @@ void FancyListPainter::PaintText(
     m_painter.restore();
 }
 
+void FancyListPainter::PaintScrub(const ListRect& box)
+{
+    RenderThumb(m_look.scrubPicture, box);
+    m_painter.fillRect(box.left, box.bottom - kSeenLine, box.Width(), kSeenLine, Faded(Qt::white, 0.3));
+    m_painter.fillRect(box.left, box.bottom - kSeenLine, RoundHalfEven(box.Width() * m_look.scrubShare), kSeenLine,
+        QColor(kWarmLight));
+}
+
 // Started ones have a line under the thumbnail, watched ones a tick in its corner.
 void FancyListPainter::PaintSeen(double share, const ListRect& box)
 {
@@ -251,6 +263,11 @@ void FancyListPainter::PaintPlayingMark(int row)
     m_painter.setBrush(QColor(kWarmLight));
     m_painter.drawRoundedRect(QRectF(-3, area.top + inset, 6, area.Height() - 2 * inset), 3, 3);
     m_painter.restore();
+    if (!m_look.isPaused || !m_layout.Thumbnails())
+        return;
+    const auto box = m_layout.ImageRect(row);
+    PaintPauseSign(
+        m_painter, QRectF(box.left + 2, box.bottom - kBadge - 6, kBadge + 4, kBadge + 4), QColor(kWarmLight));
 }
 
 void FancyListPainter::PaintScrollBar()

@@ -26,9 +26,13 @@ struct FancyListLook {
     ScrollBarLook scrollBar = ScrollBarLook::Normal;
     bool focusFrame = false;
     int hoverRow = FancyListItems::kNone;
-    int dropLine = -1; ///< where dragged rows would go, in pixels; below 0 for nowhere
-    std::string find;  ///< the words whose parts of a title are marked
-    QString hint;      ///< stands in a list without entries
+    int dropLine = -1;                    ///< where dragged rows would go, in pixels; below 0 for nowhere
+    std::string find;                     ///< the words whose parts of a title are marked
+    QString hint;                         ///< stands in a list without entries
+    bool isPaused = false;                ///< the row being played waits
+    int scrubRow = FancyListItems::kNone; ///< the pointer goes through its film...
+    Picture scrubPicture;                 ///< ... of which this is seen now; empty while nothing is known
+    double scrubShare = 0;                ///< ... at this place, 0 to 1
 };
 
 /// Width of the scroll bar in pixels.
@@ -52,6 +56,7 @@ private:
     void PaintRow(int row);
     void PaintText(const FancyListItem& item, const ListRect& rect, const QColor& color, const QColor& dimmed);
     void PaintFound(const QString& line, const ListRect& rect, int top);
+    void PaintScrub(const ListRect& box);
     void PaintSeen(double share, const ListRect& box);
     void PaintPlayingMark(int row);
     void PaintScrollBar();

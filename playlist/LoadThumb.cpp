@@ -56,6 +56,12 @@ std::string DetailText(const MediaFacts& facts)
 {
     std::string text;
     const auto add = [&](const std::string& part) { text += (text.empty() ? "" : " \u00B7 ") + part; };
+    if (facts.width <= 0) {
+        for (const auto& part : { facts.artist, facts.album }) {
+            if (!part.empty())
+                add(part);
+        }
+    }
     if (facts.duration > 0)
         add(DurationText(facts.duration));
     if (facts.width > 0 && facts.height > 0)

@@ -16,7 +16,8 @@ namespace zentaro {
 /// "1:02:05" or "2:05"; `length` in seconds.
 std::string DurationText(double length);
 
-/// The second line of a row: "1:02:05 · 1280 × 720 · 12.3 MB", without the parts that are unknown.
+/// The second line of a row: "1:02:05 · 1280 × 720 · 12.3 MB", for music "Artist · Album · 2:05 · 3.1 MB", without the
+/// parts that are unknown.
 std::string DetailText(const MediaFacts& facts);
 
 /// What an inspection leaves behind, as far as the playlist needs it.

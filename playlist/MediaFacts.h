@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace zentaro {
 
@@ -11,6 +12,8 @@ struct MediaFacts {
     int height = 0;            // pixels
     std::int64_t fileSize = 0; // bytes
     std::int64_t modified = 0; // seconds since 1970
+    std::string artist = {};
+    std::string album = {};
     bool operator==(const MediaFacts&) const = default;
 };
 

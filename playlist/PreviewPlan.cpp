@@ -70,7 +70,7 @@ PreviewPlace PreviewPlan::ExactPlace(double time) const
 
 std::optional<PreviewPlace> PreviewPlan::Next(const PreviewWish& wish) const
 {
-    if (IsBarren())
+    if (IsBarren() || (wish.among > 0 && !wish.rests))
         return std::nullopt;
     const auto least = Stride(wish);
     const auto here = IndexOf(wish.time, least);

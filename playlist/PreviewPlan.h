@@ -24,7 +24,7 @@ struct PreviewWish {
     double time = 0;    ///< ms
     bool rests = false; ///< the hand has come to rest there: now the exact picture counts
     bool fills = false; ///< pictures of the rest of the film are made ahead
-    int among = 0;      ///< only so many places count, evenly spread over the film; 0: all
+    int among = 0;      ///< only so many places count, evenly spread over the film, once it rests; 0: all
 };
 
 /// Of which places of one film there are pictures, and which is to be made next. Coarse places lie evenly in the film

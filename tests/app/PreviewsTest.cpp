@@ -73,6 +73,25 @@ TEST_F(PreviewsTest, APassingPointerLetsAKeyFrameComeAndARestingOneGetsTheExactP
     EXPECT_TRUE(runner.answer && !runner.at.isExact);
 }
 
+TEST_F(PreviewsTest, OnAThumbnailNothingIsMadeUntilThePointerRestsAndThenItsPlacesAlone)
+{
+    isSpared = false;
+    previews.PointAt(film, 100'000, 16);
+    EXPECT_FALSE(runner.answer) << "the pointer may be on its way over many rows";
+    Rest();
+    runner.Answer("first");
+    previews.PointAt(film, 110'000, 16);
+    int made = 1;
+    for (; runner.answer; ++made)
+        runner.Answer("next");
+    EXPECT_GE(made, 16);
+    EXPECT_LE(made, 20);
+    previews.PointAt(film, 3'000'000, 16);
+    EXPECT_NE(previews.Picture(), nullptr);
+    previews.PointAt(other, 0, 16);
+    EXPECT_FALSE(runner.answer) << "the next row";
+}
+
 TEST_F(PreviewsTest, WhatNobodyPointsAtIsEndedAtOnceAndNothingFollows)
 {
     isSpared = false;

@@ -107,3 +107,22 @@ TEST(ToolDialect, covers_turns_and_endless_times_are_remembered_beside_the_text)
     EXPECT_EQ(ToClassicMpegReport(log + "  Interlaced, chroma\r\n  Size [8 x 8]\n", "", ""),
         "  interlaced, chroma\n  Size [8 x 8]\n");
 }
+
+TEST(ToolDialectTags, artist_and_album_come_from_the_file_or_its_sound_and_from_nowhere_else)
+{
+    const auto tagsOf = [](const std::string& head, const std::string& tail) {
+        return ToClassicReport("call\nInput #0, mp3, from 'artist : no.mp3':\n" + head
+                + "  Duration: 00:00:01.00, start: 0.0, bitrate: 1 kb/s\n" + tail,
+            "call", "artist : no.mp3")
+            .tags;
+    };
+    EXPECT_EQ(tagsOf("  Metadata:\n    title           : T\n    artist          : The Artist: one\n"
+                     "                    : artist : continued\n    ALBUM           : Of all\n",
+                  "    Metadata:\n      artist          : Another\n"),
+        (MediaTags{ "The Artist: one", "Of all" }));
+    EXPECT_EQ(tagsOf("",
+                  "  Stream #0:0: Audio: vorbis, 44100 Hz, mono, fltp, 80 kb/s\n    Metadata:\n"
+                  "      ARTIST          : A\n      album           : \n"),
+        (MediaTags{ "A", "" }));
+    EXPECT_EQ(tagsOf("  Metadata:\n    artist\n    album_artist    : B\n", ""), MediaTags());
+}

@@ -30,7 +30,7 @@ Inspection Film()
     film.mediaInfo = "Stream information of a film";
     film.pictureFile = std::string("\xFF\xD8\0jpg", 6);
     film.notices = { { "odd", NoticeIcon::Information, "title" }, { "also odd" } };
-    film.facts = { 61.5, 1280, 720, 5'000'000'000 };
+    film.facts = { 61.5, 1280, 720, 5'000'000'000, 0, "Artist", "Album" };
     return film;
 }
 
@@ -45,7 +45,7 @@ TEST(KnownFiles, a_packed_inspection_comes_back_whole_or_not_at_all)
     EXPECT_EQ(back->mediaInfo, film.mediaInfo);
     EXPECT_EQ(back->pictureFile, film.pictureFile);
     EXPECT_EQ(back->notices, film.notices);
-    EXPECT_EQ(DetailText(back->facts), DetailText(film.facts));
+    EXPECT_EQ(back->facts, film.facts);
 
     EXPECT_FALSE(UnpackInspection(packed, { stamp.size, stamp.changed + 1 }));
     EXPECT_FALSE(UnpackInspection(packed, { stamp.size + 1, stamp.changed }));
