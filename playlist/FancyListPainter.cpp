@@ -19,6 +19,7 @@ constexpr double kMarkedShare = 0.7;  // of the selection's colour
 constexpr double kMarkedLight = 0.12; // of the warm light
 constexpr int kSeenLine = 2;          // px
 constexpr int kBadge = 16;            // px
+constexpr double kDetailShare = 0.28; // of the background: below the title, and readable on a selection
 constexpr double kFoundShare = 0.4;
 constexpr double kHoverShare = 0.35;
 constexpr int kFade = 20; // px, at the end of a line that goes on
@@ -156,7 +157,7 @@ void FancyListPainter::PaintRow(int row)
         RenderThumb(item.Pic, m_layout.ImageRect(row));
     if (item.Seen > 0 && m_layout.Thumbnails())
         PaintSeen(item.Seen, m_layout.ImageRect(row));
-    PaintText(item, m_layout.TextRect(row), text, Mixed(text, background, 0.38));
+    PaintText(item, m_layout.TextRect(row), text, Mixed(text, background, kDetailShare));
     if (row == m_layout.Items().PlayingItem())
         PaintPlayingMark(row);
 }

@@ -119,7 +119,7 @@ void SkinDialog::showEvent(QShowEvent* event)
 
 void SkinDialog::resizeEvent(QResizeEvent*)
 {
-    m_close->setGeometry(width() - 30, 3, 23, 24);
+    m_close->setGeometry(width() - 31, 3, WindowLayout::kLeastPress, WindowLayout::kLeastPress);
 }
 
 void SkinDialog::paintEvent(QPaintEvent*)

@@ -96,7 +96,7 @@ QSize WidgetStyle::sizeFromContents(
         return result.expandedTo({ 87, 30 });
     if (type == CT_LineEdit || type == CT_ComboBox)
         return { result.width() + 8, kFieldHeight };
-    if (type == CT_ItemViewItem)
+    if (type == CT_ItemViewItem || type == CT_CheckBox || type == CT_RadioButton)
         return result.expandedTo({ 0, 24 });
     return result;
 }

@@ -42,7 +42,7 @@ QVBoxLayout* PageLayout(QWidget* page)
 {
     auto* const layout = new QVBoxLayout(page);
     layout->setContentsMargins(20, 16, 20, 12);
-    layout->setSpacing(9);
+    layout->setSpacing(6);
     return layout;
 }
 
@@ -87,7 +87,7 @@ QWidget* frmSettings::MakePlayerPage()
 QBoxLayout* frmSettings::MakeWindowOptions()
 {
     auto* const column = new QVBoxLayout;
-    column->setSpacing(9);
+    column->setSpacing(6);
     AddHeading(*column, tr("Window"));
     AddFlag(*column, tr("Always on &top"), &SettingsPages::alwaysOnTop);
     AddFlag(*column, tr("Icon in the tra&y"), &SettingsPages::showInTray);
@@ -117,7 +117,7 @@ QBoxLayout* frmSettings::MakeWindowOptions()
 QBoxLayout* frmSettings::MakeFileOptions()
 {
     auto* const column = new QVBoxLayout;
-    column->setSpacing(9);
+    column->setSpacing(6);
     AddHeading(*column, tr("Files"));
     AddFlag(*column, tr("&Keep History of recently Opened files."), &SettingsPages::keepHistory);
     AddFlag(*column, tr("&Launch Files in Fullscreen."), &SettingsPages::launchFullScreen);
@@ -170,7 +170,7 @@ QWidget* frmSettings::MakeAssociationsPage(const std::vector<FileTypeRow>& rows)
     std::vector<std::size_t> everything(rows.size());
     std::iota(everything.begin(), everything.end(), std::size_t{ 0 });
     auto* const side = new QVBoxLayout;
-    side->setSpacing(9);
+    side->setSpacing(6);
     AddHeading(*side, tr("Choose together"));
     AddFamily(*side, tr("All file &types"), std::move(everything));
     side->addSpacing(6);

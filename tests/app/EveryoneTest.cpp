@@ -4,11 +4,15 @@
 #include "app/frmMain.h"
 #include "base/Words.h"
 #include "playback/VideoFrame.h"
+#include "playlist/FancyList.h"
 #include "shell/DisplayPage.h"
 #include "shell/KeysPage.h"
 #include "shell/MenuText.h"
 #include "shell/MessageDialog.h"
+#include "shell/SeekTrack.h"
+#include "shell/SkinButton.h"
 #include "shell/Style.h"
+#include "shell/VolumeKnob.h"
 #include "shell/WaysPage.h"
 #include "shell/frmAbout.h"
 #include "shell/frmSettings.h"
@@ -18,10 +22,17 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QFile>
 #include <QImage>
+#include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QRegularExpression>
+#include <QSet>
 #include <QTabWidget>
 
 #include <cmath>
@@ -29,6 +40,9 @@
 
 namespace zentaro {
 namespace {
+
+// What fits at this size fits at the others: texts grow with all else, but for what is rounded.
+const bool isLarger = qputenv("QT_SCALE_FACTOR", "1.5");
 
 /// Whether everyone can use the window and all dialogs: in every language, in both palettes.
 class Everyone : public PlayerTest {
@@ -65,6 +79,9 @@ protected:
         Show(about, look);
         CommandList commands(m_player, skin, nullptr);
         Show(commands, look);
+        QInputDialog time;
+        time.setLabelText(QString::fromStdString(Words("Hours, minutes and seconds, such as 1:02:30")));
+        Show(time, look);
         MessageDialog message({ Words("Please insert a valid DVD.") }, skin, nullptr);
         Show(message, look);
     }
@@ -100,7 +117,8 @@ protected:
     {
         double least = 1;
         double most = 0;
-        const auto part = place.intersected(picture.rect());
+        const auto ratio = picture.devicePixelRatio();
+        const auto part = QRectF(place.topLeft() * ratio, place.size() * ratio).toRect().intersected(picture.rect());
         for (int y = part.top(); y <= part.bottom(); ++y) {
             for (int x = part.left(); x <= part.right(); ++x) {
                 const auto light = Light(picture.pixel(x, y));
@@ -110,21 +128,79 @@ protected:
         }
         return (most + 0.05) / (least + 0.05);
     }
+    struct Seen {
+        QRect place; // of the widget
+        std::string what;
+        bool isText = true;
+    };
+    /// What is to be read or recognised on the widget, without the edges around it.
+    static std::vector<Seen> SeenOn(QWidget& widget)
+    {
+        const auto inner = widget.rect().adjusted(4, 4, -4, -4);
+        std::vector<Seen> seen;
+        const auto add = [&](const QRect& place, const QString& text, bool isText = true) {
+            seen.push_back({ place, text.toStdString(), isText });
+        };
+        if (const auto* const label = qobject_cast<QLabel*>(&widget); label != nullptr && !label->text().isEmpty())
+            add(widget.rect(), label->text());
+        if (const auto* const button = qobject_cast<QAbstractButton*>(&widget))
+            add(inner, button->text(), !button->text().isEmpty());
+        if (const auto* const box = qobject_cast<QComboBox*>(&widget))
+            add(inner, box->currentText());
+        if (const auto* const edit = qobject_cast<QLineEdit*>(&widget);
+            edit != nullptr && !edit->displayText().isEmpty())
+            add(inner, edit->displayText());
+        if (qobject_cast<SeekTrack*>(&widget) != nullptr || qobject_cast<VolumeKnob*>(&widget) != nullptr)
+            add(widget.rect(), widget.objectName(), false);
+        if (const auto* const tabs = qobject_cast<QTabBar*>(&widget)) {
+            for (int tab = 0; tab < tabs->count(); ++tab)
+                add(tabs->tabRect(tab).adjusted(10, 6, -10, -6), tabs->tabText(tab));
+        }
+        const auto addActions = [&] {
+            for (auto* const action : widget.actions()) {
+                if (!action->isSeparator() && action->isEnabled() && action->isVisible())
+                    add(qobject_cast<QMenu*>(&widget) ? qobject_cast<QMenu*>(&widget)->actionGeometry(action)
+                                                      : qobject_cast<QMenuBar*>(&widget)->actionGeometry(action),
+                        action->text());
+            }
+        };
+        if (qobject_cast<QMenu*>(&widget) != nullptr || qobject_cast<QMenuBar*>(&widget) != nullptr)
+            addActions();
+        if (const auto* const list = qobject_cast<FancyList*>(&widget)) {
+            for (int row = 0; row < list->Count(); ++row) {
+                const auto place = list->Layout().TextRect(row);
+                add({ place.left, place.top, place.Width(), place.Height() / 2 }, "title");
+                add({ place.left, place.top + 20, place.Width(), place.Height() / 2 }, "detail");
+            }
+        }
+        return seen;
+    }
+    static void ExpectContrastOf(QWidget& top, QWidget& widget, const QImage& picture)
+    {
+        const auto visible = widget.visibleRegion();
+        for (const auto& [place, what, isText] : SeenOn(widget)) {
+            if (widget.isEnabled() && (&top == &widget || visible.contains(place.center()))) {
+                EXPECT_GE(Contrast(picture, place.translated(widget.mapTo(&top, QPoint()))), isText ? 4.5 : 3.0)
+                    << Where(top, widget) << ' ' << what;
+            }
+        }
+    }
     void ExpectContrast()
     {
+        for (const auto* const name : { "/one.avi", "/two.mp3" })
+            m_player.Entries().Append({ .Title = name, .FullPath = name, .Thumbnail = {}, .MediaInfo = {} }, "detail");
+        m_player.Entries().List().SetSelectedItem(0);
+        m_window.ShowNote("A note", {});
         WithEach([](QWidget& top) {
             const auto picture = top.grab().toImage();
-            for (auto* const widget : Shown(top)) {
-                const auto* const label = qobject_cast<QLabel*>(widget);
-                const auto* const button = qobject_cast<QAbstractButton*>(widget);
-                const bool isText =
-                    (label != nullptr && !label->text().isEmpty()) || (button != nullptr && !button->text().isEmpty());
-                if ((!isText && button == nullptr) || !widget->isEnabled() || widget->visibleRegion().isEmpty())
-                    continue;
-                const QRect place(widget->mapTo(&top, QPoint()), widget->size());
-                EXPECT_GE(Contrast(picture, place), isText ? 4.5 : 3.0) << Where(top, *widget);
-            }
+            for (auto* const widget : Shown(top))
+                ExpectContrastOf(top, *widget, picture);
         });
+        for (auto* const menu : m_window.findChildren<QMenu*>()) {
+            menu->ensurePolished();
+            menu->resize(menu->sizeHint());
+            ExpectContrastOf(*menu, *menu, menu->grab().toImage());
+        }
     }
 
     Player& m_player;
@@ -149,6 +225,33 @@ TEST_F(Everyone, FindsANameAndARoleAtEveryControl)
     });
 }
 
+TEST_F(Everyone, ComesToEveryControlByKeysAndMeetsItWithAFinger)
+{
+    WithEach([](QWidget& top) {
+        for (auto* const widget : Shown(top)) {
+            const auto* const button = qobject_cast<QAbstractButton*>(widget);
+            const auto* const skinButton = qobject_cast<SkinButton*>(widget);
+            const bool isOther = qobject_cast<SeekTrack*>(widget) != nullptr
+                || qobject_cast<VolumeKnob*>(widget) != nullptr || qobject_cast<QComboBox*>(widget) != nullptr
+                || qobject_cast<QLineEdit*>(widget) != nullptr;
+            if (button == nullptr && !isOther)
+                continue;
+            // Of a group of choices the arrows go from one to the other, and the chosen one is reached.
+            const bool isOneOfGroup = button != nullptr && button->group() != nullptr && !button->isChecked();
+            const bool isInner =
+                widget->parentWidget()->inherits("QTabBar") || widget->parentWidget()->inherits("QLineEdit");
+            const bool hasKey = skinButton != nullptr && !skinButton->Shortcut().isEmpty();
+            if (!isOneOfGroup && !isInner) {
+                EXPECT_TRUE(hasKey || widget->focusPolicy() & Qt::TabFocus) << Where(top, *widget);
+            }
+            if (skinButton != nullptr && &top == top.window() && qobject_cast<frmMain*>(&top) != nullptr) {
+                EXPECT_TRUE(hasKey) << Where(top, *widget);
+            }
+            EXPECT_GE(std::min(widget->width(), widget->height()), WindowLayout::kLeastPress) << Where(top, *widget);
+        }
+    });
+}
+
 TEST_F(Everyone, ReadsWholeTextsAndOneLetterForEachThing)
 {
     for (const auto* const language : { "en", "de", "fr", "es", "ja" }) {
@@ -166,9 +269,11 @@ TEST_F(Everyone, ReadsWholeTextsAndOneLetterForEachThing)
                     EXPECT_TRUE(isNew) << text.toStdString() << " and " << other->second;
                 }
                 const bool wraps = label != nullptr && (label->wordWrap() || label->text().isEmpty());
-                // Everything is drawn larger with its text, so what fits at one size fits at all.
                 if ((button != nullptr && !text.isEmpty()) || (label != nullptr && !wraps)) {
                     EXPECT_GE(widget->width(), widget->sizeHint().width()) << Where(top, *widget) << text.toStdString();
+                }
+                if (const auto* const box = qobject_cast<QComboBox*>(widget)) {
+                    EXPECT_GE(box->width(), box->sizeHint().width()) << Where(top, *widget);
                 }
             }
         });
@@ -207,6 +312,27 @@ TEST_F(Everyone, FindsAllMenusInTheSmallestWindow)
         EXPECT_LE(last.right(), strip->width()) << language;
         EXPECT_GE(last.width(), 20) << language;
         SetTranslator(nullptr);
+    }
+}
+
+TEST_F(Everyone, ReadsOfEveryKeyInTheHelp)
+{
+    QFile page(m_programFolder + "help/en/keys.html");
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    const auto text = QString::fromUtf8(page.readAll());
+    QSet<QString> told;
+    static const QRegularExpression cell("<td class=\"key\">([^<]*)</td>");
+    for (const auto& found : cell.globalMatch(text)) {
+        for (const auto& key : found.captured(1).split(", "))
+            told.insert(key);
+    }
+    for (const auto& command : AllCommands()) {
+        for (const auto key : command.keys) {
+            auto name = QString::fromLatin1(key.data(), static_cast<qsizetype>(key.size()));
+            name.replace("PgDown", "Page Down").replace("PgUp", "Page Up").replace("Return", "Enter");
+            name.replace(QRegularExpression("^Del$"), "Delete").replace(QRegularExpression("^[0-9]$"), "0 to 9");
+            EXPECT_TRUE(name.isEmpty() || told.contains(name)) << command.id << ": " << name.toStdString();
+        }
     }
 }
 
