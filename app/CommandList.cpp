@@ -65,7 +65,7 @@ void CommandList::Fill(Player& player)
 void CommandList::RunCurrent()
 {
     const auto* const row = m_rows->currentItem();
-    if (row == nullptr || row->isHidden() || !row->flags().testFlag(Qt::ItemIsEnabled))
+    if (row == nullptr || !row->flags().testFlag(Qt::ItemIsEnabled))
         return;
     const auto id = m_rows->IdOf(m_rows->currentRow());
     accept();

@@ -6,6 +6,7 @@
 #include "base/Words.h"
 #include "platform/Window.h"
 #include "playlist/FancyList.h"
+#include "shell/Announcer.h"
 #include "shell/HelpTopic.h"
 #include "shell/QtText.h"
 
@@ -68,6 +69,7 @@ void ListHand::Show()
 {
     ShowAddProgress();
     m_list.SetPaused(m_player.State().isPaused);
+    TellWhatPlays();
     const auto& entries = std::as_const(m_player).Entries();
     m_list.SetCard(Card());
     // It is offered once; whoever has found the way without it needs it no more.
@@ -101,6 +103,15 @@ void ListHand::TakeCard()
         return RunCommand(m_player, "BringBack");
     m_player.Choices().Set(Choice::KnowsOfWays, true);
     RunCommand(m_player, "FamiliarWays");
+}
+
+void ListHand::TellWhatPlays()
+{
+    const auto& entries = std::as_const(m_player).Entries();
+    const int row = entries.List().PlayingItem();
+    const auto path = row >= 0 ? entries.PathAt(row) : std::string();
+    if (std::exchange(m_playing, path) != path && row >= 0 && m_list.window()->isVisible())
+        Announce(*m_list.window(), ToQString(Words("%1, playing", { entries.List().Item(row).Text })));
 }
 
 void ListHand::ShowRowHeight(bool isCompact)

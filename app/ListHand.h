@@ -28,6 +28,8 @@ private:
     void TakeCard();
     void ShowRowHeight(bool isCompact);
     void ShowAddProgress();
+    /// To those who do not see the mark.
+    void TellWhatPlays();
 
     Player& m_player;
     FancyList& m_list;
@@ -36,6 +38,7 @@ private:
     AddProgress m_progress;
     std::uint64_t m_toldRevision = 0;
     bool m_isCompact = false;
+    std::string m_playing; // path of the entry
 };
 
 } // namespace zentaro

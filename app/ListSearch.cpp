@@ -1,7 +1,9 @@
 #include "app/ListSearch.h"
 
 #include "app/Player.h"
+#include "base/Words.h"
 #include "playlist/FancyList.h"
+#include "shell/Announcer.h"
 #include "shell/QtText.h"
 
 #include <QKeyEvent>
@@ -64,6 +66,10 @@ bool ListSearch::Type(const QKeyEvent& event)
         m_words += ToText(event.text());
     }
     Show();
+    if (!m_words.empty())
+        Announce(*m_list.window(),
+            ToQString(Words("Find: %1   %2 of %3",
+                { m_words, std::to_string(m_list.Layout().PlaceCount()), std::to_string(m_list.Count()) })));
     return true;
 }
 

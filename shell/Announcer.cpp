@@ -13,6 +13,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kShown = 500ms;
+constexpr auto kKept = 10s; // who listens may ask about it later
 
 /// What the accessibility buses have for a short message is a notification that comes into sight. This one never does,
 /// but says so. Each text has one of its own: who listens may remember what the last one said.
@@ -31,10 +32,8 @@ public:
         Show(true);
         QAccessibleEvent alert(this, QAccessible::Alert);
         QAccessible::updateAccessibility(&alert);
-        QTimer::singleShot(kShown, this, [this] {
-            Show(false);
-            deleteLater();
-        });
+        QTimer::singleShot(kShown, this, [this] { Show(false); });
+        QTimer::singleShot(kKept, this, &QObject::deleteLater);
     }
     bool IsSaid() const { return m_isSaid; }
 

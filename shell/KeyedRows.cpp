@@ -59,9 +59,17 @@ KeyedRows::KeyedRows(QWidget* parent)
     setUniformItemSizes(true);
 }
 
+KeyedRows::~KeyedRows()
+{
+    for (const auto* const row : m_all) {
+        if (row->listWidget() == nullptr)
+            delete row;
+    }
+}
+
 void KeyedRows::Add(const std::string& id, const QString& name, const std::vector<std::string>& keys, bool isUsable)
 {
-    auto* const item = new QListWidgetItem(name, this);
+    auto* const item = m_all.emplace_back(new QListWidgetItem(name, this));
     item->setData(kId, ToQString(id));
     if (!isUsable)
         item->setFlags(item->flags() & ~Qt::ItemIsEnabled);
@@ -87,16 +95,17 @@ std::string KeyedRows::IdOf(int row) const
 void KeyedRows::Search(const QString& words)
 {
     const auto wanted = words.simplified().split(' ', Qt::SkipEmptyParts);
-    int first = -1;
-    for (int i = 0; i < count(); ++i) {
-        const auto text = item(i)->text() + ' ' + item(i)->data(kKeys).toString();
-        const bool isFound =
-            std::ranges::all_of(wanted, [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); });
-        item(i)->setHidden(!isFound);
-        if (isFound && first < 0)
-            first = i;
+    // Rows that were only hidden would be counted by those who have them read out. While none is chosen
+    // none is read on the way.
+    setCurrentRow(-1);
+    while (count() > 0)
+        takeItem(count() - 1);
+    for (auto* const row : m_all) {
+        const auto text = row->text() + ' ' + row->data(kKeys).toString();
+        if (std::ranges::all_of(wanted, [&](const QString& word) { return text.contains(word, Qt::CaseInsensitive); }))
+            addItem(row);
     }
-    setCurrentRow(first);
+    setCurrentRow(count() > 0 ? 0 : -1);
 }
 
 } // namespace zentaro

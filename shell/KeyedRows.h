@@ -13,6 +13,7 @@ class KeyedRows : public QListWidget {
 
 public:
     explicit KeyedRows(QWidget* parent);
+    ~KeyedRows() override;
 
     /// `keys`: as Qt's portable text.
     void Add(const std::string& id, const QString& name, const std::vector<std::string>& keys, bool isUsable = true);
@@ -20,6 +21,9 @@ public:
     std::string IdOf(int row) const;
     /// Leaves the rows whose names and keys have all these words, and chooses the first of them.
     void Search(const QString& words);
+
+private:
+    std::vector<QListWidgetItem*> m_all; // those that are not shown are owned
 };
 
 } // namespace zentaro

@@ -136,7 +136,7 @@ void SkinDialog::paintEvent(QPaintEvent*)
     // A dark line outside and a light one inside it: one of the two shows, whatever lies behind.
     painter.setPen(style::kBase);
     painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
-    painter.setPen(QColor(255, 255, 255, kOutline));
+    painter.setPen(style::HasHighContrast() ? style::kHairline : QColor(255, 255, 255, kOutline));
     painter.drawRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5));
 }
 
@@ -183,6 +183,10 @@ void SkinPushButton::paintEvent(QPaintEvent*)
                                     : ButtonState::Normal;
     QPainter painter(this);
     m_skin.Draw(painter, ButtonImage(Button::PushButton, state), WholeOf(*this));
+    if (style::HasHighContrast()) {
+        painter.setPen(isEnabled() ? style::kHairline : style::kFaintText);
+        painter.drawRect(QRectF(rect()).adjusted(1.5, 1.5, -1.5, -2.5));
+    }
     auto font = painter.font();
     font.setWeight(isDefault() ? QFont::DemiBold : QFont::Normal);
     painter.setFont(font);

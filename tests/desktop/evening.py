@@ -67,6 +67,8 @@ def spoken():
 
 
 choose_files()
+# What the first film is was read while it began to play.
+wait_for("facts of the first film", lambda: named("list item", FILMS[0]).description.startswith("0:20"))
 rows = wait_for("third row", lambda: [r for r in named("list", "Playlist") if r.getRoleName() == "list item"][2:3])
 act(rows[0], "press")
 wait_for("third film", lambda: named("list item", FILMS[2] + ", playing"))
