@@ -54,15 +54,27 @@ TEST_F(Evening, GoesByWhatIsHeardAlone)
     }
 }
 
-/// What a screen reader says, by its log; it has no voice.
+/// What a screen reader says, by its log. Its voice is silent and needs no sound card.
 class Reader {
 public:
-    Reader(const std::string& home, const std::string& bus)
+    Reader(const std::string& home, const std::string& bus, const Desktop& screen)
         : m_log(home + "/reader.log")
-        , m_process({ "HOME=" + home, "XDG_DATA_HOME=" + home, "DBUS_SESSION_BUS_ADDRESS=" + bus, "/usr/bin/orca",
-              "--debug-file", m_log, "--disable", "braille" })
     {
+        const auto voice = home + "/voice";
+        fs::create_directories(voice + "/modules");
+        std::ofstream(voice + "/speechd.conf")
+            << "AudioOutputMethod \"alsa\"\nAudioALSADevice \"null\"\n"
+            << "AddModule \"silent\" \"sd_generic\" \"silent.conf\"\nDefaultModule silent\n";
+        std::ofstream(voice + "/modules/silent.conf")
+            << "GenericExecuteSynth \"true\"\nAddVoice \"en\" \"MALE1\" \"silent\"\n";
+        m_voice = Process({ "speech-dispatcher", "-C", voice, "-L", voice, "-P", voice + "/pid", "-c", "unix_socket",
+            "-S", voice + "/socket", "-t", "0", "--run-single" });
+        EXPECT_TRUE(WaitUntil([&] { return fs::exists(voice + "/socket"); })) << m_voice.Output();
+        m_process = Process({ "DISPLAY=" + screen.Name(), "HOME=" + home, "XDG_DATA_HOME=" + home,
+            "DBUS_SESSION_BUS_ADDRESS=" + bus, "SPEECHD_ADDRESS=unix_socket:" + voice + "/socket", "/usr/bin/orca",
+            "--debug", "--debug-file", m_log, "--disable", "braille" });
     }
+    std::string Output() const { return m_process.Output() + (fs::exists(m_log) ? ReadWholeFile(m_log) : "no log"); }
     /// Presses the keys; whether the reader then says the words.
     bool Says(const std::string& words, Desktop& screen, const std::string& keys = {})
     {
@@ -79,6 +91,7 @@ public:
 
 private:
     std::string m_log;
+    Process m_voice;
     Process m_process;
 };
 
@@ -90,8 +103,8 @@ TEST_F(Evening, IsToldByAScreenReader)
     Process launcher({ "/usr/libexec/at-spi-bus-launcher", "--launch-immediately" });
     const auto folder = MakeFilms();
     std::ofstream(folder + "/all.m3u8") << "1.mkv\n2.mkv\n3.mkv\n";
-    Reader reader(Home(), session.Address());
-    ASSERT_TRUE(reader.Says("Screen reader on", Screen()));
+    Reader reader(Home(), session.Address(), Screen());
+    ASSERT_TRUE(reader.Says("Screen reader on", Screen())) << reader.Output();
     auto player = ShowTo(session, { folder + "/all.m3u8" });
     EXPECT_TRUE(player.WaitForTitle("1.mkv"));
     EXPECT_TRUE(reader.Says("1\\.mkv, playing", Screen(), "F6 Home"));
