@@ -20,7 +20,7 @@ namespace {
 
 constexpr int kOutline = 0x1F; // white's share of 255 in the line that sets the dialog off from what lies below
 constexpr int kTabHeight = 30;
-constexpr int kTabRoom = 36; // px beside a tab's text
+constexpr int kTabRoom = 24; // px beside a tab's text
 constexpr int kFaceHeight = 27;
 constexpr int kFaceWidth = 87;
 constexpr double kTabBehind = 0.4; // opacity of the tabs that are not chosen

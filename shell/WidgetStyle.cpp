@@ -53,6 +53,8 @@ int WidgetStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, con
         const auto* const strip = qobject_cast<const MenuStrip*>(widget);
         return strip != nullptr ? strip->Gap() : QProxyStyle::pixelMetric(metric, option, widget);
     }
+    case PM_TabBarScrollButtonWidth:
+        return 24;
     case PM_HeaderMargin:
         return 8;
     case PM_ToolTipLabelFrameWidth:

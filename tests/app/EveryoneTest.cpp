@@ -24,6 +24,7 @@
 #include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QInputDialog>
@@ -312,6 +313,26 @@ TEST_F(Everyone, FindsAllMenusInTheSmallestWindow)
         EXPECT_LE(last.right(), strip->width()) << language;
         EXPECT_GE(last.width(), 20) << language;
         SetTranslator(nullptr);
+    }
+}
+
+TEST_F(Everyone, HasTheWholeHelpInEveryLanguage)
+{
+    const auto parts = [&](const QString& language, const QString& name) {
+        QFile file(m_programFolder + "help/" + language + '/' + name);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+        QStringList found;
+        static const QRegularExpression part("<(h1|h2|p|li|tr|td|pre|a href=[^>]*)[ >]");
+        for (const auto& match : part.globalMatch(QString::fromUtf8(file.readAll())))
+            found << match.captured(1);
+        // Two links can change places within a sentence.
+        found.sort();
+        return found.join(' ').toStdString();
+    };
+    for (const auto& page : QDir(m_programFolder + "help/en").entryList({ "*.html" })) {
+        const auto english = parts("en", page);
+        for (const auto* const language : { "de", "fr", "es", "ja" })
+            EXPECT_EQ(parts(language, page), english) << language << ' ' << page.toStdString();
     }
 }
 
