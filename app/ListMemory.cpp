@@ -26,6 +26,8 @@ RememberedList::Entry ReadEntry(const std::vector<std::string>& row)
     entry.Facts.height = RoundHalfEven(NumberAt(row, 7));
     entry.Facts.fileSize = static_cast<std::int64_t>(std::clamp(NumberAt(row, 8), 0.0, 1e18));
     entry.Facts.modified = static_cast<std::int64_t>(std::clamp(NumberAt(row, 9), -1e18, 1e18));
+    entry.Facts.artist = TextAt(row, 10);
+    entry.Facts.album = TextAt(row, 11);
     return { std::move(entry), TextAt(row, 3) };
 }
 
@@ -75,6 +77,7 @@ std::string FormatList(const RememberedList& list)
         writer.Row("entry").Field(entry.FullPath).Field(entry.Title).Field(detail).Field(entry.MediaInfo);
         writer.Number(entry.Facts.duration).Number(entry.Facts.width).Number(entry.Facts.height);
         writer.Number(static_cast<double>(entry.Facts.fileSize)).Number(static_cast<double>(entry.Facts.modified));
+        writer.Field(entry.Facts.artist).Field(entry.Facts.album);
     }
     if (!list.order.empty())
         writer.Row("order");

@@ -108,8 +108,11 @@ void ListFind::Read()
     m_revision = m_playlist.Revision();
     m_texts.clear();
     m_texts.reserve(static_cast<std::size_t>(m_playlist.Count()));
-    for (int row = 0; row < m_playlist.Count(); ++row)
-        m_texts.push_back(Folded(m_playlist.List().Item(row).Text + "\n" + m_playlist.PathAt(row)));
+    for (int row = 0; row < m_playlist.Count(); ++row) {
+        const auto& facts = m_playlist.FactsAt(row);
+        m_texts.push_back(Folded(m_playlist.List().Item(row).Text + "\n" + m_playlist.PathAt(row) + "\n" + facts.artist
+            + "\n" + facts.album));
+    }
 }
 
 } // namespace zentaro

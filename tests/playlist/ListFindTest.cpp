@@ -33,8 +33,10 @@ TEST(ListFind, FindsByTitleAndFolderAndFollowsTheList)
     EXPECT_EQ(find.Rows("one"), (std::vector{ 0, 2 }));
     EXPECT_EQ(find.Rows("FILMS one"), (std::vector{ 2 }));
     EXPECT_EQ(find.Rows(""), (std::vector{ 0, 1, 2 }));
-    playlist.Arrange(ListEdit::Move, { 2, 1, 0 }, kPlayNormal);
-    EXPECT_EQ(find.Rows("series"), (std::vector{ 2 }));
+    playlist.Append({ "03.flac", "/music/03.flac", {}, {}, 0, { .artist = "Anna Åberg", .album = "Low Tide" } });
+    EXPECT_EQ(find.Rows("tide aberg"), (std::vector{ 3 }));
+    playlist.Arrange(ListEdit::Move, { 3, 2, 1, 0 }, kPlayNormal);
+    EXPECT_EQ(find.Rows("series"), (std::vector{ 3 }));
 }
 
 TEST(RowMarks, AreSetByOneByRangeAndByKeys)
