@@ -92,24 +92,29 @@ bool ContentPane::Grip(const QMouseEvent& event)
 
 bool ContentPane::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched != &m_video)
-        return QSplitter::eventFilter(watched, event);
-    auto* const mouse = static_cast<QMouseEvent*>(event);
-    switch (event->type()) {
+    const auto type = event->type();
+    const bool isMouse =
+        type == QEvent::MouseButtonPress || type == QEvent::MouseMove || type == QEvent::MouseButtonRelease;
+    if (watched == &m_video && isMouse)
+        return MouseOverVideo(static_cast<QMouseEvent&>(*event));
+    return QSplitter::eventFilter(watched, event);
+}
+
+bool ContentPane::MouseOverVideo(const QMouseEvent& mouse)
+{
+    switch (mouse.type()) {
     case QEvent::MouseButtonPress:
-        m_isGripped = mouse->button() == Qt::LeftButton && IsInReach(*mouse);
-        return m_isGripped && Grip(*mouse);
+        m_isGripped = mouse.button() == Qt::LeftButton && IsInReach(mouse);
+        return m_isGripped && Grip(mouse);
     case QEvent::MouseMove:
         if (m_isGripped)
-            return Grip(*mouse);
-        m_video.ShowPointerAs(IsInReach(*mouse)               ? handle(1)->cursor().shape()
+            return Grip(mouse);
+        m_video.ShowPointerAs(IsInReach(mouse)                ? handle(1)->cursor().shape()
                 : m_video.cursor().shape() == Qt::BlankCursor ? Qt::BlankCursor
                                                               : Qt::ArrowCursor);
         return false;
-    case QEvent::MouseButtonRelease:
-        return std::exchange(m_isGripped, false) && Grip(*mouse);
     default:
-        return false;
+        return std::exchange(m_isGripped, false) && Grip(mouse);
     }
 }
 

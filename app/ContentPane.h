@@ -32,6 +32,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool MouseOverVideo(const QMouseEvent& mouse);
     bool IsInReach(const QMouseEvent& event) const;
     /// Passes it on to the splitter.
     bool Grip(const QMouseEvent& event);
