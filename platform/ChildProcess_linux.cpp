@@ -1,26 +1,19 @@
 #include "platform/ChildProcess.h"
 
-#include "platform/Files_linux.h"
+#include "platform/ProcessGroup_linux.h"
+#include "platform/Spawn_linux.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
-#include <csignal>
 #include <cstdlib>
-#include <fcntl.h>
 #include <filesystem>
 #include <future>
-#include <mutex>
 #include <poll.h>
-#include <set>
-#include <spawn.h>
 #include <string_view>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
-#include <sys/wait.h>
 #include <system_error>
-#include <thread>
 #include <unistd.h>
 #include <utility>
 
@@ -31,34 +24,6 @@ namespace {
 using std::chrono::milliseconds;
 
 constexpr milliseconds kRound{ 40 };
-constexpr milliseconds kGrace{ 20 }; // between the polite and the hard signal
-
-struct Pipe {
-    FileDescriptor readEnd;
-    FileDescriptor writeEnd;
-};
-
-/// In a program without standard streams a pipe's end may get one of their numbers; the child needs them free.
-FileDescriptor AboveStandardStreams(int number)
-{
-    FileDescriptor low(number);
-    return number > STDERR_FILENO ? std::move(low)
-                                  : FileDescriptor(::fcntl(number, F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
-}
-
-/// 0, or the system's error code.
-int OpenPipe(Pipe& pipe)
-{
-    int ends[2];
-    if (::pipe2(ends, O_CLOEXEC) != 0)
-        return errno;
-    pipe.readEnd = AboveStandardStreams(ends[0]);
-    pipe.writeEnd = AboveStandardStreams(ends[1]);
-    if (pipe.readEnd.Number() < 0 || pipe.writeEnd.Number() < 0)
-        return errno;
-    // Only our end: the child's stays as every program expects it.
-    return ::fcntl(pipe.readEnd.Number(), F_SETFL, O_NONBLOCK) == 0 ? 0 : errno;
-}
 
 int NiceValue(std::uint32_t priorityClass)
 {
@@ -75,87 +40,6 @@ int NiceValue(std::uint32_t priorityClass)
     default:
         return 0;
     }
-}
-
-struct SpawnRequest {
-    const char* image;
-    std::vector<std::string> arguments; // with argument 0
-    std::string workDir;
-    int output; // a descriptor for both output streams, or -1: nowhere
-};
-
-class SpawnActions {
-public:
-    explicit SpawnActions(const SpawnRequest& request)
-    {
-        ::posix_spawn_file_actions_init(&m_actions);
-        Note(::posix_spawn_file_actions_addopen(&m_actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0));
-        for (const int stream : { STDOUT_FILENO, STDERR_FILENO }) {
-            if (request.output < 0)
-                Note(::posix_spawn_file_actions_addopen(&m_actions, stream, "/dev/null", O_WRONLY, 0));
-            else
-                Note(::posix_spawn_file_actions_adddup2(&m_actions, request.output, stream));
-        }
-        // Other libraries in this process open descriptors without the close-on-exec flag.
-        Note(::posix_spawn_file_actions_addclosefrom_np(&m_actions, STDERR_FILENO + 1));
-        if (!request.workDir.empty())
-            Note(::posix_spawn_file_actions_addchdir_np(&m_actions, request.workDir.c_str()));
-    }
-    SpawnActions(const SpawnActions&) = delete;
-    SpawnActions& operator=(const SpawnActions&) = delete;
-    ~SpawnActions() { ::posix_spawn_file_actions_destroy(&m_actions); }
-
-    int Failure() const { return m_failure; }
-    const posix_spawn_file_actions_t* Get() const { return &m_actions; }
-
-private:
-    void Note(int failure)
-    {
-        if (failure != 0)
-            m_failure = failure;
-    }
-
-    posix_spawn_file_actions_t m_actions;
-    int m_failure = 0;
-};
-
-/// A group of its own, no blocked signal, and the default answer to each: nothing of what this process has set.
-class SpawnAttributes {
-public:
-    SpawnAttributes()
-    {
-        ::posix_spawnattr_init(&m_attributes);
-        sigset_t signals;
-        ::sigemptyset(&signals);
-        ::posix_spawnattr_setsigmask(&m_attributes, &signals);
-        ::sigfillset(&signals);
-        ::posix_spawnattr_setsigdefault(&m_attributes, &signals);
-        ::posix_spawnattr_setpgroup(&m_attributes, 0);
-        ::posix_spawnattr_setflags(
-            &m_attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
-    }
-    SpawnAttributes(const SpawnAttributes&) = delete;
-    SpawnAttributes& operator=(const SpawnAttributes&) = delete;
-    ~SpawnAttributes() { ::posix_spawnattr_destroy(&m_attributes); }
-
-    const posix_spawnattr_t* Get() const { return &m_attributes; }
-
-private:
-    posix_spawnattr_t m_attributes;
-};
-
-/// 0, or the system's error code.
-int Spawn(const SpawnRequest& request, pid_t& pid)
-{
-    std::vector<char*> arguments;
-    for (const auto& argument : request.arguments)
-        arguments.push_back(const_cast<char*>(argument.c_str()));
-    arguments.push_back(nullptr);
-    const SpawnActions actions(request);
-    if (actions.Failure() != 0)
-        return actions.Failure();
-    const SpawnAttributes attributes;
-    return ::posix_spawn(&pid, request.image, actions.Get(), attributes.Get(), arguments.data(), environ);
 }
 
 std::vector<std::string> WithProgram(const std::string& program, const std::vector<std::string>& arguments)
@@ -176,129 +60,6 @@ std::string Image(const std::string& program)
     const auto path = std::filesystem::absolute(program, failure);
     return failure ? program : path.string();
 }
-
-/// The status that it has ended with.
-int Reap(pid_t pid)
-{
-    int status = 0;
-    while (::waitpid(pid, &status, 0) < 0 && errno == EINTR) { }
-    return status;
-}
-
-/// Reaps it whenever it ends.
-std::shared_future<int> ReapLater(pid_t pid)
-{
-    std::packaged_task<int()> reap([pid] { return Reap(pid); });
-    std::shared_future<int> status = reap.get_future();
-    try {
-        std::thread(std::move(reap)).detach();
-    } catch (const std::system_error&) {
-        // Too many threads: the child stays a zombie until this process ends, which harms nobody.
-        return {};
-    }
-    return status;
-}
-
-/// The groups that may be signalled: their leaders are not reaped yet.
-class LiveGroups {
-public:
-    void Add(pid_t leader)
-    {
-        const std::lock_guard lock(m_mutex);
-        m_leaders.insert(leader);
-    }
-    void Remove(pid_t leader)
-    {
-        const std::lock_guard lock(m_mutex);
-        m_leaders.erase(leader);
-    }
-    void Kill()
-    {
-        const std::lock_guard lock(m_mutex);
-        for (const auto leader : m_leaders)
-            ::kill(-leader, SIGKILL);
-    }
-
-private:
-    std::mutex m_mutex;
-    std::set<pid_t> m_leaders;
-};
-
-/// Never destroyed: threads that nobody waits for use it up to the end.
-LiveGroups& Groups()
-{
-    static auto* const groups = new LiveGroups;
-    return *groups;
-}
-
-/// A descriptor that can be read once the process has ended, or -1. (glibc 2.36 declares pidfd_open for C only.)
-int OpenEndSignal(pid_t pid)
-{
-    return static_cast<int>(::syscall(SYS_pidfd_open, pid, 0));
-}
-
-/// The leader of a process group. It is reaped only at the end, so that its number, which is the group's number too,
-/// cannot be given to anybody else while the group may still be signalled.
-class GroupLeader {
-public:
-    explicit GroupLeader(pid_t pid)
-        : m_pid(pid)
-        , m_endSignal(OpenEndSignal(pid))
-    {
-        Groups().Add(pid);
-    }
-    GroupLeader(const GroupLeader&) = delete;
-    GroupLeader& operator=(const GroupLeader&) = delete;
-    ~GroupLeader()
-    {
-        if (!HasEnded())
-            Terminate();
-        Wait(kGrace, -1);
-        Groups().Remove(m_pid);
-        if (HasEnded())
-            Reap(m_pid);
-        else
-            ReapLater(m_pid);
-    }
-
-    pid_t Pid() const { return m_pid; }
-    bool HasEnded() const { return m_ended; }
-    /// At most `wait` for the leader's end, or for something to read from `output` (-1: from nowhere).
-    bool Wait(milliseconds wait, int output)
-    {
-        if (m_ended)
-            return true;
-        std::array<pollfd, 2> events{ { { m_endSignal.Number(), POLLIN, 0 }, { output, POLLIN, 0 } } };
-        const bool blind = m_endSignal.Number() < 0; // an old kernel, or a sandbox
-        // A time that has passed must not become the negative number for which poll() waits for ever.
-        const auto slice = std::max(blind ? std::min(wait, milliseconds(5)) : wait, milliseconds(0));
-        ::poll(events.data(), events.size(), static_cast<int>(slice.count()));
-        if (blind || events[0].revents != 0)
-            m_ended = IsGone();
-        return m_ended;
-    }
-    void Terminate()
-    {
-        ::kill(-m_pid, SIGTERM);
-        const auto end = std::chrono::steady_clock::now() + kGrace;
-        while (!m_ended && std::chrono::steady_clock::now() < end)
-            Wait(std::chrono::duration_cast<milliseconds>(end - std::chrono::steady_clock::now()), -1);
-        // Always: the leader may have gone and left children that ignore the first signal.
-        ::kill(-m_pid, SIGKILL);
-    }
-
-private:
-    bool IsGone() const
-    {
-        siginfo_t info{};
-        const int result = ::waitid(P_PID, static_cast<id_t>(m_pid), &info, WEXITED | WNOHANG | WNOWAIT);
-        return result == 0 ? info.si_pid != 0 : errno == ECHILD;
-    }
-
-    pid_t m_pid;
-    FileDescriptor m_endSignal;
-    bool m_ended = false;
-};
 
 class LinuxChild final : public ChildProcess {
 public:
@@ -430,7 +191,7 @@ void GiveWay()
 
 void EndStartedProcesses()
 {
-    Groups().Kill();
+    KillLiveGroups();
 }
 
 std::optional<std::string> FindTool(const std::string& name, const std::string& firstFolder)

@@ -334,10 +334,10 @@ void FancyList::ListChanged()
     if (IsFinding())
         emit FindOutdated();
     const int before = std::exchange(m_toldCount, Count());
-    if (before != Count())
+    if (before != Count()) {
         emit ThumbLeft();
-    if (before != Count())
         FancyListAccessible::TellRowsChanged(*this);
+    }
     if ((before == 0) != (Count() == 0))
         PlaceSurface();
     // After a removal another row can stand at the selection's number.
