@@ -50,6 +50,9 @@ MediaFacts FactsOf(const clsSource& source, InspectionFiles& files)
     facts.duration = static_cast<double>(source.Duration());
     facts.artist = source.Tags().artist;
     facts.album = source.Tags().album;
+    facts.song = source.Tags().title;
+    facts.number = source.Tags().number;
+    facts.year = source.Tags().year;
     for (std::size_t i = 0; i < source.Streams().size() && facts.width == 0; ++i) {
         if (const auto size = source.SizeAsSeen(i); size.width > 0 && size.height > 0) {
             facts.width = size.width;

@@ -28,6 +28,9 @@ RememberedList::Entry ReadEntry(const std::vector<std::string>& row)
     entry.Facts.modified = static_cast<std::int64_t>(std::clamp(NumberAt(row, 9), -1e18, 1e18));
     entry.Facts.artist = TextAt(row, 10);
     entry.Facts.album = TextAt(row, 11);
+    entry.Facts.song = TextAt(row, 12);
+    entry.Facts.number = RoundHalfEven(NumberAt(row, 13));
+    entry.Facts.year = RoundHalfEven(NumberAt(row, 14));
     return { std::move(entry), TextAt(row, 3) };
 }
 
@@ -77,7 +80,8 @@ std::string FormatList(const RememberedList& list)
         writer.Row("entry").Field(entry.FullPath).Field(entry.Title).Field(detail).Field(entry.MediaInfo);
         writer.Number(entry.Facts.duration).Number(entry.Facts.width).Number(entry.Facts.height);
         writer.Number(static_cast<double>(entry.Facts.fileSize)).Number(static_cast<double>(entry.Facts.modified));
-        writer.Field(entry.Facts.artist).Field(entry.Facts.album);
+        writer.Field(entry.Facts.artist).Field(entry.Facts.album).Field(entry.Facts.song);
+        writer.Number(entry.Facts.number).Number(entry.Facts.year);
     }
     if (!list.order.empty())
         writer.Row("order");

@@ -35,7 +35,11 @@ std::string_view CommandOf(MediaLoop loop)
 
 platform::MediaTrack TrackOf(const PlaylistEntry& entry)
 {
-    return { entry.Id, entry.Title, entry.FullPath };
+    const auto& facts = entry.Facts;
+    if (facts.width > 0)
+        return { entry.Id, entry.Title, entry.FullPath };
+    return { entry.Id, facts.song.empty() ? entry.Title : facts.song, entry.FullPath, facts.artist, facts.album,
+        facts.number, facts.year };
 }
 
 } // namespace
@@ -69,7 +73,8 @@ platform::MediaStatus MediaRemote::Status()
     status.volume = m_player.Transporting().Host().Volume() / 100.0;
     status.fullScreen = m_window.isFullScreen();
     status.track = m_track;
-    status.artwork = m_artwork;
+    const auto cover = m_window.coverFile(m_track.id);
+    status.artwork = cover.empty() ? m_artwork : cover;
     status.tracks = m_tracks;
     for (int slot = 0; slot < kHistorySlots; ++slot) {
         const auto& played = *m_player.BothMenus().SmartMenuXP1.Find(HistoryKey(slot));

@@ -18,6 +18,8 @@ public:
         std::function<bool()> isFullScreen;
         /// Where the picture has been written as a file for others to read; empty when it could not be.
         std::function<std::string(std::uint64_t track, const Picture& picture)> saveArtwork;
+        /// The file of the track's cover, larger than its thumbnail; empty where there is none, or not yet.
+        std::function<std::string(std::uint64_t track)> coverFile = [](std::uint64_t) { return std::string(); };
     };
 
     MediaRemote(Player& player, Window window);

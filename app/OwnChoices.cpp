@@ -23,6 +23,8 @@ std::string_view KeyOf(Choice choice)
         return "choice.knowsOfWays";
     case Choice::Previews:
         return "choice.previews";
+    case Choice::MusicView:
+        return "choice.musicView";
     }
     return {};
 }
@@ -31,7 +33,8 @@ std::string_view KeyOf(Choice choice)
 
 bool OwnChoices::Has(Choice choice) const
 {
-    const bool isFromBeginning = choice == Choice::Remembers || choice == Choice::Previews;
+    const bool isFromBeginning =
+        choice == Choice::Remembers || choice == Choice::Previews || choice == Choice::MusicView;
     return m_settings.Number(KeyOf(choice), isFromBeginning ? 1 : 0, 0, 1) != 0;
 }
 

@@ -12,6 +12,7 @@ enum class Choice {
     FamiliarWays,       ///< as Ways::isFamiliar
     KnowsOfWays,        ///< the choice was offered
     Previews,           ///< pictures of the places under the pointer; from the beginning
+    MusicView,          ///< a song's cover and moving bars; from the beginning
 };
 
 /// These choices, each kept as soon as it is made.

@@ -42,6 +42,18 @@ template <void (PlayTools::*Act)()> void Do(Player& player, int)
     (player.Tools().*Act)();
 }
 
+template <Choice Kind> constexpr Command Switching(const char* id, const char* caption)
+{
+    return { .id = id,
+        .caption = caption,
+        .run =
+            [](Player& player, int) {
+                player.Choices().Set(Kind, !player.Choices().Has(Kind));
+                player.Face().window->StateChanged();
+            },
+        .isChecked = [](const Player& player) { return player.Choices().Has(Kind); } };
+}
+
 constexpr std::array kCommands{
     Repeated("FasterALittle", "A Little &Faster", kCtrlShiftUp, StepRate<1>, IsLoaded),
     Repeated("SlowerALittle", "A Little &Slower", kCtrlShiftDown, StepRate<-1>, IsLoaded),
@@ -69,14 +81,8 @@ constexpr std::array kCommands{
             player.Face().window->ShowNote(Words(stops ? "Stops after this one" : "Goes on after this one"));
         },
         IsLoaded, [](const Player& player) { return player.Sequence().StopsAfterThis(); } },
-    Command{ .id = "Previews",
-        .caption = "Pictures over the Seek Bar",
-        .run =
-            [](Player& player, int) {
-                player.Choices().Set(Choice::Previews, !player.Choices().Has(Choice::Previews));
-                player.Face().window->StateChanged();
-            },
-        .isChecked = [](const Player& player) { return player.Choices().Has(Choice::Previews); } },
+    Switching<Choice::Previews>("Previews", "Pictures over the Seek Bar"),
+    Switching<Choice::MusicView>("MusicView", "Cover and Bars with Music"),
     Command{ .id = "SleepTimer",
         .caption = "Stop by the Cloc&k",
         .keys = kCtrlT,

@@ -5,6 +5,8 @@
 #include "app/InspectionThreads.h"
 #include "app/Language.h"
 #include "app/MediaRemote.h"
+#include "app/MusicStage.h"
+#include "app/MusicThreads.h"
 #include "app/Player.h"
 #include "app/PreviewThreads.h"
 #include "app/frmMain.h"
@@ -221,10 +223,18 @@ int main(int argc, char** argv)
             &DecodePictureBytes },
         onWindowThread);
     Previews previews(previewThreads, &platform::IsOnRemovableDisc, after);
+    MusicThreads musicThreads({ [inspectionBase] { return inspectionBase()->ffmpeg; },
+                                  [](const std::string& path) {
+                                      return platform::IsOnOtherMachine(path) || platform::IsOnRemovableDisc(path);
+                                  },
+                                  &DecodePictureFile, workingFolder, separator },
+        onWindowThread);
+    Music music(musicThreads);
     DriveQueries drives(platform::Drives::Open(), onWindowThread);
     const bool isToldOfDiscs = drives.Watch();
     const auto endProcess = [&] {
         previewThreads.Close();
+        musicThreads.Close();
         inspections.CancelAll();
         platform::RemoveFolder(workingFolder);
         sleepInhibitor.reset();
@@ -271,13 +281,23 @@ int main(int argc, char** argv)
         player.Files().InspectionCompleted(ticket, std::move(result));
     };
     player.Files().Better().order = [&](const BetterOrder& order) {
-        previewThreads.FindTelling(order.path, order.length,
-            [&player, id = order.id](Picture picture) { player.Files().Better().Found(id, std::move(picture)); });
+        const auto found = [&player, id = order.id](
+                               Picture picture) { player.Files().Better().Found(id, std::move(picture)); };
+        if (order.isSong)
+            musicThreads.FindRowCover(order.path, found);
+        else
+            previewThreads.FindTelling(order.path, order.length, found);
+    };
+    player.Files().Better().isStandIn = [inspectionBase](const Picture& picture) {
+        return picture == inspectionBase()->defaultAudioPicture;
     };
     frmMain window(player, previews, video, ToQString(programFolder));
     Dialogs dialogs(window, player, programFolder, language);
 
-    MediaRemote remote(player, RemoteWindow(window, workingFolder));
+    MusicStage stage(player, music, *video, ToQString(programFolder) + "Audio.JPG");
+    auto remoteWindow = RemoteWindow(window, workingFolder);
+    remoteWindow.coverFile = [&music](std::uint64_t track) { return music.CoverFileOf(track); };
+    MediaRemote remote(player, std::move(remoteWindow));
     if (!player.Load(commandLine, { &window, &dialogs }))
         endProcess();
     const auto mediaControl = platform::MediaControl::Open(
@@ -290,8 +310,11 @@ int main(int argc, char** argv)
             QMetaObject::invokeMethod(&application, obey, Qt::QueuedConnection);
         },
         window.winId());
-    if (mediaControl)
-        window.Timers().settled = [&] { mediaControl->Publish(remote.Status()); };
+    window.Timers().settled = [&] {
+        stage.Follow();
+        if (mediaControl)
+            mediaControl->Publish(remote.Status());
+    };
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
         [&] { IgnoreFailure(player.WriteConfigurations()); });
     // As at a logout, when the display is gone before anybody has asked the player to end.

@@ -16,6 +16,10 @@ struct MediaTrack {
     std::uint64_t id = 0; ///< 0: none
     std::string title;
     std::string path;
+    std::string artist = {};
+    std::string album = {};
+    int number = 0; ///< on the album; 0 while unknown
+    int year = 0;   ///< as above
     bool operator==(const MediaTrack&) const = default;
 };
 

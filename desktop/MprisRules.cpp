@@ -91,6 +91,13 @@ std::uint64_t MprisTrackOf(std::string_view objectPath)
     return error == std::errc() && end == digits.data() + digits.size() ? track : 0;
 }
 
+std::string MprisDate(int year)
+{
+    auto digits = std::to_string(year);
+    digits.insert(0, digits.size() < 4 ? 4 - digits.size() : 0, '0');
+    return digits + "-01-01T00:00:00Z";
+}
+
 std::string FileUri(std::string_view path)
 {
     std::string uri = "file://";

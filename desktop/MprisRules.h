@@ -22,6 +22,9 @@ std::string MprisTrackPath(std::uint64_t track);
 /// 0 for a path that names no track of ours.
 std::uint64_t MprisTrackOf(std::string_view objectPath);
 
+/// The first moment of that year.
+std::string MprisDate(int year);
+
 /// "file:" and the absolute path, with everything escaped that needs it.
 std::string FileUri(std::string_view path);
 /// Nothing for a URI of any other scheme or of another machine.

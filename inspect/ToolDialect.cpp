@@ -86,6 +86,7 @@ public:
         const auto stream = TakeApart(line);
         if (stream && IsAtStreamLevel(*stream)) {
             m_inSideData = false;
+            m_inSound = stream->kind == StreamKind::Audio;
             m_current = Pass(*stream);
         } else if (Trimmed(line) == "Side data:") {
             m_inSideData = true;
@@ -93,6 +94,8 @@ public:
             m_report.streams.back().lying = true;
         }
     }
+    /// The lines that follow tell of a stream of sound.
+    bool IsInSound() const { return m_inSound; }
 
 private:
     /// Tags are printed deeper than the streams they belong to, so they cannot pass for one.
@@ -130,6 +133,7 @@ private:
     std::size_t m_indent = 0; // of the first stream line
     bool m_grouped = false;
     bool m_inSideData = false;
+    bool m_inSound = false;
     bool m_current = false; // the last stream line was passed on
 };
 
@@ -147,7 +151,7 @@ ClassicReport ToClassicReport(std::string_view log, std::string_view commandText
     AppendLine(report.text, InputLine(*line, rest, inputName));
 
     for (line = NextLine(rest); line && !line->starts_with(kDurationMark); line = NextLine(rest))
-        ReadTagLine(*line, report.tags);
+        ReadTagLine(*line, true, report.tags);
     if (!line)
         return report;
     AppendLine(report.text, DurationLine(*line));
@@ -155,7 +159,7 @@ ClassicReport ToClassicReport(std::string_view log, std::string_view commandText
     StreamLineReader streams(report);
     while ((line = NextLine(rest))) {
         streams.Read(*line);
-        ReadTagLine(*line, report.tags);
+        ReadTagLine(*line, streams.IsInSound(), report.tags);
     }
     return report;
 }

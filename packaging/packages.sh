@@ -29,6 +29,7 @@ libsystemd-dev          sd-bus: speaks to the login manager, the disk service an
 libdvdread-dev          finds the video folder of a disc that is not mounted
 qt6-l10n-tools          compiles the texts of other languages
 libsqlite3-dev          keeps what is known of files that were seen
+libkissfft-dev          a header that takes sound apart into its tones, for the bars that move with music
 nlohmann-json3-dev      prints what zentaro-inspect knows as JSON
 librsvg2-bin            draws the SVG sources of all pictures
 icoutils                packs the icons of Windows

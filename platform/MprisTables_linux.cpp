@@ -44,6 +44,12 @@ int AppendEntry(sd_bus_message* message, const char* key, const char* type, auto
     return sd_bus_message_append(message, "{sv}", key, type, value);
 }
 
+/// For what can have several.
+int AppendEntryOfTexts(sd_bus_message* message, const char* key, const std::string& text)
+{
+    return sd_bus_message_append(message, "{sv}", key, "as", 1, text.c_str());
+}
+
 } // namespace
 
 int AppendMetadata(sd_bus_message* message, const MediaTrack& track, const MediaStatus& status)
@@ -54,6 +60,14 @@ int AppendMetadata(sd_bus_message* message, const MediaTrack& track, const Media
     if (track.id != 0) {
         AppendEntry(message, "mpris:trackid", "o", MprisTrackPath(track.id).c_str());
         AppendEntry(message, "xesam:title", "s", BusText(track.title).c_str());
+        if (!track.artist.empty())
+            AppendEntryOfTexts(message, "xesam:artist", BusText(track.artist));
+        if (!track.album.empty())
+            AppendEntry(message, "xesam:album", "s", BusText(track.album).c_str());
+        if (track.number > 0)
+            AppendEntry(message, "xesam:trackNumber", "i", static_cast<std::int32_t>(track.number));
+        if (track.year > 0)
+            AppendEntry(message, "xesam:contentCreated", "s", MprisDate(track.year).c_str());
         // A disc has a location that nobody else could open.
         if (track.path.starts_with('/'))
             AppendEntry(message, "xesam:url", "s", FileUri(track.path).c_str());

@@ -94,6 +94,8 @@ public:
     /// The surface is no longer what the frame shows.
     void Forget(const VideoSurface& surface);
     void ShowAudioLogo(bool shown);
+    /// What lies over it is seen whenever it is.
+    QWidget& AudioLogo() { return *m_logo; }
     /// Whether the pointer is seen over the video.
     void ShowPointer(bool shown) { ShowPointerAs(shown ? Qt::ArrowCursor : Qt::BlankCursor); }
     void ShowPointerAs(Qt::CursorShape shape);

@@ -31,7 +31,7 @@ bool BetterPictures::IsWanted(int row) const
     const auto& picture = m_playlist.List().Item(row).Pic;
     const auto& facts = m_playlist.FactsAt(row);
     // One that could not be had again when it has gone stays.
-    return picture && !IsLarge(picture) && facts.width > 0 && facts.duration > 0 && m_playlist.IsThumbnailKept(row)
+    return picture && (!IsLarge(picture) || isStandIn(picture)) && facts.duration > 0 && m_playlist.IsThumbnailKept(row)
         && !m_without.contains(m_playlist.IdAt(row));
 }
 
@@ -43,14 +43,15 @@ void BetterPictures::GoOn()
         if (!IsWanted(row))
             continue;
         m_ordered = m_playlist.IdAt(row);
-        return order({ m_ordered, m_playlist.PathAt(row), m_playlist.FactsAt(row).duration * 1000 });
+        const auto& facts = m_playlist.FactsAt(row);
+        return order({ m_ordered, m_playlist.PathAt(row), facts.duration * 1000, facts.width <= 0 });
     }
 }
 
 void BetterPictures::Found(std::uint64_t id, Picture picture)
 {
     m_ordered = 0;
-    if (const auto row = m_playlist.IndexOf(id); row && picture) {
+    if (const auto row = m_playlist.IndexOf(id); row && IsLarge(picture)) {
         m_playlist.SetThumbnail(id, std::move(picture), true);
         m_better.push_back(id);
         DropFarOnes();

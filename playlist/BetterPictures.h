@@ -10,15 +10,16 @@
 
 namespace zentaro {
 
-/// A film of which a larger thumbnail is wanted, one by which it is recognised.
+/// A film or song of which a larger thumbnail is wanted, one by which it is recognised.
 struct BetterOrder {
     std::uint64_t id = 0; ///< the entry's
     std::string path;
     double length = 0; ///< ms
+    bool isSong = false;
 };
 
-/// Has the thumbnails of the films in sight replaced by larger ones in the shape in which they are seen, one by one,
-/// and lets those go again that are far away.
+/// Has the thumbnails of the films and songs in sight replaced by larger ones in the shape in which they are seen, one
+/// by one, and lets those go again that are far away.
 class BetterPictures {
 public:
     explicit BetterPictures(Playlist& playlist)
@@ -28,6 +29,9 @@ public:
 
     /// Asks for one; Found() follows, never from within. Without it the thumbnails stay as they are.
     std::function<void(const BetterOrder&)> order;
+
+    /// Whether a picture stands for many entries.
+    std::function<bool(const Picture&)> isStandIn = [](const Picture&) { return false; };
 
     void RowsInSight(int first, int last);
     /// Thumbnails have come, or there is time now.

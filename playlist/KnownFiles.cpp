@@ -11,7 +11,7 @@ namespace zentaro {
 namespace {
 
 // To be raised when the same file gives another report, picture or box than before.
-constexpr std::uint32_t kVersion = 3;
+constexpr std::uint32_t kVersion = 4;
 
 /// Values one after the other, texts behind their length.
 class Packer {
@@ -92,7 +92,7 @@ std::string PackInspection(const FileStamp& stamp, const Inspection& inspection)
     Packer packer;
     packer.Add(kVersion).Add(stamp.size).Add(stamp.changed).Add(inspection.mediaInfo).Add(inspection.pictureFile);
     packer.Add(facts.duration).Add(facts.width).Add(facts.height).Add(facts.fileSize);
-    packer.Add(facts.artist).Add(facts.album);
+    packer.Add(facts.artist).Add(facts.album).Add(facts.song).Add(facts.number).Add(facts.year);
     packer.Add(static_cast<std::uint32_t>(inspection.notices.size()));
     for (const auto& notice : inspection.notices)
         packer.Add(notice.text).Add(notice.icon).Add(notice.title);
@@ -120,6 +120,9 @@ std::optional<Inspection> UnpackInspection(std::string_view packed, const FileSt
     unpacker.Get(inspection.facts.fileSize);
     unpacker.Get(inspection.facts.artist);
     unpacker.Get(inspection.facts.album);
+    unpacker.Get(inspection.facts.song);
+    unpacker.Get(inspection.facts.number);
+    unpacker.Get(inspection.facts.year);
     std::uint32_t notices = 0;
     unpacker.Get(notices);
     for (; notices > 0 && unpacker.IsGood(); --notices) {

@@ -14,6 +14,9 @@ struct MediaFacts {
     std::int64_t modified = 0; // seconds since 1970
     std::string artist = {};
     std::string album = {};
+    std::string song = {}; // its title, by the file itself
+    int number = 0;        // on the album
+    int year = 0;
     bool operator==(const MediaFacts&) const = default;
 };
 

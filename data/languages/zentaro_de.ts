@@ -888,6 +888,14 @@
         <translation>Angehalten bei %1</translation>
     </message>
     <message>
+        <source>Cover and Bars with Music</source>
+        <translation>Cover und Balken zur Musik</translation>
+    </message>
+    <message>
+        <source>Track %1</source>
+        <translation>Titel %1</translation>
+    </message>
+    <message>
         <source>Pictures over the Seek Bar</source>
         <translation>Bilder über dem Suchbalken</translation>
     </message>

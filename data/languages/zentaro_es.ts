@@ -888,6 +888,14 @@
         <translation>En pausa en %1</translation>
     </message>
     <message>
+        <source>Cover and Bars with Music</source>
+        <translation>Carátula y barras con la música</translation>
+    </message>
+    <message>
+        <source>Track %1</source>
+        <translation>Pista %1</translation>
+    </message>
+    <message>
         <source>Pictures over the Seek Bar</source>
         <translation>Imágenes sobre la barra de posición</translation>
     </message>

@@ -888,6 +888,14 @@
         <translation>En pause à %1</translation>
     </message>
     <message>
+        <source>Cover and Bars with Music</source>
+        <translation>Pochette et barres avec la musique</translation>
+    </message>
+    <message>
+        <source>Track %1</source>
+        <translation>Piste %1</translation>
+    </message>
+    <message>
         <source>Pictures over the Seek Bar</source>
         <translation>Images au-dessus de la barre de position</translation>
     </message>

@@ -888,6 +888,14 @@
         <translation>%1 で一時停止</translation>
     </message>
     <message>
+        <source>Cover and Bars with Music</source>
+        <translation>音楽のジャケットとバー</translation>
+    </message>
+    <message>
+        <source>Track %1</source>
+        <translation>トラック %1</translation>
+    </message>
+    <message>
         <source>Pictures over the Seek Bar</source>
         <translation>シークバーの上の画像</translation>
     </message>

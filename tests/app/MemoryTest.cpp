@@ -206,7 +206,7 @@ TEST(ListMemoryTest, a_list_comes_back_with_its_shuffled_order)
         const int count = static_cast<int>(random() % 30);
         for (int i = 0; i < count; ++i)
             playlist.Append({ "t" + std::to_string(i), "/p\n" + std::to_string(i), {}, "info\r\n", 0,
-                                { 1.5 * i, 2, 3, 4, 5, "artist", "album" } },
+                                { 1.5 * i, 2, 3, 4, 5, "artist", "album", "song", 6, 1987 } },
                 "detail");
         playlist.BuildShuffleOrder();
         if (count > 0)

@@ -108,7 +108,7 @@ TEST(ToolDialect, covers_turns_and_endless_times_are_remembered_beside_the_text)
         "  interlaced, chroma\n  Size [8 x 8]\n");
 }
 
-TEST(ToolDialectTags, artist_and_album_come_from_the_file_or_its_sound_and_from_nowhere_else)
+TEST(ToolDialectTags, they_come_from_the_file_or_its_sound_and_from_nowhere_else)
 {
     const auto tagsOf = [](const std::string& head, const std::string& tail) {
         return ToClassicReport("call\nInput #0, mp3, from 'artist : no.mp3':\n" + head
@@ -117,12 +117,17 @@ TEST(ToolDialectTags, artist_and_album_come_from_the_file_or_its_sound_and_from_
             .tags;
     };
     EXPECT_EQ(tagsOf("  Metadata:\n    title           : T\n    artist          : The Artist: one\n"
-                     "                    : artist : continued\n    ALBUM           : Of all\n",
+                     "                    : artist : continued\n    ALBUM           : Of all\n"
+                     "    track           : 3/12\n    date            : 1987-05-01\n",
                   "    Metadata:\n      artist          : Another\n"),
-        (MediaTags{ "The Artist: one", "Of all" }));
+        (MediaTags{ "The Artist: one", "Of all", "T", 3, 1987 }));
     EXPECT_EQ(tagsOf("",
+                  "  Chapters:\n    Chapter #0:0: start 0.0, end 1.0\n      Metadata:\n        title           : One\n"
                   "  Stream #0:0: Audio: vorbis, 44100 Hz, mono, fltp, 80 kb/s\n    Metadata:\n"
-                  "      ARTIST          : A\n      album           : \n"),
-        (MediaTags{ "A", "" }));
+                  "      ARTIST          : A\n      album           : \n      track           : A1\n      date         "
+                  "   : 0\n"
+                  "  Stream #0:1: Video: mjpeg, yuvj420p, 8x8, 90k tbr (attached pic)\n    Metadata:\n"
+                  "      title           : Front\n"),
+        (MediaTags{ "A" }));
     EXPECT_EQ(tagsOf("  Metadata:\n    artist\n    album_artist    : B\n", ""), MediaTags());
 }

@@ -22,7 +22,7 @@ protected:
     MediaControlLinuxTest()
     {
         status.playback = MediaPlayback::Paused;
-        status.track = { 7, "One \xFF", "/clips/one two.mp4" };
+        status.track = { 7, "One \xFF", "/clips/one two.mp4", "Who", "Low Tide", 3, 987 };
         status.artwork = "/tmp/art.png";
         status.length = 90'000;
         status.position = 12'000;
@@ -67,8 +67,8 @@ TEST_F(MediaControlLinuxTest, a_client_reads_what_was_published)
         "Paused\n12.000000\n1.000000\nNone\nOff");
     EXPECT_EQ(
         bus.OutputOf(
-            "playerctl metadata -f '{{title}}|{{xesam:url}}|{{mpris:artUrl}}|{{mpris:length}}|{{mpris:trackid}}'"),
-        "One \xEF\xBF\xBD|file:///clips/one%20two.mp4|file:///tmp/art.png|90000000|'/org/zentaro/track/7'");
+            "playerctl metadata -f '{{artist}}|{{album}}|{{xesam:trackNumber}}|{{xesam:contentCreated}}|{{title}}|{{xesam:url}}|{{mpris:artUrl}}|{{mpris:length}}|{{mpris:trackid}}'"),
+        "Who|Low Tide|3|0987-01-01T00:00:00Z|One \xEF\xBF\xBD|file:///clips/one%20two.mp4|file:///tmp/art.png|90000000|'/org/zentaro/track/7'");
     EXPECT_THAT(Busctl("call @.TrackList GetTracksMetadata ao 2 /org/zentaro/track/8 /org/zentaro/track/99"),
         testing::StartsWith("aa{sv} 1 3 \"mpris:trackid\" o \"/org/zentaro/track/8\" \"xesam:title\" s \"Two\""));
     EXPECT_EQ(Busctl("get-property @ CanQuit CanSetFullscreen CanRaise HasTrackList Identity DesktopEntry Fullscreen "

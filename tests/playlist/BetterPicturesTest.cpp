@@ -19,12 +19,13 @@ struct BetterPicturesTest : testing::Test {
             EXPECT_FALSE(asked) << "two at a time";
             asked = order;
         };
+        better.isStandIn = [this](const Picture& picture) { return picture == standIn; };
     }
     void Add(const std::string& name, bool isFilm = true, bool isKept = true)
     {
         MediaFacts facts{ .duration = 60 };
         facts.width = facts.height = isFilm ? 480 : 0;
-        list.Append({ name, "/" + name, OfSize(90, 72), "", 0, facts, isKept });
+        list.Append({ name, "/" + name, isFilm ? OfSize(90, 72) : standIn, "", 0, facts, isKept });
     }
     void Answer(Picture picture)
     {
@@ -33,12 +34,13 @@ struct BetterPicturesTest : testing::Test {
         better.Found(order->id, std::move(picture));
     }
 
+    const Picture standIn = OfSize(256, 256);
     Playlist list{ [] { return 0.0; } };
     BetterPictures better{ list };
     std::optional<BetterOrder> asked;
 };
 
-TEST_F(BetterPicturesTest, FilmsInSightGetThemOneByOneAndNobodyElse)
+TEST_F(BetterPicturesTest, WhatIsInSightGetsThemOneByOneAndNobodyElse)
 {
     Add("song", false);
     Add("a");
@@ -47,7 +49,10 @@ TEST_F(BetterPicturesTest, FilmsInSightGetThemOneByOneAndNobodyElse)
     Add("out of sight");
     better.RowsInSight(0, 3);
     ASSERT_TRUE(asked);
-    EXPECT_EQ(asked->path, "/a");
+    EXPECT_TRUE(asked->path == "/song" && asked->isSong);
+    Answer(OfSize(60, 60)); // a cover can be small
+    EXPECT_EQ(list.List().Item(0).Pic, standIn);
+    EXPECT_TRUE(asked->path == "/a" && !asked->isSong);
     EXPECT_EQ(asked->length, 60'000);
     better.RowsInSight(0, 3);
     Answer(OfSize(320, 180));

@@ -30,7 +30,7 @@ Inspection Film()
     film.mediaInfo = "Stream information of a film";
     film.pictureFile = std::string("\xFF\xD8\0jpg", 6);
     film.notices = { { "odd", NoticeIcon::Information, "title" }, { "also odd" } };
-    film.facts = { 61.5, 1280, 720, 5'000'000'000, 0, "Artist", "Album" };
+    film.facts = { 61.5, 1280, 720, 5'000'000'000, 0, "Artist", "Album", "Song", 3, 1987 };
     return film;
 }
 
