@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <random>
 #include <utility>
 
 namespace zentaro {
@@ -53,6 +54,19 @@ QStringList Wrapped(const QString& text, const QFont& font, int width, int most)
     }
     layout.endLayout();
     return lines;
+}
+
+/// Of one step of brightness: without it a dark gradient shows bands.
+QImage Grain()
+{
+    constexpr int side = 128;
+    QImage grain(side, side, QImage::Format_ARGB32);
+    std::minstd_rand random(7);
+    for (int y = 0; y < side; ++y) {
+        for (int x = 0; x < side; ++x)
+            grain.setPixelColor(x, y, random() % 2 == 0 ? QColor(255, 255, 255, 3) : QColor(0, 0, 0, 3));
+    }
+    return grain;
 }
 
 QFont Letters(const QFont& of, int size, bool isBold)
@@ -175,6 +189,7 @@ void MusicView::PaintRoom(QPainter& painter, const QRect& cover) const
     edge.setAlpha(0);
     glow.setColorAt(1, edge);
     painter.fillRect(rect(), glow);
+    painter.fillRect(rect(), QBrush(Grain()));
 }
 
 QImage MusicView::Art() const

@@ -31,8 +31,8 @@ bool BetterPictures::IsWanted(int row) const
     const auto& picture = m_playlist.List().Item(row).Pic;
     const auto& facts = m_playlist.FactsAt(row);
     // One that could not be had again when it has gone stays.
-    return picture && (!IsLarge(picture) || isStandIn(picture)) && facts.duration > 0 && m_playlist.IsThumbnailKept(row)
-        && !m_without.contains(m_playlist.IdAt(row));
+    const bool canGo = isStandIn(picture) || (!IsLarge(picture) && m_playlist.IsThumbnailKept(row));
+    return picture && canGo && facts.duration > 0 && !m_without.contains(m_playlist.IdAt(row));
 }
 
 void BetterPictures::GoOn()
@@ -52,8 +52,9 @@ void BetterPictures::Found(std::uint64_t id, Picture picture)
 {
     m_ordered = 0;
     if (const auto row = m_playlist.IndexOf(id); row && IsLarge(picture)) {
+        const auto before = m_playlist.List().Item(*row).Pic;
+        m_better.push_back({ id, isStandIn(before) ? before : Picture() });
         m_playlist.SetThumbnail(id, std::move(picture), true);
-        m_better.push_back(id);
         DropFarOnes();
     } else {
         m_without.insert(id);
@@ -64,13 +65,13 @@ void BetterPictures::Found(std::uint64_t id, Picture picture)
 void BetterPictures::DropFarOnes()
 {
     for (auto left = m_better.size(); m_better.size() > kMost && left > 0; --left) {
-        const auto id = m_better.front();
+        const auto far = m_better.front();
         m_better.pop_front();
-        const auto row = m_playlist.IndexOf(id);
+        const auto row = m_playlist.IndexOf(far.id);
         if (row && ((*row >= m_first && *row <= m_last) || *row == m_playlist.List().PlayingItem()))
-            m_better.push_back(id);
+            m_better.push_back(far);
         else if (row && IsLarge(m_playlist.List().Item(*row).Pic))
-            m_playlist.SetThumbnail(id, {}, true);
+            m_playlist.SetThumbnail(far.id, far.standIn, far.standIn.IsEmpty());
     }
 }
 

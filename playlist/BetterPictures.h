@@ -48,7 +48,11 @@ private:
     int m_last = -1;
     std::uint64_t m_ordered = 0;                 // the entry that is asked for; 0: none
     std::unordered_set<std::uint64_t> m_without; // those of which there is none
-    std::deque<std::uint64_t> m_better;          // the others, by age
+    struct Better {
+        std::uint64_t id = 0; // the entry's
+        Picture standIn;      // that was in its place; empty for a picture that can be had again
+    };
+    std::deque<Better> m_better; // the others, by age
 };
 
 } // namespace zentaro

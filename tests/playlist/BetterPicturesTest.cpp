@@ -42,7 +42,7 @@ struct BetterPicturesTest : testing::Test {
 
 TEST_F(BetterPicturesTest, WhatIsInSightGetsThemOneByOneAndNobodyElse)
 {
-    Add("song", false);
+    Add("song", false, false);
     Add("a");
     Add("stand-in", true, false);
     Add("b");
@@ -82,6 +82,15 @@ TEST_F(BetterPicturesTest, AnEntryMayBeGoneWhenItsPictureComesAndFarOnesGo)
     EXPECT_LE(large, 100);
     EXPECT_GE(large, 50);
     EXPECT_EQ(list.List().Item(198).Pic.Width(), 320) << "it is in sight";
+    Add("song", false, false);
+    better.RowsInSight(199, 199);
+    Answer(OfSize(300, 300));
+    for (int row = 0; row < 199; ++row) {
+        better.RowsInSight(row, row);
+        if (asked)
+            Answer(OfSize(320, 180));
+    }
+    EXPECT_EQ(list.List().Item(199).Pic, standIn) << "it comes from nowhere else";
 }
 
 } // namespace
