@@ -85,10 +85,10 @@ TEST_F(BetterPicturesTest, AnEntryMayBeGoneWhenItsPictureComesAndFarOnesGo)
     Add("song", false, false);
     better.RowsInSight(199, 199);
     Answer(OfSize(300, 300));
-    for (int row = 0; row < 199; ++row) {
+    for (int row = 200; row < 300; ++row) {
+        Add("further " + std::to_string(row));
         better.RowsInSight(row, row);
-        if (asked)
-            Answer(OfSize(320, 180));
+        Answer(OfSize(320, 180));
     }
     EXPECT_EQ(list.List().Item(199).Pic, standIn) << "it comes from nowhere else";
 }
