@@ -8,7 +8,7 @@ namespace zentaro {
 namespace {
 
 constexpr double kJump = 400;         // ms; so far away nothing is caught up with
-constexpr double kLongestStep = 1500; // ms without a word of the engine, after which it may stand
+constexpr double kLongestStep = 2500; // ms without a word of the engine, after which it may stand
 constexpr double kCatchUp = 0.1;      // of the time that passes
 
 } // namespace

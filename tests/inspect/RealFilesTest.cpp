@@ -1,7 +1,9 @@
 #include "inspect/ConsoleToolRunner.h"
+#include "inspect/CoverPicture.h"
 #include "inspect/DiskFiles.h"
 #include "inspect/PreviewPicture.h"
 #include "inspect/QtServices.h"
+#include "inspect/SoundBars.h"
 #include "inspect/clsAVIDelay.h"
 #include "inspect/clsSource.h"
 #include "platform/Files.h"
@@ -165,6 +167,45 @@ TEST_F(RealFiles, a_cover_is_the_picture_of_a_sound)
     EXPECT_EQ(source.StreamImage(0), m_context.defaultAudioPicture);
     EXPECT_EQ(CentreOf(source.Outcome().lastPicture) & kColourBits, kRed);
     EXPECT_EQ(source.Outcome().lastPicture.Width(), 90);
+}
+
+TEST_F(RealFiles, a_cover_to_look_at_comes_from_the_file_or_from_a_picture_beside_it)
+{
+    ASSERT_TRUE(Make("red.png", "-f lavfi -i color=red:size=1600x800 -frames:v 1"));
+    ASSERT_TRUE(Make("plain.ogg", kSound));
+    const auto coverOf = [&](const std::string& song) {
+        const auto file = Path("scratch/cover.jpg");
+        const bool isMade = MakeCover(m_context.ffmpeg, Path(song), '/', file, 1000, m_toolContext);
+        auto cover = isMade ? DecodePictureFile(file) : Picture();
+        fs::remove(file);
+        return cover;
+    };
+    for (const std::string name : { "a.mp3", "a.m4a", "a.flac" }) {
+        ASSERT_TRUE(
+            Make(name, kSound + " -i red.png -map 0 -map 1 -c:v mjpeg -pix_fmt yuvj420p -disposition:v attached_pic"));
+        const auto cover = coverOf(name);
+        EXPECT_EQ(cover.Width(), 1000) << name;
+        EXPECT_EQ(cover.Height(), 500) << name;
+        EXPECT_EQ(CentreOf(cover) & kColourBits, kRed) << name;
+    }
+    EXPECT_FALSE(coverOf("plain.ogg"));
+    fs::copy(Path("red.png"), Path("Folder.PNG"));
+    EXPECT_EQ(CentreOf(coverOf("plain.ogg")) & kColourBits, kRed);
+}
+
+TEST_F(RealFiles, a_piece_of_sound_has_its_samples_and_what_lies_behind_the_end_has_none)
+{
+    ASSERT_TRUE(Make("five.mp3", "-f lavfi -i sine=frequency=1000:duration=5"));
+    const auto samplesOf = [&](const SoundPiece& piece) {
+        const auto output = Path("scratch/sound.raw");
+        m_tools.RunAndWait(SoundCommand(m_context.ffmpeg, piece, output));
+        const auto sound = platform::ReadTextFile(output, 1 << 20).value_or("");
+        fs::remove(output);
+        return static_cast<double>(sound.size()) / 2 / kBarSoundRate;
+    };
+    EXPECT_NEAR(samplesOf({ Path("five.mp3"), 0, 2 }), 2, 0.05);
+    EXPECT_NEAR(samplesOf({ Path("five.mp3"), 4, 60 }), 1, 0.1);
+    EXPECT_EQ(samplesOf({ Path("five.mp3"), 60, 60 }), 0);
 }
 
 TEST_F(RealFiles, a_film_taken_upright_stands_upright)
