@@ -58,10 +58,12 @@ QAccessibleInterface* MakeAccessibleWindow(const QString&, QObject* object)
     return window != nullptr ? new QAccessibleWidget(window, QAccessible::Window) : nullptr;
 }
 
+constexpr Qt::WindowFlags kFlags = Qt::FramelessWindowHint | Qt::Window;
+
 } // namespace
 
 WindowFrame::WindowFrame()
-    : QWidget(nullptr, Qt::FramelessWindowHint | Qt::Window)
+    : QWidget(nullptr, kFlags)
 {
     QAccessible::installFactory(&MakeAccessibleWindow);
     setMinimumSize(WindowLayout::kMinimumWidth, WindowLayout::kMinimumHeight);
@@ -77,6 +79,13 @@ WindowFrame::WindowFrame()
 
 void WindowFrame::LeaveFrameToSystem()
 {
+    // On Windows, Qt brings Direct3D up to look at the graphics cards before it makes a window that is no dialog.
+    if (QGuiApplication::platformName() == "windows") {
+        overrideWindowFlags(Qt::FramelessWindowHint | Qt::Dialog);
+        create();
+        overrideWindowFlags(kFlags);
+        windowHandle()->setFlags(kFlags);
+    }
     platform::TakeFrame(
         winId(), { [this](int x, int y) { return PartAt(x, y); }, [this] { emit PointerRestsOnCaption(); } });
 }

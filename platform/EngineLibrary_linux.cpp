@@ -7,4 +7,9 @@ Result<void> LoadEngineLibrary()
     return {};
 }
 
+std::optional<PluginList> OwnPluginList()
+{
+    return {};
+}
+
 } // namespace zentaro::platform

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstring>
 #include <string>
+#include <sys/stat.h>
 #include <vector>
 
 namespace zentaro::platform {
@@ -64,6 +65,28 @@ Result<void> LoadEngineLibrary()
     if (!isLoaded)
         return Error{ ERROR_MOD_NOT_FOUND, kMissing };
     return {};
+}
+
+std::optional<PluginList> OwnPluginList()
+{
+    std::array<char, 32768> path{};
+    const HMODULE library = GetModuleHandleA(kName);
+    if (library == nullptr || GetModuleFileNameA(library, path.data(), path.size()) == 0)
+        return std::nullopt;
+    const auto folder = ExecutableFolder() + "\\";
+    if (folder + kName != path.data())
+        return std::nullopt;
+    const auto plugins = folder + "plugins\\";
+    WIN32_FIND_DATAA found{};
+    const HANDLE search = FindFirstFileA((plugins + "access\\*.dll").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return std::nullopt;
+    FindClose(search);
+    // The compiler's own call, as the library's: it need not agree with the system about summer time.
+    struct _stat64 status { };
+    if (_stat64((plugins + "access\\" + found.cFileName).c_str(), &status) != 0)
+        return std::nullopt;
+    return PluginList{ plugins + "plugins.dat", status.st_mtime };
 }
 
 } // namespace zentaro::platform

@@ -218,6 +218,12 @@ void TakeFrame(NativeWindow window, FrameFace face)
 
 void ShowProgress(NativeWindow window, int done, int total)
 {
+    // One file is opened in a moment.
+    const bool isLong = total > 1;
+    static bool isShown = false;
+    if (!isLong && !isShown)
+        return;
+    isShown = isLong;
     static const auto taskbar = [] {
         ITaskbarList3* made = nullptr;
         CoCreateInstance(
@@ -226,9 +232,8 @@ void ShowProgress(NativeWindow window, int done, int total)
     }();
     if (!taskbar)
         return;
-    // One file is opened in a moment.
-    taskbar->SetProgressState(HandleOf(window), total > 1 ? TBPF_NORMAL : TBPF_NOPROGRESS);
-    if (total > 1)
+    taskbar->SetProgressState(HandleOf(window), isLong ? TBPF_NORMAL : TBPF_NOPROGRESS);
+    if (isLong)
         taskbar->SetProgressValue(HandleOf(window), static_cast<ULONGLONG>(done), static_cast<ULONGLONG>(total));
 }
 
@@ -242,12 +247,12 @@ void FlashWindowOnce(NativeWindow window)
     FlashWindow(HandleOf(window), TRUE);
 }
 
-// Direct3D brings a software renderer of its own and chooses by itself.
 void GrabByKeys(NativeWindow window, bool resizes)
 {
     PostMessageW(HandleOf(window), WM_SYSCOMMAND, resizes ? SC_SIZE : SC_MOVE, 0);
 }
 
+// Direct3D brings a software renderer of its own and chooses by itself.
 bool HasGraphicsCard()
 {
     return true;

@@ -35,4 +35,12 @@ EngineOptions WithSnapshotFolder(
     return options;
 }
 
+bool KnowsPlugin(std::string_view list, std::int64_t changed)
+{
+    std::string number(sizeof changed, '\0');
+    for (std::size_t i = 0; i < number.size(); ++i)
+        number[i] = static_cast<char>(changed >> 8 * i & 0xFF);
+    return list.find(number) != std::string_view::npos;
+}
+
 } // namespace zentaro

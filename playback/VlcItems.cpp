@@ -1,8 +1,10 @@
 #include "playback/VlcItems.h"
 
 #include "platform/EngineLibrary.h"
+#include "platform/Files.h"
 #include "platform/Process.h"
 #include "platform/Window.h"
+#include "playback/EngineOptions.h"
 #include "playback/VideoFrame.h"
 
 #include <QCoreApplication>
@@ -43,6 +45,14 @@ std::vector<std::string> CommonArguments(bool plainOutput)
     return arguments;
 }
 
+/// Without its list the library loads every plug-in at each start to see what it can do.
+bool MustListPlugins()
+{
+    constexpr std::size_t limit = 16 << 20; // bytes; a thousand plug-ins need less than one
+    const auto list = platform::OwnPluginList();
+    return list && !KnowsPlugin(platform::ReadTextFile(list->path, limit).value_or(""), list->changed);
+}
+
 /// Engine threads, where the library may not be called.
 void TellLater(std::weak_ptr<std::function<void()>> heard)
 {
@@ -80,7 +90,10 @@ Result<void> VlcItems::Prepare()
     // Finding the plug-ins takes longest at a start; the window comes up meanwhile.
     m_base = std::async(std::launch::async, [plain = m_plainOutput] {
         platform::SilenceSoundLibrary();
-        return StartLibrary(CommonArguments(plain));
+        auto arguments = CommonArguments(plain);
+        if (MustListPlugins())
+            arguments.push_back("--reset-plugins-cache");
+        return StartLibrary(arguments);
     }).share();
     return {};
 }

@@ -256,6 +256,12 @@ TEST_F(OnWine, files_with_paths_of_all_kinds_are_handed_over_and_play)
     for (int i = 0; i < 4; ++i)
         deep += std::string(80, static_cast<char>('a' + i)) + '/';
     CopyOf(Film(), "here/relative.mkv");
+    // A share of another machine, as Wine has it.
+    const std::string shares = g_prefix + "/dosdevices/unc/host/";
+    fs::create_directories(shares);
+    fs::remove(shares + "films");
+    fs::create_directory_symlink(InHome("shared"), shares + "films");
+    CopyOf(Film(), "shared/🎬 ä.mkv");
     const std::pair<std::string, std::string> files[] = {
         { "relative.mkv", "relative.mkv" },
         { Named(CopyOf(Film(), "🎬 films/späte 🎬.mkv")), "späte 🎬.mkv" },
@@ -263,7 +269,11 @@ TEST_F(OnWine, files_with_paths_of_all_kinds_are_handed_over_and_play)
         { Named(CopyOf(Film(), deep + "deep.mkv")), "deep.mkv" },
         { whole + Named(CopyOf(Film(), deep + "whole.mkv")), "whole.mkv" },
         { whole + Named(CopyOf(Film(), "dots. /in dots.mkv")), "in dots.mkv" },
+        { "\\\\host\\films\\🎬 ä.mkv", "🎬 ä.mkv" },
+        { whole + "UNC\\host\\films\\" + "far.mkv", "far.mkv" },
+        { Named(CopyOf(Film(), "dots/cut.mkv")) + ". ", "cut.mkv" },
     };
+    CopyOf(Film(), "shared/far.mkv");
     for (const auto& [path, name] : files) {
         EXPECT_EQ(
             Windows({ InHome("program/zentaro.exe"), path }, InHome("here")).WaitForEnd(4 * kPatience), kUsualEnd);
