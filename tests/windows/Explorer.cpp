@@ -55,10 +55,11 @@ IDataObject* MakeData(HGLOBAL drop)
 
 int main(int count, char** arguments)
 {
-    if (count == 1 && MakeWindow() != nullptr) {
+    if (count < 3 && MakeWindow() != nullptr) {
         std::puts("here");
         std::fflush(stdout);
-        Sleep(INFINITE);
+        Sleep(count == 1 ? INFINITE : 0);
+        return 0;
     }
     CLSID id{};
     IDropTarget* target = nullptr;
