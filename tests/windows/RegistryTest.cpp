@@ -1,4 +1,5 @@
 #include "platform/Files.h"
+#include "platform/RemovableDiscs.h"
 #include "platform/StringStore.h"
 #include "tests/platform/WorkingFolder.h"
 
@@ -69,6 +70,14 @@ TEST(FoldersOnWindows, an_absolute_path_has_a_drive_or_a_server)
         EXPECT_TRUE(IsAbsolutePath(path)) << path;
     for (const auto* path : { "", "a.avi", "C:a.avi", "\\a.avi", "C:", "\\\\" })
         EXPECT_FALSE(IsAbsolutePath(path)) << path;
+}
+
+TEST(FoldersOnWindows, a_share_is_on_another_machine)
+{
+    for (const auto* path : { R"(\\host\films\a.avi)", R"(\\?\UNC\host\films\a.avi)", R"(\\?\unc\host\films\a.avi)" })
+        EXPECT_TRUE(IsOnOtherMachine(path)) << path;
+    for (const auto* path : { R"(C:\UNC\a.avi)", R"(\\?\C:\a.avi)", "a.avi" })
+        EXPECT_FALSE(IsOnOtherMachine(path)) << path;
 }
 
 TEST(FoldersOnWindows, a_file_that_another_program_holds_is_not_missing)
