@@ -4,6 +4,7 @@
 # FOLDER takes their logs; display_pids are theirs.
 start_display() {
   local folder=$1 size=$2
+  rm -f "$folder/display" # of one before, whose number another program's display may have by now
   Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp -noreset 3>"$folder/display" 2>"$folder/xvfb.log" </dev/null &
   display_pids=($!)
   local number= tries=200
