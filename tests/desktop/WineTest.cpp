@@ -309,12 +309,13 @@ TEST_F(OnWine, a_selection_goes_to_one_player_in_natural_order)
     EXPECT_TRUE(player.WaitForTitle("film 9.mkv"));
     EXPECT_TRUE(Moves(VideoOf(player)));
     std::vector<std::string> added;
-    EXPECT_TRUE(WaitUntil([&] {
+    const auto areAllAdded = [&] {
         added.clear();
         for (const auto& entry : ParseList(ReadWholeFile(InHome("program/LastList.state"))).entries)
             added.push_back(entry.entry.Title);
         return added.size() == files.size() + 2;
-    }));
+    };
+    EXPECT_TRUE(WaitUntil(areAllAdded, 4 * kPatience)); // each brings up the tools twice
     // The two that were opened came after the others, or before one of them that was still looked at.
     std::erase_if(added, [](const auto& title) { return title == "film 9.mkv" || title == "film 10.mkv"; });
     for (std::size_t i = 0; i < added.size(); ++i)
@@ -336,9 +337,15 @@ TEST_F(OnWine, closes_while_opening_and_after_a_failure_and_when_all_was_played)
         settings.PlayMode = 0;
         settings.RepeatMode = 0;
     });
-    auto player = ShowPlayer({ Clip("short.mkv", "-c:v libtheora -c:a libvorbis", 6) });
+    auto player = ShowPlayer({ Clip("short.mkv", "-c:v libtheora -c:a libvorbis", 10) });
+    EXPECT_TRUE(Moves(VideoOf(player)));
     Screen().Activate(player.window);
-    Screen().Press("alt+p Up Right Up Return"); // "Shutdown the Computer" ends the program alone
+    const auto opensMenu = [&](const char* keys, std::size_t count) {
+        Screen().Press(keys);
+        return WaitUntil([&] { return Screen().MenusOf(player.process.Id()).size() == count; });
+    };
+    EXPECT_TRUE(opensMenu("alt+p", 1) && opensMenu("Up Right", 2));
+    Screen().Press("Up Return"); // "Shutdown the Computer" ends the program alone
     EXPECT_EQ(player.process.WaitForEnd(), kUsualEnd);
 }
 
