@@ -179,14 +179,16 @@ TEST(MusicLayout, NothingOverlapsOrLeavesTheAreaAtAnySize)
             const MusicLayout layout(width, height);
             const Rect area{ 0, 0, width, height };
             for (const auto& part : { layout.cover, layout.text, layout.bars }) {
-                if (part.width > 0 && part.height > 0)
+                if (part.width > 0 && part.height > 0) {
                     EXPECT_EQ(SharedArea(area, part), 1LL * part.width * part.height) << width << "x" << height;
+                }
             }
             EXPECT_EQ(SharedArea(layout.cover, layout.text), 0) << width << "x" << height;
             EXPECT_EQ(SharedArea(layout.text, layout.bars), 0) << width << "x" << height;
             EXPECT_EQ(SharedArea(layout.cover, layout.bars), 0) << width << "x" << height;
-            if (width >= 240 && height >= 120)
+            if (width >= 240 && height >= 120) {
                 EXPECT_TRUE(layout.cover.width >= 64 && layout.text.width >= 90) << width << "x" << height;
+            }
         }
     }
 }

@@ -128,6 +128,6 @@ TEST(ToolDialectTags, they_come_from_the_file_or_its_sound_and_from_nowhere_else
                   "   : 0\n"
                   "  Stream #0:1: Video: mjpeg, yuvj420p, 8x8, 90k tbr (attached pic)\n    Metadata:\n"
                   "      title           : Front\n"),
-        (MediaTags{ "A" }));
+        (MediaTags{ "A", "", "" }));
     EXPECT_EQ(tagsOf("  Metadata:\n    artist\n    album_artist    : B\n", ""), MediaTags());
 }
