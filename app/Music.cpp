@@ -43,43 +43,51 @@ std::vector<std::string> Song::Lines() const
 void Music::Follow(const std::optional<PlaylistEntry>& entry)
 {
     if (!entry) {
-        m_next = {};
+        m_song = {};
         LeaveBars();
         if (std::exchange(m_shown, std::nullopt))
             onNews();
         return;
     }
-    if (entry->Id == m_next.id)
+    if (entry->Id == m_song.id)
         return;
-    m_next = { entry->Id, entry->FullPath, entry->Facts.song.empty() ? entry->Title : entry->Facts.song, entry->Facts,
-        {} };
+    m_song = { entry->Id, entry->FullPath, entry->Facts.song.empty() ? entry->Title : entry->Facts.song, entry->Facts,
+        { entry->Thumbnail, {} } };
     LeaveBars();
     m_runner.FindCover(entry->FullPath, [this, id = entry->Id](Cover cover) {
-        if (id == m_next.id)
+        if (id == m_song.id)
             CoverFound(std::move(cover));
     });
+    Show();
 }
 
 void Music::CoverFound(Cover cover)
 {
-    m_next.cover = std::move(cover);
+    if (!cover.picture)
+        return;
+    m_song.cover = std::move(cover);
+    Show();
+}
+
+void Music::Show()
+{
     m_shown.reset();
-    if (IsTold(m_next.facts) || m_next.cover.picture)
-        m_shown = m_next;
+    if (IsTold(m_song.facts) || m_song.cover.picture)
+        m_shown = m_song;
     onNews();
 }
 
 std::string Music::CoverFileOf(std::uint64_t id) const
 {
-    return id != 0 && id == m_next.id ? m_next.cover.file : std::string();
+    return id != 0 && id == m_song.id ? m_song.cover.file : std::string();
 }
 
 void Music::WantBars(double time)
 {
-    if (!m_shown || m_shown->id != m_next.id || m_making >= 0)
+    if (!m_shown || m_making >= 0)
         return;
     for (const double moment : { time, time + kAhead }) {
-        const bool isInside = m_next.facts.duration <= 0 || moment < m_next.facts.duration * 1000;
+        const bool isInside = m_song.facts.duration <= 0 || moment < m_song.facts.duration * 1000;
         if (isInside && !m_bars.contains(PieceAt(moment)))
             return MakeBars(PieceAt(moment));
     }
@@ -88,7 +96,7 @@ void Music::WantBars(double time)
 void Music::MakeBars(int piece)
 {
     m_making = piece;
-    m_runner.MakeBars({ m_next.path, piece * kPiece, kPiece }, [this, piece](BarPictures pictures) {
+    m_runner.MakeBars({ m_song.path, piece * kPiece, kPiece }, [this, piece](BarPictures pictures) {
         m_making = -1;
         m_bars[piece] = std::move(pictures);
         // The one that lies farthest from where it plays.

@@ -58,9 +58,10 @@ public:
     Music(const Music&) = delete;
     Music& operator=(const Music&) = delete;
 
-    /// What plays, as the list knows it; nothing for what is no song. Its cover is looked for.
+    /// What plays, as the list knows it; nothing for what is no song. Its cover is looked for; the thumbnail, unless it
+    /// is one for all, stands for it until then.
     void Follow(const std::optional<PlaylistEntry>& entry);
-    /// Nothing where there is none, or nothing is known of it. A song stays until the cover of the next one is found.
+    /// Nothing where there is none, or nothing is known of it.
     const std::optional<Song>& Shown() const { return m_shown; }
     /// The file of that entry's cover; empty while it has none.
     std::string CoverFileOf(std::uint64_t id) const;
@@ -76,10 +77,11 @@ public:
 
 private:
     void CoverFound(Cover cover);
+    void Show();
     void MakeBars(int piece);
 
     MusicRunner& m_runner;
-    Song m_next; // id 0: none; the one that is shown, unless its cover is still looked for
+    Song m_song; // id 0: none
     std::optional<Song> m_shown;
     std::map<int, BarPictures> m_bars; // by piece
     int m_making = -1;

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 namespace zentaro {
 
@@ -27,16 +28,22 @@ MusicStage::MusicStage(Player& player, Music& music, VideoFrame& video, const QS
     m_timer.setInterval(kPictureTime);
     connect(&m_timer, &QTimer::timeout, this, &MusicStage::Tick);
     m_music.onNews = [this] {
-        m_view->ResetBars();
-        m_view->Show(m_music.Shown() ? &*m_music.Shown() : nullptr);
+        const auto& song = m_music.Shown();
+        if (const auto id = song ? song->id : 0; std::exchange(m_shown, id) != id)
+            m_view->ResetBars();
+        m_view->Show(song ? &*song : nullptr);
         Follow();
     };
 }
 
 std::optional<PlaylistEntry> MusicStage::PlayingSong() const
 {
-    const auto entry = m_player.Entries().EntryAt(m_player.Entries().List().PlayingItem());
-    return entry && entry->Facts.width <= 0 ? entry : std::nullopt;
+    auto entry = m_player.Entries().EntryAt(m_player.Entries().List().PlayingItem());
+    if (!entry || entry->Facts.width > 0)
+        return std::nullopt;
+    if (m_player.Files().Better().isStandIn(entry->Thumbnail))
+        entry->Thumbnail = {};
+    return entry;
 }
 
 void MusicStage::Follow()

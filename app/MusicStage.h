@@ -32,6 +32,7 @@ private:
     Player& m_player;
     Music& m_music;
     MusicView* m_view;
+    std::uint64_t m_shown = 0; // the song's id; 0 for none
     QTimer m_timer;
     QElapsedTimer m_sinceTick;
     SmoothClock m_clock;

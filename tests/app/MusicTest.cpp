@@ -54,40 +54,41 @@ struct MusicTest : testing::Test {
     const PlaylistEntry untold = SongNamed(2, { .duration = 200 });
 };
 
-TEST_F(MusicTest, ASongStaysUntilTheCoverOfTheNextIsFoundAndOneOfWhichNothingIsKnownIsNotShown)
+TEST_F(MusicTest, ASongIsShownAtOnceWithItsThumbnailAndThenItsCoverAndNotOneOfWhichNothingIsKnown)
 {
     music.Follow(told);
-    EXPECT_FALSE(music.Shown());
-    runner.covers[0].second({});
     ASSERT_TRUE(music.Shown());
     EXPECT_EQ(music.Shown()->title, "S");
     EXPECT_EQ(music.Shown()->Lines(), (std::vector<std::string>{ "A", "Track 3 \u00B7 1987" }));
+    runner.covers[0].second(cover);
+    EXPECT_EQ(music.Shown()->cover, cover);
+    EXPECT_EQ(music.CoverFileOf(1), "/cover.jpg");
     music.Follow(told);
     ASSERT_EQ(runner.covers.size(), 1U) << "looked for once";
     music.Follow(untold);
-    EXPECT_EQ(music.Shown()->id, 1U);
-    runner.covers[1].second({});
     EXPECT_FALSE(music.Shown());
-    music.Follow(told);
-    music.Follow(SongNamed(3, {}));
-    runner.covers[2].second(cover);
-    EXPECT_FALSE(music.Shown()) << "of a song that plays no longer";
-    EXPECT_EQ(music.CoverFileOf(1), "");
-    runner.covers[3].second(cover);
-    EXPECT_EQ(music.Shown()->title, "file 3");
-    EXPECT_EQ(music.CoverFileOf(3), "/cover.jpg");
+    EXPECT_EQ(music.CoverFileOf(1) + music.CoverFileOf(2), "");
+    runner.covers[1].second(cover);
+    EXPECT_EQ(music.Shown()->title, "file 2");
+    auto pictured = SongNamed(3, {});
+    pictured.Thumbnail = Picture(1, 1, { 0xFF445566 });
+    music.Follow(pictured);
+    runner.covers[1].second(cover);
+    EXPECT_EQ(music.Shown()->cover.picture, pictured.Thumbnail) << "that was of the song before";
+    runner.covers[2].second({});
+    EXPECT_EQ(music.Shown()->cover.picture, pictured.Thumbnail);
     music.Follow(std::nullopt);
     EXPECT_FALSE(music.Shown());
-    EXPECT_EQ(music.CoverFileOf(3), "");
 }
 
 TEST_F(MusicTest, BarsAreMadeWhereItPlaysThenAheadAndFewAreKept)
 {
     music.WantBars(0);
     music.Follow(told);
+    music.Follow(untold);
     music.WantBars(0);
-    EXPECT_TRUE(runner.made.empty()) << "nothing is shown yet";
-    runner.covers[0].second(cover);
+    EXPECT_TRUE(runner.made.empty()) << "nothing is shown";
+    music.Follow(told);
     music.WantBars(70'000);
     EXPECT_EQ(music.BarsAt(70'000), nullptr);
     runner.Answer();
