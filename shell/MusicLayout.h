@@ -15,6 +15,11 @@ struct MusicLayout {
     int titleSize = 0;     ///< px, of the letters
     int lineSize = 0;      ///< px, of the other lines
     bool isBeside = false; ///< the text stands beside the cover, from the left; else below it, in the middle
+
+private:
+    /// In that area; `side`: of the cover.
+    void PlaceBeside(const Rect& inner, int side, bool hasBars);
+    void PlaceBelow(const Rect& inner, bool hasBars);
 };
 
 } // namespace zentaro
