@@ -5,6 +5,7 @@
 #include "app/Player.h"
 #include "app/Snapshots.h"
 #include "app/VideoChoices.h"
+#include "base/Words.h"
 
 #include <algorithm>
 #include <array>
@@ -71,8 +72,13 @@ template <DiscKey Key, int Milliseconds> void Seek(Player& player, int)
 
 template <DiscKey Key, int Percent> void TurnVolume(Player& player, int)
 {
-    if (!player.Discs().Navigate(Key))
-        player.Transporting().SetVolume(player.State().volume + Percent);
+    if (player.Discs().Navigate(Key))
+        return;
+    const auto before = player.State().volume;
+    player.Transporting().SetVolume(before + Percent);
+    // A change shows by itself; at an end the key would seem dead.
+    if (player.State().volume == before)
+        player.Face().window->ShowNote(Words("Volume %1 %", { std::to_string(before) }));
 }
 
 template <int Direction> void StepChapter(Player& player, int)

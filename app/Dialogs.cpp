@@ -244,8 +244,10 @@ void Dialogs::OpenOptions(const std::vector<AssociationChoice>& choices)
     SetHelpTopic(*keys, "keys");
     auto* const options = new frmSettings(PagesOf(m_player.Settings()), Rows(choices), m_window.Pictures(), &m_window,
         { keys, new WaysPage(ChosenWays(m_player), [this](const WayChoices& chosen) { TakeWays(m_player, chosen); }),
-            new DisplayPage(ReadDisplay(m_player.Own()),
-                [this](const DisplayChoices& chosen) { KeepDisplay(m_player.Own(), chosen); }) });
+            new DisplayPage(ReadDisplay(m_player.Own()), [this](const DisplayChoices& chosen) {
+                KeepDisplay(m_player.Own(), chosen);
+                onDisplayChosen();
+            }) });
     QObject::connect(options, &frmSettings::Commit, &m_window,
         [this](const SettingsPages& shown, const SettingsPages& chosen) { m_player.CommitOptions(shown, chosen); });
     QObject::connect(

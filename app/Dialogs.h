@@ -37,6 +37,9 @@ public:
     void ShowCommandList() override;
     void ShowHelp() override;
 
+    /// Appearance was chosen anew, and is kept.
+    std::function<void()> onDisplayChosen = [] {};
+
 private:
     void OpenPage(const std::string& page);
     /// `open` runs beside the window; where it fails a box shows `complaint` and what was to be opened.

@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <array>
 #include <chrono>
 #include <utility>
 #include <vector>
@@ -181,9 +182,28 @@ void WindowFrame::KeepNormalGeometry()
         windowHandle()->setGeometry(FullScreenArea());
     if (isMaximized() || m_fullScreen || isMinimized())
         return;
+    if (!HasUsualSizeForScale())
+        return;
     const bool isResized = std::exchange(m_normal, geometry()).size() != size();
     if (isResized && !m_isStarting)
         emit NormalSizeChanged(width(), height());
+}
+
+bool WindowFrame::HasUsualSizeForScale()
+{
+    const auto before = std::exchange(m_scale, devicePixelRatio());
+    if (before == m_scale || before == 0 || m_isStarting || size() == m_normal.size())
+        return true;
+    // All of it stays on this screen: a middle that comes back to the other one would begin all over.
+    const auto room = screen()->availableGeometry();
+    if (m_given != m_normal.size())
+        m_wanted = m_normal.size();
+    m_given = m_wanted.boundedTo(room.size());
+    QRect place({}, m_given);
+    place.moveCenter(geometry().center());
+    place.moveTop(geometry().top());
+    setGeometry(zentaro::ToQt(MoveOntoScreen(FromQt(place), std::array{ FromQt(room) })));
+    return false;
 }
 
 void WindowFrame::resizeEvent(QResizeEvent*)

@@ -65,6 +65,9 @@ private:
     /// All of the screen that shows most of the window.
     QRect FullScreenArea() const;
     void KeepNormalGeometry();
+    /// On a screen of another scale a window system may leave a window its pixels, and so another size for its user.
+    /// False when it has.
+    bool HasUsualSizeForScale();
     /// By a point in physical pixels.
     desktop::FramePart PartAt(int x, int y) const;
     void UseCursorFor(const QPoint& at);
@@ -73,6 +76,9 @@ private:
 
     QTimer m_geometrySettled;
     QRect m_normal;
+    double m_scale = 0;               // of the screen where that was
+    QSize m_wanted;                   // where a screen had no room for it, and
+    QSize m_given;                    // what it got there
     std::optional<QPoint> m_dragFrom; // where the left button went down on something that can be dragged
     bool m_fullScreen = false;
     bool m_wasMaximized = false; // before full screen

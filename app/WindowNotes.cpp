@@ -3,6 +3,7 @@
 #include "app/Background.h"
 #include "app/Commands.h"
 #include "app/Player.h"
+#include "app/WindowFrame.h"
 #include "base/Words.h"
 #include "playback/TimeText.h"
 #include "playback/VideoFrame.h"
@@ -36,6 +37,10 @@ WindowNotes::WindowNotes(Player& player, QWidget& video, QWidget& content)
     , m_shownVolume(VolumeText())
 {
     LetCoverVideo(*m_box);
+    if (auto* const frame = qobject_cast<WindowFrame*>(content.window()))
+        QObject::connect(frame, &WindowFrame::FillsScreenChanged, m_box, [frame](bool fills) {
+            Announce(*frame, ToQString(Words(fills ? "Full Screen" : "No longer full screen")));
+        });
     QObject::connect(m_box, &NoteBox::OfferTaken, m_box, [this] { m_offered->run(m_player, 0); });
 }
 

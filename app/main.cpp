@@ -177,7 +177,8 @@ int main(int argc, char** argv)
     OwnSettings own(WithTrailingSeparator(platform::SettingsFolder(), separator) + "Own.cfg");
     own.Load();
     const auto display = ReadDisplay(own);
-    if (const auto scale = ScaleOf(display); scale > 1)
+    auto wishes = platform::SystemWishes();
+    if (const auto scale = ScaleOf(display) * wishes.textScale; scale > 1)
         qputenv("QT_SCALE_FACTOR", QByteArray::number(scale));
     // Qt takes words of its own from the command line; all of ours belong to the file.
     int ownArgument = 1;
@@ -189,8 +190,8 @@ int main(int argc, char** argv)
     const auto programFolder = WithTrailingSeparator(platform::ExecutableFolder(), separator);
     const auto language =
         SpeakLanguage(application, display.language, ToQString(programFolder + "languages" + separator));
-    const bool isAllChosen = display.highContrast && display.lessMotion;
-    style::Apply(application, NeedsOf(display, isAllChosen ? platform::Wishes() : platform::SystemWishes()));
+    const auto takeLook = [&] { style::Apply(application, NeedsOf(ReadDisplay(own), wishes)); };
+    takeLook();
     const auto workingFolder = MakeFolderOfThisRun();
     const auto store = platform::StringStore::Open();
     const auto historyStore = platform::StringStore::Open();
@@ -293,6 +294,7 @@ int main(int argc, char** argv)
     };
     frmMain window(player, previews, video, ToQString(programFolder));
     Dialogs dialogs(window, player, programFolder, language);
+    dialogs.onDisplayChosen = takeLook;
 
     MusicStage stage(player, music, *video, ToQString(programFolder) + "Audio.JPG");
     auto remoteWindow = RemoteWindow(window, workingFolder);
@@ -315,6 +317,12 @@ int main(int argc, char** argv)
         if (mediaControl)
             mediaControl->Publish(remote.Status());
     };
+    const auto wishWatch = platform::WishWatch::Open([&](const platform::Wishes& news) {
+        onWindowThread([&, news] {
+            wishes = news;
+            takeLook();
+        });
+    });
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &window,
         [&] { IgnoreFailure(player.WriteConfigurations()); });
     // As at a logout, when the display is gone before anybody has asked the player to end.

@@ -66,6 +66,7 @@ playerctl               a client of the media controls
 systemd                 busctl, another one
 at-spi2-core            the bus of screen readers
 python3-pyatspi         reads the window as they do
+orca                    one of them, whose words are read instead of heard
 weston                  a Wayland display in memory
 clang                   builds the fuzz targets
 libclang-rt-dev         libFuzzer and the sanitizers of clang

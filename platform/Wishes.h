@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
+#include <memory>
 #include <optional>
 
 namespace zentaro::platform {
@@ -19,10 +21,20 @@ struct WishedColours {
 struct Wishes {
     bool highContrast = false;
     bool lessMotion = false;
+    /// By which text is to be larger than usual, where the scale of the screens does not say so already.
+    double textScale = 1;
     std::optional<WishedColours> colours = std::nullopt; ///< only with high contrast, where the system names them
 };
 
 /// Takes 50 ms at the most: a system that does not answer has no wishes.
 Wishes SystemWishes();
+
+/// Tells of wishes that may be others than before. Sleeps until the system says so.
+class WishWatch {
+public:
+    virtual ~WishWatch() = default;
+    /// `changed` is called from any thread, and not any more when the object is gone. Null where nobody would tell.
+    static std::unique_ptr<WishWatch> Open(std::function<void(const Wishes&)> changed);
+};
 
 } // namespace zentaro::platform

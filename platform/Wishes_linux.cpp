@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 namespace zentaro::platform {
 namespace {
@@ -22,10 +23,12 @@ constexpr std::string_view kCommon = "org.freedesktop.appearance";
 constexpr std::string_view kGnome = "org.gnome.desktop.interface";
 constexpr std::string_view kGnomeContrast = "org.gnome.desktop.a11y.interface";
 constexpr std::string_view kKde = "org.kde.kdeglobals.KDE";
+constexpr std::string_view kGroups[] = { kCommon, kGnome, kGnomeContrast, kKde };
 
 struct Inquiry {
     Wishes wishes;
     bool isAnswered = false;
+    std::function<void(const Wishes&)> tell = nullptr;
 };
 
 /// Numbers and switches, also as texts; nothing for all else.
@@ -63,6 +66,7 @@ int OnAnswer(sd_bus_message* answer, void* asked, sd_bus_error*)
 {
     auto& inquiry = *static_cast<Inquiry*>(asked);
     inquiry.isAnswered = true;
+    inquiry.wishes = {};
     const char* group = nullptr;
     const char* key = nullptr;
     sd_bus_message_enter_container(answer, 'a', "{sa{sv}}");
@@ -78,6 +82,8 @@ int OnAnswer(sd_bus_message* answer, void* asked, sd_bus_error*)
         sd_bus_message_exit_container(answer);
         sd_bus_message_exit_container(answer);
     }
+    if (inquiry.tell && sd_bus_message_is_method_error(answer, nullptr) == 0)
+        inquiry.tell(inquiry.wishes);
     return 0;
 }
 
@@ -88,15 +94,58 @@ bool Ask(sd_bus* bus, Inquiry& inquiry)
     bool isSent = false;
     if (sd_bus_message_new_method_call(bus, &made, kService, kPath, kInterface, "ReadAll") >= 0) {
         sd_bus_message_set_auto_start(made, 0);
-        isSent =
-            sd_bus_message_append(made, "as", 4, kCommon.data(), kGnome.data(), kGnomeContrast.data(), kKde.data()) >= 0
+        sd_bus_message_open_container(made, 'a', "s");
+        for (const auto group : kGroups)
+            sd_bus_message_append(made, "s", group.data());
+        isSent = sd_bus_message_close_container(made) >= 0
             && sd_bus_call_async(bus, nullptr, made, &OnAnswer, &inquiry, 0) >= 0;
     }
     sd_bus_message_unref(made);
     return isSent;
 }
 
+class PortalWatch : public WishWatch, public BusClient {
+public:
+    explicit PortalWatch(std::function<void(const Wishes&)> changed)
+    {
+        m_inquiry.tell = std::move(changed);
+        m_thread = std::make_unique<BusThread>(SessionBusAddress(), *this);
+    }
+
+private:
+    void Connected(sd_bus* bus) override
+    {
+        sd_bus_match_signal_async(
+            bus, nullptr, kService, kPath, kInterface, "SettingChanged", &OnChange, nullptr, this);
+        // What changed since the start, or was not answered in its time.
+        m_isDue = true;
+    }
+    void Speak(sd_bus* bus) override
+    {
+        if (std::exchange(m_isDue, false))
+            Ask(bus, m_inquiry);
+    }
+    void Lost() override { }
+
+    static int OnChange(sd_bus_message* news, void* watch, sd_bus_error*)
+    {
+        const char* group = nullptr;
+        if (sd_bus_message_read(news, "s", &group) > 0)
+            static_cast<PortalWatch*>(watch)->m_isDue |= std::ranges::find(kGroups, group) != std::end(kGroups);
+        return 0;
+    }
+
+    Inquiry m_inquiry;
+    bool m_isDue = false;
+    std::unique_ptr<BusThread> m_thread; // goes first
+};
+
 } // namespace
+
+std::unique_ptr<WishWatch> WishWatch::Open(std::function<void(const Wishes&)> changed)
+{
+    return std::make_unique<PortalWatch>(std::move(changed));
+}
 
 Wishes SystemWishes()
 {

@@ -56,7 +56,7 @@ DisplayPage::DisplayPage(const DisplayChoices& choices, std::function<void(const
     fingers->setChecked(choices.forFingers);
     all->addWidget(fingers);
     all->addSpacing(9);
-    auto* const note = SecondText(tr("What is chosen here counts from the next start on."));
+    auto* const note = SecondText(tr("Language and size count from the next start on."));
     note->setWordWrap(true);
     all->addWidget(note);
     all->addStretch();

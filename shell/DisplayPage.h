@@ -10,7 +10,7 @@ class QFormLayout;
 
 namespace zentaro {
 
-/// How the window is shown to those who need it otherwise. All of it counts from the next start on.
+/// How the window is shown to those who need it otherwise. Language and size count from the next start on.
 struct DisplayChoices {
     std::string language;             ///< "de"; empty: the system's
     int scale = 100;                  ///< percent

@@ -1,5 +1,6 @@
 #include "shell/KeyedRows.h"
 
+#include "shell/Announcer.h"
 #include "shell/MenuText.h"
 #include "shell/QtText.h"
 #include "shell/Style.h"
@@ -8,6 +9,7 @@
 #include <QStyledItemDelegate>
 
 #include <algorithm>
+#include <utility>
 
 namespace zentaro {
 
@@ -106,6 +108,23 @@ void KeyedRows::Search(const QString& words)
             addItem(row);
     }
     setCurrentRow(count() > 0 ? 0 : -1);
+}
+
+void KeyedRows::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QListWidget::currentChanged(current, previous);
+    if (hasFocus() || !isVisible() || !current.isValid())
+        return;
+    const auto text = current.data(Qt::AccessibleTextRole).toString();
+    if (std::exchange(m_told, text) != text)
+        Announce(*window(), text);
+}
+
+void KeyedRows::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    // While words are typed elsewhere, a row that is told of as chosen would count as where the keys go.
+    hasFocus() ? QListWidget::selectionChanged(selected, deselected)
+               : QAbstractItemView::selectionChanged(selected, deselected);
 }
 
 } // namespace zentaro

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QListWidget>
+#include <QString>
 
 #include <string>
 #include <vector>
@@ -22,8 +23,13 @@ public:
     /// Leaves the rows whose names and keys have all these words, and chooses the first of them.
     void Search(const QString& words);
 
+protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
 private:
     std::vector<QListWidgetItem*> m_all; // those that are not shown are owned
+    QString m_told;
 };
 
 } // namespace zentaro

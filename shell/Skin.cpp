@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <atomic>
 #include <thread>
+#include <utility>
 
 namespace zentaro {
 
@@ -112,8 +113,7 @@ Result<void> Skin::Load(const QString& folder)
     for (std::size_t i = 0; i < files.size(); ++i) {
         if (decoded[i].isNull())
             return Error{ 0, "cannot load the picture " + ToText(folder) + files[i].name };
-        m_images[static_cast<std::size_t>(files[i].image)] =
-            style::HasHighContrast() ? WithHighContrast(decoded[i]) : decoded[i];
+        m_images[static_cast<std::size_t>(files[i].image)] = decoded[i];
     }
     return {};
 }
@@ -122,10 +122,14 @@ QImage Skin::ScaledCopy(SkinImage image, const QSize& size)
 {
     if (m_images[static_cast<std::size_t>(image)].isNull())
         return {};
+    if (std::exchange(m_look, style::Look()) != style::Look())
+        m_copies.clear();
     const CopyKey key{ image, size.width(), size.height() };
     if (const auto* const copy = m_copies.object(key))
         return *copy;
-    const auto copy = Stretched(m_images[static_cast<std::size_t>(image)], size);
+    auto copy = Stretched(m_images[static_cast<std::size_t>(image)], size);
+    if (style::HasHighContrast())
+        copy = WithHighContrast(copy);
     m_copies.insert(key, new QImage(copy), copy.sizeInBytes() / 1024 + 1);
     return copy;
 }

@@ -65,6 +65,7 @@ private:
 
     std::array<QImage, kSkinImageCount> m_images;
     QCache<CopyKey, QImage> m_copies; // the cost is in KiB
+    int m_look = 0;                   // of the copies
     SkinRects m_rects;
 };
 

@@ -229,9 +229,7 @@ void SkinLine::paintEvent(QPaintEvent*)
 QLabel* SecondText(const QString& text, QWidget* parent)
 {
     auto* const label = new QLabel(text, parent);
-    auto colours = label->palette();
-    colours.setColor(QPalette::WindowText, style::kSecondText);
-    label->setPalette(colours);
+    label->setForegroundRole(QPalette::PlaceholderText);
     return label;
 }
 

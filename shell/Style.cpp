@@ -7,6 +7,10 @@
 #include <QPalette>
 #include <QToolTip>
 
+#include <algorithm>
+#include <array>
+#include <utility>
+
 namespace zentaro::style {
 
 namespace {
@@ -14,6 +18,21 @@ namespace {
 QColor listBase{ 0x1B, 0x1E, 0x24 };
 bool hasHighContrast = false;
 bool hasLessMotion = false;
+int look = 0;
+
+void TakeUsualColours()
+{
+    static constexpr std::array kAll{ &kBase, &kBaseLight, &kRaised, &kRaisedHigh, &kTrack, &kText, &kSecondText,
+        &kFaintText, &kLight, &kLightHigh, &kLightDeep, &kAlarm, &kSelection, &kSelected, &kHairline, &listBase };
+    static const auto usual = [] {
+        std::array<QColor, kAll.size()> colours;
+        std::ranges::transform(kAll, colours.begin(), [](const QColor* each) { return *each; });
+        return colours;
+    }();
+    for (std::size_t i = 0; i < kAll.size(); ++i)
+        *kAll[i] = usual[i];
+    kWarmLight = kLight.rgb();
+}
 
 void TakeColours(const Colours& colours)
 {
@@ -84,17 +103,32 @@ QPalette ListPalette(QPalette palette)
 
 void Apply(QApplication& application, const Needs& needs)
 {
+    static std::optional<Needs> applied;
+    if (std::exchange(applied, needs) == needs)
+        return;
+    ++look;
+    TakeUsualColours();
     hasHighContrast = needs.highContrast;
     if (needs.highContrast)
         needs.colours ? TakeColours(*needs.colours) : TakeHighContrast();
     hasLessMotion = needs.lessMotion;
+    if (look == 1) {
+        QApplication::setStyle(new WidgetStyle);
+        application.setFont(TextFont());
+        QToolTip::setFont(TextFont());
+    }
     const auto palette = MakePalette();
-    QApplication::setStyle(new WidgetStyle);
     QApplication::setPalette(palette);
     QApplication::setPalette(ListPalette(palette), "zentaro::FancyList");
     QToolTip::setPalette(palette);
-    application.setFont(TextFont());
-    QToolTip::setFont(TextFont());
+    // What is painted is more than the palette.
+    for (auto* const widget : QApplication::allWidgets())
+        widget->update();
+}
+
+int Look()
+{
+    return look;
 }
 
 bool HasHighContrast()

@@ -10,7 +10,7 @@ class QApplication;
 /// The look that everything in the program shares.
 namespace zentaro::style {
 
-// They are what they are to be before the first widget is made, and then stay so.
+// What shows them reads them when it paints: `Apply` may change them at any time.
 
 inline QColor kBase{ 0x16, 0x18, 0x1D };
 inline QColor kBaseLight{ 0x23, 0x26, 0x2E };
@@ -37,6 +37,7 @@ struct Colours {
     QColor selected;
     QColor accent;
     QColor faint;
+    bool operator==(const Colours&) const = default;
 };
 
 /// What some users need otherwise.
@@ -44,10 +45,13 @@ struct Needs {
     bool highContrast = false;                     ///< light on black, lines instead of shades
     bool lessMotion = false;                       ///< what changes does so at once
     std::optional<Colours> colours = std::nullopt; ///< of the high contrast, instead of ours
+    bool operator==(const Needs&) const = default;
 };
 
-/// Style, palette and font of the whole program.
+/// Style, palette and font of the whole program, at its start and again when somebody's needs change.
 void Apply(QApplication& application, const Needs& needs = {});
+/// Counts what Apply has changed, for those who keep something painted.
+int Look();
 bool HasHighContrast();
 bool HasLessMotion();
 

@@ -784,6 +784,10 @@
         <translation>&amp;Nicht wiederholen</translation>
     </message>
     <message>
+        <source>No longer full screen</source>
+        <translation>Kein Vollbild mehr</translation>
+    </message>
+    <message>
         <source>No Repeat</source>
         <translation>Nicht wiederholen</translation>
     </message>
@@ -1552,8 +1556,8 @@
         <translation>Art: Zentaros eigene</translation>
     </message>
     <message>
-        <source>What is chosen here counts from the next start on.</source>
-        <translation>Was hier gewählt wird, gilt ab dem nächsten Start.</translation>
+        <source>Language and size count from the next start on.</source>
+        <translation>Sprache und Größe gelten vom nächsten Start an.</translation>
     </message>
     <message>
         <source>What the caption shows</source>

@@ -784,6 +784,10 @@
         <translation>&amp;No repetir</translation>
     </message>
     <message>
+        <source>No longer full screen</source>
+        <translation>Ya no es pantalla completa</translation>
+    </message>
+    <message>
         <source>No Repeat</source>
         <translation>No repetir</translation>
     </message>
@@ -1552,8 +1556,8 @@
         <translation>Modo: propio de Zentaro</translation>
     </message>
     <message>
-        <source>What is chosen here counts from the next start on.</source>
-        <translation>Lo elegido aquí vale desde el próximo inicio.</translation>
+        <source>Language and size count from the next start on.</source>
+        <translation>El idioma y el tamaño cuentan desde el próximo inicio.</translation>
     </message>
     <message>
         <source>What the caption shows</source>

@@ -784,6 +784,10 @@
         <translation>&amp;Ne pas répéter</translation>
     </message>
     <message>
+        <source>No longer full screen</source>
+        <translation>Plein écran terminé</translation>
+    </message>
+    <message>
         <source>No Repeat</source>
         <translation>Ne pas répéter</translation>
     </message>
@@ -1552,8 +1556,8 @@
         <translation>Manière : propre à Zentaro</translation>
     </message>
     <message>
-        <source>What is chosen here counts from the next start on.</source>
-        <translation>Ces choix valent à partir du prochain démarrage.</translation>
+        <source>Language and size count from the next start on.</source>
+        <translation>La langue et la taille comptent à partir du prochain démarrage.</translation>
     </message>
     <message>
         <source>What the caption shows</source>

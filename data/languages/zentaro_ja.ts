@@ -784,6 +784,10 @@
         <translation>リピートなし(&amp;N)</translation>
     </message>
     <message>
+        <source>No longer full screen</source>
+        <translation>全画面表示を終了</translation>
+    </message>
+    <message>
         <source>No Repeat</source>
         <translation>リピートなし</translation>
     </message>
@@ -1552,8 +1556,8 @@
         <translation>流儀: Zentaro 独自</translation>
     </message>
     <message>
-        <source>What is chosen here counts from the next start on.</source>
-        <translation>ここでの選択は次回の起動から有効です。</translation>
+        <source>Language and size count from the next start on.</source>
+        <translation>言語と大きさは次回の起動から有効になります。</translation>
     </message>
     <message>
         <source>What the caption shows</source>

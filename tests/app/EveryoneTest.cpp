@@ -379,6 +379,31 @@ TEST_F(Everyone, SeesTextsAndSigns)
     ExpectContrast();
 }
 
+TEST_F(Everyone, SeesANewLookInWhatIsOpen)
+{
+    const auto lookAfter = [](QWidget& top, const style::Needs& needs) {
+        style::Apply(*qApp, needs);
+        QApplication::processEvents();
+        return top.grab().toImage();
+    };
+    const style::Needs contrast{ true, false };
+    std::vector<QImage> changed;
+    WithEach([&](QWidget& top) {
+        const auto usual = lookAfter(top, {});
+        changed.push_back(lookAfter(top, contrast));
+        EXPECT_NE(changed.back(), usual) << top.windowTitle().toStdString();
+        EXPECT_EQ(lookAfter(top, {}), usual) << top.windowTitle().toStdString();
+    });
+    std::size_t i = 0;
+    style::Apply(*qApp, contrast);
+    WithEach([&](QWidget& top) {
+        // These two keep a sign and a link, and go with the next key.
+        if (const auto& other = changed[i++];
+            dynamic_cast<frmAbout*>(&top) == nullptr && dynamic_cast<MessageDialog*>(&top) == nullptr)
+            EXPECT_EQ(lookAfter(top, contrast), other) << i << ' ' << top.windowTitle().toStdString();
+    });
+}
+
 class EveryoneWithHighContrast : public Everyone {
 protected:
     EveryoneWithHighContrast()

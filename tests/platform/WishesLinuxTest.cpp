@@ -4,6 +4,7 @@
 #include <QDBusArgument>
 #include <QDBusMetaType>
 
+#include <atomic>
 #include <map>
 #include <thread>
 
@@ -63,6 +64,35 @@ TEST_F(WishesLinuxTest, NobodyWaitsForADesktopThatDoesNotAnswer)
     EXPECT_FALSE(Ask().lessMotion);
     bus.FallSilent();
     EXPECT_FALSE(Ask().lessMotion);
+}
+
+TEST_F(WishesLinuxTest, NewOnesAreToldWhileTheyAreWatched)
+{
+    unsigned contrast = 0;
+    BusService portal(bus, { "org.freedesktop.portal.Desktop" }, [&](const QDBusMessage& call) {
+        return call.createReply(QVariant::fromValue(One("org.freedesktop.appearance", "contrast", contrast)));
+    });
+    std::atomic<int> told = 0;
+    std::atomic<bool> hasContrast = false;
+    const auto watch = WishWatch::Open([&](const Wishes& wishes) {
+        hasContrast = wishes.highContrast;
+        ++told;
+    });
+    EXPECT_TRUE(RunUntil([&] { return told == 1; }));
+    const auto change = [&](const char* group) {
+        auto news = QDBusMessage::createSignal(
+            "/org/freedesktop/portal/desktop", "org.freedesktop.portal.Settings", "SettingChanged");
+        news << group << "contrast" << QVariant::fromValue(QDBusVariant(contrast));
+        portal.Connection().send(news);
+    };
+    contrast = 1;
+    change("org.example.other");
+    change("org.freedesktop.appearance");
+    EXPECT_TRUE(RunUntil([&] { return hasContrast.load(); }));
+    EXPECT_EQ(told, 2);
+    contrast = 0;
+    change("org.freedesktop.appearance");
+    EXPECT_TRUE(RunUntil([&] { return !hasContrast; }));
 }
 
 } // namespace
