@@ -112,9 +112,14 @@ void KeyedRows::Search(const QString& words)
 
 void KeyedRows::currentChanged(const QModelIndex& current, const QModelIndex& previous)
 {
-    QListWidget::currentChanged(current, previous);
-    if (hasFocus() || !isVisible() || !current.isValid())
+    if (hasFocus() || !isVisible())
+        return QListWidget::currentChanged(current, previous);
+    // While words are typed elsewhere, a row that is told of as the present one would count as where the keys go.
+    update(previous);
+    if (!current.isValid())
         return;
+    update(current);
+    scrollTo(current);
     const auto text = current.data(Qt::AccessibleTextRole).toString();
     if (std::exchange(m_told, text) != text)
         Announce(*window(), text);
@@ -122,7 +127,6 @@ void KeyedRows::currentChanged(const QModelIndex& current, const QModelIndex& pr
 
 void KeyedRows::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
 {
-    // While words are typed elsewhere, a row that is told of as chosen would count as where the keys go.
     hasFocus() ? QListWidget::selectionChanged(selected, deselected)
                : QAbstractItemView::selectionChanged(selected, deselected);
 }
