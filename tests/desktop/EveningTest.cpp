@@ -21,7 +21,7 @@ public:
         return (fs::path(Helper("")).parent_path() / "data" / name).string();
     }
     /// Waits until it says so, after what was heard before; the rest of that line is heard, too.
-    testing::AssertionResult Says(const std::string& words)
+    testing::AssertionResult Says(const std::string& words, std::chrono::milliseconds limit = 3 * kPatience)
     {
         const auto start = m_heard;
         const auto isSaid = [&] {
@@ -30,9 +30,9 @@ public:
             m_heard = found == std::string::npos ? start : all.find('\n', found);
             return found != std::string::npos && m_heard != std::string::npos;
         };
-        return WaitUntil(isSaid, 3 * kPatience) ? testing::AssertionSuccess()
-                                                : testing::AssertionFailure() << words << " is not in:\n"
-                                                                              << m_process.Output().substr(start);
+        return WaitUntil(isSaid, limit) ? testing::AssertionSuccess()
+                                        : testing::AssertionFailure() << words << " is not in:\n"
+                                                                      << m_process.Output().substr(start);
     }
     std::string All() const { return m_process.Output(); }
 
@@ -114,9 +114,12 @@ TEST_F(Evening, IsToldByAScreenReader)
     hear("shift+Tab", "Files tree.");
     desktop.Press("ctrl+a");
     hear("Return", "1.mkv, playing");
-    hear("F6", "List with 3 items.");
-    hear("Down", "2.mkv");
-    hear("Down", "3.mkv");
+    hear("F6", "1.mkv, playing");
+    // The others come when they have been looked into.
+    EXPECT_TRUE(WaitUntil([&] {
+        desktop.Press("End");
+        return bool(reader.Says("3.mkv", 2s));
+    }));
     hear("Return", "3.mkv, playing");
     hear("space", "Paused");
     hear("shift+F6", "Video.");
