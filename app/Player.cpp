@@ -252,6 +252,7 @@ void Player::OnPositionTick()
         m_memory.ItemEnded();
     if (end)
         end->isDisc ? m_discs.Ended(end->hasFailed) : m_sequencer.ItemEnded(end->hasFailed);
+    m_sequencer.LookAhead();
     const bool isAdding = m_library.Adding().total > 0;
     if (!State().mediaControlsEnabled && !m_starting && !isAdding)
         m_discs.Watch();

@@ -18,12 +18,12 @@ public:
 
     /// The player's state has changed: starts and stops what follows from it. `settled` of that state is called soon.
     void Follow();
+    /// A tick of the position timer; out of turn where something has happened that it would tell.
+    void OnMovie();
     /// Called a moment after changes, for those who need not hear of each.
     std::function<void()> settled = [] {};
 
 private:
-    void OnMovie();
-
     Player& m_player;
     QTimer m_tmrMovie;
     QTimer m_tmrRewind;

@@ -3,10 +3,17 @@
 #include "base/Paths.h"
 #include "base/Words.h"
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
 namespace zentaro {
+
+namespace {
+
+constexpr double kAhead = 4000; // ms at normal speed: enough for a slow disk
+
+}
 
 std::int16_t ItemNumber(int index)
 {
@@ -199,9 +206,46 @@ void Sequencer::ItemEnded(bool failed)
     const auto& settings = m_rooms.settings.Settings();
     if (Known().FollowsWhatPlays())
         Entries().StandOn(Entries().IndexOfPath(m_rooms.transport.Item().path));
-    if (Known().AfterPlayEndsRounds() && m_afterPlay.AfterPlayAction() != 0 && settings.RepeatMode == kRepeatAll)
-        return Follow(Entries().OnEndOfItem(settings.PlayMode, kNoRepeat), true);
-    Follow(Entries().OnEndOfItem(settings.PlayMode, settings.RepeatMode), true);
+    Follow(Entries().OnEndOfItem(settings.PlayMode, RepeatModeAtEnd()), true);
+}
+
+std::int32_t Sequencer::RepeatModeAtEnd() const
+{
+    const auto mode = m_rooms.settings.Settings().RepeatMode;
+    const bool endsRounds = Known().AfterPlayEndsRounds() && m_afterPlay.AfterPlayAction() != 0;
+    return endsRounds && mode == kRepeatAll ? kNoRepeat : mode;
+}
+
+bool Sequencer::IsNearEnd() const
+{
+    const auto& state = m_rooms.transport.State();
+    return state.mediaControlsEnabled && !state.isPaused && state.length > 0
+        && state.length - state.elapsed < kAhead * std::max(state.chosenRate, 1.0);
+}
+
+void Sequencer::LookAhead()
+{
+    auto& host = m_rooms.transport.Host();
+    if (IsNearEnd())
+        host.Expect(WhatFollows());
+    else
+        host.Expect({});
+}
+
+std::optional<ExpectedItem> Sequencer::WhatFollows()
+{
+    const auto& item = m_rooms.transport.Item();
+    if (m_stopsAfterThis || item.IsDisc())
+        return std::nullopt;
+    const auto present = Known().FollowsWhatPlays() ? Entries().IndexOfPath(item.path) : std::nullopt;
+    const auto index = Entries().FollowsAtEnd(m_rooms.settings.Settings().PlayMode, RepeatModeAtEnd(), present);
+    const auto next = index ? Entries().EntryAt(*index) : std::nullopt;
+    if (!next || DiscSession::IsDiscLocation(next->FullPath))
+        return std::nullopt;
+    ExpectedItem expected;
+    expected.location.text = next->FullPath;
+    expected.options = m_rooms.settings.ItemOptions(next->FullPath);
+    return expected;
 }
 
 void Sequencer::Follow(const EndOfItem& next, bool hasPlayed)

@@ -7,6 +7,7 @@
 #include "playback/AfterPlay.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace zentaro {
 
@@ -65,6 +66,8 @@ public:
     bool StopsAfterThis() const { return m_stopsAfterThis; }
     /// The loaded file has ended, `failed` without ever having played.
     void ItemEnded(bool failed);
+    /// To be asked again and again while something plays: shortly before its end what follows is made ready.
+    void LookAhead();
 
 private:
     enum class Way { ByTheModes, Forward, Back };
@@ -74,6 +77,9 @@ private:
     void PlaySelected();
     void StepOn();
     /// What the end of an item asks for; the after-play action only when it `hasPlayed`.
+    std::int32_t RepeatModeAtEnd() const;
+    bool IsNearEnd() const;
+    std::optional<ExpectedItem> WhatFollows();
     void Follow(const EndOfItem& next, bool hasPlayed);
     void ItemFailed();
     bool IsRoundOfFailures() const;

@@ -14,6 +14,7 @@
 #include "app/WindowKeys.h"
 #include "app/WindowMenus.h"
 #include "app/WindowNotes.h"
+#include "app/WindowSight.h"
 #include "base/Words.h"
 #include "platform/Process.h"
 #include "platform/Window.h"
@@ -33,9 +34,11 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QTimer>
 #include <QToolTip>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 namespace zentaro {
@@ -43,6 +46,7 @@ namespace zentaro {
 namespace {
 
 constexpr double kTwipsPerPixel = 15;
+constexpr auto kUntilSightCounts = std::chrono::seconds(2); // a start has other things to do
 
 } // namespace
 
@@ -137,6 +141,8 @@ void frmMain::ShowWindow()
     platform::OnQuitRequest([this] { close(); });
     show();
     StateChanged();
+    QTimer::singleShot(kUntilSightCounts, this,
+        [this] { new WindowSight(*this, [this](bool isSeen) { m_player.Transporting().SetSeen(isSeen); }); });
 }
 
 void frmMain::FlashCaption()

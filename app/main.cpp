@@ -296,6 +296,8 @@ int main(int argc, char** argv)
     Dialogs dialogs(window, player, programFolder, language);
     dialogs.onDisplayChosen = takeLook;
 
+    // Whatever follows is not to wait for the next reading of the clock.
+    engines.OnOver([&window] { window.Timers().OnMovie(); });
     MusicStage stage(player, music, *video, ToQString(programFolder) + "Audio.JPG");
     auto remoteWindow = RemoteWindow(window, workingFolder);
     remoteWindow.coverFile = [&music](std::uint64_t track) { return music.CoverFileOf(track); };

@@ -94,6 +94,8 @@ public:
     virtual double Rate() = 0; ///< 1.0 is normal speed
     virtual void SetRate(double rate) = 0;
     virtual bool HasVideoOutput() = 0;
+    /// While nobody sees its pictures it need not make any; what it is asked for stays as if it did.
+    virtual void SetSeen(bool /*seen*/) { }
 
     // video
     /// Writes the present picture, in the video's own size, to a new PNG file of that full path. False when there is no

@@ -1,6 +1,7 @@
 #include "playback/EngineHost.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace zentaro {
 
@@ -12,6 +13,7 @@ EngineHost::EngineHost(EngineFactory& factory)
 void EngineHost::AddVLCPLayer()
 {
     m_engine = m_factory.Create();
+    m_expected.reset(); // the engine has taken it, or it was not meant
     m_fullScreen = false;
     if (!m_engine)
         return;
@@ -22,6 +24,17 @@ void EngineHost::AddVLCPLayer()
 void EngineHost::RemoveVLCPlayer()
 {
     m_engine.reset();
+}
+
+void EngineHost::Expect(std::optional<ExpectedItem> item)
+{
+    if (item == m_expected)
+        return;
+    m_expected = std::move(item);
+    if (m_expected)
+        m_factory.MakeReady(m_expected->location, m_expected->options);
+    else
+        m_factory.Forget();
 }
 
 void EngineHost::SetVolume(int percent)

@@ -4,8 +4,15 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace zentaro {
+
+struct ExpectedItem {
+    MediaLocation location;
+    EngineOptions options;
+    bool operator==(const ExpectedItem&) const = default;
+};
 
 /// Owns the engine of the current item. At most one exists; every item gets a fresh one, so that nothing but the
 /// window's own volume and mute carries over.
@@ -20,6 +27,9 @@ public:
     void RemoveVLCPlayer();
     /// Null before the first item.
     Engine* VLCPlayer() const { return m_engine.get(); }
+
+    /// The item that will most likely be next, or none: its engine will have less to do.
+    void Expect(std::optional<ExpectedItem> item);
 
     int Volume() const { return m_volume; } ///< 0 to 100
     void SetVolume(int percent);
@@ -39,6 +49,7 @@ public:
 private:
     EngineFactory& m_factory;
     std::unique_ptr<Engine> m_engine;
+    std::optional<ExpectedItem> m_expected;
     int m_volume = 100;
     int m_boost = 100;
     bool m_muted = false;

@@ -16,6 +16,7 @@ constexpr int kVolumePerNotch = 5;                // percent
 constexpr double kStepWithoutLength = 0.01;       // of the item
 constexpr double kEndMargin = 1500;               // ms before the end: nearer to it the clock takes an item as ended
 constexpr double kEndMarginWithoutLength = 0.001; // of the item
+constexpr int kTicksUntilSpared = 6;              // half a second each; coming back costs a moment of sound
 
 /// Where a step of so many ms lands in an item of that length (ms).
 double StepFrom(double position, int milliseconds, double length)
@@ -79,6 +80,7 @@ void Transport::ItemStarted(bool speedStays)
         SetEngineRate(m_rate.Value());
     else
         m_rate.ItemStarted();
+    m_unseenTicks = 0;
     m_state.isPaused = false;
     m_state.progress = 0;
     m_state.length = 0;
@@ -295,6 +297,23 @@ EngineReading Transport::Read() const
     return reading;
 }
 
+void Transport::SetSeen(bool seen)
+{
+    m_isSeen = seen;
+    m_unseenTicks = 0;
+    if (auto* const engine = LoadedEngine(); engine != nullptr && seen)
+        engine->SetSeen(true);
+}
+
+void Transport::SpareUnseen()
+{
+    // A disc's menus are pictures, and wait for an answer.
+    if (m_isSeen || !m_state.mediaControlsEnabled || m_item.IsDisc() || m_state.isPaused || !m_state.hasVideoOutput)
+        return;
+    if (++m_unseenTicks == kTicksUntilSpared)
+        m_host.VLCPlayer()->SetSeen(false);
+}
+
 std::optional<ItemEnd> Transport::OnPositionTick()
 {
     const auto reading = Read();
@@ -319,6 +338,7 @@ std::optional<ItemEnd> Transport::OnPositionTick()
         EnableMediaControls(false);
         end = ItemEnd{ m_item.IsDisc(), tick.hasFailed };
     }
+    SpareUnseen();
     // A paused item stays as it is, and nothing has to be painted for it.
     if (end || m_state != before)
         m_observer.TransportChanged();

@@ -125,6 +125,8 @@ public:
     std::optional<ItemEnd> OnPositionTick();
     /// The engine alone says when an item ends, not its clock.
     void LetEngineEndItems(bool on) { m_engineEndsItems = on; }
+    /// Whether the window can be seen. A film that nobody sees plays on by its sound alone, after a while.
+    void SetSeen(bool seen);
     /// A word in place of the time, until the next tick.
     void ShowWord(const std::string& word);
     void ShowIdle();
@@ -135,6 +137,7 @@ private:
     void SetEngineRate(std::optional<double> rate);
     void ShowRate(bool isLoading);
     EngineReading Read() const;
+    void SpareUnseen();
 
     EngineHost m_host;
     TransportObserver& m_observer;
@@ -144,7 +147,9 @@ private:
     HeldButtons m_held;
     std::uint64_t m_generation = 0;
     bool m_engineEndsItems = false;
-    int m_wheel = 0; // eighths of a degree that have not made a notch yet
+    bool m_isSeen = true;
+    int m_unseenTicks = 0; // of the position timer
+    int m_wheel = 0;       // eighths of a degree that have not made a notch yet
 };
 
 } // namespace zentaro

@@ -192,7 +192,25 @@ void VlcEngine::SetRate(double rate)
 
 bool VlcEngine::HasVideoOutput()
 {
-    return m_player != nullptr && libvlc_media_player_has_vout(m_player) > 0;
+    return m_player != nullptr && (m_unseenTrack >= 0 || libvlc_media_player_has_vout(m_player) > 0);
+}
+
+void VlcEngine::SetSeen(bool seen)
+{
+    if (m_player == nullptr || seen == (m_unseenTrack < 0))
+        return;
+    if (!seen) {
+        // Without sound nothing would go on.
+        if (libvlc_audio_get_track(m_player) < 0 || State() != kPlaying)
+            return;
+        m_unseenTrack = libvlc_video_get_track(m_player);
+        if (m_unseenTrack >= 0)
+            libvlc_video_set_track(m_player, -1);
+        return;
+    }
+    libvlc_video_set_track(m_player, std::exchange(m_unseenTrack, -1));
+    // Else there would be no picture until the next key frame.
+    libvlc_media_player_set_time(m_player, libvlc_media_player_get_time(m_player));
 }
 
 bool VlcEngine::TakeSnapshot(const std::string& file)
@@ -342,6 +360,7 @@ bool VlcEngine::Open()
 void VlcEngine::Close()
 {
     m_player = nullptr;
+    m_unseenTrack = -1;
     m_isLeavingPause = false;
     m_items.End(std::exchange(m_open, {}));
 }

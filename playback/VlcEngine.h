@@ -42,6 +42,7 @@ public:
     double Rate() override;
     void SetRate(double rate) override;
     bool HasVideoOutput() override;
+    void SetSeen(bool seen) override;
     bool TakeSnapshot(const std::string& file) override;
     void Add(const MediaLocation& location, const EngineOptions& options) override;
     void Play() override;
@@ -67,6 +68,7 @@ private:
     EngineOptions m_options;
     VlcItems::Open m_open;
     libvlc_media_player_t* m_player = nullptr; // the item's; null while it is stopped
+    int m_unseenTrack = -1;                    // of the video, while it is not decoded
     bool m_isAdded = false;
     bool m_pauseWaits = false;     // until it plays
     bool m_isLeavingPause = false; // it was made ready, and does not play yet, but was told to

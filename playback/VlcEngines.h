@@ -2,8 +2,10 @@
 
 #include "playback/VlcItems.h"
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace zentaro {
 
@@ -23,6 +25,7 @@ public:
     }
     void Forget() override { m_items.Forget(); }
     std::unique_ptr<Engine> Create() override;
+    void OnOver(std::function<void()> hear) { m_items.OnOver(std::move(hear)); }
     void SetSubtitleScale(int percent) override { m_items.SetSubtitleScale(percent); }
 
 private:

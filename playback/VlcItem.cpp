@@ -67,12 +67,12 @@ void VlcEndings::Wait(std::chrono::milliseconds time)
     m_changed.wait_for(lock, time, [this] { return m_count == 0; });
 }
 
-VlcItem::VlcItem(VlcLibrary library, libvlc_media_t* media, VideoSurface* surface, std::function<void()> onPlaying)
+VlcItem::VlcItem(VlcLibrary library, libvlc_media_t* media, VideoSurface* surface, Events events)
     : m_library(std::move(library))
     , m_media(media)
     , m_surface(surface)
     , m_sink(surface->Sink())
-    , m_onPlaying(std::move(onPlaying))
+    , m_events(std::move(events))
     , m_player(libvlc_media_player_new_from_media(media))
 {
     if (m_player == nullptr)
@@ -99,8 +99,8 @@ VlcItem::~VlcItem()
 void VlcItem::ListenToEvents(bool listens)
 {
     auto* const events = libvlc_media_player_event_manager(m_player);
-    for (const libvlc_event_type_t type :
-        { libvlc_MediaPlayerPlaying, libvlc_MediaPlayerEncounteredError, libvlc_MediaPlayerStopped }) {
+    for (const libvlc_event_type_t type : { libvlc_MediaPlayerPlaying, libvlc_MediaPlayerEndReached,
+             libvlc_MediaPlayerEncounteredError, libvlc_MediaPlayerStopped }) {
         if (listens)
             libvlc_event_attach(events, type, &OnEvent, this);
         else
@@ -112,9 +112,12 @@ void VlcItem::OnEvent(const libvlc_event_t* event, void* item)
 {
     auto& self = *static_cast<VlcItem*>(item);
     if (event->type == libvlc_MediaPlayerPlaying)
-        self.m_onPlaying();
-    else
-        (event->type == libvlc_MediaPlayerStopped ? self.m_isOver : self.m_hasFailed) = true;
+        return self.m_events.onPlaying();
+    if (event->type == libvlc_MediaPlayerEncounteredError)
+        self.m_hasFailed = true;
+    else if (event->type == libvlc_MediaPlayerStopped)
+        self.m_isOver = true;
+    self.m_events.onOver();
 }
 
 void VlcItem::AttachSurface()

@@ -45,9 +45,14 @@ struct VlcLibrary {
 /// UI thread, but for its destructor.
 class VlcItem {
 public:
-    /// Takes over the media and the surface. `onPlaying`: called on the engine's thread whenever it begins to play or
-    /// goes on after a pause. Player() is null when the library cannot make one.
-    VlcItem(VlcLibrary library, libvlc_media_t* media, VideoSurface* surface, std::function<void()> onPlaying);
+    /// Called on the engine's threads.
+    struct Events {
+        std::function<void()> onPlaying; ///< whenever it begins to play or goes on after a pause
+        std::function<void()> onOver;    ///< it has come to its end, or has failed
+    };
+
+    /// Takes over the media and the surface. Player() is null when the library cannot make one.
+    VlcItem(VlcLibrary library, libvlc_media_t* media, VideoSurface* surface, Events events);
     /// Stops the player, which takes as long as a read that is under way.
     ~VlcItem();
     VlcItem(const VlcItem&) = delete;
@@ -74,7 +79,7 @@ private:
     libvlc_media_t* m_media;
     QPointer<VideoSurface> m_surface;
     std::shared_ptr<PictureSink> m_sink;
-    std::function<void()> m_onPlaying;
+    Events m_events;
     libvlc_media_player_t* m_player;
     std::atomic<bool> m_hasFailed = false;
     std::atomic<bool> m_isOver = false;

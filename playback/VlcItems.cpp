@@ -127,6 +127,11 @@ VlcItems::Open VlcItems::Take(const MediaLocation& location, const EngineOptions
     if (m_ready && m_ready->location == location && m_ready->options == options) {
         auto open = std::move(m_ready->open);
         m_ready.reset();
+        // The item before can have held the sound device.
+        if (m_log->TakeSoundFailure()) {
+            End(std::move(open));
+            return New(location, options, false);
+        }
         open.item->ShowSurface();
         return open;
     }
@@ -156,7 +161,8 @@ VlcItems::Open VlcItems::New(const MediaLocation& location, const EngineOptions&
     const auto onPlaying = std::make_shared<std::function<void()>>();
     Open open{ library.instance, nullptr, onPlaying, isReady };
     open.item = std::make_unique<VlcItem>(std::move(library), media, m_frame.AddSurface(!isReady),
-        [heard = std::weak_ptr(onPlaying)] { TellLater(heard); });
+        VlcItem::Events{ [heard = std::weak_ptr(onPlaying)] { TellLater(heard); },
+            [heard = std::weak_ptr(m_onOver)] { TellLater(heard); } });
     auto* const player = open.Player();
     if (player == nullptr)
         return {};

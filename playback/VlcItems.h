@@ -48,6 +48,8 @@ public:
     void Forget();
     /// From now on nothing of it is seen or heard.
     void End(Open open);
+    /// Called whenever an item that has not been ended has come to its end, or has failed.
+    void OnOver(std::function<void()> hear) { *m_onOver = std::move(hear); }
     /// In percent of the usual size, for the items to come.
     void SetSubtitleScale(int percent) { m_subtitleScale = percent; }
 
@@ -69,6 +71,7 @@ private:
     std::shared_ptr<VlcEndings> m_endings;
     /// Holds the library's plug-in list in memory for the whole run; an instance beside it costs about a millisecond.
     std::shared_future<std::shared_ptr<libvlc_instance_t>> m_base;
+    std::shared_ptr<std::function<void()>> m_onOver = std::make_shared<std::function<void()>>();
     int m_subtitleScale = 100; // percent
     bool m_plainOutput = false;
     std::chrono::steady_clock::time_point m_silentUntil;

@@ -242,10 +242,30 @@ void Playlist::StandOn(std::optional<int> index)
     if (!index)
         return m_order.SetPosition(m_order.Position() - 1);
     m_list.SetSelectedItem(*index);
+    if (const auto position = PositionOf(*index))
+        m_order.SetPosition(*position);
+}
+
+std::optional<int> Playlist::PositionOf(int index)
+{
     for (int position = 0; position < m_order.Count(); ++position) {
-        if (m_order.At(position) == *index)
-            return m_order.SetPosition(position);
+        if (m_order.At(position) == index)
+            return position;
     }
+    return std::nullopt;
+}
+
+std::optional<int> Playlist::FollowsAtEnd(std::int32_t playMode, std::int32_t repeatMode, std::optional<int> present)
+{
+    const int position = m_order.Position();
+    if (const auto of = present ? PositionOf(*present) : std::nullopt)
+        m_order.SetPosition(*of);
+    const auto next = DecideEndOfItem(playMode, repeatMode, m_order);
+    m_order.SetPosition(position);
+    const int index = next.action == EndOfItem::Action::Play ? next.index
+        : next.action == EndOfItem::Action::RestartSame      ? present.value_or(m_list.SelectedItem())
+                                                             : PlayOrder::kNone;
+    return IsEntry(index) ? std::optional(index) : std::nullopt;
 }
 
 std::optional<int> Playlist::StepInOrder(bool back)

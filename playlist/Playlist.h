@@ -107,6 +107,9 @@ public:
     std::optional<int> StepPrevious() { return StepTo(PreviousPosition(m_order)); }
     /// An entry has ended: moves position and selection as the answer says.
     EndOfItem OnEndOfItem(std::int32_t playMode, std::int32_t repeatMode);
+    /// The index of the entry that would play if the present one ended now, nothing where none would. `present` stands
+    /// for the one that the order names at its position.
+    std::optional<int> FollowsAtEnd(std::int32_t playMode, std::int32_t repeatMode, std::optional<int> present);
 
 private:
     ListShape Shape() const;
@@ -116,6 +119,7 @@ private:
     void TakeEntries(const std::vector<std::uint64_t>& ids, std::vector<ListStep::Away>& away);
     bool IsEntry(int index) const { return index >= 0 && index < Count(); }
     std::optional<int> StepTo(std::optional<int> position);
+    std::optional<int> PositionOf(int index);
 
     FancyListItems m_list;
     PlayOrder m_order;

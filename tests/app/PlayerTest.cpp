@@ -191,6 +191,34 @@ TEST_F(PlayerTest, continuous_play_goes_round_and_normal_play_stops)
     EXPECT_EQ(world.dialogs.asked, 1); // again, but of what
 }
 
+TEST_F(PlayerTest, what_follows_is_made_ready_shortly_before_the_end_and_once)
+{
+    auto& player = StartWithEntries(3, kPlayContinuous, kNoRepeat);
+    const auto readyAt = [&](double time) {
+        trace.time = time;
+        trace.length = 60'000;
+        world.engines.ready.clear();
+        player.OnPositionTick();
+        return world.engines.ready;
+    };
+    EXPECT_EQ(readyAt(50'000), "");
+    EXPECT_EQ(readyAt(57'000), "/b.avi ");
+    EXPECT_EQ(readyAt(57'500), "");
+    player.Sequence().SetRepeatMode(kRepeatSingle);
+    EXPECT_EQ(readyAt(58'000), "/a.avi ");
+    EXPECT_EQ(readyAt(10'000), "none ");
+    player.Sequence().SetRepeatMode(kNoRepeat);
+    EndItem();
+    EXPECT_EQ(readyAt(57'000), "/c.avi ");
+    EndItem();
+    EXPECT_EQ(readyAt(57'000), "");
+    player.Sequence().SetRepeatMode(kRepeatAll);
+    EXPECT_EQ(readyAt(57'500), "/a.avi ");
+    player.Sequence().StopAfterThis(true);
+    EXPECT_EQ(readyAt(57'900), "none ");
+    EXPECT_EQ(LastPlayed(), "/c.avi"); // nothing has moved
+}
+
 TEST_F(PlayerTest, a_new_play_mode_builds_a_new_order)
 {
     auto& player = StartWithEntries(3, kPlayContinuous, kRepeatAll);

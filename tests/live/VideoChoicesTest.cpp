@@ -83,5 +83,24 @@ TEST_F(VideoMenuOfAnItem, OffersWhatTheEngineHasAndStartsAnewWithTheNext)
     EXPECT_FALSE(ReadVideoChoices(player).hasVideo);
 }
 
+TEST_F(VideoMenuOfAnItem, LeavesOutItsPicturesWhileNobodySeesThem)
+{
+    AddEntries({ MakeFilm() });
+    player.Sequence().CMDPlayClick();
+    ASSERT_TRUE(RunUntilVideo());
+    auto& engine = *player.Transporting().LoadedEngine();
+    const auto hasPicture = [&] { return engine.TakeSnapshot(folder + "shot.png"); };
+    ASSERT_TRUE(RunUntil(hasPicture));
+    engine.SetSeen(false);
+    EXPECT_TRUE(RunUntil([&] { return !hasPicture(); }));
+    const auto before = Time();
+    EXPECT_TRUE(RunUntil([&] { return Time() > before + 1500; }));
+    EXPECT_FALSE(hasPicture());
+    EXPECT_TRUE(player.State().hasVideoOutput && !player.State().showAudioLogo);
+    engine.SetSeen(true);
+    EXPECT_TRUE(RunUntil(hasPicture));
+    EXPECT_GE(Time(), before + 1500);
+}
+
 } // namespace
 } // namespace zentaro::live

@@ -129,6 +129,28 @@ TEST_F(TransportTest, the_chosen_rate_holds_for_an_item_and_what_is_held_ends_wi
     EXPECT_EQ(trace.rateSet, 1);
 }
 
+TEST_F(TransportTest, a_film_that_nobody_sees_plays_by_its_sound_alone_after_a_while)
+{
+    const auto ticks = [&](int count) {
+        while (count-- > 0)
+            transport.OnPositionTick();
+        return trace.isSeen;
+    };
+    transport.SetSeen(false); // before there is anything
+    PlayItem();
+    EXPECT_TRUE(ticks(5));
+    EXPECT_FALSE(ticks(1));
+    transport.SetSeen(true);
+    EXPECT_TRUE(trace.isSeen);
+    transport.SetSeen(false);
+    EXPECT_TRUE(ticks(5));
+    transport.SetSeen(true); // only a glance away
+    transport.SetSeen(false);
+    EXPECT_TRUE(ticks(5));
+    PlayItem(TransportItem::Kind::Disc);
+    EXPECT_TRUE(ticks(20));
+}
+
 TEST_F(TransportTest, a_pause_of_an_item_that_still_opens_is_kept_and_taken_back)
 {
     trace.state = 1; // opening

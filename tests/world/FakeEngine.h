@@ -28,6 +28,7 @@ struct EngineTrace {
     double time = 0;
     double length = 0;
     bool hasVideo = true;
+    bool isSeen = true;
     bool takesItems = true;
     std::function<bool(const std::string& file)> takeSnapshot = [](const std::string&) { return true; };
 };
@@ -52,6 +53,7 @@ public:
     double Rate() override { return m_trace.rateSet > 0 ? m_trace.rateSet : 1; }
     void SetRate(double rate) override { m_trace.rateSet = rate; }
     bool HasVideoOutput() override { return m_trace.hasVideo; }
+    void SetSeen(bool seen) override { m_trace.isSeen = seen; }
     bool TakeSnapshot(const std::string& file) override { return m_trace.takeSnapshot(file); }
     void Add(const MediaLocation& location, const EngineOptions& options) override
     {
@@ -89,9 +91,12 @@ public:
             return Error{ 126, missing };
         return {};
     }
+    void MakeReady(const MediaLocation& location, const EngineOptions&) override { ready += location.text + " "; }
+    void Forget() override { ready += "none "; }
     std::unique_ptr<Engine> Create() override { return std::make_unique<FakeEngine>(trace); }
     EngineTrace trace;
     std::string missing; ///< says that there is no engine
+    std::string ready;   ///< what was to be made ready, one after the other
 };
 
 } // namespace zentaro
