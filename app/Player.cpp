@@ -66,6 +66,7 @@ void Player::Expect(const std::string& commandLine)
     // Where a player is there already, this process is most likely its messenger.
     if (m_instance.IsPlayerThere())
         return;
+    m_isExpected = true;
     IgnoreFailure(m_world.engines.Prepare()); // it is told when the player is up
     if (m_world.fileExists(path) && IsSupportedFile(path, m_world.separator))
         m_world.inspections.Expect(path);
@@ -83,14 +84,17 @@ bool Player::Load(const std::string& commandLine, PlayerFace face)
     m_sequencer.SetRepeatMode(Settings().RepeatMode);
     m_sequencer.DoAfter(0);
     ApplyWays();
+    // The engine draws in the window before it is seen; one that gets its place later would not know of it.
+    m_face.window->PlaceWindow();
+    if (m_isExpected)
+        ReadyStartupFile(RequestOf(commandLine));
     if (!m_instance.BecomePlayer(RequestOf(commandLine), Settings().UseNewPlayer != 0, Ways().TakesAllMedia())) {
+        m_world.engines.Forget();
         m_instance.AddElsewhere(FurtherFiles());
         return false;
     }
     const auto prepared = m_world.engines.Prepare();
     m_memory.Load();
-    // The engine draws in the window before it is seen; one that gets its place later would not know of it.
-    m_face.window->PlaceWindow();
     // The file's inspection is under way while the window comes up.
     OpenStartupFile();
     m_window.SetPlaylistPosition(m_settings.StoredDock());
@@ -143,8 +147,16 @@ void Player::OpenStartupFile()
                 m_library.DropOnList(others);
             StartIsOver();
         });
+    if (!m_isExpected)
+        ReadyStartupFile(m_instance.Request());
+}
+
+void Player::ReadyStartupFile(const StartupRequest& request)
+{
+    const auto& path = request.StartupArgument;
     // The engine opens the file while it is inspected.
-    if (plays && !ListFormatOf(path, m_world.separator))
+    if (request.ReplaceOnOpen && m_world.fileExists(path)
+        && IsMediaFile(path, m_world.separator, Ways().TakesAllMedia()) && !ListFormatOf(path, m_world.separator))
         m_world.engines.MakeReady({ path, false }, m_settings.ItemOptions(path));
 }
 

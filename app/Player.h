@@ -54,6 +54,8 @@ public:
 
     /// May come before Load: what takes longest of opening the file of the command line begins, beside the window.
     void Expect(const std::string& commandLine);
+    /// Whether this process is most likely the player, and no messenger of one. Known after Expect().
+    bool IsExpected() const { return m_isExpected; }
     /// Brings the program up, decides its role and opens the file of the command line. False when this process was only
     /// a messenger: nothing was shown, and it is to end at once.
     bool Load(const std::string& commandLine, PlayerFace face);
@@ -113,6 +115,7 @@ private:
     void LoadConfigurations();
     void ApplyWays();
     void OpenStartupFile();
+    void ReadyStartupFile(const StartupRequest& request);
     /// The files behind the first one, of a line that names several.
     std::vector<std::string> FurtherFiles() const;
     StartupRequest RequestOf(const std::string& commandLine) const;
@@ -154,6 +157,7 @@ private:
     SingleInstance m_instance;
     Associations m_associations;
     bool m_starting = true; // the window's geometry is not recorded until the start is over
+    bool m_isExpected = false;
     bool m_wasAdding = false;
 };
 

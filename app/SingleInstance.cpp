@@ -74,9 +74,12 @@ void SingleInstance::Publish()
     if (!ends)
         return; // a player that cannot be reached plays all the same
     m_ends = std::move(*ends);
+    // Each change by itself would wait for the disk.
+    m_store.BeginBatch();
     IgnoreFailure(m_store.Write(kRoot, HandOverKey(), "txtHwnd", m_ends->CommandHandle()));
     IgnoreFailure(m_store.Write(kRoot, HandOverKey(), "txtHwnd1", m_ends->ProbeHandle()));
     IgnoreFailure(m_store.Write(kRoot, HandOverKey(), kAddHandle, m_ends->AddHandle()));
+    IgnoreFailure(m_store.CommitBatch());
 }
 
 void SingleInstance::Receive(std::function<void(std::string text, platform::HandOverDone done)> onText)

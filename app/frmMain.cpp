@@ -65,6 +65,8 @@ frmMain::frmMain(Player& player, Previews& previews, VideoFrame* video, const QS
     , m_notes(new WindowNotes(player, *video, *m_content))
     , m_caption(kProgramName)
 {
+    if (player.IsExpected())
+        m_skin.Begin(m_programFolder + "images/");
     setObjectName("frmMain");
     setWindowTitle(kProgramName);
     setWindowIcon(QIcon(programFolder + "icons/zentaro.png"));

@@ -7,6 +7,7 @@ source "$root/tools/screenless.sh"
 clean_up() {
   local running=($(jobs -p))
   ((${#running[@]})) && kill "${running[@]}" 2>/dev/null
+  [[ -s $stage/bus.pid ]] && kill "$(<"$stage/bus.pid")" 2>/dev/null
   wait
   rm -rf "$stage"
 }
@@ -38,7 +39,8 @@ open_stage() {
 
 # open_bus: a session bus, for all that as_user starts from now on.
 open_bus() {
-  as_user dbus-daemon --session --nofork --nopidfile --address="unix:path=$stage/home/run/bus" 2>"$stage/bus.log" &
+  as_user dbus-daemon --session --fork --nopidfile --print-pid --address="unix:path=$stage/home/run/bus" \
+    >"$stage/bus.pid" 2>"$stage/bus.log" </dev/null
   session_bus="unix:path=$stage/home/run/bus"
   local tries=200
   until [[ -S $stage/home/run/bus ]]; do

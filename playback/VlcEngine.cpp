@@ -243,7 +243,7 @@ void VlcEngine::Play()
     if (state > 0 && !m_isLeavingPause)
         m_pauseWaits = false;
     if (std::exchange(m_open.isReady, false))
-        libvlc_media_player_set_pause(m_player, 0);
+        m_open.item->GoOn();
     else
         libvlc_media_player_play(m_player);
 }
@@ -340,7 +340,9 @@ std::vector<EngineTrack> VlcEngine::Tracks(libvlc_track_description_t* (*describ
 
 bool VlcEngine::Open()
 {
+    Close();
     auto open = m_items.Take(m_location, m_options);
+    m_isTaken = true;
     if (!open.item)
         return false;
     m_open = std::move(open);
@@ -362,7 +364,8 @@ void VlcEngine::Close()
     m_player = nullptr;
     m_unseenTrack = -1;
     m_isLeavingPause = false;
-    m_items.End(std::exchange(m_open, {}));
+    if (std::exchange(m_isTaken, false))
+        m_items.GiveBack(std::exchange(m_open, {}));
 }
 
 } // namespace zentaro

@@ -42,6 +42,11 @@ void OnDisplay(void* opaque, void*)
 
 } // namespace
 
+struct VlcItem::Held {
+    std::mutex mutex; // held while the library is told what follows from the stage
+    Stage stage = Stage::Free;
+};
+
 void VlcEndings::Begin()
 {
     const std::lock_guard lock(m_mutex);
@@ -73,6 +78,7 @@ VlcItem::VlcItem(VlcLibrary library, libvlc_media_t* media, VideoSurface* surfac
     , m_surface(surface)
     , m_sink(surface->Sink())
     , m_events(std::move(events))
+    , m_held(std::make_shared<Held>())
     , m_player(libvlc_media_player_new_from_media(media))
 {
     if (m_player == nullptr)
@@ -99,8 +105,8 @@ VlcItem::~VlcItem()
 void VlcItem::ListenToEvents(bool listens)
 {
     auto* const events = libvlc_media_player_event_manager(m_player);
-    for (const libvlc_event_type_t type : { libvlc_MediaPlayerPlaying, libvlc_MediaPlayerEndReached,
-             libvlc_MediaPlayerEncounteredError, libvlc_MediaPlayerStopped }) {
+    for (const libvlc_event_type_t type : { libvlc_MediaPlayerPlaying, libvlc_MediaPlayerBuffering,
+             libvlc_MediaPlayerEndReached, libvlc_MediaPlayerEncounteredError, libvlc_MediaPlayerStopped }) {
         if (listens)
             libvlc_event_attach(events, type, &OnEvent, this);
         else
@@ -113,6 +119,13 @@ void VlcItem::OnEvent(const libvlc_event_t* event, void* item)
     auto& self = *static_cast<VlcItem*>(item);
     if (event->type == libvlc_MediaPlayerPlaying)
         return self.m_events.onPlaying();
+    if (event->type == libvlc_MediaPlayerBuffering) {
+        if (event->u.media_player_buffering.new_cache >= 100)
+            self.Step(Stage::Opening, Stage::Starting);
+        return;
+    }
+    if (event->type == libvlc_MediaPlayerVout)
+        return self.Step(Stage::Starting, Stage::Standing);
     if (event->type == libvlc_MediaPlayerEncounteredError)
         self.m_hasFailed = true;
     else if (event->type == libvlc_MediaPlayerStopped)
@@ -129,6 +142,50 @@ void VlcItem::AttachSurface()
         libvlc_media_player_set_hwnd(m_player, reinterpret_cast<void*>(m_surface->winId()));
     } else {
         libvlc_media_player_set_xwindow(m_player, static_cast<std::uint32_t>(m_surface->winId()));
+    }
+}
+
+void VlcItem::GetReady()
+{
+    m_held->stage = Stage::Opening;
+    libvlc_media_add_option(m_media, ":start-paused");
+    libvlc_audio_set_mute(m_player, 1);
+    libvlc_media_player_play(m_player);
+}
+
+void VlcItem::GoOn()
+{
+    const std::lock_guard lock(m_held->mutex);
+    m_held->stage = Stage::Free;
+    // Unlike an end of the pause this counts behind a pause that is still on its way.
+    libvlc_media_player_play(m_player);
+}
+
+// A paused item has read what it needs, but decodes nothing: to find decoder and output would be left for when somebody
+// waits. So it plays, unheard, until there is an output, which is when its clock begins.
+void VlcItem::Step(Stage from, Stage to)
+{
+    {
+        const std::lock_guard lock(m_held->mutex);
+        if (m_held->stage != from)
+            return;
+        m_held->stage = to;
+    }
+    libvlc_media_player_retain(m_player);
+    // From the library's own thread the library may not be called.
+    const auto step = [player = m_player, held = m_held, to] {
+        {
+            const std::lock_guard lock(held->mutex);
+            // Sound alone has nothing to be found that takes long, and would be over by the time.
+            if (held->stage == to && libvlc_video_get_track_count(player) > 0)
+                libvlc_media_player_set_pause(player, to == Stage::Standing);
+        }
+        libvlc_media_player_release(player);
+    };
+    try {
+        std::thread(step).detach();
+    } catch (const std::system_error&) {
+        libvlc_media_player_release(m_player); // it has its first picture later then
     }
 }
 

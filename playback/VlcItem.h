@@ -59,6 +59,11 @@ public:
     VlcItem& operator=(const VlcItem&) = delete;
 
     libvlc_media_player_t* Player() const { return m_player; }
+    /// Opens it and holds it at its beginning, with the first picture drawn as soon as there is one. Its surface was
+    /// made hidden.
+    void GetReady();
+    /// Lets it go on from there.
+    void GoOn();
     /// For an item whose surface was made hidden.
     void ShowSurface();
     /// One of Engine's numbers.
@@ -69,6 +74,16 @@ public:
     static void End(std::unique_ptr<VlcItem> item, std::shared_ptr<VlcEndings> endings);
 
 private:
+    /// How far it is made ready.
+    enum class Stage {
+        Free,     ///< it is not, or no longer
+        Opening,  ///< paused, it reads what it needs
+        Starting, ///< it plays, unheard, until it has an output
+        Standing, ///< paused again, with its first picture
+    };
+    struct Held;
+
+    void Step(Stage from, Stage to);
     static void OnEvent(const libvlc_event_t* event, void* item);
     void ListenToEvents(bool listens);
     void AttachSurface();
@@ -80,6 +95,7 @@ private:
     QPointer<VideoSurface> m_surface;
     std::shared_ptr<PictureSink> m_sink;
     Events m_events;
+    std::shared_ptr<Held> m_held;
     libvlc_media_player_t* m_player;
     std::atomic<bool> m_hasFailed = false;
     std::atomic<bool> m_isOver = false;

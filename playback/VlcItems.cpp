@@ -111,7 +111,7 @@ void VlcItems::MakeReady(const MediaLocation& location, const EngineOptions& opt
     auto open = New(location, options, true);
     if (!open.item)
         return;
-    libvlc_media_player_play(open.Player());
+    open.item->GetReady();
     m_ready = { location, options, std::move(open) };
 }
 
@@ -124,11 +124,12 @@ void VlcItems::Forget()
 
 VlcItems::Open VlcItems::Take(const MediaLocation& location, const EngineOptions& options)
 {
+    ++m_taken;
     if (m_ready && m_ready->location == location && m_ready->options == options) {
         auto open = std::move(m_ready->open);
         m_ready.reset();
-        // The item before can have held the sound device.
-        if (m_log->TakeSoundFailure()) {
+        // The item beside which it was made ready can have held the sound device.
+        if (open.isBeside && m_log->TakeSoundFailure()) {
             End(std::move(open));
             return New(location, options, false);
         }
@@ -156,10 +157,8 @@ VlcItems::Open VlcItems::New(const MediaLocation& location, const EngineOptions&
     // forget this one; the item keeps it.
     if (m_plainOutput)
         libvlc_media_add_option(media, ":avcodec-hw=none");
-    if (isReady)
-        libvlc_media_add_option(media, ":start-paused");
     const auto onPlaying = std::make_shared<std::function<void()>>();
-    Open open{ library.instance, nullptr, onPlaying, isReady };
+    Open open{ library.instance, nullptr, onPlaying, isReady, isReady && m_taken > 0 };
     open.item = std::make_unique<VlcItem>(std::move(library), media, m_frame.AddSurface(!isReady),
         VlcItem::Events{ [heard = std::weak_ptr(onPlaying)] { TellLater(heard); },
             [heard = std::weak_ptr(m_onOver)] { TellLater(heard); } });
@@ -181,6 +180,12 @@ VlcLibrary VlcItems::NewLibrary()
         library.instance = m_base.get();
     m_log->Attach(library.instance.get());
     return library;
+}
+
+void VlcItems::GiveBack(Open open)
+{
+    --m_taken;
+    End(std::move(open));
 }
 
 void VlcItems::End(Open open)

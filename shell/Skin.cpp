@@ -90,10 +90,10 @@ Skin::Skin()
 {
 }
 
-Result<void> Skin::Load(const QString& folder)
+Skin::Decoding Skin::DecodeAll(const QString& folder)
 {
     const auto files = SkinLoadOrder();
-    std::array<QImage, kSkinImageCount> decoded;
+    Decoding decoded;
     std::atomic<std::size_t> next = 0;
     std::atomic<std::size_t> end = files.size();
     // A failure ends the work behind it only: what comes before it in load order is still decoded.
@@ -106,10 +106,25 @@ Result<void> Skin::Load(const QString& folder)
     };
     {
         std::vector<std::jthread> threads;
-        for (unsigned i = 1; i < std::min(std::thread::hardware_concurrency(), kMaximumThreads); ++i)
+        // One processor is left to whoever has begun this.
+        for (unsigned i = 2; i < std::min(std::thread::hardware_concurrency(), kMaximumThreads); ++i)
             threads.emplace_back(decode);
         decode();
     }
+    return decoded;
+}
+
+void Skin::Begin(const QString& folder)
+{
+    m_decoding = std::async(std::launch::async | std::launch::deferred, &DecodeAll, folder);
+}
+
+Result<void> Skin::Load(const QString& folder)
+{
+    if (!m_decoding.valid())
+        Begin(folder);
+    const auto decoded = m_decoding.get();
+    const auto files = SkinLoadOrder();
     for (std::size_t i = 0; i < files.size(); ++i) {
         if (decoded[i].isNull())
             return Error{ 0, "cannot load the picture " + ToText(folder) + files[i].name };

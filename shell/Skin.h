@@ -9,6 +9,7 @@
 
 #include <array>
 #include <functional>
+#include <future>
 
 class QPainter;
 
@@ -26,6 +27,8 @@ class Skin {
 public:
     Skin();
 
+    /// Begins to decode the files that Load() will be asked for, beside the caller.
+    void Begin(const QString& folder);
     /// To be called once. Decodes every file below `folder` (with a trailing separator). The first one, in load order,
     /// that cannot be loaded ends the load: it and the later ones stay empty, and the error's text names it.
     Result<void> Load(const QString& folder);
@@ -60,9 +63,13 @@ private:
         return qHashMulti(seed, static_cast<int>(key.image), key.width, key.height);
     }
 
+    using Decoding = std::array<QImage, kSkinImageCount>;
+
+    static Decoding DecodeAll(const QString& folder);
     Rect DrawPicture(QPainter& painter, const Rect& rect, const std::function<QImage(const QSize&)>& picture);
     QImage ScaledCopy(SkinImage image, const QSize& size);
 
+    std::future<Decoding> m_decoding;
     std::array<QImage, kSkinImageCount> m_images;
     QCache<CopyKey, QImage> m_copies; // the cost is in KiB
     int m_look = 0;                   // of the copies
