@@ -7,9 +7,9 @@ namespace zentaro {
 
 /// What a song is called, who has made it, and for which album; empty or 0 where the file does not say.
 struct MediaTags {
-    std::string artist;
-    std::string album;
-    std::string title;
+    std::string artist = {};
+    std::string album = {};
+    std::string title = {};
     int number = 0; ///< on the album
     int year = 0;
     bool operator==(const MediaTags&) const = default;
