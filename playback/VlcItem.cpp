@@ -17,6 +17,8 @@ namespace zentaro {
 
 namespace {
 
+constexpr std::chrono::milliseconds kMostUnseen(300); // of an item that is made ready
+
 // memory output: the library writes into pictures of ours
 unsigned OnFormat(void** opaque, char* chroma, unsigned* width, unsigned* height, unsigned* pitches, unsigned* lines)
 {
@@ -43,8 +45,8 @@ void OnDisplay(void* opaque, void*)
 } // namespace
 
 struct VlcItem::Held {
-    std::mutex mutex; // held while the library is told what follows from the stage
-    Stage stage = Stage::Free;
+    std::mutex mutex; // held while the library is told what follows from the stage, never in what it calls
+    std::atomic<Stage> stage = Stage::Free;
 };
 
 void VlcEndings::Begin()
@@ -156,7 +158,10 @@ void VlcItem::GetReady()
 void VlcItem::GoOn()
 {
     const std::lock_guard lock(m_held->mutex);
-    m_held->stage = Stage::Free;
+    // One that has found no output has played on, unseen.
+    if (m_held->stage.exchange(Stage::Free) != Stage::Opening
+        && libvlc_media_player_get_time(m_player) > kMostUnseen.count())
+        libvlc_media_player_set_time(m_player, 0);
     // Unlike an end of the pause this counts behind a pause that is still on its way.
     libvlc_media_player_play(m_player);
 }
@@ -165,12 +170,8 @@ void VlcItem::GoOn()
 // waits. So it plays, unheard, until there is an output, which is when its clock begins.
 void VlcItem::Step(Stage from, Stage to)
 {
-    {
-        const std::lock_guard lock(m_held->mutex);
-        if (m_held->stage != from)
-            return;
-        m_held->stage = to;
-    }
+    if (!m_held->stage.compare_exchange_strong(from, to))
+        return;
     libvlc_media_player_retain(m_player);
     // From the library's own thread the library may not be called.
     const auto step = [player = m_player, held = m_held, to] {
