@@ -399,8 +399,9 @@ TEST_F(Everyone, SeesANewLookInWhatIsOpen)
     WithEach([&](QWidget& top) {
         // These two keep a sign and a link, and go with the next key.
         if (const auto& other = changed[i++];
-            dynamic_cast<frmAbout*>(&top) == nullptr && dynamic_cast<MessageDialog*>(&top) == nullptr)
+            dynamic_cast<frmAbout*>(&top) == nullptr && dynamic_cast<MessageDialog*>(&top) == nullptr) {
             EXPECT_EQ(lookAfter(top, contrast), other) << i << ' ' << top.windowTitle().toStdString();
+        }
     });
 }
 
