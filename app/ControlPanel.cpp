@@ -141,7 +141,7 @@ void ControlPanel::Show()
     m_rate->setText(ToQString(Words(state.rateText)));
     m_volumeNumber->setText(QString::number(state.boost > 100 ? state.boost : state.volume));
     m_seek->Show({ state.mediaControlsEnabled, state.progress, state.length, state.chapters, state.seeks,
-        state.mediaControlsEnabled ? ToQString(PlaceText(state)) : QString() });
+        state.mediaControlsEnabled ? ToQString(PlaceText(state)) : QString(), state.hasVideoOutput });
     m_volume->Show(state.volume);
     m_pauseMark->Show(state.isPaused && state.mediaControlsEnabled);
     PlaceClose();

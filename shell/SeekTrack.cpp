@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <utility>
 
@@ -20,6 +21,7 @@ constexpr double kKnobRadius = 6;   // px
 constexpr double kRingMargin = 4.5; // px, over and under the ring of the focus
 constexpr double kNotch = 2;        // px
 constexpr double kChapterReach = 4; // px, from where a press means a chapter's start
+constexpr auto kRest = std::chrono::milliseconds(120);
 constexpr double kBeforeEnd = 5000; // ms that are left after a jump to the end
 
 } // namespace
@@ -34,6 +36,9 @@ SeekTrack::SeekTrack(QWidget* parent)
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
     setCursor(Qt::ArrowCursor);
+    m_rest.setSingleShot(true);
+    m_rest.setInterval(kRest);
+    connect(&m_rest, &QTimer::timeout, this, &SeekTrack::HandRests);
 }
 
 void SeekTrack::Show(const Place& place)
@@ -47,7 +52,9 @@ void SeekTrack::Show(const Place& place)
     if (isOther && m_pointer)
         PointAt(*m_pointer);
     const auto before = m_bar.FillWidth();
-    m_bar.SetProgress(place.progress * 100);
+    if (!place.mediaControlsEnabled)
+        m_passing.reset();
+    m_bar.SetProgress(m_passing.value_or(place.progress) * 100);
     if (m_bar.FillWidth() != before)
         update();
     FollowHand();
@@ -75,8 +82,26 @@ void SeekTrack::Choose(std::optional<double> position)
 {
     if (!position)
         return;
+    m_passing.reset();
     update();
     emit PositionChosen(*position);
+}
+
+// An engine that went to each place on the way would show few of them, and leave no time for the pictures over the
+// track, which follow the hand.
+void SeekTrack::ChooseInPassing(std::optional<double> position)
+{
+    if (!position || !m_place.takesTime)
+        return Choose(position);
+    m_passing = position;
+    update();
+    m_rest.start();
+}
+
+void SeekTrack::HandRests()
+{
+    m_rest.stop();
+    Choose(m_passing);
 }
 
 void SeekTrack::PointAt(double x)
@@ -152,8 +177,13 @@ void SeekTrack::mouseMoveEvent(QMouseEvent* event)
     if (event->buttons() == Qt::NoButton)
         return;
     const bool isLeft = event->buttons().testFlag(Qt::LeftButton);
-    Choose(m_heldOnFill ? m_bar.PointerOnFill(x, isLeft, m_place.mediaControlsEnabled)
-                        : m_bar.MoveOnTrack(x, isLeft, m_place.mediaControlsEnabled));
+    ChooseInPassing(m_heldOnFill ? m_bar.PointerOnFill(x, isLeft, m_place.mediaControlsEnabled)
+                                 : m_bar.MoveOnTrack(x, isLeft, m_place.mediaControlsEnabled));
+}
+
+void SeekTrack::mouseReleaseEvent(QMouseEvent*)
+{
+    HandRests();
 }
 
 void SeekTrack::keyPressEvent(QKeyEvent* event)

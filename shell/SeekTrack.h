@@ -5,6 +5,7 @@
 #include "shell/SeekBar.h"
 #include "shell/SliderAccessible.h"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <optional>
@@ -28,6 +29,7 @@ public:
         std::vector<DiscPart> chapters = {}; ///< they get a notch each
         int seeks = 0;                       ///< changes whenever another place was chosen
         QString spoken = {};                 ///< the place in words
+        bool takesTime = false;              ///< each place costs work: a hand that drags goes to where it rests
     };
     void Show(const Place& place);
 
@@ -54,11 +56,15 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void FollowHand();
     void Choose(std::optional<double> position);
+    /// For a hand that may go on.
+    void ChooseInPassing(std::optional<double> position);
+    void HandRests();
     void PointAt(double x);
     void PointNowhere();
     /// At its start where a chapter begins so near that the hand must have meant it.
@@ -71,6 +77,8 @@ private:
     bool m_isNear = false;
     Fade m_nearness{ *this, [this] { update(); } };
     bool m_heldOnFill = false;       // the button went down on the played part
+    std::optional<double> m_passing; // where the hand is on its way, 0 to 1
+    QTimer m_rest;
     std::optional<double> m_pointer; // its x, over a place that can be gone to
 };
 
