@@ -69,12 +69,22 @@ QString FittingParts(QString line, const QFontMetrics& metrics, int width)
     return line;
 }
 
+/// Where a line lies that does not fit: what it begins with is what people look for, and some scripts begin at the
+/// right.
+int LineLeft(const QString& line, int lineWidth, const ListRect& rect)
+{
+    return lineWidth > rect.Width() && line.isRightToLeft() ? rect.right - lineWidth : rect.left;
+}
+
 // A line that goes on fades: letters cut through look broken.
-QPen TextPen(const QColor& color, int lineWidth, const ListRect& rect)
+QPen TextPen(const QColor& color, const QString& line, int lineWidth, const ListRect& rect)
 {
     if (lineWidth <= rect.Width())
         return color;
-    QLinearGradient fade(std::max(rect.left, rect.right - kFade), 0, rect.right, 0);
+    const bool endsAtLeft = line.isRightToLeft();
+    const int end = endsAtLeft ? rect.left : rect.right;
+    const int begin = endsAtLeft ? std::min(rect.right, end + kFade) : std::max(rect.left, end - kFade);
+    QLinearGradient fade(begin, 0, end, 0);
     fade.setColorAt(0, color);
     fade.setColorAt(1, Faded(color, 0));
     return QPen(fade, 1);
@@ -193,17 +203,19 @@ void FancyListPainter::PaintText(
         const auto text = Paintable(line, rect.Width());
         if (!m_look.find.empty())
             PaintFound(text, rect, top);
-        m_painter.setPen(TextPen(color, metrics.horizontalAdvance(text), rect));
-        m_painter.drawText(QPoint(rect.left, top + metrics.ascent()), text);
+        const auto width = metrics.horizontalAdvance(text);
+        m_painter.setPen(TextPen(color, text, width, rect));
+        m_painter.drawText(QPoint(LineLeft(text, width, rect), top + metrics.ascent()), text);
         top += metrics.height();
     }
     if (!item.Detail.empty() && top < rect.bottom) {
         const QFontMetrics detailMetrics(m_look.detailFont);
         const auto detail =
             FittingParts(Paintable(QString::fromStdString(item.Detail), rect.Width()), detailMetrics, rect.Width());
-        m_painter.setPen(TextPen(dimmed, detailMetrics.horizontalAdvance(detail), rect));
+        const auto width = detailMetrics.horizontalAdvance(detail);
+        m_painter.setPen(TextPen(dimmed, detail, width, rect));
         m_painter.setFont(m_look.detailFont);
-        m_painter.drawText(QPoint(rect.left, top + kDetailGap + detailMetrics.ascent()), detail);
+        m_painter.drawText(QPoint(LineLeft(detail, width, rect), top + kDetailGap + detailMetrics.ascent()), detail);
     }
     m_painter.restore();
 }

@@ -65,10 +65,11 @@ TEST_F(MediaControlLinuxTest, a_client_reads_what_was_published)
     Publish(control);
     EXPECT_EQ(bus.OutputOf("sh -c 'for what in status position volume loop shuffle; do playerctl $what; done'"),
         "Paused\n12.000000\n1.000000\nNone\nOff");
-    EXPECT_EQ(
-        bus.OutputOf(
-            "playerctl metadata -f '{{artist}}|{{album}}|{{xesam:trackNumber}}|{{xesam:contentCreated}}|{{title}}|{{xesam:url}}|{{mpris:artUrl}}|{{mpris:length}}|{{mpris:trackid}}'"),
-        "Who|Low Tide|3|0987-01-01T00:00:00Z|One \xEF\xBF\xBD|file:///clips/one%20two.mp4|file:///tmp/art.png|90000000|'/org/zentaro/track/7'");
+    EXPECT_EQ(bus.OutputOf("playerctl metadata -f "
+                           "'{{artist}}|{{album}}|{{xesam:trackNumber}}|{{xesam:contentCreated}}|{{title}}|{{xesam:url}"
+                           "}|{{mpris:artUrl}}|{{mpris:length}}|{{mpris:trackid}}'"),
+        "Who|Low Tide|3|0987-01-01T00:00:00Z|One "
+        "\xEF\xBF\xBD|file:///clips/one%20two.mp4|file:///tmp/art.png|90000000|'/org/zentaro/track/7'");
     EXPECT_THAT(Busctl("call @.TrackList GetTracksMetadata ao 2 /org/zentaro/track/8 /org/zentaro/track/99"),
         testing::StartsWith("aa{sv} 1 3 \"mpris:trackid\" o \"/org/zentaro/track/8\" \"xesam:title\" s \"Two\""));
     EXPECT_EQ(Busctl("get-property @ CanQuit CanSetFullscreen CanRaise HasTrackList Identity DesktopEntry Fullscreen "

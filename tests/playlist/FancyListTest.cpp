@@ -138,6 +138,16 @@ TEST_F(FancyListTest, LinesShowWhatTheySayAsFarAsThereIsRoom)
     EXPECT_EQ(shown("a\nb"), shown("a\r\nb"));
     EXPECT_EQ(shown("a\nb"), shown("a\rb"));
     EXPECT_EQ(shown("a\tb"), shown("a b"));
+    // A name that is read from the right is cut at the left; its letters may all look the same here.
+    const auto alephs = [](int count) {
+        std::string text;
+        while (count-- > 0)
+            text += "\u05D0";
+        return text;
+    };
+    EXPECT_NE(shown(alephs(121)), shown("\u05D0" + std::string(20, ' ') + alephs(100)));
+    list.Clear();
+    items.AddItem("a\tb", {});
     list.AddItem("<b>" + std::string(100, 'W'), {});
     const auto tipAt = [&](int y) {
         QHelpEvent help(QEvent::ToolTip, { 100, y }, list.mapToGlobal(QPoint(100, y)));
