@@ -1,12 +1,20 @@
 #include "app/WindowSight.h"
 
 #include <QEvent>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
+#include <chrono>
 #include <utility>
 
 namespace zentaro {
+
+namespace {
+
+constexpr auto kStart = std::chrono::seconds(2); // which has other things to do
+
+}
 
 WindowSight::WindowSight(QWidget& window, std::function<void(bool)> changed)
     : QObject(&window)
@@ -36,6 +44,11 @@ void WindowSight::Look()
         m_window.isVisible() && !m_window.isMinimized() && !m_isCovered && handle != nullptr && handle->isExposed();
     if (std::exchange(m_isSeen, isSeen) != isSeen)
         m_changed(isSeen);
+}
+
+void WatchSight(QWidget& window, std::function<void(bool)> changed)
+{
+    QTimer::singleShot(kStart, &window, [&window, changed = std::move(changed)] { new WindowSight(window, changed); });
 }
 
 } // namespace zentaro

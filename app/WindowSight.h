@@ -31,4 +31,7 @@ private:
     bool m_isSeen = true;
 };
 
+/// Begins with that once the start of the (shown) window is over.
+void WatchSight(QWidget& window, std::function<void(bool isSeen)> changed);
+
 } // namespace zentaro

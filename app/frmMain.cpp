@@ -34,21 +34,12 @@
 #include <QHelpEvent>
 #include <QPainter>
 #include <QScreen>
-#include <QTimer>
 #include <QToolTip>
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 namespace zentaro {
-
-namespace {
-
-constexpr double kTwipsPerPixel = 15;
-constexpr auto kUntilSightCounts = std::chrono::seconds(2); // a start has other things to do
-
-} // namespace
 
 frmMain::frmMain(Player& player, Previews& previews, VideoFrame* video, const QString& programFolder)
     : m_player(player)
@@ -109,16 +100,6 @@ ScreenExtent frmMain::Extent() const
     return { size.width() * kTwipsPerPixel, size.height() * kTwipsPerPixel };
 }
 
-double frmMain::WindowLeft() const
-{
-    return NormalGeometry().left() * kTwipsPerPixel;
-}
-
-double frmMain::WindowTop() const
-{
-    return NormalGeometry().top() * kTwipsPerPixel;
-}
-
 void frmMain::FitFilm(int width, int height)
 {
     FitTo(*m_video, width, height);
@@ -143,8 +124,7 @@ void frmMain::ShowWindow()
     platform::OnQuitRequest([this] { close(); });
     show();
     StateChanged();
-    QTimer::singleShot(kUntilSightCounts, this,
-        [this] { new WindowSight(*this, [this](bool isSeen) { m_player.Transporting().SetSeen(isSeen); }); });
+    WatchSight(*this, [this](bool isSeen) { m_player.Transporting().SetSeen(isSeen); });
 }
 
 void frmMain::FlashCaption()

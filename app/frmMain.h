@@ -37,8 +37,8 @@ public:
 
     ScreenExtent Extent() const override;
     bool IsMaximized() const override { return CountsAsMaximized(); }
-    double WindowLeft() const override;
-    double WindowTop() const override;
+    double WindowLeft() const override { return NormalGeometry().left() * kTwipsPerPixel; }
+    double WindowTop() const override { return NormalGeometry().top() * kTwipsPerPixel; }
     int WindowWidth() const override { return NormalGeometry().width(); }
     int WindowHeight() const override { return NormalGeometry().height(); }
     bool IsFullScreen() const override { return FillsScreen(); }
@@ -68,6 +68,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    static constexpr double kTwipsPerPixel = 15;
+
     void MakeMenus();
     void PlaceParts();
     void FillsScreenNow(bool fills);

@@ -5,6 +5,7 @@
 #include "bench/WindowAsker.h"
 #include "platform/Files.h"
 #include "playlist/KnownFiles.h"
+#include "shell/WindowLayout.h"
 #include "tests/desktop/Desktop.h"
 #include "tests/desktop/Wait.h"
 
@@ -89,6 +90,49 @@ Clock::time_point AtRest(pid_t id, Clock::duration limit)
     return last;
 }
 
+/// The rows in sight have their thumbnails, which are colourful; what stands for one is not.
+bool ShowsThumbnails(const Desktop& desktop, const Rect& content)
+{
+    const auto column = desktop.Grab({ content.left + 8, content.top, 64, content.height - 30 });
+    int rows = 0;
+    for (int y = 0; y < column.height(); ++y) {
+        int colourful = 0;
+        for (int x = 0; x < column.width(); ++x) {
+            const auto pixel = column.pixel(x, y);
+            const auto [least, most] = std::minmax({ qRed(pixel), qGreen(pixel), qBlue(pixel) });
+            colourful += most - least > 100;
+        }
+        rows += colourful > column.width() / 2;
+    }
+    // About 10 lines of each thumbnail are full of colour.
+    return rows >= 3 * 8;
+}
+
+/// Jumps from one end of the list to the other and says how long rows were without their thumbnails at most. The key
+/// takes 30 ms by itself.
+void MeasureJumps(Desktop& desktop, ::Window window)
+{
+    const auto place = desktop.Place(window);
+    auto content = WindowLayout(place.width, place.height).Content();
+    content.left += place.left;
+    content.top += place.top;
+    desktop.Click(content.left + 100, content.top + 40);
+    std::this_thread::sleep_for(1s);
+    double longest = 0;
+    for (const auto* const key : { "End", "Home", "End", "Home", "Next Next Next", "End" }) {
+        desktop.Press(key);
+        const auto start = Clock::now();
+        auto whole = start;
+        while (Clock::now() - start < 500ms) {
+            std::this_thread::sleep_for(3ms);
+            if (ShowsThumbnails(desktop, content))
+                whole = Clock::now();
+            longest = std::max(longest, std::chrono::duration<double, std::milli>(Clock::now() - whole).count());
+        }
+    }
+    std::printf("after a jump through the list rows were without their thumbnails for %.0f ms at most\n", longest);
+}
+
 void Measure(const std::string& player, const std::string& add, const std::string& folder)
 {
     Desktop desktop(1280, 800, Desktop::WindowManager::None);
@@ -112,6 +156,7 @@ void Measure(const std::string& player, const std::string& add, const std::strin
         "listed in %.2f s; the window answered within %.0f ms, middle %.1f ms; %.1f MiB more than empty (%.1f)\n",
         listed.count(), times.empty() ? -1 : times.back(), times.empty() ? -1 : times[times.size() / 2],
         static_cast<double>(Memory(process.Id()) - empty) / 1024, static_cast<double>(empty) / 1024);
+    MeasureJumps(desktop, windows.front());
     process.Signal(SIGTERM);
     if (!process.WaitForEnd(10s))
         process.Kill();
