@@ -107,8 +107,9 @@ VlcItem::~VlcItem()
 void VlcItem::ListenToEvents(bool listens)
 {
     auto* const events = libvlc_media_player_event_manager(m_player);
-    for (const libvlc_event_type_t type : { libvlc_MediaPlayerPlaying, libvlc_MediaPlayerBuffering,
-             libvlc_MediaPlayerEndReached, libvlc_MediaPlayerEncounteredError, libvlc_MediaPlayerStopped }) {
+    for (const libvlc_event_type_t type :
+        { libvlc_MediaPlayerPlaying, libvlc_MediaPlayerBuffering, libvlc_MediaPlayerVout, libvlc_MediaPlayerEndReached,
+            libvlc_MediaPlayerEncounteredError, libvlc_MediaPlayerStopped }) {
         if (listens)
             libvlc_event_attach(events, type, &OnEvent, this);
         else

@@ -83,6 +83,23 @@ TEST_F(VideoMenuOfAnItem, OffersWhatTheEngineHasAndStartsAnewWithTheNext)
     EXPECT_FALSE(ReadVideoChoices(player).hasVideo);
 }
 
+TEST_F(VideoMenuOfAnItem, StandsAtItsBeginningUntilItIsTaken)
+{
+    const auto film = MakeFilm();
+    for (const auto& path : { film, trial::Clips::Make("short.mp4", 1.4) }) {
+        const EngineOptions options{};
+        engines.MakeReady({ path, false }, options);
+        RunFor(3s);
+        const auto engine = engines.Create();
+        engine->Add({ path, false }, options);
+        EXPECT_LT(engine->State(), Engine::kEnded) << path;
+        EXPECT_LT(engine->Time(), 300) << path;
+        engine->Play();
+        EXPECT_TRUE(RunUntil([&] { return engine->State() == Engine::kPlaying; })) << path;
+        EXPECT_TRUE(RunUntil([&] { return engine->State() == Engine::kEnded || engine->Time() > 300; })) << path;
+    }
+}
+
 TEST_F(VideoMenuOfAnItem, LeavesOutItsPicturesWhileNobodySeesThem)
 {
     AddEntries({ MakeFilm() });
