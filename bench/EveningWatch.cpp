@@ -1,12 +1,13 @@
 // What counts while somebody watches, seen from outside on a virtual display of its own:
-//   evening-watch gap NAME COMMAND... FIRST SECOND     ms from the last picture of the first film to the first of the
-//   second evening-watch unseen NAME COMMAND... FILM          processor time in % of one core: seen, covered, minimised
-//   evening-watch scrub PLAYER FILM                    pictures over the track per second while it is dragged, at once
-//   and
-//                                                      once the film is known; ms from letting go to the picture there
+//   evening-watch gap NAME COMMAND... FIRST SECOND     ms between the last picture of one film and the next one's first
+//   evening-watch unseen NAME COMMAND... FILM          % of one core while seen, covered, minimised; ms until it is
+//   back evening-watch scrub PLAYER FILM                    pictures per second over the track while it is dragged:
+//                                                      of a new film, of a known one
 // The first film has a magenta band across its middle, the second a green one, above and below all pixels change from
 // picture to picture. The film for "scrub" has in its middle one colour that turns with the time.
 #include "app/ConfigFile.h"
+#include "bench/FilmBand.h"
+#include "bench/ProcessFigures.h"
 #include "shell/WindowLayout.h"
 #include "tests/desktop/Desktop.h"
 
@@ -16,9 +17,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <map>
-#include <sstream>
 #include <stdexcept>
-#include <unistd.h>
 #include <xcb/xcb.h>
 
 namespace {
@@ -33,18 +32,6 @@ constexpr auto kSettled = 3s;
 constexpr auto kSpared = 6s; // until a film that nobody sees is spared
 constexpr auto kWatched = 8s;
 constexpr auto kDrag = 4s;
-
-enum class Band { None, Green, Magenta };
-
-Band BandOf(QRgb pixel)
-{
-    const bool red = qRed(pixel) > 128;
-    const bool green = qGreen(pixel) > 128;
-    const bool blue = qBlue(pixel) > 128;
-    if (green && !red && !blue)
-        return Band::Green;
-    return red && blue && !green ? Band::Magenta : Band::None;
-}
 
 double Milliseconds(Clock::duration time)
 {
@@ -143,19 +130,6 @@ void MeasureGap(Watched& watched)
         std::this_thread::sleep_for(1ms);
     }
     std::printf("%.0f\n", Milliseconds(Clock::now() - last));
-}
-
-double ProcessorSeconds(pid_t id)
-{
-    const auto text = ReadWholeFile("/proc/" + std::to_string(id) + "/stat");
-    std::istringstream fields(text.substr(text.rfind(')') + 1));
-    std::string skipped;
-    for (int field = 3; field < 14; ++field)
-        fields >> skipped;
-    double user = 0;
-    double system = 0;
-    fields >> user >> system;
-    return (user + system) / static_cast<double>(sysconf(_SC_CLK_TCK));
 }
 
 double Share(const Watched& watched)

@@ -2,6 +2,7 @@
 // Makes the files and what is known of them, starts PLAYER on a display of its own and lets ADD give it the folder.
 // Says how long the list took (until the player is at rest), how long its window needed for an answer meanwhile, and
 // what memory (PSS) the entries take.
+#include "bench/ProcessFigures.h"
 #include "bench/WindowAsker.h"
 #include "platform/Files.h"
 #include "playlist/KnownFiles.h"
@@ -16,7 +17,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <sstream>
 
 namespace {
 
@@ -25,7 +25,8 @@ using namespace zentaro::trial;
 using Clock = std::chrono::steady_clock;
 namespace fs = std::filesystem;
 
-constexpr auto kRest = 400ms; // without any work: it is done
+constexpr auto kRest = 400ms;   // without any work: it is done
+constexpr double kTick = 0.015; // s; more than one tick of the processor
 
 std::string TextOf(const std::string& path)
 {
@@ -50,39 +51,16 @@ void MakeFiles(const std::string& folder, int count, const std::string& thumbnai
     }
 }
 
-long Memory(pid_t id)
-{
-    std::istringstream lines(TextOf("/proc/" + std::to_string(id) + "/smaps_rollup"));
-    for (std::string line; std::getline(lines, line);)
-        if (line.starts_with("Pss:"))
-            return std::strtol(line.c_str() + 4, nullptr, 10);
-    return 0;
-}
-
-/// Ticks of the processor.
-long Work(pid_t id)
-{
-    const auto text = TextOf("/proc/" + std::to_string(id) + "/stat");
-    std::istringstream fields(text.substr(text.rfind(')') + 1));
-    std::string skipped;
-    for (int field = 3; field < 14; ++field)
-        fields >> skipped;
-    long user = 0;
-    long system = 0;
-    fields >> user >> system;
-    return user + system;
-}
-
 /// When it did something last.
 Clock::time_point AtRest(pid_t id, Clock::duration limit)
 {
-    auto work = Work(id);
+    auto work = ProcessorSeconds(id);
     auto last = Clock::now();
     const auto end = last + limit;
     // A tick now and then is no work.
     while (Clock::now() - last < kRest && Clock::now() < end) {
         std::this_thread::sleep_for(20ms);
-        if (const auto now = Work(id); now > work + 1) {
+        if (const auto now = ProcessorSeconds(id); now > work + kTick) {
             work = now;
             last = Clock::now();
         }
@@ -142,7 +120,7 @@ void Measure(const std::string& player, const std::string& add, const std::strin
     if (!WaitUntil([&] { return !(windows = desktop.WindowsOf(process.Id())).empty(); }))
         throw std::runtime_error("no window came");
     std::this_thread::sleep_for(8s);
-    const auto empty = Memory(process.Id());
+    const auto empty = MemoryOf(process.Id());
     asker.Ask(windows.front());
     std::this_thread::sleep_for(1s);
     asker.Take();
@@ -155,7 +133,7 @@ void Measure(const std::string& player, const std::string& add, const std::strin
     std::printf(
         "listed in %.2f s; the window answered within %.0f ms, middle %.1f ms; %.1f MiB more than empty (%.1f)\n",
         listed.count(), times.empty() ? -1 : times.back(), times.empty() ? -1 : times[times.size() / 2],
-        static_cast<double>(Memory(process.Id()) - empty) / 1024, static_cast<double>(empty) / 1024);
+        static_cast<double>(MemoryOf(process.Id()) - empty) / 1024, static_cast<double>(empty) / 1024);
     MeasureJumps(desktop, windows.front());
     process.Signal(SIGTERM);
     if (!process.WaitForEnd(10s))

@@ -4,6 +4,7 @@
 // band of pure magenta across its middle.
 //   launch-watch settings FILE 0|1    writes settings of ours with which a launch fills the screen or not
 #include "app/ConfigFile.h"
+#include "bench/ProcessFigures.h"
 
 #include <algorithm>
 #include <chrono>
@@ -13,11 +14,9 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <map>
 #include <memory>
 #include <optional>
-#include <sstream>
 #include <string>
 #include <sys/wait.h>
 #include <thread>
@@ -28,6 +27,7 @@
 namespace {
 
 using namespace std::chrono_literals;
+using namespace zentaro;
 using Clock = std::chrono::steady_clock;
 
 constexpr int kStripDistance = 16; // px, well below the height of the band in a small window
@@ -89,59 +89,31 @@ private:
     xcb_screen_t* m_screen = nullptr;
 };
 
-/// A number from a file of lines "Name: number ..."; 0 where it is missing.
-long NumberIn(const std::filesystem::path& path, const std::string& name)
+std::multimap<pid_t, pid_t> ChildrenOfAll()
 {
-    std::ifstream file(path);
-    for (std::string line; std::getline(file, line);)
-        if (line.starts_with(name + ":"))
-            return std::strtol(line.c_str() + name.size() + 1, nullptr, 10);
-    return 0;
-}
-
-std::multimap<long, long> ChildrenOfAll()
-{
-    std::multimap<long, long> children;
+    std::multimap<pid_t, pid_t> children;
     for (const auto& entry : std::filesystem::directory_iterator("/proc"))
-        if (const long pid = std::strtol(entry.path().filename().c_str(), nullptr, 10); pid > 0)
-            children.emplace(NumberIn(entry.path() / "status", "PPid"), pid);
+        if (const auto id = static_cast<pid_t>(std::strtol(entry.path().filename().c_str(), nullptr, 10)); id > 0)
+            children.emplace(static_cast<pid_t>(NumberIn(entry.path() / "status", "PPid")), id);
     return children;
 }
 
-/// PSS (KiB) of a process and all that descend from it.
-long MemoryOf(long pid, const std::multimap<long, long>& children)
+/// What `figure` says of a process and of all that descend from it.
+template <typename Figure>
+auto SumOf(Figure figure, pid_t id, const std::multimap<pid_t, pid_t>& children) -> decltype(figure(id))
 {
-    long sum = NumberIn("/proc/" + std::to_string(pid) + "/smaps_rollup", "Pss");
-    const auto [first, last] = children.equal_range(pid);
+    auto sum = figure(id);
+    const auto [first, last] = children.equal_range(id);
     for (auto child = first; child != last; ++child)
-        sum += MemoryOf(child->second, children);
-    return sum;
-}
-
-/// Processor time (s) of a process, of its children that have ended, and of all that descend from it.
-double ProcessorTimeOf(long pid, const std::multimap<long, long>& children)
-{
-    std::ifstream file("/proc/" + std::to_string(pid) + "/stat");
-    const std::string text(std::istreambuf_iterator<char>(file), {});
-    std::istringstream fields(text.substr(std::min(text.rfind(')') + 1, text.size())));
-    std::string skipped;
-    for (int field = 3; field < 14; ++field)
-        fields >> skipped;
-    double sum = 0;
-    double ticks = 0;
-    for (int field = 14; field < 18 && fields >> ticks; ++field)
-        sum += ticks / static_cast<double>(sysconf(_SC_CLK_TCK));
-    const auto [first, last] = children.equal_range(pid);
-    for (auto child = first; child != last; ++child)
-        sum += ProcessorTimeOf(child->second, children);
+        sum += SumOf(figure, child->second, children);
     return sum;
 }
 
 int WriteSettings(const char* path, bool fullScreen)
 {
-    auto settings = zentaro::DefaultSettings("/", { 1920 * 15, 1080 * 15 });
+    auto settings = DefaultSettings("/", { 1920 * 15, 1080 * 15 });
     settings.LaunchFullScreen = fullScreen;
-    std::ofstream(path, std::ios::binary) << zentaro::FormatConfigurations(settings);
+    std::ofstream(path, std::ios::binary) << FormatConfigurations(settings);
     return 0;
 }
 
@@ -197,11 +169,11 @@ int main(int argc, char** argv)
     }
     const auto launch = MillisecondsToFirstFrame(screen, start);
     const auto seconds = std::atoi(argv[1]);
-    double load = -ProcessorTimeOf(player, ChildrenOfAll());
+    double load = -SumOf(ProcessorSeconds, player, ChildrenOfAll());
     if (launch)
         std::this_thread::sleep_for(std::chrono::seconds(seconds));
-    load += ProcessorTimeOf(player, ChildrenOfAll());
-    const auto memory = launch && screen.ShowsVideo() ? MemoryOf(player, ChildrenOfAll()) : 0;
+    load += SumOf(ProcessorSeconds, player, ChildrenOfAll());
+    const auto memory = launch && screen.ShowsVideo() ? SumOf(MemoryOf, player, ChildrenOfAll()) : 0;
     End(player);
     if (memory == 0) {
         std::fprintf(stderr, "%s showed no video\n", argv[2]);

@@ -4,6 +4,8 @@
 // The clip shows a band across its middle: green in the first half of its 20 s, magenta in the second; for "cpu" always
 // magenta. The video is 1280 x 720 in all programs; zentaro gets its window so.
 #include "app/ConfigFile.h"
+#include "bench/FilmBand.h"
+#include "bench/ProcessFigures.h"
 #include "shell/WindowLayout.h"
 #include "tests/desktop/Desktop.h"
 
@@ -13,7 +15,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
-#include <sstream>
 #include <stdexcept>
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -31,18 +32,6 @@ constexpr int kScreenWidth = 1600;
 constexpr int kScreenHeight = 1000;
 constexpr double kClipSeconds = 20;
 constexpr auto kSettled = 2s;
-
-enum class Band { None, Green, Magenta };
-
-Band BandOf(std::uint32_t pixel)
-{
-    const bool red = (pixel >> 16 & 0xFF) > 128;
-    const bool green = (pixel >> 8 & 0xFF) > 128;
-    const bool blue = (pixel & 0xFF) > 128;
-    if (green && !red && !blue)
-        return Band::Green;
-    return red && blue && !green ? Band::Magenta : Band::None;
-}
 
 /// What runs from one side of `row` to the other, but for its ends.
 Band BandIn(const QImage& row)
@@ -161,19 +150,6 @@ private:
     Rect m_row;
     std::vector<int> m_ends;
 };
-
-double ProcessorSeconds(pid_t id)
-{
-    const auto text = ReadWholeFile("/proc/" + std::to_string(id) + "/stat");
-    std::istringstream fields(text.substr(text.rfind(')') + 1));
-    std::string skipped;
-    for (int field = 3; field < 14; ++field)
-        fields >> skipped;
-    double user = 0;
-    double system = 0;
-    fields >> user >> system;
-    return (user + system) / static_cast<double>(sysconf(_SC_CLK_TCK));
-}
 
 void MeasureSeeks(Watched& watched, int seeks)
 {
