@@ -342,7 +342,6 @@ bool VlcEngine::Open()
 {
     Close();
     auto open = m_items.Take(m_location, m_options);
-    m_isTaken = true;
     if (!open.item)
         return false;
     m_open = std::move(open);
@@ -364,8 +363,8 @@ void VlcEngine::Close()
     m_player = nullptr;
     m_unseenTrack = -1;
     m_isLeavingPause = false;
-    if (std::exchange(m_isTaken, false))
-        m_items.GiveBack(std::exchange(m_open, {}));
+    if (m_open.item)
+        m_items.End(std::exchange(m_open, {}));
 }
 
 } // namespace zentaro

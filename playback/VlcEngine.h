@@ -70,7 +70,6 @@ private:
     libvlc_media_player_t* m_player = nullptr; // the item's; null while it is stopped
     int m_unseenTrack = -1;                    // of the video, while it is not decoded
     bool m_isAdded = false;
-    bool m_isTaken = false;
     bool m_pauseWaits = false;     // until it plays
     bool m_isLeavingPause = false; // it was made ready, and does not play yet, but was told to
     std::string m_deinterlacing = kDeinterlaceAuto;

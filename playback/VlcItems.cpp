@@ -124,20 +124,19 @@ void VlcItems::Forget()
 
 VlcItems::Open VlcItems::Take(const MediaLocation& location, const EngineOptions& options)
 {
-    ++m_taken;
-    if (m_ready && m_ready->location == location && m_ready->options == options) {
-        auto open = std::move(m_ready->open);
-        m_ready.reset();
-        // The item beside which it was made ready can have held the sound device.
-        if (open.isBeside && m_log->TakeSoundFailure()) {
-            End(std::move(open));
-            return New(location, options, false);
-        }
-        open.item->ShowSurface();
-        return open;
-    }
+    Open open;
+    if (m_ready && m_ready->location == location && m_ready->options == options)
+        open = std::move(std::exchange(m_ready, std::nullopt)->open);
     Forget();
-    return New(location, options, false);
+    // The item beside which it was made ready can have held the sound device.
+    if (open.isBeside && m_log->TakeSoundFailure())
+        End(std::exchange(open, {}));
+    if (open.item)
+        open.item->ShowSurface();
+    else
+        open = New(location, options, false);
+    open.taken = m_taken;
+    return open;
 }
 
 VlcItems::Open VlcItems::New(const MediaLocation& location, const EngineOptions& options, bool isReady)
@@ -158,7 +157,8 @@ VlcItems::Open VlcItems::New(const MediaLocation& location, const EngineOptions&
     if (m_plainOutput)
         libvlc_media_add_option(media, ":avcodec-hw=none");
     const auto onPlaying = std::make_shared<std::function<void()>>();
-    Open open{ library.instance, nullptr, onPlaying, isReady, isReady && m_taken > 0 };
+    const bool isBeside = isReady && m_taken.use_count() > 1;
+    Open open{ library.instance, nullptr, onPlaying, nullptr, isReady, isBeside };
     open.item = std::make_unique<VlcItem>(std::move(library), media, m_frame.AddSurface(!isReady),
         VlcItem::Events{ [heard = std::weak_ptr(onPlaying)] { TellLater(heard); },
             [heard = std::weak_ptr(m_onOver)] { TellLater(heard); } });
@@ -180,12 +180,6 @@ VlcLibrary VlcItems::NewLibrary()
         library.instance = m_base.get();
     m_log->Attach(library.instance.get());
     return library;
-}
-
-void VlcItems::GiveBack(Open open)
-{
-    --m_taken;
-    End(std::move(open));
 }
 
 void VlcItems::End(Open open)

@@ -26,8 +26,9 @@ public:
         std::unique_ptr<VlcItem> item = {};
         /// Called on the UI thread whenever the item begins to play or goes on, until this is gone.
         std::shared_ptr<std::function<void()>> onPlaying = {};
-        bool isReady = false;  ///< it is paused at its beginning
-        bool isBeside = false; ///< it was made ready while another one played
+        std::shared_ptr<void> taken = {}; ///< while an engine has it
+        bool isReady = false;             ///< it is paused at its beginning
+        bool isBeside = false;            ///< it was made ready while another one played
 
         /// Null while there is no item.
         libvlc_media_player_t* Player() const { return item ? item->Player() : nullptr; }
@@ -47,8 +48,8 @@ public:
     /// What was made ready, if it is that item. It is shown from now on; any other is forgotten, and a new one made.
     Open Take(const MediaLocation& location, const EngineOptions& options);
     void Forget();
-    /// What was taken: from now on nothing of it is seen or heard.
-    void GiveBack(Open open);
+    /// From now on nothing of it is seen or heard.
+    void End(Open open);
     /// Called whenever an item that has not been ended has come to its end, or has failed.
     void OnOver(std::function<void()> hear) { *m_onOver = std::move(hear); }
     /// In percent of the usual size, for the items to come.
@@ -62,7 +63,6 @@ private:
         Open open;
     };
 
-    void End(Open open);
     Open New(const MediaLocation& location, const EngineOptions& options, bool isReady);
     VlcLibrary NewLibrary();
     /// False for a while after the device could not be opened: each try costs time and fills the log.
@@ -76,7 +76,7 @@ private:
     std::shared_ptr<std::function<void()>> m_onOver = std::make_shared<std::function<void()>>();
     int m_subtitleScale = 100; // percent
     bool m_plainOutput = false;
-    int m_taken = 0; // items that have not been given back
+    std::shared_ptr<void> m_taken = std::make_shared<int>(); // every item that is taken has it, too
     std::chrono::steady_clock::time_point m_silentUntil;
     std::optional<Ready> m_ready;
 };
