@@ -6,8 +6,6 @@
 #include "platform/Files.h"
 
 #include <atomic>
-#include <chrono>
-#include <condition_variable>
 #include <cstring>
 #include <deque>
 #include <filesystem>
@@ -20,7 +18,6 @@ namespace zentaro {
 
 namespace {
 
-constexpr auto kLastMoment = std::chrono::milliseconds(100);
 constexpr std::size_t kMostCovers = 8; // whoever shows one has read it by then
 
 void RemoveFile(const std::string& path)
@@ -53,25 +50,10 @@ struct MusicThreads::Run {
 struct MusicThreads::Shared {
     Needs needs;
     Post post;
+    Gate gate;
     std::mutex mutex;
-    std::condition_variable changed;
-    int running = 0;
     std::deque<std::string> covers; // files
     int begun = 0;                  // of the window's thread
-    bool isOpen = true;
-
-    bool Begin()
-    {
-        const std::lock_guard lock(mutex);
-        running += isOpen ? 1 : 0;
-        return isOpen;
-    }
-    void End()
-    {
-        const std::lock_guard lock(mutex);
-        --running;
-        changed.notify_all();
-    }
 
     Cover FindCover(const std::string& path, Run& run)
     {
@@ -138,13 +120,12 @@ std::shared_ptr<MusicThreads::Run> MusicThreads::Begin(
     RunInBackground(m_shared->post, [shared = m_shared, run, work = std::move(work), done = std::move(done)] {
         platform::GiveWay();
         Found found;
-        if (shared->Begin()) {
+        shared->gate.Pass([&] {
             if (!shared->needs.folder.empty() && !run->isCancelled)
                 found = work(*shared, *run);
-            shared->End();
-        }
+        });
         return [shared, run, done, found = std::move(found)] {
-            if (shared->isOpen && !run->isCancelled)
+            if (shared->gate.IsOpen() && !run->isCancelled)
                 done(found);
         };
     });
@@ -183,9 +164,7 @@ void MusicThreads::Close()
         if (run)
             run->Cancel();
     }
-    std::unique_lock lock(m_shared->mutex);
-    m_shared->isOpen = false;
-    m_shared->changed.wait_for(lock, kLastMoment, [this] { return m_shared->running == 0; });
+    m_shared->gate.Close();
 }
 
 } // namespace zentaro

@@ -5,8 +5,6 @@
 #include "inspect/PreviewPicture.h"
 #include "platform/ChildProcess.h"
 
-#include <chrono>
-#include <condition_variable>
 #include <mutex>
 #include <utility>
 
@@ -22,7 +20,6 @@ constexpr struct {
 } kLooks[] = { { 0.1 }, { 0.3 }, { 0.5 }, { 0.2 }, { 0.7 }, { 0.05 }, { 0.3, true }, { 0.6, true } };
 /// Stands for the picture that was chosen.
 constexpr PreviewPlace kTelling{ -1, false };
-constexpr auto kLastMoment = std::chrono::milliseconds(100);
 
 PreviewBytes BytesOf(std::string picture)
 {
@@ -40,23 +37,7 @@ struct PreviewThreads::Shared {
     Needs needs;
     Post post;
     std::mutex tool; // held while it runs: one at a time
-    std::mutex mutex;
-    std::condition_variable changed;
-    int running = 0;
-    bool isOpen = true;
-
-    bool Begin()
-    {
-        const std::lock_guard lock(mutex);
-        running += isOpen ? 1 : 0;
-        return isOpen;
-    }
-    void End()
-    {
-        const std::lock_guard lock(mutex);
-        --running;
-        changed.notify_all();
-    }
+    Gate gate;
 
     std::string BytesAt(const std::string& path, const PreviewPlace& place, ToolContext& tools)
     {
@@ -129,7 +110,7 @@ void PreviewThreads::Recall(
                 made.emplace_back(place, std::move(bytes));
         }
         return [shared, done, made = std::move(made)] {
-            if (shared->isOpen)
+            if (shared->gate.IsOpen())
                 done(made);
         };
     });
@@ -142,12 +123,9 @@ void PreviewThreads::Make(
     RunInBackground(m_shared->post, [shared = m_shared, run = m_run, path, place, done = std::move(done)] {
         platform::GiveWay();
         PreviewBytes picture;
-        if (shared->Begin()) {
-            picture = BytesOf(shared->BytesAt(path, place, run->tools));
-            shared->End();
-        }
+        shared->gate.Pass([&] { picture = BytesOf(shared->BytesAt(path, place, run->tools)); });
         return [shared, run, done, picture] {
-            if (shared->isOpen && !run->isCancelled)
+            if (shared->gate.IsOpen() && !run->isCancelled)
                 done(picture);
         };
     });
@@ -168,12 +146,9 @@ void PreviewThreads::FindTelling(const std::string& path, double length, std::fu
     RunInBackground(m_shared->post, [shared = m_shared, run = m_telling, path, length, done = std::move(done)] {
         platform::GiveWay();
         Picture picture;
-        if (shared->Begin()) {
-            picture = shared->Telling(path, length, run->tools);
-            shared->End();
-        }
+        shared->gate.Pass([&] { picture = shared->Telling(path, length, run->tools); });
         return [shared, done, picture] {
-            if (shared->isOpen)
+            if (shared->gate.IsOpen())
                 done(picture);
         };
     });
@@ -184,9 +159,7 @@ void PreviewThreads::Close()
     Cancel();
     if (m_telling)
         m_telling->tools.CancelExecute = -1;
-    std::unique_lock lock(m_shared->mutex);
-    m_shared->isOpen = false;
-    m_shared->changed.wait_for(lock, kLastMoment, [this] { return m_shared->running == 0; });
+    m_shared->gate.Close();
 }
 
 } // namespace zentaro
