@@ -97,6 +97,28 @@ std::optional<std::string_view> TextBefore(std::string_view text, std::string_vi
     return text.substr(0, at);
 }
 
+std::size_t DigitsAt(std::string_view text)
+{
+    return static_cast<std::size_t>(
+        std::find_if_not(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; }) - text.begin());
+}
+
+bool CutFront(std::string_view& text, std::string_view front)
+{
+    if (!text.starts_with(front))
+        return false;
+    text.remove_prefix(front.size());
+    return true;
+}
+
+bool CutBack(std::string_view& text, std::string_view back)
+{
+    if (!text.ends_with(back))
+        return false;
+    text.remove_suffix(back.size());
+    return true;
+}
+
 std::string_view Trimmed(std::string_view text)
 {
     const auto first = text.find_first_not_of(' ');

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -34,6 +35,14 @@ inline bool Contains(std::string_view text, std::string_view part)
 
 /// The text before the first `mark`, or nothing.
 std::optional<std::string_view> TextBefore(std::string_view text, std::string_view mark);
+
+/// How many decimal digits the text begins with.
+std::size_t DigitsAt(std::string_view text);
+
+/// Cuts `front` off; false when the text does not begin so.
+bool CutFront(std::string_view& text, std::string_view front);
+/// Cuts `back` off; false when the text does not end so.
+bool CutBack(std::string_view& text, std::string_view back);
 
 /// The text without blanks at both ends.
 std::string_view Trimmed(std::string_view text);

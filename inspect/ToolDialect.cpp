@@ -1,5 +1,6 @@
 #include "inspect/ToolDialect.h"
 
+#include "inspect/ClassicFacts.h"
 #include "inspect/StreamLine.h"
 #include "inspect/TextValues.h"
 

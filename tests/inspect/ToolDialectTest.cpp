@@ -1,5 +1,6 @@
 #include "inspect/ToolDialect.h"
-#include "inspect/StreamLine.h"
+#include "inspect/ChannelLayout.h"
+#include "inspect/ClassicFacts.h"
 
 #include <gtest/gtest.h>
 
