@@ -56,6 +56,7 @@ FancyList::FancyList(FancyListItems& items, QWidget* parent)
     , m_marks(items)
     , m_drag(m_layout)
     , m_wheel(m_layout)
+    , m_grip(m_layout)
     , m_progressLine(new AddProgressLine(this))
     , m_foot(new ListFoot(this))
     , m_card(new ListCard(this))
@@ -178,7 +179,7 @@ void FancyList::resizeEvent(QResizeEvent*)
 
 void FancyList::mousePressEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton && GrabScrollBar(event->pos()))
+    if (event->button() == Qt::LeftButton && HoldScrollBar(event->pos()))
         return;
     m_clickPending = event->button() == Qt::LeftButton;
     if (m_clickPending) {
@@ -193,9 +194,9 @@ void FancyList::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    if (m_thumbGrip >= 0) {
-        m_thumbGrip = -1;
-        SetScrollBarLook(IsOnScrollBar(event->pos()) ? ScrollBarLook::Over : ScrollBarLook::Normal);
+    if (m_grip.IsHeld()) {
+        m_grip.Release();
+        SetScrollBarLook(m_grip.Look(event->pos()));
         return;
     }
     const bool wasDragging = m_drag.IsDragging();
@@ -213,7 +214,7 @@ void FancyList::mouseReleaseEvent(QMouseEvent* event)
 
 void FancyList::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton && GrabScrollBar(event->pos()))
+    if (event->button() == Qt::LeftButton && HoldScrollBar(event->pos()))
         return;
     Press(*event);
     if (event->button() == Qt::LeftButton)
@@ -222,8 +223,8 @@ void FancyList::mouseDoubleClickEvent(QMouseEvent* event)
 
 void FancyList::mouseMoveEvent(QMouseEvent* event)
 {
-    if (m_thumbGrip >= 0) {
-        m_layout.SetScrollValue(m_layout.ScrollValueForThumb(event->pos().y() - m_thumbGrip));
+    if (m_grip.IsHeld()) {
+        m_grip.Move(event->pos());
         return;
     }
     if (event->buttons() & Qt::LeftButton) {
@@ -231,7 +232,7 @@ void FancyList::mouseMoveEvent(QMouseEvent* event)
         if (m_drag.IsDragging())
             update();
     }
-    SetScrollBarLook(IsOnScrollBar(event->pos()) ? ScrollBarLook::Over : ScrollBarLook::Normal);
+    SetScrollBarLook(m_grip.Look(event->pos()));
     SetHover(m_layout.RowAt(event->pos().y()));
     PointAtThumb(event->buttons() == Qt::NoButton ? event->pos() : QPoint(-1, -1));
     emit MouseMove(event->buttons(), event->modifiers(), event->pos().x(), event->pos().y());
@@ -281,7 +282,7 @@ void FancyList::leaveEvent(QEvent*)
 {
     SetHover(FancyListItems::kNone);
     emit ThumbLeft();
-    if (m_thumbGrip < 0)
+    if (!m_grip.IsHeld())
         SetScrollBarLook(ScrollBarLook::Normal);
 }
 
@@ -371,22 +372,12 @@ QString FancyList::TipAt(const QPoint& at) const
     return "<p>" + title.toHtmlEscaped() + "</p>";
 }
 
-bool FancyList::IsOnScrollBar(const QPoint& at) const
+bool FancyList::HoldScrollBar(const QPoint& at)
 {
-    return m_layout.ScrollBarVisible() && at.x() >= m_layout.ScrollBar(kScrollBarWidth).left;
-}
-
-// The thumb is taken where it is pressed; beside it, its middle jumps to the pointer.
-bool FancyList::GrabScrollBar(const QPoint& at)
-{
-    if (!IsOnScrollBar(at))
+    if (!m_grip.Press(at))
         return false;
-    const auto thumb = m_layout.ScrollThumb(kScrollBarWidth);
-    const bool onThumb = at.y() >= thumb.top && at.y() < thumb.bottom;
     m_wheel.Stop();
-    m_thumbGrip = onThumb ? at.y() - thumb.top : thumb.Height() / 2;
-    m_layout.SetScrollValue(m_layout.ScrollValueForThumb(at.y() - m_thumbGrip));
-    SetScrollBarLook(ScrollBarLook::Press);
+    SetScrollBarLook(m_grip.Look(at));
     return true;
 }
 

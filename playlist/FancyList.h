@@ -7,6 +7,7 @@
 #include "playlist/ListFoot.h"
 #include "playlist/RowDrag.h"
 #include "playlist/RowMarks.h"
+#include "playlist/ScrollGrip.h"
 #include "playlist/ThumbCache.h"
 #include "playlist/WheelScroll.h"
 
@@ -147,8 +148,7 @@ private:
     void PlaceSurface();
     QString TipAt(const QPoint& at) const;
     void PointAtThumb(const QPoint& at);
-    bool IsOnScrollBar(const QPoint& at) const;
-    bool GrabScrollBar(const QPoint& at);
+    bool HoldScrollBar(const QPoint& at);
     void Press(const QMouseEvent& event);
     void SetHover(int row);
     void ShowFoot();
@@ -162,12 +162,12 @@ private:
     RowMarks m_marks;
     RowDrag m_drag;
     WheelScroll m_wheel;
+    ScrollGrip m_grip;
     AddProgressLine* m_progressLine;
     ListFoot* m_foot;
     ListCard* m_card;
     QString m_cardText;
     QString m_footText;
-    int m_thumbGrip = -1; // where the scroll bar's thumb is held, in pixels below its top
     int m_toldSelection = FancyListItems::kNone;
     int m_toldCount = 0;
     bool m_clickPending = false;
