@@ -95,15 +95,24 @@ void MediaRemote::UpdateTrack()
 {
     if (Playback() == MediaPlayback::Stopped) {
         m_track = {};
+        m_picture = {};
         m_artwork.clear();
         return;
     }
     // An item that was taken off the list plays on, and is still what it was.
     const auto entry = m_player.Entries().EntryAt(m_player.Entries().List().PlayingItem());
-    if (!entry || entry->Id == m_track.id)
+    if (!entry)
         return;
-    m_track = TrackOf(*entry);
-    m_artwork = entry->Thumbnail ? m_window.saveArtwork(entry->Id, entry->Thumbnail) : std::string();
+    if (entry->Id != m_track.id) {
+        m_track = TrackOf(*entry);
+        m_picture = {};
+        m_artwork.clear();
+    }
+    // It comes after the report, and a better one later still; a row far from sight has none.
+    if (!entry->Thumbnail || entry->Thumbnail == m_picture)
+        return;
+    m_picture = entry->Thumbnail;
+    m_artwork = m_window.saveArtwork(entry->Id, m_picture);
 }
 
 void MediaRemote::UpdateTracks()

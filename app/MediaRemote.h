@@ -16,7 +16,8 @@ public:
         std::function<void()> raise;
         std::function<void()> close;
         std::function<bool()> isFullScreen;
-        /// Where the picture has been written as a file for others to read; empty when it could not be.
+        /// Where the picture has been written as a file for others to read, another one for another picture; empty when
+        /// it could not be.
         std::function<std::string(std::uint64_t track, const Picture& picture)> saveArtwork;
         /// The file of the track's cover, larger than its thumbnail; empty where there is none, or not yet.
         std::function<std::string(std::uint64_t track)> coverFile = [](std::uint64_t) { return std::string(); };
@@ -44,6 +45,7 @@ private:
     Player& m_player;
     Window m_window;
     platform::MediaTrack m_track;
+    Picture m_picture; // which m_artwork is the file of
     std::string m_artwork;
     platform::MediaTracks m_tracks;
     std::uint64_t m_revision = 0;

@@ -159,7 +159,9 @@ MediaRemote::Window RemoteWindow(frmMain& window, const std::string& workingFold
         window.activateWindow();
     };
     const auto saveArtwork = [workingFolder](std::uint64_t track, const Picture& picture) {
-        const auto path = workingFolder + "artwork-" + std::to_string(track) + ".png";
+        // The better picture of a film is a larger one.
+        const auto path =
+            workingFolder + "artwork-" + std::to_string(track) + '-' + std::to_string(picture.Width()) + ".png";
         return !workingFolder.empty() && SavePictureFile(picture, path) ? path : std::string();
     };
     return { raise, [&window] { window.close(); }, [&window] { return window.isFullScreen(); }, saveArtwork };

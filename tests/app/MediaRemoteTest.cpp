@@ -23,7 +23,7 @@ protected:
         StartWithEntries(count, kPlayContinuous, kRepeatAll);
         remote.emplace(*world.player,
             MediaRemote::Window{ [] {}, [] {}, [this] { return world.window.isFullScreen; },
-                [](std::uint64_t, const Picture&) { return std::string(); } });
+                [](std::uint64_t, const Picture& picture) { return std::to_string(picture.Width()); } });
         trace.length = 60'000;
         trace.time = 10'000;
     }
@@ -115,4 +115,18 @@ TEST_F(MediaRemoteTest, tracks_keep_their_numbers_and_an_item_taken_off_the_list
     Do({ .kind = Kind::GoToTrack, .track = tracks[2].id });
     EXPECT_EQ(remote->Status().playback, Playback::Playing);
     EXPECT_EQ(Starts(), 2U);
+}
+
+TEST_F(MediaRemoteTest, a_picture_that_comes_later_is_told_and_a_better_one_after_it)
+{
+    StartRemote(1);
+    auto& entries = world.player->Entries();
+    const auto track = remote->Status().track.id;
+    for (const int width : { 160, 256 }) {
+        entries.SetThumbnail(
+            track, Picture(width, 1, std::vector<std::uint32_t>(static_cast<std::size_t>(width))), true);
+        EXPECT_EQ(remote->Status().artwork, std::to_string(width));
+    }
+    entries.SetThumbnail(track, {}, true); // its row is far from sight
+    EXPECT_EQ(remote->Status().artwork, "256");
 }
