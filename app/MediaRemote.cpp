@@ -39,7 +39,7 @@ platform::MediaTrack TrackOf(const PlaylistEntry& entry)
     if (facts.width > 0)
         return { entry.Id, entry.Title, entry.FullPath };
     return { entry.Id, facts.song.empty() ? entry.Title : facts.song, entry.FullPath, facts.artist, facts.album,
-        facts.number, facts.year };
+        facts.number, facts.year, true };
 }
 
 } // namespace

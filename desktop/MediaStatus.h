@@ -20,6 +20,7 @@ struct MediaTrack {
     std::string album = {};
     int number = 0; ///< on the album; 0 while unknown
     int year = 0;   ///< as above
+    bool isSong = false;
     bool operator==(const MediaTrack&) const = default;
 };
 

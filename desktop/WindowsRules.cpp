@@ -9,6 +9,15 @@ namespace zentaro::desktop {
 namespace {
 
 const std::string kClasses = "Software\\Classes\\";
+constexpr auto kBothWays = std::chrono::milliseconds(500); // between a key's two ways, on a busy computer
+constexpr auto kPlaceIsGood = std::chrono::seconds(5);
+
+/// One key is three commands: the controls say which of them it is, the window is told of the key.
+MediaCommand::Kind KeyOf(MediaCommand::Kind kind)
+{
+    using Kind = MediaCommand::Kind;
+    return kind == Kind::Play || kind == Kind::Pause ? Kind::PlayPause : kind;
+}
 
 } // namespace
 
@@ -36,6 +45,55 @@ std::optional<MediaCommand::Kind> KindOfAppCommand(int number)
 TaskbarLook TaskbarLookOf(const MediaStatus& status)
 {
     return { status.playback == MediaPlayback::Playing, CanPlay(status), CanStep(status) };
+}
+
+std::optional<MediaCommand::Kind> KindOfSystemButton(int number)
+{
+    using Kind = MediaCommand::Kind;
+    switch (number) {
+    case 0:
+        return Kind::Play;
+    case 1:
+        return Kind::Pause;
+    case 2:
+        return Kind::Stop;
+    case 6:
+        return Kind::Next;
+    case 7:
+        return Kind::Previous;
+    default:
+        return std::nullopt;
+    }
+}
+
+bool IsNewsOfButtons(const MediaStatus& told, const MediaStatus& now)
+{
+    return told.playback != now.playback || CanPlay(told) != CanPlay(now) || CanStep(told) != CanStep(now);
+}
+
+bool IsNewsOfTrack(const MediaStatus& told, const MediaStatus& now)
+{
+    return told.track != now.track || told.artwork != now.artwork;
+}
+
+bool IsNewsOfPlace(const MediaStatus& told, const MediaStatus& now)
+{
+    return told.track.id != now.track.id || told.playback != now.playback || told.length != now.length
+        || told.rate != now.rate || HasJumped(told, now)
+        || (now.playback == MediaPlayback::Playing && now.readAt - told.readAt >= kPlaceIsGood);
+}
+
+bool MediaKeys::Acts(Way way, MediaCommand::Kind kind, std::chrono::steady_clock::time_point now)
+{
+    std::erase_if(m_presses, [&](const Press& press) { return now - press.time > kBothWays; });
+    const auto other = std::ranges::find_if(
+        m_presses, [&](const Press& press) { return press.way != way && press.kind == KeyOf(kind); });
+    if (other == m_presses.end()) {
+        m_presses.push_back({ way, KeyOf(kind), now });
+        return true;
+    }
+    m_presses.erase(other);
+    return false;
 }
 
 std::vector<JumpListItem> JumpListOf(const std::vector<MediaTrack>& recent, const std::vector<std::string>& removed)

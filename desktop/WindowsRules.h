@@ -2,6 +2,7 @@
 
 #include "desktop/MediaStatus.h"
 
+#include <chrono>
 #include <optional>
 #include <string>
 #include <utility>
@@ -20,6 +21,31 @@ struct TaskbarLook {
     bool canStep = false;
 };
 TaskbarLook TaskbarLookOf(const MediaStatus& status);
+
+/// What a button of the system's own media controls means, by its number there; nothing for one that is not ours.
+std::optional<MediaCommand::Kind> KindOfSystemButton(int number);
+
+/// What of the player these controls have to be told anew. They count the item's place on by themselves; a word now and
+/// then keeps it right.
+bool IsNewsOfButtons(const MediaStatus& told, const MediaStatus& now);
+bool IsNewsOfTrack(const MediaStatus& told, const MediaStatus& now);
+bool IsNewsOfPlace(const MediaStatus& told, const MediaStatus& now);
+
+/// A media key can come twice: to the window that has the focus, and from the system's media controls. It acts once.
+class MediaKeys {
+public:
+    enum class Way { Window, System };
+    /// False for a press that has just acted when it came the other way.
+    bool Acts(Way way, MediaCommand::Kind kind, std::chrono::steady_clock::time_point now);
+
+private:
+    struct Press {
+        Way way;
+        MediaCommand::Kind kind;
+        std::chrono::steady_clock::time_point time;
+    };
+    std::vector<Press> m_presses; // that may still come the other way
+};
 
 /// A file at the program's taskbar button: what the program is started with to play it, and what is shown of it.
 struct JumpListItem {

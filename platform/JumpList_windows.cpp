@@ -2,10 +2,10 @@
 
 #include "base/Words.h"
 #include "desktop/WindowsRules.h"
+#include "platform/Com_windows.h"
 #include "platform/Files.h"
 
 #include <array>
-#include <memory>
 #include <string>
 #include <windows.h>
 
@@ -21,24 +21,11 @@ namespace {
 // PKEY_Title, which the compiler's libraries lack.
 constexpr PROPERTYKEY kTitle{ { 0xF29F85E0, 0x4FF9, 0x1068, { 0xAB, 0x91, 0x08, 0x00, 0x2B, 0x27, 0xB3, 0xD9 } }, 2 };
 
-struct ReleaseObject {
-    void operator()(IUnknown* object) const { object->Release(); }
-};
-template <class Face> using Held = std::unique_ptr<Face, ReleaseObject>;
-
 template <class Face> Held<Face> Make(const CLSID& id)
 {
     Face* made = nullptr;
     CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, __uuidof(Face), reinterpret_cast<void**>(&made));
     return Held<Face>(made);
-}
-
-std::wstring Wide(const std::string& text)
-{
-    std::wstring wide(text.size() + 1, L'\0');
-    const auto size = MultiByteToWideChar(CP_UTF8, 0, text.c_str(), -1, wide.data(), static_cast<int>(wide.size()));
-    wide.resize(size > 0 ? static_cast<std::size_t>(size) - 1 : 0);
-    return wide;
 }
 
 Held<IShellLinkW> LinkTo(const desktop::JumpListItem& item, const std::wstring& program)

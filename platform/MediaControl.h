@@ -16,8 +16,8 @@ using desktop::MediaTrack;
 using desktop::MediaTracks;
 
 /// The desktop's own controls for whatever plays: media keys, lock screen, headsets. Linux: MPRIS on the session's bus.
-/// Windows: media keys, also of other windows while an item is loaded, the buttons at the window's taskbar button, and
-/// the recently played files there.
+/// Windows: the system's media controls, or the media keys alone where it has none, the buttons at the window's taskbar
+/// button, and the recently played files there.
 class MediaControl {
 public:
     virtual ~MediaControl() = default;

@@ -1,9 +1,12 @@
 #include "platform/MediaControl.h"
 
 #include "desktop/WindowsRules.h"
+#include "platform/Com_windows.h"
 #include "platform/JumpList_windows.h"
+#include "platform/SystemMedia_windows.h"
 
 #include <array>
+#include <chrono>
 #include <cmath>
 #include <cstdint>
 #include <iterator>
@@ -89,16 +92,13 @@ Icon MakeIcon(Sign sign)
     return icon;
 }
 
-struct ReleaseObject {
-    void operator()(IUnknown* object) const { object->Release(); }
-};
-
 class TaskbarControl : public MediaControl {
 public:
     TaskbarControl(std::function<void(MediaCommand)> onCommand, HWND window)
         : m_onCommand(std::move(onCommand))
         , m_window(window)
         , m_buttonCreated(RegisterWindowMessageA("TaskbarButtonCreated"))
+        , m_systemAsks(RegisterWindowMessageA("ZentaroSystemMediaAsks"))
     {
         for (int sign = 0; sign < static_cast<int>(m_icons.size()); ++sign)
             m_icons[static_cast<std::size_t>(sign)] = MakeIcon(static_cast<Sign>(sign));
@@ -115,7 +115,14 @@ public:
         if (status.recent != m_status.recent)
             ShowJumpList(status.recent);
         m_status = std::move(status);
-        HoldKeys(m_status.playback != MediaPlayback::Stopped);
+        const bool isLoaded = m_status.playback != MediaPlayback::Stopped;
+        // Not before something plays: the system loads much for it.
+        if (isLoaded && !std::exchange(m_hasLooked, true))
+            m_systemMedia = SystemMedia::Open(m_window, m_systemAsks);
+        if (m_systemMedia)
+            m_systemMedia->Show(m_status);
+        // Where the system knows who plays, the keys of other windows are its business.
+        HoldKeys(isLoaded && !m_systemMedia);
         ShowButtons();
     }
 
@@ -135,11 +142,32 @@ private:
         }
         if (message == WM_APPCOMMAND) {
             if (const auto kind = desktop::KindOfAppCommand(GET_APPCOMMAND_LPARAM(second))) {
-                self.m_onCommand({ *kind });
+                self.KeyCame(desktop::MediaKeys::Way::Window, *kind);
                 return TRUE;
             }
         }
+        if (message == self.m_systemAsks) {
+            self.SystemAsks(first, second);
+            return 0;
+        }
         return DefSubclassProc(window, message, first, second);
+    }
+
+    void KeyCame(desktop::MediaKeys::Way way, Kind kind)
+    {
+        if (m_keys.Acts(way, kind, std::chrono::steady_clock::now()))
+            m_onCommand({ kind });
+    }
+
+    void SystemAsks(WPARAM asked, LPARAM value)
+    {
+        if (asked == SystemMedia::Place && value >= 0)
+            return m_onCommand(
+                { .kind = Kind::SetPosition, .number = static_cast<double>(value), .track = m_status.track.id });
+        const auto kind =
+            asked == SystemMedia::Button ? desktop::KindOfSystemButton(static_cast<int>(value)) : std::nullopt;
+        if (kind)
+            KeyCame(desktop::MediaKeys::Way::System, *kind);
     }
 
     /// Keys of other windows, too; while nothing is loaded they belong to other players.
@@ -194,9 +222,13 @@ private:
     std::function<void(MediaCommand)> m_onCommand;
     HWND m_window;
     UINT m_buttonCreated;
+    UINT m_systemAsks;
     MediaStatus m_status;
     std::array<Icon, 4> m_icons;
-    std::unique_ptr<ITaskbarList3, ReleaseObject> m_taskbar;
+    Held<ITaskbarList3> m_taskbar;
+    std::unique_ptr<SystemMedia> m_systemMedia; // null before something has played, and where there is none
+    desktop::MediaKeys m_keys;
+    bool m_hasLooked = false;
     bool m_holdsKeys = false;
 };
 

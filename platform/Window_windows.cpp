@@ -1,5 +1,7 @@
 #include "platform/Window.h"
 
+#include "platform/Com_windows.h"
+
 #include <memory>
 #include <type_traits>
 #include <utility>
@@ -185,10 +187,6 @@ LRESULT CALLBACK OnFrameMessage(HWND window, UINT message, WPARAM first, LPARAM 
     }
     return DefSubclassProc(window, message, first, second);
 }
-
-struct ReleaseObject {
-    void operator()(IUnknown* object) const { object->Release(); }
-};
 
 } // namespace
 

@@ -168,6 +168,53 @@ TEST(WindowsRules, media_keys_and_the_buttons_at_the_taskbar)
     EXPECT_TRUE(TaskbarLookOf(status).showsPause && TaskbarLookOf(status).canStep);
 }
 
+TEST(WindowsRules, a_media_key_that_comes_both_ways_acts_once_and_pressed_twice_it_acts_twice)
+{
+    using Kind = MediaCommand::Kind;
+    using Way = MediaKeys::Way;
+    EXPECT_EQ(KindOfSystemButton(7), Kind::Previous);
+    EXPECT_FALSE(KindOfSystemButton(3)); // record
+    MediaKeys keys;
+    const std::chrono::steady_clock::time_point now;
+    const auto at = [&](int time) { return now + std::chrono::milliseconds(time); };
+    EXPECT_TRUE(keys.Acts(Way::Window, Kind::PlayPause, at(0)));
+    EXPECT_FALSE(keys.Acts(Way::System, Kind::Pause, at(40)));
+    EXPECT_TRUE(keys.Acts(Way::System, Kind::Next, at(50))) << "another key";
+    EXPECT_TRUE(keys.Acts(Way::System, Kind::Next, at(90)));
+    EXPECT_FALSE(keys.Acts(Way::Window, Kind::Next, at(100)));
+    EXPECT_FALSE(keys.Acts(Way::Window, Kind::Next, at(110)));
+    EXPECT_TRUE(keys.Acts(Way::Window, Kind::Next, at(120)));
+    EXPECT_TRUE(keys.Acts(Way::System, Kind::Next, at(900))) << "much later";
+}
+
+TEST(WindowsRules, the_systems_controls_count_on_by_themselves_and_are_told_of_a_jump_a_pause_and_now_and_then)
+{
+    MediaStatus told;
+    told.playback = MediaPlayback::Playing;
+    told.track.id = 7;
+    told.length = 600'000;
+    auto now = told;
+    const auto playOn = [&](int milliseconds) {
+        now.readAt += std::chrono::milliseconds(milliseconds);
+        now.position += milliseconds;
+    };
+    playOn(3000);
+    EXPECT_FALSE(IsNewsOfPlace(told, now) || IsNewsOfTrack(told, now) || IsNewsOfButtons(told, now));
+    now.artwork = "cover.png";
+    EXPECT_TRUE(IsNewsOfTrack(told, now));
+    now.position += 10'000;
+    EXPECT_TRUE(IsNewsOfPlace(told, now));
+    now.position -= 10'000;
+    playOn(3000);
+    EXPECT_TRUE(IsNewsOfPlace(told, now)) << "its word is old";
+    told = now;
+    now.playback = MediaPlayback::Paused;
+    EXPECT_TRUE(IsNewsOfPlace(told, now) && IsNewsOfButtons(told, now));
+    told = now;
+    now.readAt += std::chrono::minutes(1);
+    EXPECT_FALSE(IsNewsOfPlace(told, now)) << "it stands";
+}
+
 TEST(WindowsRules, the_jump_list_names_each_file_once_and_none_that_was_taken_off_it)
 {
     const std::vector<MediaTrack> recent = { { 0, "a.avi", "C:\\My Clips\\a.avi" }, { 0, "b.avi", "C:\\b.avi" },
