@@ -100,7 +100,7 @@ PreviewThreads::~PreviewThreads()
 }
 
 void PreviewThreads::Recall(
-    const std::string& path, const std::vector<PreviewPlace>& places, std::function<void(Made)> done)
+    const std::string& path, const std::vector<PreviewPlace>& places, std::function<void(Made, const Stamp&)> done)
 {
     RunInBackground(m_shared->post, [shared = m_shared, path, places, done = std::move(done)] {
         Made made;
@@ -109,9 +109,9 @@ void PreviewThreads::Recall(
             if (auto bytes = stamp ? BytesOf(shared->needs.known->Recall(path, *stamp, place)) : nullptr)
                 made.emplace_back(place, std::move(bytes));
         }
-        return [shared, done, made = std::move(made)] {
+        return [shared, done, made = std::move(made), stamp] {
             if (shared->gate.IsOpen())
-                done(made);
+                done(made, stamp);
         };
     });
 }

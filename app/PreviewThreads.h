@@ -24,8 +24,8 @@ public:
     PreviewThreads(Needs needs, Post post);
     ~PreviewThreads() override;
 
-    void Recall(
-        const std::string& path, const std::vector<PreviewPlace>& places, std::function<void(Made)> done) override;
+    void Recall(const std::string& path, const std::vector<PreviewPlace>& places,
+        std::function<void(Made, const Stamp&)> done) override;
     void Make(
         const std::string& path, const PreviewPlace& place, std::function<void(PreviewBytes picture)> done) override;
     void Cancel() override;

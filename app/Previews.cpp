@@ -38,6 +38,8 @@ void Previews::PointAt(const Film& film, double time, int among)
         if (!m_isPointing || move != m_moves)
             return;
         m_wish.rests = true;
+        // The file may be one that is still being written.
+        m_films.front().isLookedAt = false;
         GoOn();
     });
     CancelUnwanted();
@@ -53,6 +55,7 @@ void Previews::GoTo(const Film& film)
         m_films.splice(m_films.begin(), m_films, known);
     else
         m_films.push_front({ film.path, PreviewPlan(film.length) });
+    m_films.front().isLookedAt = false;
     if (m_films.size() > kMostFilms)
         m_films.pop_back();
 }
@@ -80,8 +83,8 @@ void Previews::GoOn()
     auto* const film = Pointed();
     if (film == nullptr)
         return;
-    if (!film->isRecalled)
-        return Recall();
+    if (!film->isLookedAt)
+        return LookAtFile();
     const auto next = m_makingPath.empty() ? film->plan.Next(m_wish) : std::nullopt;
     if (!next)
         return;
@@ -96,18 +99,22 @@ void Previews::GoOn()
     });
 }
 
-void Previews::Recall()
+void Previews::LookAtFile()
 {
     auto& film = m_films.front();
-    film.isRecalled = true;
-    m_runner.Recall(film.path, film.plan.Places(), [this, path = film.path](PreviewRunner::Made made) {
-        if (auto* const recalled = Find(path)) {
+    film.isLookedAt = true;
+    const auto found = [this, path = film.path](PreviewRunner::Made made, const PreviewRunner::Stamp& stamp) {
+        if (auto* const seen = Find(path)) {
+            if (seen->stamp && stamp != seen->stamp)
+                seen->plan.LookAgain();
+            seen->stamp = stamp;
             for (auto& [place, picture] : made)
-                recalled->plan.Made(place, std::move(picture));
+                seen->plan.Made(place, std::move(picture));
         }
         GoOn();
         onNews();
-    });
+    };
+    m_runner.Recall(film.path, film.plan.Missing(), found);
 }
 
 Previews::Known* Previews::Find(const std::string& path)

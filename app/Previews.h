@@ -1,10 +1,12 @@
 #pragma once
 
+#include "playlist/KnownFiles.h"
 #include "playlist/PreviewPlan.h"
 
 #include <chrono>
 #include <functional>
 #include <list>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,9 +18,10 @@ class PreviewRunner {
 public:
     virtual ~PreviewRunner() = default;
     using Made = std::vector<std::pair<PreviewPlace, PreviewBytes>>;
-    /// Calls back with those of the places that were made before, never from within.
-    virtual void Recall(
-        const std::string& path, const std::vector<PreviewPlace>& places, std::function<void(Made)> done) = 0;
+    using Stamp = std::optional<FileStamp>; ///< nothing for a file that is not looked at
+    /// Calls back with those of the places that were made before, and what the file is now; never from within.
+    virtual void Recall(const std::string& path, const std::vector<PreviewPlace>& places,
+        std::function<void(Made, const Stamp&)> done) = 0;
     /// Calls back with the picture, null when there is none to be had; never from within. Only while none is being
     /// made.
     virtual void Make(
@@ -57,10 +60,11 @@ private:
     struct Known {
         std::string path;
         PreviewPlan plan;
-        bool isRecalled = false;
+        PreviewRunner::Stamp stamp = {};
+        bool isLookedAt = false;
     };
     void GoTo(const Film& film);
-    void Recall();
+    void LookAtFile();
     void GoOn();
     void CancelUnwanted();
     Known* Pointed() { return m_isPointing ? &m_films.front() : nullptr; }

@@ -18,6 +18,10 @@ using namespace std::chrono_literals;
 // A film that cannot be entered in the middle is read from its beginning; that is not worth a preview.
 constexpr RunLimit kLimit{ .total = 6s };
 
+/// In a film without an index, or not written so far yet, the tool comes out at another place. Times are s from the
+/// place that was asked for; a picture without one is let through.
+const std::string kNearFilter = "select=not(lt(t\\,-10)),";
+
 /// As seen: pixels need not be square. At the time 0, because what lies before the place that was asked for is dropped.
 std::string FittingFilter()
 {
@@ -53,7 +57,7 @@ ToolCommand PreviewCommand(const std::string& ffmpeg, const PreviewRequest& requ
         add({ "-threads", "1", "-skip_frame", "nokey", "-noaccurate_seek" });
     add({ "-ss", SecondsText(request.time), "-i", "file:" + request.path });
     // Not a cover, which is a film of one picture to the tool.
-    add({ "-map", "0:V:0", "-frames:v", "1", "-vf", FittingFilter() });
+    add({ "-map", "0:V:0", "-frames:v", "1", "-vf", (request.isExact ? "" : kNearFilter) + FittingFilter() });
     add({ "-c:v", "mjpeg", "-pix_fmt", "yuvj420p", "-q:v", "4", "-f", "image2pipe", "pipe:1" });
     return command;
 }

@@ -8,7 +8,7 @@ namespace zentaro {
 namespace {
 
 // To be raised when previews are made in another way.
-constexpr const char* kVersion = "1";
+constexpr const char* kVersion = "2";
 
 /// A file that has changed has other keys; the old ones go with their age.
 std::string KeyOf(const std::string& path, const FileStamp& stamp, const PreviewPlace& place)

@@ -46,6 +46,14 @@ std::vector<PreviewPlace> PreviewPlan::Places() const
     return places;
 }
 
+std::vector<PreviewPlace> PreviewPlan::Missing() const
+{
+    auto places = Places();
+    std::erase_if(
+        places, [&](const PreviewPlace& place) { return IsKnown(static_cast<int>(std::lround(place.time / m_step))); });
+    return places;
+}
+
 int PreviewPlan::Count() const
 {
     return std::clamp(static_cast<int>(std::ceil(m_length / m_step - 1e-6)), 1, 8 * kMostPlaces);
@@ -115,6 +123,18 @@ void PreviewPlan::Made(const PreviewPlace& place, PreviewBytes picture)
     } else {
         m_coarse.insert_or_assign(static_cast<int>(std::lround(place.time / m_step)), std::move(picture));
     }
+}
+
+void PreviewPlan::LookAgain()
+{
+    m_failed = 0;
+    std::string before;
+    std::erase_if(m_coarse, [&](const auto& coarse) {
+        const auto now = coarse.second ? *coarse.second : std::string();
+        return now.empty() || now == std::exchange(before, now);
+    });
+    std::erase_if(m_exact, [](const auto& exact) { return !exact.second; });
+    std::erase_if(m_exactByAge, [&](double time) { return m_exact.count(time) == 0; });
 }
 
 void PreviewPlan::DropOldExact()

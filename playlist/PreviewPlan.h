@@ -39,6 +39,8 @@ public:
     double Length() const { return m_length; }
     /// All coarse places.
     std::vector<PreviewPlace> Places() const;
+    /// Those of them of which nothing is known yet.
+    std::vector<PreviewPlace> Missing() const;
 
     /// Nothing when all is there that is wanted.
     std::optional<PreviewPlace> Next(const PreviewWish& wish) const;
@@ -46,6 +48,9 @@ public:
     bool IsWanted(const PreviewPlace& place, const PreviewWish& wish) const;
     /// A picture was made; null: there is none to be had.
     void Made(const PreviewPlace& place, PreviewBytes picture);
+    /// The file has changed, as one does that is still being written: where there was no picture one may be had now,
+    /// and where there was none but that of the place before, a better one.
+    void LookAgain();
 
     /// The picture to show: the nearest one that there is, as long as it is near; null for none.
     PreviewBytes At(const PreviewWish& wish) const;

@@ -9,9 +9,10 @@ namespace zentaro {
 namespace {
 
 struct ScriptedRunner : PreviewRunner {
-    void Recall(const std::string&, const std::vector<PreviewPlace>&, std::function<void(Made)> done) override
+    void Recall(
+        const std::string&, const std::vector<PreviewPlace>&, std::function<void(Made, const Stamp&)> done) override
     {
-        done(known);
+        done(known, stamp);
     }
     void Make(const std::string& path, const PreviewPlace& place, std::function<void(PreviewBytes)> done) override
     {
@@ -33,6 +34,7 @@ struct ScriptedRunner : PreviewRunner {
     }
 
     Made known;
+    Stamp stamp = FileStamp{ 1, 1 };
     std::vector<std::string> asked;
     PreviewPlace at;
     std::function<void(PreviewBytes)> answer;
@@ -124,6 +126,24 @@ TEST_F(PreviewsTest, OfManyFilmsOnlyTheLastOnesAreKeptAndWhatComesLateDoesNoHarm
     EXPECT_NE(previews.Picture(), nullptr);
     previews.PointAt({ "/film0", 60'000 }, 1000);
     EXPECT_EQ(previews.Picture(), nullptr);
+}
+
+TEST_F(PreviewsTest, AFilmThatGrowsIsLookedAtAgainWhereItGaveNothingWhenTheHandComesToRest)
+{
+    previews.PointAt(film, 3'000'000);
+    runner.Answer("");
+    Rest();
+    runner.Answer("");
+    EXPECT_FALSE(runner.answer);
+    previews.PointAt(film, 3'000'000);
+    Rest();
+    EXPECT_FALSE(runner.answer) << "it is what it was";
+    runner.stamp->size = 2;
+    previews.PointAt(film, 3'000'000);
+    EXPECT_FALSE(runner.answer);
+    Rest();
+    runner.Answer("picture");
+    EXPECT_EQ(*previews.Picture(), "picture");
 }
 
 } // namespace

@@ -77,6 +77,21 @@ TEST(PreviewPlan, LeavesAFilmAloneThatGivesNoPicturesButNotAGoodOneWithAGap)
     EXPECT_EQ(*good.At(wish), "first");
 }
 
+TEST(PreviewPlan, OfAChangedFileForgetsGapsAndWhatOnePictureStoodForSeveralPlaces)
+{
+    PreviewPlan plan(kHour);
+    const auto places = plan.Places();
+    const char* const pictures[] = { "a", "b", "b", "b", "", "c" };
+    for (std::size_t i = 0; i < std::size(pictures); ++i)
+        plan.Made(places[i], *pictures[i] ? Some(pictures[i]) : nullptr);
+    EXPECT_EQ(plan.Missing().size(), places.size() - 6);
+    plan.LookAgain();
+    const auto missing = plan.Missing();
+    EXPECT_EQ(missing.size(), places.size() - 3);
+    EXPECT_EQ(missing[0], places[2]);
+    EXPECT_EQ(*plan.At({ places[1].time }), "b");
+}
+
 TEST(PreviewPlan, OfAThumbnailOnlyItsPlacesCount)
 {
     PreviewPlan plan(kHour);

@@ -6,7 +6,9 @@ namespace zentaro {
 
 /// For windows that nobody points at.
 struct NoPreviews : PreviewRunner {
-    void Recall(const std::string&, const std::vector<PreviewPlace>&, std::function<void(Made)>) override { }
+    void Recall(const std::string&, const std::vector<PreviewPlace>&, std::function<void(Made, const Stamp&)>) override
+    {
+    }
     void Make(const std::string&, const PreviewPlace&, std::function<void(PreviewBytes)>) override { }
     void Cancel() override { }
 
