@@ -1,6 +1,7 @@
 #include "app/InspectionThreads.h"
 #include "inspect/DiskFiles.h"
 #include "tests/platform/WorkingFolder.h"
+#include "tests/world/PostedWork.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +9,6 @@
 #include <filesystem>
 #include <fstream>
 #include <future>
-#include <mutex>
 #include <thread>
 
 using namespace zentaro;
@@ -29,11 +29,7 @@ protected:
         context->ffmpeg = "/bin/true";
         context->audioCodecNames = context->videoCodecNames = &m_names;
         threads = std::make_unique<InspectionThreads>([this] { return context; }, folder / "work/",
-            [this](std::function<void()> work) {
-                const std::lock_guard lock(m_mutex);
-                m_posted.push_back(std::move(work));
-            },
-            known);
+            [this](std::function<void()> work) { m_posted.Add(std::move(work)); }, known);
         threads->onCompleted = [this](int ticket, const Inspection& result) {
             completed.push_back(std::to_string(ticket) + " " + result.errorText);
         };
@@ -44,20 +40,7 @@ protected:
         std::ofstream(context->ffmpeg) << "#!/bin/sh\n" << shellText << '\n';
         std::filesystem::permissions(context->ffmpeg, std::filesystem::perms::owner_all);
     }
-    /// Does what was posted meanwhile.
-    bool RunUntil(const std::function<bool()>& done)
-    {
-        const auto end = Clock::now() + 10s;
-        do {
-            std::this_thread::sleep_for(5ms);
-            std::unique_lock lock(m_mutex);
-            const auto posted = std::exchange(m_posted, {});
-            lock.unlock();
-            for (const auto& work : posted)
-                work();
-        } while (!done() && Clock::now() < end);
-        return done();
-    }
+    bool RunUntil(const std::function<bool()>& done) { return m_posted.RunUntil(done); }
     void ExpectQuickEnd()
     {
         const auto start = Clock::now();
@@ -77,8 +60,7 @@ protected:
 private:
     DiskFiles m_files{ [](std::int64_t) { return std::string(); } };
     CodecNames m_names;
-    std::mutex m_mutex;
-    std::vector<std::function<void()>> m_posted;
+    PostedWork m_posted;
 };
 
 } // namespace

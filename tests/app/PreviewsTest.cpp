@@ -142,6 +142,7 @@ TEST_F(PreviewsTest, AFilmThatGrowsIsLookedAtAgainWhereItGaveNothingWhenTheHandC
     previews.PointAt(film, 3'000'000);
     EXPECT_FALSE(runner.answer);
     Rest();
+    ASSERT_TRUE(runner.answer);
     runner.Answer("picture");
     EXPECT_EQ(*previews.Picture(), "picture");
 }
