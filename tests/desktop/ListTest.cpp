@@ -65,5 +65,37 @@ TEST_F(List, ClipsDroppedOnTheListStartNothingUntilOneIsChosen)
     EXPECT_CLOSES_CLEANLY(player);
 }
 
+TEST_F(List, WhatIsPausedBearsTheSignOfItInWindowListAndTaskbar)
+{
+    auto player = StartAndShow({ Clips::Make("clip.mp4") });
+    EXPECT_TRUE(WaitUntil([&] { return ShowsRow(player, 0); }));
+    Screen().Activate(player.window);
+    const auto window = player.Place();
+    const auto content = ContentOf(player);
+    const Rect icon{ window.left, window.top, 30, 30 };
+    // The thumbnail itself may become another one at any time.
+    const auto isOnThumbnail = [&] {
+        const auto thumbnail = Screen().Grab({ content.left + 12, content.top + 12, 56, 56 });
+        int dots = 0;
+        for (int y = 0; y < thumbnail.height(); ++y) {
+            for (int x = 0; x < thumbnail.width(); ++x)
+                dots += thumbnail.pixelColor(x, y) == QColor(0xFF, 0xB0, 0x20) ? 1 : 0;
+        }
+        return dots > 10;
+    };
+    const auto taskbar = [&] { return Screen().Numbers(player.window, "_NET_WM_ICON"); };
+    const auto plainIcon = SettledLook(icon);
+    const auto plainTaskbar = taskbar();
+    EXPECT_FALSE(isOnThumbnail());
+    Screen().Press("ctrl+p");
+    EXPECT_TRUE(WaitUntil([&] { return Screen().Grab(icon) != plainIcon; }));
+    EXPECT_TRUE(WaitUntil([&] { return taskbar() != plainTaskbar; }));
+    EXPECT_TRUE(WaitUntil(isOnThumbnail));
+    Screen().Press("space");
+    EXPECT_TRUE(
+        WaitUntil([&] { return Screen().Grab(icon) == plainIcon && taskbar() == plainTaskbar && !isOnThumbnail(); }));
+    EXPECT_CLOSES_CLEANLY(player);
+}
+
 } // namespace
 } // namespace zentaro::trial
