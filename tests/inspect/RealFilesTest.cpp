@@ -320,3 +320,28 @@ TEST_F(RealFiles, a_preview_has_the_films_shape_as_seen_and_its_time)
     cancelled.CancelExecute = -1;
     EXPECT_EQ(MakePreview(m_context.ffmpeg, { Path("wide.mp4"), 0, false }, cancelled), "");
 }
+
+TEST_F(RealFiles, a_preview_comes_from_its_place_without_an_index_and_from_none_that_is_not_written_yet)
+{
+    // Brighter with every second, a key frame in each.
+    const std::string film =
+        "-f lavfi -i \"color=black:size=64x48:rate=5:duration=60,format=gray,geq=lum='16+3*T'\" -g 5 ";
+    ASSERT_TRUE(Make("film.mkv", film + "-c:v libx264") && Make("film.avi", film + "-c:v mpeg4"));
+    const auto cutTo = [&](const char* name, double share) {
+        fs::resize_file(
+            Path(name), static_cast<std::uintmax_t>(static_cast<double>(fs::file_size(Path(name))) * share));
+    };
+    cutTo("film.mkv", 0.5);
+    cutTo("film.avi", 0.95);
+    const auto brightness = [&](const char* name, double time) {
+        ToolContext tools;
+        const auto picture =
+            DecodePictureBytes(MakePreview(m_context.ffmpeg, { Path(name), time * 1000, false }, tools));
+        return picture ? static_cast<double>(picture.Pixels()[0] & 0xFFU) : -1;
+    };
+    constexpr double perSecond = 3 * 255.0 / 219;
+    EXPECT_NEAR(brightness("film.mkv", 10), 10 * perSecond, 10);
+    EXPECT_EQ(brightness("film.mkv", 55), -1);
+    for (const double time : { 5.0, 25.0, 45.0 })
+        EXPECT_NEAR(brightness("film.avi", time), time * perSecond, 11 * perSecond) << time;
+}
