@@ -6,10 +6,17 @@
 #include "playlist/FancyList.h"
 #include "shell/PreviewBubble.h"
 #include "shell/SeekTrack.h"
+#include "shell/WindowLayout.h"
 
 #include <utility>
 
 namespace zentaro {
+
+namespace {
+
+constexpr int kDistance = 6; // px, of the bubble from the track
+
+} // namespace
 
 TrackPreview::TrackPreview(Player& player, Previews& previews, SeekTrack& track, QWidget* window)
     : QObject(window)
@@ -39,7 +46,12 @@ void TrackPreview::Point(double x, double time, const QString& timeText, const Q
     m_previews.onNews = [this] { ShowPicture(); };
     m_previews.PointAt(Film(), time);
     ShowPicture();
-    m_bubble->Show(m_track.mapTo(m_window, QPoint(qRound(x), 0)), timeText, chapter);
+    // In the window the time stands over the track, and is read meanwhile.
+    const bool isUnderTime = m_track.parentWidget() == m_window;
+    const int distance =
+        isUnderTime ? WindowLayout(m_window->width(), m_window->height()).TimeLabel().height : kDistance;
+    const auto above = m_track.mapTo(m_window, QPoint(qRound(x), -distance));
+    m_bubble->Show(above, timeText, chapter);
 }
 
 void LetPointerLook(Player& player, Previews& previews, SeekTrack& track, FancyList& list)

@@ -13,7 +13,6 @@ namespace {
 constexpr int kPadding = 4;  // px
 constexpr int kGap = 3;      // px, between picture and text
 constexpr int kTextSide = 4; // px, beside the text
-constexpr int kDistance = 6; // px, over the track
 constexpr QSize kEmpty{ 160, 90 };
 
 } // namespace
@@ -71,8 +70,7 @@ void PreviewBubble::Place()
     const QSize size(2 * kPadding + std::max(picture.width(), text + 2 * kTextSide),
         2 * kPadding + (picture.isEmpty() ? 0 : picture.height() + kGap) + lines * fontMetrics().height());
     const int right = std::max(parentWidget()->width() - size.width(), 0);
-    const QPoint corner(
-        std::clamp(m_above.x() - size.width() / 2, 0, right), std::max(m_above.y() - kDistance - size.height(), 0));
+    const QPoint corner(std::clamp(m_above.x() - size.width() / 2, 0, right), std::max(m_above.y() - size.height(), 0));
     setGeometry(QRect(corner, size));
     update();
 }
