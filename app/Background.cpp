@@ -1,8 +1,9 @@
 #include "app/Background.h"
 
+#include "base/DetachedThread.h"
+
 #include <chrono>
 #include <system_error>
-#include <thread>
 #include <utility>
 
 namespace zentaro {
@@ -16,7 +17,7 @@ constexpr auto kLastMoment = std::chrono::milliseconds(100);
 void RunInBackground(const Post& post, std::function<std::function<void()>()> work)
 {
     try {
-        std::thread([post, work] { post(work()); }).detach();
+        StartDetached([post, work] { post(work()); });
     } catch (const std::system_error&) {
         // The system has no thread to give: better late than never.
         post([work] { work()(); });

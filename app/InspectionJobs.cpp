@@ -1,12 +1,12 @@
 #include "app/InspectionJobs.h"
 
+#include "base/DetachedThread.h"
 #include "platform/ChildProcess.h"
 
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
 #include <system_error>
-#include <thread>
 #include <utility>
 
 namespace zentaro {
@@ -22,14 +22,14 @@ void InspectionJobs::Start(const std::shared_ptr<InspectionJob>& job)
 {
     const std::lock_guard lock(m_mutex);
     try {
-        std::thread([self = shared_from_this(), job] {
+        StartDetached([self = shared_from_this(), job] {
             auto result = job->Inspect([&](Inspection report) { self->Report(job, std::move(report)); });
             self->Finish(job, std::move(result));
-        }).detach();
+        });
         m_jobs.push_back(job);
         if (m_isWatched)
             return;
-        std::thread([self = shared_from_this()] { self->Watch(); }).detach();
+        StartDetached([self = shared_from_this()] { self->Watch(); });
         m_isWatched = true;
     } catch (const std::system_error& error) {
         // Too many threads. A file that is inspected without being watched is not lost.

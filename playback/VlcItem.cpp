@@ -1,5 +1,6 @@
 #include "playback/VlcItem.h"
 
+#include "base/DetachedThread.h"
 #include "playback/Engine.h"
 #include "playback/VideoFrame.h"
 #include "playback/VlcLog.h"
@@ -10,7 +11,6 @@
 
 #include <cstring>
 #include <system_error>
-#include <thread>
 #include <utility>
 
 namespace zentaro {
@@ -185,7 +185,7 @@ void VlcItem::Step(Stage from, Stage to)
         libvlc_media_player_release(player);
     };
     try {
-        std::thread(step).detach();
+        StartDetached(step);
     } catch (const std::system_error&) {
         libvlc_media_player_release(m_player); // it has its first picture later then
     }
@@ -237,7 +237,7 @@ void VlcItem::End(std::unique_ptr<VlcItem> item, std::shared_ptr<VlcEndings> end
         endings->End();
     };
     try {
-        std::thread(end).detach();
+        StartDetached(end);
     } catch (const std::system_error&) {
         end(); // the system has no thread to give
     }
