@@ -12,6 +12,8 @@ namespace zentaro::platform {
 namespace {
 
 constexpr UINT kPatience = 60'000; // ms
+/// For a file manager to let go of what it was given.
+constexpr UINT kParting = 2'000; // ms
 
 std::string ToUtf8(const std::wstring& text)
 {
@@ -44,10 +46,11 @@ std::vector<std::string> PathsIn(IDataObject& data)
 /// What the one call of the file manager makes, and what it brings. All of it happens on one thread.
 struct Visit {
     FileSelection selection;
-    bool isOver = false;
+    bool hasCome = false;
+    ULONG held = 0; // references to what receives it
 };
 
-/// Its parts live as long as the visit, so nobody counts who holds them.
+/// Its parts live as long as the visit.
 template <class Face> class Part : public Face {
 public:
     virtual ~Part() = default;
@@ -55,8 +58,12 @@ public:
     ULONG STDMETHODCALLTYPE Release() override { return 1; }
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** face) override
     {
-        *face = id == IID_IUnknown || id == __uuidof(Face) ? static_cast<Face*>(this) : nullptr;
-        return *face != nullptr ? S_OK : E_NOINTERFACE;
+        const bool isKnown = id == IID_IUnknown || id == __uuidof(Face);
+        *face = isKnown ? static_cast<Face*>(this) : nullptr;
+        if (!isKnown)
+            return E_NOINTERFACE;
+        this->AddRef();
+        return S_OK;
     }
 };
 
@@ -67,6 +74,8 @@ public:
         , m_plays(plays)
     {
     }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_visit.held; }
+    ULONG STDMETHODCALLTYPE Release() override { return --m_visit.held; }
     HRESULT STDMETHODCALLTYPE DragEnter(IDataObject*, DWORD, POINTL, DWORD* effect) override
     {
         *effect &= DROPEFFECT_COPY;
@@ -83,7 +92,7 @@ public:
         *effect &= DROPEFFECT_COPY;
         // The file manager waits for the end of this call, so nothing is done here that takes time.
         m_visit.selection = { m_plays, data != nullptr ? PathsIn(*data) : std::vector<std::string>() };
-        m_visit.isOver = true;
+        m_visit.hasCome = true;
         return S_OK;
     }
 
@@ -135,11 +144,21 @@ std::optional<FileSelection> TakeSelection()
         Factory adding(visit, false);
         opening.Register(Wide(desktop::kOpenClass).c_str());
         adding.Register(Wide(desktop::kAddClass).c_str());
-        const auto timer = SetTimer(nullptr, 0, kPatience, nullptr);
+        auto timer = SetTimer(nullptr, 0, kPatience, nullptr);
+        bool isOver = false;
+        bool isParting = false;
         MSG message;
-        while (!visit.isOver && GetMessageW(&message, nullptr, 0, 0) > 0) {
-            visit.isOver = message.message == WM_TIMER && message.wParam == timer;
+        // Whoever leaves while a call of his is still being answered cuts the answer off, or waits for it for ever.
+        while (!isOver && GetMessageW(&message, nullptr, 0, 0) > 0) {
+            isOver = message.message == WM_TIMER && message.wParam == timer;
             DispatchMessageW(&message);
+            if (!visit.hasCome)
+                continue;
+            isOver = isOver || visit.held == 0;
+            if (!std::exchange(isParting, true)) {
+                KillTimer(nullptr, timer);
+                timer = SetTimer(nullptr, 0, kParting, nullptr);
+            }
         }
     }
     CoUninitialize();
