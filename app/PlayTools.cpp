@@ -145,14 +145,13 @@ void PlayTools::Boost(int percent)
 std::string PlayTools::TimeText() const
 {
     const auto& state = m_rooms.transport.State();
-    const auto* const engine = m_rooms.transport.LoadedEngine();
+    const auto total = " / " + zentaro::TimeText(RoundHalfEven(state.length / 1000));
     // Before it plays and after, a word can stand there.
-    const bool isTime = engine != nullptr && state.length > 0
-        && state.timeText == TimeLabelText(std::max(state.elapsed, 0.0), state.length);
+    const bool isTime =
+        m_rooms.transport.LoadedEngine() != nullptr && state.length > 0 && state.timeText.ends_with(total);
     if (!m_showsRemaining || !isTime)
         return state.timeText;
-    const double left = std::max(0.0, state.length - state.elapsed);
-    return "-" + TimeOf(left) + " / " + zentaro::TimeText(RoundHalfEven(state.length / 1000));
+    return "-" + TimeOf(std::max(0.0, state.length - state.elapsed)) + total;
 }
 
 void PlayTools::ToggleRemaining()

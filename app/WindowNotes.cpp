@@ -98,7 +98,7 @@ QString WindowNotes::VolumeText() const
 std::string WindowNotes::PlaceText() const
 {
     const auto& state = m_player.State();
-    return TimeLabelText(state.progress * state.length, state.length);
+    return TimeLabelText(state.elapsed, state.length);
 }
 
 void WindowNotes::TurnVolume(int eighths)

@@ -33,11 +33,12 @@ double StepFrom(double position, int milliseconds, double length)
 
 std::string PlaceText(const TransportState& state)
 {
-    if (!state.mediaControlsEnabled || state.length <= 0)
+    if (!state.mediaControlsEnabled)
         return state.timeText;
-    const auto secondsOf = [](double milliseconds) { return RoundHalfEven(milliseconds / 1000); };
-    return Words("%1 of %2",
-        { ShortTimeText(secondsOf(state.progress * state.length)), ShortTimeText(secondsOf(state.length)) });
+    const auto textOf = [](double milliseconds) { return ShortTimeText(RoundHalfEven(milliseconds / 1000)); };
+    // In its first moments an item has no length, and the label still has that of the one before.
+    return state.length > 0 ? Words("%1 of %2", { textOf(state.elapsed), textOf(state.length) })
+                            : textOf(state.elapsed);
 }
 
 Transport::Transport(EngineFactory& engines, std::function<void(bool)> showFullScreen, TransportObserver& observer)
@@ -83,6 +84,7 @@ void Transport::ItemStarted(bool speedStays)
     m_unseenTicks = 0;
     m_state.isPaused = false;
     m_state.progress = 0;
+    m_state.elapsed = 0;
     m_state.length = 0;
     m_state.seeks = 0;
     m_state.chapters.clear();
@@ -133,6 +135,7 @@ void Transport::ShowIdle()
     m_state.isPaused = false;
     m_state.showAudioLogo = false;
     m_state.progress = 0;
+    m_state.elapsed = 0;
     m_state.length = 0;
     m_state.chapters.clear();
     m_state.timeText = TimeLabelText(0, 0);
@@ -200,6 +203,7 @@ void Transport::Seek(double position)
     if (engine == nullptr)
         return;
     m_state.progress = std::clamp(position, 0.0, 1.0);
+    m_state.elapsed = m_state.length > 0 ? m_state.progress * m_state.length : m_state.elapsed;
     ++m_state.seeks;
     engine->SetPosition(position);
     m_observer.TransportChanged();

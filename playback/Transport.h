@@ -50,7 +50,8 @@ struct TransportState {
     bool operator==(const TransportState&) const = default;
 };
 
-/// Where the loaded item is, to be read out: "0:42 of 1:30:05", or what stands in place of the time.
+/// Where the loaded item is, to be read out: "0:42 of 1:30:05", "0:42" of an unknown length; with none what the label
+/// says.
 std::string PlaceText(const TransportState& state);
 
 /// Hears what a transport does.

@@ -122,6 +122,13 @@ TEST_F(OwnFile, TheTimeIsToldInWordsWheneverAnotherPlaceIsChosen)
     SetTranslator(nullptr);
     Run("TellTime");
     EXPECT_EQ(world.window.notes.back(), "45:02 of 1:30:05");
+    // To the second, where the bar knows hundredths.
+    trace.time = 2712000;
+    player.OnPositionTick();
+    EXPECT_EQ(PlaceText(player.State()), "45:12 of 1:30:05");
+    // The next item has nothing of the one before.
+    player.Sequence().PlayChosen(0, false);
+    EXPECT_EQ(PlaceText(player.State()), "0:00");
 }
 
 } // namespace

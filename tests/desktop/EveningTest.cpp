@@ -123,7 +123,11 @@ TEST_F(Evening, IsToldByAScreenReader)
     hear("Return", "3.mkv, playing");
     hear("space", "Paused");
     hear("shift+F6", "Video.");
-    hear("t", "of 3:00");
+    // How long the film is comes with its first pictures.
+    EXPECT_TRUE(WaitUntil([&] {
+        desktop.Press("t");
+        return bool(reader.Says("of 3:00", 2s));
+    }));
     hear("shift+Right", "of 3:00");
     hear("Menu", "Audio Track.");
     hear("Down", "Subtitles.");

@@ -56,7 +56,7 @@ TEST_F(Keys, EnterAndDeleteMeanTheListOnlyWhereItHasTheFocus)
     // Enter on a button presses it: the first of the controls plays, the next one pauses.
     Screen().Press("F6 F6 Tab");
     Screen().Press("Return");
-    EXPECT_FALSE(player.PictureMoves());
+    EXPECT_TRUE(player.PictureStands());
     Screen().Press("Return");
     EXPECT_TRUE(player.PictureMoves());
     // In the list it is the entry that goes.

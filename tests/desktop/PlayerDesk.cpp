@@ -171,6 +171,20 @@ bool ShownPlayer::PictureMoves() const
     });
 }
 
+bool ShownPlayer::PictureStands() const
+{
+    QImage before;
+    auto since = std::chrono::steady_clock::now();
+    return WaitUntil([&] {
+        auto now = m_desktop->Grab(Video());
+        if (now.size() != before.size() || ShareThatDiffers(before, now) > kMovingShare) {
+            before = std::move(now);
+            since = std::chrono::steady_clock::now();
+        }
+        return std::chrono::steady_clock::now() - since >= 1s;
+    });
+}
+
 std::optional<int> ShownPlayer::Close()
 {
     m_desktop->Close(window);

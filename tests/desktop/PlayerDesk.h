@@ -37,6 +37,8 @@ public:
 
     /// Whether the video changes from look to look, never black.
     bool PictureMoves() const;
+    /// Waits until the video has stayed as it is for a second.
+    bool PictureStands() const;
     /// Closes the window as its user would and waits for the end of the process: its exit code.
     std::optional<int> Close();
 
