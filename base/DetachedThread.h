@@ -1,7 +1,7 @@
 #pragma once
 
-#include <latch>
 #include <memory>
+#include <mutex>
 #include <thread>
 #include <utility>
 
@@ -13,12 +13,14 @@ template <class Work> void StartDetached(Work work)
 {
     // Where mingw-w64 makes the threads, one that is being detached while it ends gives back twice what belongs to it,
     // and two later threads get the same work, while another's is never done. So none ends before it is detached.
-    auto isDetached = std::make_shared<std::latch>(1);
-    std::thread([isDetached, work = std::move(work)] {
-        isDetached->wait();
+    const auto detaching = std::make_shared<std::mutex>();
+    const std::lock_guard lock(*detaching);
+    std::thread([detaching, work = std::move(work)] {
+        {
+            const std::lock_guard isDetached(*detaching);
+        }
         work();
     }).detach();
-    isDetached->count_down();
 }
 
 } // namespace zentaro

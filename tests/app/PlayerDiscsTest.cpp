@@ -1,8 +1,8 @@
 #include "app/DriveQueries.h"
 #include "tests/app/PlayerFixture.h"
+#include "tests/world/PostedWork.h"
 
 #include <future>
-#include <semaphore>
 
 using namespace zentaro;
 using namespace std::chrono_literals;
@@ -221,7 +221,7 @@ TEST(DriveQueriesTest, a_change_while_a_question_is_out_is_told_of_when_it_is_an
     struct SlowDrives : platform::Drives {
         std::vector<platform::OpticalDrive> Find() override
         {
-            answers.acquire();
+            isSpun.get_future().wait();
             return {};
         }
         bool Watch(std::function<void()> onChange) override
@@ -229,24 +229,24 @@ TEST(DriveQueriesTest, a_change_while_a_question_is_out_is_told_of_when_it_is_an
             changed = std::move(onChange);
             return true;
         }
-        std::counting_semaphore<> answers{ 0 };
+        std::promise<void> isSpun;
         std::function<void()> changed;
     };
     const auto drives = std::make_shared<SlowDrives>();
-    std::promise<std::function<void()>> answer;
-    DriveQueries queries(drives, [&](auto work) { answer.set_value(std::move(work)); });
+    const auto posted = std::make_shared<PostedWork>();
+    DriveQueries queries(drives, [posted](auto work) { posted->Add(std::move(work)); });
     std::string heard;
     queries.onChange = [&] { heard += "changed "; };
     queries.onFound = [&](auto) { heard += "found "; };
     ASSERT_TRUE(queries.Watch());
     drives->changed();
-    answer.get_future().get()();
-    EXPECT_EQ(heard, "changed ");
+    EXPECT_TRUE(posted->RunUntil([&] { return heard == "changed "; }));
     queries.Ask();
-    for (const bool isAnswer : { false, false, true }) {
-        answer = {};
-        isAnswer ? drives->answers.release() : drives->changed();
-        answer.get_future().get()();
-    }
+    drives->changed();
+    drives->changed();
+    posted->RunUntil([] { return true; });
+    EXPECT_EQ(heard, "changed ");
+    drives->isSpun.set_value();
+    EXPECT_TRUE(posted->RunUntil([&] { return heard.size() > std::string("changed found ").size(); }));
     EXPECT_EQ(heard, "changed found changed ");
 }
