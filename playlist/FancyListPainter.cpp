@@ -102,7 +102,6 @@ QString WithPlainLineEnds(QString text)
 QFont FancyListFont(int height)
 {
     QFont font;
-    font.setFamilies({ "Inter", "Segoe UI", "Noto Sans", "DejaVu Sans", font.defaultFamily() });
     font.setWeight(QFont::Normal);
     font.setPixelSize(std::max(1, height));
     while (font.pixelSize() > 1 && QFontMetrics(font).height() > height)

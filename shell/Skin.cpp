@@ -1,9 +1,10 @@
 #include "shell/Skin.h"
 
+#include "platform/Files.h"
 #include "shell/QtText.h"
 #include "shell/Style.h"
 
-#include <QImageReader>
+#include <QImage>
 #include <QPainter>
 
 #include <algorithm>
@@ -15,13 +16,16 @@ namespace zentaro {
 
 namespace {
 
-constexpr qsizetype kCopiesKiB = 64 * 1024; // a window that fills a 4K screen needs 36 MiB
+constexpr qsizetype kCopiesKiB = 64 * 1024;    // a window that fills a 4K screen needs 36 MiB
+constexpr std::size_t kLargestFile = 64 << 20; // bytes
 constexpr unsigned kMaximumThreads = 4;
 constexpr int kFaint = 128; // of 255: shadows and glows
 
-QImage Decoded(const QString& path)
+QImage Decoded(const std::string& path)
 {
-    auto image = QImageReader(path).read();
+    // Whole, and at once: Qt's reader would go to the file many times, which Windows takes long for.
+    const auto bytes = platform::ReadTextFile(path, kLargestFile);
+    auto image = bytes ? QImage::fromData(QByteArray::fromStdString(*bytes)) : QImage();
     if (image.isNull())
         return image;
     // The two formats that are copied to the screen without a look at each pixel's format.
@@ -99,7 +103,7 @@ Skin::Decoding Skin::DecodeAll(const QString& folder)
     // A failure ends the work behind it only: what comes before it in load order is still decoded.
     const auto decode = [&] {
         for (auto i = next++; i < end; i = next++) {
-            decoded[i] = Decoded(folder + ToQString(files[i].name));
+            decoded[i] = Decoded(ToText(folder) + files[i].name);
             auto last = end.load();
             while (decoded[i].isNull() && i < last && !end.compare_exchange_weak(last, i)) { }
         }

@@ -4,6 +4,7 @@
 #include "shell/WidgetStyle.h"
 
 #include <QApplication>
+#include <QFontDatabase>
 #include <QPalette>
 #include <QToolTip>
 
@@ -65,7 +66,11 @@ void TakeHighContrast()
 QFont TextFont()
 {
     QFont font;
-    font.setFamilies({ "Inter", "Segoe UI", "Noto Sans", "DejaVu Sans" });
+    // One that is there: for a second one, and for one that is missing, Windows opens every font of the machine.
+    const QStringList families{ "Inter", "Segoe UI", "Noto Sans", "DejaVu Sans" };
+    const auto isThere = [](const QString& family) { return QFontDatabase::hasFamily(family); };
+    if (const auto first = std::find_if(families.begin(), families.end(), isThere); first != families.end())
+        font.setFamily(*first);
     font.setPixelSize(13);
     return font;
 }
@@ -144,7 +149,11 @@ bool HasLessMotion()
 QFont TimeFont()
 {
     auto font = TextFont();
-    font.setWeight(QFont::Medium);
+    // Of a weight that the family lacks, too, Windows looks for one in every font of the machine.
+    if (const auto medium = font.family() + " Medium"; QFontDatabase::hasFamily(medium)) {
+        font.setFamily(medium);
+        font.setWeight(QFont::Medium);
+    }
     return font;
 }
 
