@@ -89,50 +89,59 @@ QImage Mixed(const QImage& from, const QImage& to, double share)
 
 } // namespace
 
+/// Any number of threads may run it at once, each until nothing is left to begin with.
+struct Skin::Decoding {
+    explicit Decoding(std::string path)
+        : folder(std::move(path))
+    {
+    }
+    // A failure ends the work behind it only: what comes before it in load order is still decoded.
+    void Run()
+    {
+        for (auto i = next++; i < end; i = next++) {
+            images[i] = Decoded(folder + files[i].name);
+            auto last = end.load();
+            while (images[i].isNull() && i < last && !end.compare_exchange_weak(last, i)) { }
+        }
+    }
+
+    const std::string folder; // with a trailing separator
+    const std::vector<SkinFile> files = SkinLoadOrder();
+    std::array<QImage, kSkinImageCount> images;
+    std::atomic<std::size_t> next = 0;
+    std::atomic<std::size_t> end = files.size();
+};
+
 Skin::Skin()
     : m_copies(kCopiesKiB)
 {
 }
 
-Skin::Decoding Skin::DecodeAll(const QString& folder)
-{
-    const auto files = SkinLoadOrder();
-    Decoding decoded;
-    std::atomic<std::size_t> next = 0;
-    std::atomic<std::size_t> end = files.size();
-    // A failure ends the work behind it only: what comes before it in load order is still decoded.
-    const auto decode = [&] {
-        for (auto i = next++; i < end; i = next++) {
-            decoded[i] = Decoded(ToText(folder) + files[i].name);
-            auto last = end.load();
-            while (decoded[i].isNull() && i < last && !end.compare_exchange_weak(last, i)) { }
-        }
-    };
-    {
-        std::vector<std::jthread> threads;
-        // One processor is left to whoever has begun this.
-        for (unsigned i = 2; i < std::min(std::thread::hardware_concurrency(), kMaximumThreads); ++i)
-            threads.emplace_back(decode);
-        decode();
-    }
-    return decoded;
-}
+Skin::~Skin() = default;
 
 void Skin::Begin(const QString& folder)
 {
-    m_decoding = std::async(std::launch::async | std::launch::deferred, &DecodeAll, folder);
+    m_decoding = std::make_shared<Decoding>(ToText(folder));
+    // One processor is left to whoever has begun this.
+    const auto others = std::clamp(std::thread::hardware_concurrency(), 2U, kMaximumThreads) - 1;
+    for (unsigned i = 0; i < others; ++i)
+        m_decoders.push_back(
+            std::async(std::launch::async | std::launch::deferred, [decoding = m_decoding] { decoding->Run(); }));
 }
 
 Result<void> Skin::Load(const QString& folder)
 {
-    if (!m_decoding.valid())
+    if (m_decoding == nullptr)
         Begin(folder);
-    const auto decoded = m_decoding.get();
-    const auto files = SkinLoadOrder();
-    for (std::size_t i = 0; i < files.size(); ++i) {
-        if (decoded[i].isNull())
-            return Error{ 0, "cannot load the picture " + ToText(folder) + files[i].name };
-        m_images[static_cast<std::size_t>(files[i].image)] = decoded[i];
+    m_decoding->Run();
+    for (const auto& decoder : m_decoders)
+        decoder.wait();
+    const auto decoding = std::exchange(m_decoding, nullptr);
+    for (std::size_t i = 0; i < decoding->files.size(); ++i) {
+        const auto& file = decoding->files[i];
+        if (decoding->images[i].isNull())
+            return Error{ 0, "cannot load the picture " + decoding->folder + file.name };
+        m_images[static_cast<std::size_t>(file.image)] = decoding->images[i];
     }
     return {};
 }

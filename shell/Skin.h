@@ -10,6 +10,8 @@
 #include <array>
 #include <functional>
 #include <future>
+#include <memory>
+#include <vector>
 
 class QPainter;
 
@@ -26,6 +28,7 @@ struct SkinRects {
 class Skin {
 public:
     Skin();
+    ~Skin();
 
     /// Begins to decode the files that Load() will be asked for, beside the caller.
     void Begin(const QString& folder);
@@ -63,13 +66,13 @@ private:
         return qHashMulti(seed, static_cast<int>(key.image), key.width, key.height);
     }
 
-    using Decoding = std::array<QImage, kSkinImageCount>;
+    struct Decoding;
 
-    static Decoding DecodeAll(const QString& folder);
     Rect DrawPicture(QPainter& painter, const Rect& rect, const std::function<QImage(const QSize&)>& picture);
     QImage ScaledCopy(SkinImage image, const QSize& size);
 
-    std::future<Decoding> m_decoding;
+    std::shared_ptr<Decoding> m_decoding;
+    std::vector<std::future<void>> m_decoders;
     std::array<QImage, kSkinImageCount> m_images;
     QCache<CopyKey, QImage> m_copies; // the cost is in KiB
     int m_look = 0;                   // of the copies
