@@ -4,7 +4,8 @@
 # FOLDER takes their logs; display_pids are theirs.
 start_display() {
   local folder=$1 size=$2
-  rm -f "$folder/display" # of one before, whose number another program's display may have by now
+  # Of one before: another program's display may have its number by now.
+  rm -f "$folder/display" "$folder/managed"
   Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp -noreset 3>"$folder/display" 2>"$folder/xvfb.log" </dev/null &
   display_pids=($!)
   local number= tries=200
@@ -18,8 +19,13 @@ start_display() {
   done
   export DISPLAY=":$number"
   unset WAYLAND_DISPLAY
-  openbox --sm-disable >"$folder/openbox.log" 2>&1 </dev/null &
+  openbox --sm-disable --startup "touch '$folder/managed'" >"$folder/openbox.log" 2>&1 </dev/null &
   display_pids+=($!)
+  # It may never show a window that comes while it is coming up itself.
+  tries=200
+  until [[ -e $folder/managed ]] || ((tries-- == 0)) || ! kill -0 "${display_pids[1]}" 2>/dev/null; do
+    sleep 0.05
+  done
 }
 
 # window_of PID: the first visible window of a process.
