@@ -203,7 +203,8 @@ void Transport::Seek(double position)
     if (engine == nullptr)
         return;
     m_state.progress = std::clamp(position, 0.0, 1.0);
-    m_state.elapsed = m_state.length > 0 ? m_state.progress * m_state.length : m_state.elapsed;
+    if (m_state.length > 0)
+        m_state.elapsed = m_state.progress * m_state.length;
     ++m_state.seeks;
     engine->SetPosition(position);
     m_observer.TransportChanged();

@@ -107,6 +107,13 @@ TEST_F(Evening, IsToldByAScreenReader)
         desktop.Press(keys);
         EXPECT_TRUE(reader.Says(words)) << "after " << keys;
     };
+    const auto hearAtLast = [&](const std::string& keys, const std::string& words) {
+        const auto pressAndHear = [&] {
+            desktop.Press(keys);
+            return bool(reader.Says(words, 2s));
+        };
+        EXPECT_TRUE(WaitUntil(pressAndHear)) << words << ", after " << keys << " again and again";
+    };
     hear("ctrl+o", "File name: text.");
     desktop.Type(m_folder);
     hear("Return", "return"); // takes what the dialog offers to complete it
@@ -116,18 +123,12 @@ TEST_F(Evening, IsToldByAScreenReader)
     hear("Return", "1.mkv, playing");
     hear("F6", "1.mkv, playing");
     // The others come when they have been looked into.
-    EXPECT_TRUE(WaitUntil([&] {
-        desktop.Press("End");
-        return bool(reader.Says("3.mkv", 2s));
-    }));
+    hearAtLast("End", "3.mkv");
     hear("Return", "3.mkv, playing");
     hear("space", "Paused");
     hear("shift+F6", "Video.");
     // How long the film is comes with its first pictures.
-    EXPECT_TRUE(WaitUntil([&] {
-        desktop.Press("t");
-        return bool(reader.Says("of 3:00", 2s));
-    }));
+    hearAtLast("t", "of 3:00");
     hear("shift+Right", "of 3:00");
     hear("Menu", "Audio Track.");
     hear("Down", "Subtitles.");

@@ -56,6 +56,8 @@ def act(thing, action):
 
 
 def press(role, name):
+    # One that cannot be pressed yet would take the press and do nothing.
+    wait_for(name + " in use", lambda: named(role, name).getState().contains(pyatspi.STATE_ENABLED))
     act(named(role, name), "press")
 
 
@@ -77,7 +79,6 @@ rows = wait_for("third row", lambda: [r for r in named("list", "Playlist") if r.
 act(rows[0], "press")
 wait_for("third film", lambda: named("list item", FILMS[2] + ", playing"))
 wait_for("length", lambda: spoken().endswith(LENGTH))
-wait_for("pause", lambda: named("push button", "Pause").getState().contains(pyatspi.STATE_ENABLED))
 press("push button", "Pause")
 place = named("slider", "Position").queryValue()
 wait_for("length in seconds", lambda: place.maximumValue == 180)
